@@ -10,7 +10,9 @@ namespace workbench {
 class InputError : public std::runtime_error {
 public:
     InputError(const std::string& place, const std::string& reason)
-        : std::runtime_error(place + ": " + reason), m_place(place), m_reason(reason) {}
+        : std::runtime_error(place + ": " + reason),
+          m_place(place),
+          m_reason(reason) {}
 
     /// Where the trouble is, without the reason.
     const std::string& place() const { return m_place; }
