@@ -1,0 +1,66 @@
+#pragma once
+
+#include <hostapi/export.h>
+
+#include <hostapi/types.h>
+
+class VxDbDatabase;
+
+/// How an object is opened.
+enum class VxDbOpenMode : int { kForRead = 0, kForWrite = 1 };
+
+/// The lasting ID of a database object, for the time that its database is open. Never reused.
+struct VxDbObjectId {
+    std::uint64_t number = 0;  ///< 0 is the null ID.
+    bool isNull() const { return number == 0; }
+    /// Whether the ID names an object of an open database, erased ones included.
+    bool isValid() const;
+    friend bool operator==(const VxDbObjectId&, const VxDbObjectId&) = default;
+};
+
+/// An object of a database. Open from `vxdbOpenObject` to `close`.
+class VXHOST VxDbObject {
+public:
+    virtual ~VxDbObject() = default;
+    /// Ends this opening.
+    virtual Zorq::ErrorStatus close() = 0;
+};
+
+/// A background behind a view.
+class VXHOST VxDbBackground : public VxDbObject {
+public:
+    /// The kind of background; 11 is the sky.
+    virtual int type() const = 0;
+};
+
+/// The sun of a view.
+class VXHOST VxDbSun : public VxDbObject {
+public:
+    /// Whether the sky gives light.
+    virtual bool skyIllumination() const = 0;
+};
+
+/// A viewport of model space.
+class VXHOST VxDbViewportTableRecord : public VxDbObject {
+public:
+    virtual VxDbObjectId background() const = 0;
+    virtual VxDbObjectId sunId() const = 0;
+};
+
+/// A viewport of paper space.
+class VXHOST VxDbViewport : public VxDbObject {
+public:
+    virtual VxDbObjectId background() const = 0;
+    virtual VxDbObjectId sunId() const = 0;
+};
+
+/// A drawing's database.
+class VXHOST VxDbDatabase {
+public:
+    virtual ~VxDbDatabase() = default;
+    /// Whether model space is active.
+    virtual bool tilemode() const = 0;
+};
+
+/// Opens an object. On status 0 the object is handed out, to be closed by the caller.
+Zorq::ErrorStatus vxdbOpenObject(VxDbObject*& object, VxDbObjectId id, VxDbOpenMode mode);

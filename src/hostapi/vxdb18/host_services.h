@@ -1,0 +1,24 @@
+#pragma once
+
+#include <hostapi/export.h>
+
+#include <hostapi/types.h>
+
+class VxDbDatabase;
+
+/// Services of the program that runs the object library.
+class VXHOST VxDbHostApplicationServices {
+public:
+    virtual ~VxDbHostApplicationServices() = default;
+    /// The program's short name, such as "ZORQ".
+    virtual VxString program() const = 0;
+    /// The database that work is done on, null for none.
+    virtual VxDbDatabase* workingDatabase() const = 0;
+};
+
+/// The services object, null before the program has set one.
+VxDbHostApplicationServices* vxdbHostApplicationServices();
+
+/// Converts the text of a distance. `unit` is a unit mode, -1 for the drawing's own. Returns 5100
+/// on success; otherwise `value` is unchanged.
+int vxdbDisToF(const wchar_t* text, int unit, double* value);

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <hostapi/export.h>
+
+#include <hostapi/types.h>
+#include <hostapi/window/geometry.h>
+#include <hostapi/window/message_map.h>
+#include <hostapi/window/messages.h>
+
+class CFrameWnd;
+
+/// Root of the framework's objects.
+class VXHOST CObject {
+public:
+    CObject() = default;
+    CObject(const CObject&) = delete;
+    CObject& operator=(const CObject&) = delete;
+    virtual ~CObject() = default;
+};
+
+/// A window object. It and its window are two things: the window lives from a derived class's
+/// `Create` to `DestroyWindow`, the object as its owner wills. An object that ends while its window
+/// lives takes the window along. Destroying a window destroys its children first notifying each
+/// with `WM_DESTROY`, parents before children; afterwards `m_hWnd` is null.
+class VXHOST CWnd : public CObject {
+public:
+    CWnd() = default;
+    ~CWnd() override;
+
+    /// The window, null before creation and after destruction. Written by the framework only.
+    HWND m_hWnd = nullptr;
+
+    /// The object of a window, null for a stale handle.
+    static CWnd* FromHandle(HWND window);
+    /// The object of the window with the keyboard focus, null for none.
+    static CWnd* GetFocus();
+
+    /// Ends the window. Returns 0 if there is none.
+    BOOL DestroyWindow();
+
+    /// Sends a message and returns its answer; 0 without a window.
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// Queues a message; it is dropped if the window dies first. Returns 0 without a window.
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+    /// Gives the window the keyboard focus: the old one gets `EN_KILLFOCUS` reported to its parent
+    /// first, then the new one `EN_SETFOCUS`, if they are edit fields. A disabled or hidden window
+    /// takes no focus.
+    void SetFocus();
+
+    /// Starts, or starts again, a timer of this window; `WM_TIMER` comes every `milliseconds`.
+    void SetTimer(UINT timer, UINT milliseconds);
+    /// Stops a timer of this window; an unknown number is ignored.
+    void KillTimer(UINT timer);
+
+    /// The parent, null for a top window.
+    CWnd* GetParent() const;
+    /// The nearest frame above this window, null for none.
+    CFrameWnd* GetParentFrame() const;
+    /// The ID that the window was created with.
+    int GetDlgCtrlID() const;
+    /// The window's style bits as they are now.
+    DWORD GetStyle() const;
+    /// Whether the window and all its parents have the visible style.
+    BOOL IsWindowVisible() const;
+
+    /// Shows (`SW_SHOW`) or hides (`SW_HIDE`); a change sends `WM_WINDOWPOSCHANGED`.
+    void ShowWindow(int command);
+    /// Enables or disables input.
+    void EnableWindow(BOOL enable);
+
+    /// The window's text.
+    VxString GetWindowText() const;
+    /// Sets the window's text.
+    void SetWindowText(const VxString& text);
+
+    /// The window with its borders, in screen coordinates; empty without a window.
+    CRect GetWindowRect() const;
+    /// The client area with its origin at (0, 0); empty without a window.
+    CRect GetClientRect() const;
+    /// From screen to client coordinates.
+    CPoint ScreenToClient(CPoint point) const;
+    /// Moves and sizes within the parent's client area and repaints.
+    void MoveWindow(const CRect& rect);
+    /// Moves and sizes within the parent's client area as far as the `SWP_...` flags allow. A
+    /// negative width or height counts as 0.
+    void SetWindowPos(int x, int y, int cx, int cy, UINT flags);
+    /// Has the client area painted again, its background erased first if `erase`.
+    void Invalidate(BOOL erase = 1);
+
+    /// The message table of the object's class.
+    virtual const MessageMap& GetMessageMap() const;
+    /// Looks at a message before it is translated and dispatched: called on the focused window,
+    /// then on its parents, until one returns non-zero, which consumes the message.
+    virtual BOOL PreTranslateMessage(MSG* msg);
+    /// Handles a message: the message table, then the window's own handling.
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    /// Handles `WM_COMMAND`: searches the table's rows of it. Non-zero if one was found.
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+
+protected:
+    /// The table of this class, for the chain of derived ones.
+    static const MessageMap& GetThisMessageMap();
+    /// Lets the base class handle the message that is being handled now, and returns its answer.
+    LRESULT Default();
+};
+
+/// Whether a handle is that of a living window.
+BOOL IsWindow(HWND window);
+/// Sends a message to a window by its handle; 0 for a stale one.
+LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+/// A measure of the window system in pixels (`SM_...`).
+int GetSystemMetrics(int index);
+/// Sets the standard arrow as the mouse cursor.
+void SetArrowCursor();
+/// Compares two texts by the user's language, ignoring case: below, equal to or above 0.
+int CollateNoCase(const VxString& left, const VxString& right);

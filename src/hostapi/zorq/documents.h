@@ -1,0 +1,101 @@
+#pragma once
+
+#include <hostapi/export.h>
+
+#include <hostapi/types.h>
+
+class VxDbDatabase;
+
+/// Receives the input events of one document. Not owned by the document.
+class VXHOST VxEdInputContextReactor {
+public:
+    virtual ~VxEdInputContextReactor() = default;
+    /// A prompt for input begins.
+    virtual void beginInput() {}
+    /// A prompt for input ends.
+    virtual void endInput() {}
+    /// The document's command processor came to its outermost rest.
+    virtual void beginQuiescentState() {}
+    /// The document's command processor leaves its rest.
+    virtual void endQuiescentState() {}
+};
+
+/// The source of a document's input events.
+class VXHOST VxEdInputManager {
+public:
+    virtual ~VxEdInputManager() = default;
+    virtual void addReactor(VxEdInputContextReactor* reactor) = 0;
+    virtual void removeReactor(VxEdInputContextReactor* reactor) = 0;
+};
+
+/// An open document. Owned by the host, and gone after the event that it is to be destroyed.
+class VXHOST VxApDocument {
+public:
+    virtual ~VxApDocument() = default;
+    /// The document's database.
+    virtual VxDbDatabase* database() const = 0;
+    /// The bits of the present lock: 0 none, 1 automatic write, 2 not locked, 4 write, 8 protected
+    /// write, 16 exclusive write, 32 read.
+    virtual int lockMode() const = 0;
+    /// The document's input manager.
+    virtual VxEdInputManager* inputManager() = 0;
+};
+
+/// Bit of a document's lock mode: locked for writing.
+constexpr int kDocLockWrite = 4;
+
+/// Receives the events of all documents. Not owned by the manager.
+class VXHOST VxApDocManagerReactor {
+public:
+    virtual ~VxApDocManagerReactor() = default;
+    /// A document was created; the count includes it.
+    virtual void documentCreated(VxApDocument* /*document*/) {}
+    /// A document is about to go.
+    virtual void documentToBeDestroyed(VxApDocument* /*document*/) {}
+    /// A document went; the count still includes it.
+    virtual void documentDestroyed(const wchar_t* /*fileName*/) {}
+    /// A document became the current one.
+    virtual void documentBecameCurrent(VxApDocument* /*document*/) {}
+    /// A document is about to be activated.
+    virtual void documentToBeActivated(VxApDocument* /*document*/) {}
+};
+
+/// The documents of the host.
+class VXHOST VxApDocManager {
+public:
+    virtual ~VxApDocManager() = default;
+    virtual int documentCount() const = 0;
+    /// The document that commands work in, null for none.
+    virtual VxApDocument* curDocument() const = 0;
+    /// The document whose window is active, null for none.
+    virtual VxApDocument* mdiActiveDocument() const = 0;
+    virtual void addReactor(VxApDocManagerReactor* reactor) = 0;
+    virtual void removeReactor(VxApDocManagerReactor* reactor) = 0;
+    /// Locks a document in a mode (4 is write) for a command of these names; prompts the user on a
+    /// conflict if `prompt`. 0 on success.
+    virtual Zorq::ErrorStatus lockDocument(VxApDocument* document, int mode,
+                                           const wchar_t* globalCommand,
+                                           const wchar_t* localCommand, bool prompt) = 0;
+    /// Ends the last lock of a document. 0 on success.
+    virtual Zorq::ErrorStatus unlockDocument(VxApDocument* document) = 0;
+    /// Queues text for a document's command line; the cancel characters (3) end what runs when the
+    /// processor comes to them. `activate` brings the document to the front, `wrapUpInactive` ends
+    /// another document's pending input, `echo` shows the text. 0 on success.
+    virtual Zorq::ErrorStatus sendToCommandLine(VxApDocument* document, const wchar_t* text,
+                                                bool activate, bool wrapUpInactive, bool echo) = 0;
+};
+
+/// The document manager.
+VxApDocManager* vxDocManagerPtr();
+
+/// Locks the document of a database for the life of this object. Mode 1 is write.
+class VXHOST VxAxDocLock {
+public:
+    VxAxDocLock(VxDbDatabase* database, int mode);
+    VxAxDocLock(const VxAxDocLock&) = delete;
+    VxAxDocLock& operator=(const VxAxDocLock&) = delete;
+    ~VxAxDocLock();
+
+private:
+    VxApDocument* m_document = nullptr;  // null when nothing was locked; not owned
+};
