@@ -64,14 +64,19 @@ bool startsCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
 }
 
-/// The library's text without its own place, which is given apart.
+/// The library's text without its own place, which is given apart, and without the bytes that it
+/// last read, which may be no text at all.
 std::string plainReason(const std::string& text) {
-    for (const std::string_view before : {": syntax error ", "syntax error ", "] "}) {
+    std::size_t begin = 0;
+    for (const std::string_view before : {"syntax error ", "] "}) {
         const std::size_t found = text.find(before);
-        if (found != std::string::npos)
-            return "not valid JSON: " + text.substr(found + before.size());
+        if (found != std::string::npos) {
+            begin = found + before.size();
+            break;
+        }
     }
-    return "not valid JSON: " + text;
+    const std::size_t end = text.find("; last read: ", begin);
+    return "not valid JSON: " + text.substr(begin, end - begin);
 }
 
 /// Builds the tree from the library's events.

@@ -87,8 +87,10 @@ TEST(JsonParserTest, ANumberBeyondAllRangeIsNotValid) {
     EXPECT_EQ(complaintAbout("[1e999]").find("menu.json:1:"), 0U);
 }
 
-TEST(JsonParserTest, ABrokenCharacterIsNotValid) {
-    EXPECT_EQ(complaintAbout("[\"\xC3(\"]").find("menu.json:1:"), 0U);
+TEST(JsonParserTest, ABrokenCharacterIsNotValidAndNotRepeated) {
+    const std::string complaint = complaintAbout("[\"\xC3(\"]");
+    EXPECT_EQ(complaint.find("menu.json:1:4: not valid JSON: "), 0U) << complaint;
+    EXPECT_EQ(complaint.find('\xC3'), std::string::npos) << complaint;
 }
 
 TEST(JsonParserTest, AKeyThatStandsTwiceIsPlacedAtTheSecond) {
