@@ -1,0 +1,7 @@
+#pragma once
+
+#include "workbench/drawing/value.h"
+
+namespace workbench {
+using drawing::Value;
+}

@@ -1,0 +1,38 @@
+#include "workbench/core/faults.h"
+
+namespace workbench {
+
+void Faults::fail(std::string_view call, std::optional<int> status, std::optional<int> count) {
+    m_faults.insert_or_assign(std::string(call), Pending{status, count});
+}
+
+void Faults::unfail(std::string_view call) {
+    if (const auto found = m_faults.find(call); found != m_faults.end())
+        m_faults.erase(found);
+}
+
+void Faults::hide(std::string_view library, std::string_view symbol) {
+    m_hidden.emplace(library, symbol);
+}
+
+void Faults::unhide(std::string_view library, std::string_view symbol) {
+    m_hidden.erase({std::string(library), std::string(symbol)});
+}
+
+bool Faults::isHidden(std::string_view library, std::string_view symbol) const {
+    return m_hidden.contains({std::string(library), std::string(symbol)});
+}
+
+std::optional<Faults::Fault> Faults::take(std::string_view call) {
+    if (m_faults.empty())
+        return {};
+    const auto found = m_faults.find(call);
+    if (found == m_faults.end())
+        return {};
+    const Fault fault{found->second.status};
+    if (found->second.left && --*found->second.left <= 0)
+        m_faults.erase(found);
+    return fault;
+}
+
+}  // namespace workbench

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "workbench/core/answers.h"
+#include "workbench/core/clock.h"
+#include "workbench/core/faults.h"
+#include "workbench/core/journal.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace workbench {
+
+class Editor;
+class MenuHost;
+class ModuleLoader;
+class NavigationTool;
+class ProfileStore;
+class Toolkit;
+class ToolPalettes;
+class WindowSystem;
+
+/// What a workbench is started with.
+struct WorkbenchOptions {
+    std::filesystem::path libraryDir;  ///< where modules and resource libraries are found
+    std::filesystem::path panelFile;   ///< the menu data; empty: a host without menu data
+    std::filesystem::path
+        profileDir;                ///< where profiles live; empty: a temporary folder of its own
+    std::string locale = "en_US";  ///< the user's language and formats
+};
+
+/// A stand-in host: the composition of its units. Each unit has one job and a header of its own;
+/// this class only makes them in their order and ends them in the opposite one.
+///
+/// The functions that the product calls have no object to turn to, so one workbench at a time is
+/// the current one: from its construction to its end.
+class Workbench {
+public:
+    /// Throws InputError for menu data or profiles that can't be taken.
+    explicit Workbench(WorkbenchOptions options);
+    Workbench(const Workbench&) = delete;
+    Workbench& operator=(const Workbench&) = delete;
+    /// Unloads what is still loaded.
+    ~Workbench();
+
+    /// The workbench that lives now.
+    static Workbench& current();
+
+    const WorkbenchOptions& options() const { return m_options; }
+    Clock& clock() { return m_clock; }
+    Journal& journal() { return m_journal; }
+    Faults& faults() { return m_faults; }
+    Answers& answers() { return m_answers; }
+    WindowSystem& windows() { return *m_windows; }
+    ModuleLoader& modules() { return *m_modules; }
+    Toolkit& toolkit() { return *m_toolkit; }
+    ProfileStore& profiles() { return *m_profiles; }
+    Editor& editor() { return *m_editor; }
+    MenuHost& menu() { return *m_menu; }
+    ToolPalettes& toolPalettes() { return *m_toolPalettes; }
+    NavigationTool& navigation() { return *m_navigation; }
+
+private:
+    WorkbenchOptions m_options;
+    Clock m_clock;
+    Journal m_journal{m_clock};
+    Faults m_faults;
+    Answers m_answers;
+    std::unique_ptr<WindowSystem> m_windows;
+    std::unique_ptr<ModuleLoader> m_modules;
+    std::unique_ptr<Toolkit> m_toolkit;
+    std::unique_ptr<ProfileStore> m_profiles;
+    std::unique_ptr<Editor> m_editor;
+    std::unique_ptr<MenuHost> m_menu;
+    std::unique_ptr<ToolPalettes> m_toolPalettes;
+    std::unique_ptr<NavigationTool> m_navigation;
+};
+
+}  // namespace workbench

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <hostapi/window.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace workbench {
+
+struct Window;
+
+/// What a toolkit class keeps for one of its windows, and how such a window handles the messages
+/// that the window object's table leaves to it. Lives and dies with the window.
+class Widget {
+public:
+    virtual ~Widget() = default;
+    /// The toolkit's own handling of a message. True if it was handled; `answer` is then the answer.
+    virtual bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
+                        LRESULT& answer);
+    /// Whether the parent is told of the focus coming and going (`EN_SETFOCUS`, `EN_KILLFOCUS`).
+    virtual bool reportsFocus() const { return false; }
+    /// Words for the window tree behind class and ID, such as the slider's position; may be empty.
+    virtual std::string describe(const Window& window) const;
+};
+
+/// A running timer of a window.
+struct WindowTimer {
+    UINT number;
+    std::int64_t period;  ///< milliseconds, at least 1
+    std::int64_t due;     ///< clock time of the next firing
+};
+
+/// One window. Found by its handle in the window system; a pointer to it is good until the next
+/// message is sent.
+struct Window {
+    HWND handle = nullptr;
+    CWnd* object = nullptr;      ///< not owned
+    std::string className;       ///< the toolkit class, such as "CQrUiProgSliderCtrl"
+    std::string name;            ///< by which scripts and the journal know it; empty for none
+    HWND parent = nullptr;       ///< null: a top window
+    std::vector<HWND> children;  ///< in order of creation
+    CRect rect;                  ///< in the parent's client area; top windows: on the screen
+    DWORD style = 0;             ///< `WS_VISIBLE` is kept up to date
+    int id = 0;
+    bool enabled = true;
+    std::wstring text;
+    WPARAM font = 0;  ///< by `WM_SETFONT`; 0: the system's
+    std::vector<WindowTimer> timers;
+    std::unique_ptr<Widget> widget;  ///< null for a plain window
+    bool dying = false;              ///< `WM_DESTROY` was sent
+
+    bool hasVisibleStyle() const { return (style & WS_VISIBLE) != 0; }
+};
+
+}  // namespace workbench
