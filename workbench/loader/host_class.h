@@ -2,6 +2,7 @@
 
 #include <hostapi/vxdb18/rx_object.h>
 
+#include <deque>
 #include <string>
 #include <string_view>
 
@@ -26,7 +27,11 @@ private:
     const HostClass* m_parent;  // not owned; null: the root
 };
 
+/// All descriptors.
+std::deque<HostClass>& hostClasses();
 /// The descriptor of a host class by its exact name; null for none.
 const HostClass* findHostClass(std::wstring_view name);
+/// The name of a descriptor's class; empty for null.
+std::wstring_view hostClassName(const VxRxClass* descriptor);
 
 }  // namespace workbench

@@ -9,9 +9,19 @@
 
 namespace workbench {
 
+/// An object that knows its class.
+class ClassedObject {
+public:
+    /// The descriptor of the object's class; null for a class that the host doesn't have.
+    virtual const HostClass* hostClass() const = 0;
+
+protected:
+    ~ClassedObject() = default;
+};
+
 /// An object of the host with a class descriptor: implements `Host`'s class test.
 template <class Host>
-class RegisteredObject : public Host {
+class RegisteredObject : public Host, public ClassedObject {
 public:
     /// `className` is the exact name of one of the host's classes. An object of an unknown class is
     /// of no kind.
@@ -19,23 +29,16 @@ public:
 
     // VxRxObject:
     bool isKindOf(const VxRxClass* descriptor) const override {
-        HostCall call("VxRxObject::isKindOf", {hostClassName(), nameOf(descriptor)});
+        HostCall call("VxRxObject::isKindOf", {hostClassName(m_class), hostClassName(descriptor)});
         if (call.failed() || m_class == nullptr)
             return call.returns(false);
         return call.returns(m_class->isOrDerivesFrom(descriptor));
     }
 
-    /// The name of the object's class; empty for an unknown one.
-    std::wstring_view hostClassName() const {
-        return m_class == nullptr ? std::wstring_view() : std::wstring_view(m_class->name());
-    }
+    // ClassedObject:
+    const HostClass* hostClass() const override { return m_class; }
 
 private:
-    static std::wstring_view nameOf(const VxRxClass* descriptor) {
-        const auto* hostClass = dynamic_cast<const HostClass*>(descriptor);
-        return hostClass == nullptr ? std::wstring_view() : std::wstring_view(hostClass->name());
-    }
-
     const HostClass* m_class;  // not owned; null: unknown
 };
 
