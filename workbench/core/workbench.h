@@ -36,15 +36,18 @@ struct WorkbenchOptions {
 /// the current one: from its construction to its end.
 class Workbench {
 public:
-    /// Throws InputError for menu data or profiles that can't be taken.
+    /// Throws InputError for menu data or profiles that can't be taken, and std::logic_error while
+    /// another workbench lives.
     explicit Workbench(WorkbenchOptions options);
     Workbench(const Workbench&) = delete;
     Workbench& operator=(const Workbench&) = delete;
     /// Unloads what is still loaded.
     ~Workbench();
 
-    /// The workbench that lives now.
+    /// The workbench that lives now. Throws std::logic_error if there is none.
     static Workbench& current();
+    /// The workbench that lives now, null for none: for what may end after it.
+    static Workbench* living();
 
     const WorkbenchOptions& options() const { return m_options; }
     Clock& clock() { return m_clock; }
@@ -61,6 +64,9 @@ public:
     NavigationTool& navigation() { return *m_navigation; }
 
 private:
+    void makeUnits();
+    void endUnits();
+
     WorkbenchOptions m_options;
     Clock m_clock;
     Journal m_journal{m_clock};

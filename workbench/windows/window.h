@@ -12,7 +12,8 @@ namespace workbench {
 struct Window;
 
 /// What a toolkit class keeps for one of its windows, and how such a window handles the messages
-/// that the window object's table leaves to it. Lives and dies with the window.
+/// that the window object's table leaves to it. Lives and dies with the window; a handler that ends
+/// its own window may finish in peace.
 class Widget {
 public:
     virtual ~Widget() = default;
@@ -30,6 +31,7 @@ struct WindowTimer {
     UINT number;
     std::int64_t period;  ///< milliseconds, at least 1
     std::int64_t due;     ///< clock time of the next firing
+    std::uint64_t order;  ///< ascending by start; of two due at one time the earlier fires first
 };
 
 /// One window. Found by its handle in the window system; a pointer to it is good until the next

@@ -1,0 +1,70 @@
+#include "workbench/core/workbench.h"
+
+#include "workbench/windows/window_system.h"
+
+#include <stdexcept>
+#include <utility>
+
+namespace workbench {
+
+class Editor {};
+class MenuHost {};
+class ModuleLoader {};
+class NavigationTool {};
+class ProfileStore {};
+class Toolkit {};
+class ToolPalettes {};
+
+namespace {
+
+Workbench* s_living = nullptr;  // not owned; null: none lives
+
+}  // namespace
+
+Workbench::Workbench(WorkbenchOptions options) : m_options(std::move(options)) {
+    if (s_living != nullptr)
+        throw std::logic_error("a workbench lives already");
+    s_living = this;
+    try {
+        makeUnits();
+    } catch (...) {
+        endUnits();
+        s_living = nullptr;
+        throw;
+    }
+}
+
+Workbench::~Workbench() {
+    endUnits();
+    s_living = nullptr;
+}
+
+Workbench& Workbench::current() {
+    if (s_living == nullptr)
+        throw std::logic_error("no workbench lives");
+    return *s_living;
+}
+
+Workbench* Workbench::living() {
+    return s_living;
+}
+
+void Workbench::makeUnits() {
+    m_windows = std::make_unique<WindowSystem>(m_clock, m_journal);
+}
+
+/// Ends the units in the opposite order of their making; each may still use those made before it.
+void Workbench::endUnits() {
+    m_navigation.reset();
+    m_toolPalettes.reset();
+    m_menu.reset();
+    m_editor.reset();
+    m_profiles.reset();
+    m_toolkit.reset();
+    m_modules.reset();
+    if (m_windows != nullptr)
+        m_windows->abandonAll();
+    m_windows.reset();
+}
+
+}  // namespace workbench

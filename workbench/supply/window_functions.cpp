@@ -1,0 +1,50 @@
+#include "workbench/core/host_call.h"
+#include "workbench/core/workbench.h"
+#include "workbench/windows/collation.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/window.h>
+
+#include <memory>
+
+namespace {
+
+using workbench::Collation;
+using workbench::HostCall;
+using workbench::Workbench;
+
+/// Width of the frame by which a window is sized, in pixels.
+constexpr int kSizeFrameWidth = 4;
+
+/// The order of the user's language; making one takes long, so the last one is kept.
+const Collation& usersOrder() {
+    static std::unique_ptr<Collation> order;
+    const std::string& locale = Workbench::current().options().locale;
+    if (order == nullptr || order->locale() != locale)
+        order = std::make_unique<Collation>(locale);
+    return *order;
+}
+
+}  // namespace
+
+BOOL IsWindow(HWND window) {
+    return Workbench::current().windows().find(window) != nullptr ? 1 : 0;
+}
+
+LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return Workbench::current().windows().send(window, message, wParam, lParam);
+}
+
+int GetSystemMetrics(int index) {
+    HostCall call("GetSystemMetrics", {index});
+    return call.returns(!call.failed() && index == SM_CXSIZEFRAME ? kSizeFrameWidth : 0);
+}
+
+void SetArrowCursor() {
+    // Nothing here shows a cursor; the journal tells that it was set.
+    const HostCall call("SetArrowCursor");
+}
+
+int CollateNoCase(const VxString& left, const VxString& right) {
+    return usersOrder().compareNoCase(left, right);
+}

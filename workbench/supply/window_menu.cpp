@@ -1,0 +1,69 @@
+#include "workbench/core/host_call.h"
+#include "workbench/core/workbench.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/window.h>
+
+#include <string>
+
+namespace {
+
+using workbench::HostCall;
+using workbench::Workbench;
+
+workbench::MenuTable& menus() {
+    return Workbench::current().windows().menus();
+}
+
+}  // namespace
+
+CMenu::~CMenu() {
+    if (m_hMenu != nullptr && Workbench::living() != nullptr)
+        menus().destroy(m_hMenu);
+}
+
+BOOL CMenu::CreatePopupMenu() {
+    HostCall call("CMenu::CreatePopupMenu");
+    if (call.failed() || menus().isMenu(m_hMenu))
+        return call.returns(0);
+    m_hMenu = menus().create();
+    return call.returns(1);
+}
+
+BOOL CMenu::DestroyMenu() {
+    HostCall call("CMenu::DestroyMenu");
+    if (call.failed())
+        return call.returns(0);
+    const bool wasAlive = menus().destroy(m_hMenu);
+    m_hMenu = nullptr;
+    return call.returns(wasAlive ? 1 : 0);
+}
+
+BOOL CMenu::IsMenu() const {
+    return menus().isMenu(m_hMenu) ? 1 : 0;
+}
+
+BOOL CMenu::AppendMenu(UINT flags, std::uintptr_t item, const wchar_t* text) {
+    // A popup's handle stays out of the journal: it differs from run to run.
+    const UINT command = (flags & MF_POPUP) != 0 ? 0 : static_cast<UINT>(item);
+    HostCall call("CMenu::AppendMenu", {flags, command, text});
+    if (call.failed())
+        return call.returns(0);
+    std::wstring line = text == nullptr ? std::wstring() : text;
+    return call.returns(menus().append(m_hMenu, flags, item, std::move(line)) ? 1 : 0);
+}
+
+int CMenu::GetMenuItemCount() const {
+    return menus().lineCount(m_hMenu);
+}
+
+int CMenu::GetMenuStateAt(int position) const {
+    return menus().stateAt(m_hMenu, position);
+}
+
+BOOL CMenu::RemoveMenuAt(int position) {
+    HostCall call("CMenu::RemoveMenuAt", {position});
+    if (call.failed())
+        return call.returns(0);
+    return call.returns(menus().remove(m_hMenu, position) ? 1 : 0);
+}
