@@ -1,0 +1,20 @@
+#pragma once
+
+#include <hostapi/types.h>
+
+/// How a gesture reaches the host's command processor.
+
+/// Whether a command was running; it has then been told to stop, but has not stopped yet: the
+/// processor comes to that when it next runs.
+bool commandStopped();
+/// Sends a command to the command line, for the user to answer there. Returns true.
+bool sendHostCommand(const wchar_t* text);
+/// Runs a command with all its answers before it returns. `flag` is the host's own; 0 in the
+/// lighting callbacks.
+void runHostCommand(VxString text, int flag);
+/// Whether paper space is active.
+bool isPaperSpaceActive();
+/// Whether the block editor is open.
+bool isBlockEditorActive();
+/// Activates the main window. Its answer; 0 if there is none.
+LRESULT activateMainWindow();

@@ -1,0 +1,57 @@
+#include "core/commands.h"
+
+#include "core/constants.h"
+#include "core/host_objects.h"
+#include "core/manager.h"
+#include "core/module.h"
+#include "core/resources.h"
+#include "core/string_ids.h"
+#include "core/text.h"
+
+#include <hostapi/zorq/commands.h>
+
+#include <cstdlib>
+
+namespace {
+
+void onShowCommand() {
+    if (VxDaManager* manager = dashboardManager())
+        manager->onShowCommand();
+}
+
+void onViewBackCommand() {
+    vxInternalZoomBack();
+}
+
+VxString environmentText(const char* name) {
+    const char* value = std::getenv(name);
+    if (value == nullptr)
+        return {};
+    const VxString::size_type length = std::char_traits<char>::length(value);
+    return VxString(value, value + length);
+}
+
+bool areCommandsEnabled() {
+    const VxString value = environmentText(kEnablingVariable);
+    return equalNoCase(value, L"1") || equalNoCase(value, L"Yes");
+}
+
+void addCommand(const wchar_t* globalName, const VxString& localName, int flags,
+                VxEdCommandStack::CommandFunction function) {
+    commandStack()->addCommand(kCommandGroup, globalName, localName.c_str(), flags, function,
+                               nullptr, -1, nullptr, nullptr);
+}
+
+}  // namespace
+
+void registerCommands() {
+    if (!areCommandsEnabled())
+        return;
+    addCommand(kShowCommand, loadDashboardString(kStrLocalShowCommand),
+               kCommandTransparent | kCommandUsePickSet, onShowCommand);
+    addCommand(kViewBackCommand, kViewBackCommand, kCommandTransparent, onViewBackCommand);
+}
+
+void removeCommands() {
+    commandStack()->removeGroup(kCommandGroup);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+class VxEdCommandStack;
+class VxEditor;
+class VxRxDynamicLinker;
+class VxRxDictionary;
+
+/// The host's objects in the system registry, each tested for its class. Null if there is none or
+/// it is of another class.
+
+VxRxDynamicLinker* dynamicLinker();
+VxEdCommandStack* commandStack();
+VxEditor* hostEditor();
+VxRxDictionary* serviceDictionary();

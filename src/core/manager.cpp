@@ -1,0 +1,263 @@
+#include "core/manager.h"
+
+#include "core/broadcast_messages.h"
+#include "core/constants.h"
+#include "core/host_objects.h"
+#include "core/manager_reactors.h"
+#include "core/module.h"
+#include "core/resources.h"
+#include "core/string_ids.h"
+#include "core/theme.h"
+
+#include "controls/control_manager.h"
+#include "controls/variable_access.h"
+#include "palette/dashboard.h"
+#include "palette/palette.h"
+#include "palette/panel_set.h"
+#include "visualstyle/style_reactors.h"
+
+#include <hostapi/zorq.h>
+
+#include <algorithm>
+
+namespace {
+
+/// Whether the host's frame can show or hide the bar: one that floats without a frame of its own
+/// can't.
+bool canShowOrHide(const CVxDaDashboard& bar) {
+    return !bar.IsFloating() || bar.GetDockingFrame() != nullptr;
+}
+
+bool isCleanScreenOn() {
+    return readVariableFlag(L"CleanScreenState") == 1;
+}
+
+}  // namespace
+
+VxDaManager::VxDaManager() = default;
+
+VxDaManager::~VxDaManager() {
+    if (m_pProfileReactor != nullptr)
+        vxProfileManagerPtr()->removeReactor(m_pProfileReactor.get());
+    m_pProfileReactor.reset();
+    if (m_pEditorReactor != nullptr)
+        hostEditor()->removeReactor(m_pEditorReactor.get());
+    m_pEditorReactor.reset();
+    if (m_pDocManagerReactor != nullptr)
+        vxDocManagerPtr()->removeReactor(m_pDocManagerReactor.get());
+    m_pDocManagerReactor.reset();
+    deleteDashboard();
+}
+
+BOOL VxDaManager::attach() {
+    m_pProfileReactor = std::make_unique<VxDaProfileManagerReactor>(this);
+    vxProfileManagerPtr()->addReactor(m_pProfileReactor.get());
+    m_pEditorReactor = std::make_unique<VxDaEditorReactor>(this);
+    hostEditor()->addReactor(m_pEditorReactor.get());
+    m_pDocManagerReactor = std::make_unique<VxDaDocManagerReactor>(this);
+    vxDocManagerPtr()->addReactor(m_pDocManagerReactor.get());
+    return 1;
+}
+
+void VxDaManager::onShowCommand() {
+    if (!m_bPanelsLoaded && showDashboard() == 0)
+        return;
+    if (m_pDashboard == nullptr)
+        return;
+    showBar();
+    visibilityChanged(1);
+}
+
+BOOL VxDaManager::showDashboard() {
+    if (m_pDashboard == nullptr)
+        createDashboard();
+    if (m_pDashboard == nullptr)
+        return 0;
+    showBar();
+    visibilityChanged(1);
+    loadPanelsWithNotice();
+    return 1;
+}
+
+void VxDaManager::createDashboard() {
+    if (CQrUiTheme* theme = dashboardTheme())
+        theme->SetData(kThemeDataValue, 0);
+    m_pDashboard = std::make_unique<CVxDaDashboard>();
+    m_pDashboard->create(loadDashboardString(kStrDashboardTitle));
+}
+
+void VxDaManager::loadPanelsWithNotice() {
+    callListeners([](VxDaDashboardReactor& listener) { listener.panelsWillLoad(); });
+    if (CVxDaControlMgr* controls = controlManager())
+        controls->acquireStyleReactors();
+    m_pDashboard->loadPanels();
+    m_bPanelsLoaded = true;
+    callListeners([](VxDaDashboardReactor& listener) { listener.panelsLoaded(); });
+    updateVisualStyleState();
+}
+
+BOOL VxDaManager::unloadPanels() {
+    if (m_pDashboard == nullptr || !IsWindow(m_pDashboard->m_hWnd))
+        return 0;
+    callListeners([](VxDaDashboardReactor& listener) { listener.panelsWillUnload(); });
+    if (CVxDaPalette* palette = m_pDashboard->palette())
+        palette->replacePanelSet();
+    m_bPanelsLoaded = false;
+    callListeners([](VxDaDashboardReactor& listener) { listener.panelsUnloaded(); });
+    return 1;
+}
+
+void VxDaManager::deleteDashboard() {
+    m_pDashboard.reset();
+}
+
+CVxDaPanelSet* VxDaManager::panelSet() const {
+    if (m_pDashboard == nullptr)
+        return nullptr;
+    const CVxDaPalette* palette = m_pDashboard->palette();
+    return palette == nullptr ? nullptr : palette->panelSet();
+}
+
+void VxDaManager::broadcast(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (CVxDaPanelSet* receivers = panelSet())
+        receivers->sendToControls(message, wParam, lParam);
+}
+
+int VxDaManager::addOrRemoveReactor(VxDaDashboardReactor* reactor, bool add) {
+    if (reactor == nullptr)
+        return 0;
+    const auto found = std::find(m_reactors.begin(), m_reactors.end(), reactor);
+    if (add && found == m_reactors.end())
+        m_reactors.push_back(reactor);
+    if (!add && found != m_reactors.end())
+        m_reactors.erase(found);
+    return 1;
+}
+
+void VxDaManager::visibilityChanged(BOOL visible) {
+    callListeners(
+        [visible](VxDaDashboardReactor& listener) { listener.visibilityChanged(visible); });
+}
+
+template <class Call>
+void VxDaManager::callListeners(Call call) {
+    const std::size_t count = m_reactors.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        // A listener that shrank the list from inside a call is at fault.
+        if (i >= m_reactors.size())
+            AfxThrowInvalidArgException();
+        call(*m_reactors[i]);
+    }
+}
+
+void VxDaManager::showBar() {
+    if ((m_pDashboard->GetStyle() & WS_VISIBLE) != 0)
+        return;
+    CFrameWnd* frame = vxedGetZorqFrame();
+    if (frame != nullptr && canShowOrHide(*m_pDashboard)) {
+        frame->ShowControlBar(m_pDashboard.get(), 1, 0);
+    }
+}
+
+void VxDaManager::hideBar() {
+    if ((m_pDashboard->GetStyle() & WS_VISIBLE) == 0)
+        return;
+    CFrameWnd* frame = vxedGetZorqFrame();
+    if (frame != nullptr && canShowOrHide(*m_pDashboard)) {
+        frame->ShowControlBar(m_pDashboard.get(), 0, 0);
+    }
+}
+
+bool VxDaManager::isBarOnScreen() const {
+    return m_pDashboard->IsWindowVisible() != 0;
+}
+
+void VxDaManager::onCleanScreenChanged() {
+    if (m_pDashboard == nullptr)
+        return;
+    if (isCleanScreenOn()) {
+        m_bWasVisible = isBarOnScreen();
+        if (!m_bWasVisible || !m_bPanelsLoaded)
+            return;
+        hideBar();
+        visibilityChanged(0);
+    } else if (m_bWasVisible) {
+        bringBack();
+    }
+}
+
+void VxDaManager::bringBack() {
+    if (!m_bPanelsLoaded && showDashboard() == 0)
+        return;
+    showBar();
+    visibilityChanged(1);
+}
+
+void VxDaManager::onDocumentDestroyed(const wchar_t* fileName) {
+    if (m_bQuitting)
+        return;
+    // The dying document still counts.
+    if (vxDocManagerPtr()->documentCount() != 1)
+        return;
+    m_bWasVisible = m_pDashboard != nullptr && isBarOnScreen();
+    if (m_bWasVisible && m_bPanelsLoaded) {
+        hideBar();
+        visibilityChanged(0);
+    }
+    broadcast(WM_DA_LAST_DOC_DESTROYED, 0, reinterpret_cast<LPARAM>(fileName));
+}
+
+void VxDaManager::onDocumentCreated() {
+    if (vxDocManagerPtr()->documentCount() != 1 || !m_bWasVisible)
+        return;
+    if (isCleanScreenOn())
+        return;
+    bringBack();
+}
+
+int VxDaManager::notify(int code) {
+    switch (code) {
+    case kDashboardReleaseControls:
+        return releaseControls();
+    case kDashboardUnload:
+        return unloadForReload();
+    case kDashboardReload:
+        return reload();
+    default:
+        return 1;
+    }
+}
+
+int VxDaManager::releaseControls() {
+    if (!m_bPanelsLoaded)
+        return 1;
+    callListeners([](VxDaDashboardReactor& listener) { listener.controlsWillBeReleased(); });
+    if (CVxDaControlMgr* controls = controlManager())
+        controls->releaseControls();
+    releaseStyleReactors();
+    return 1;
+}
+
+int VxDaManager::unloadForReload() {
+    if (!m_bPanelsLoaded)
+        return 1;
+    if (m_pDashboard == nullptr)
+        return 0;
+    if (IsWindow(m_pDashboard->m_hWnd))
+        m_savedVisible = isBarOnScreen();
+    unloadPanels();
+    return 1;
+}
+
+int VxDaManager::reload() {
+    const bool hasWindow = m_pDashboard != nullptr && IsWindow(m_pDashboard->m_hWnd);
+    if (!m_bPanelsLoaded && hasWindow)
+        loadPanelsWithNotice();
+    if (m_pDashboard == nullptr)
+        return 0;
+    const bool visible = (m_pDashboard->GetStyle() & WS_VISIBLE) != 0;
+    if (m_savedVisible != visible)
+        m_pDashboard->show(m_savedVisible);
+    visibilityChanged(m_savedVisible);
+    return 1;
+}

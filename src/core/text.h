@@ -1,0 +1,24 @@
+#pragma once
+
+#include <hostapi/types.h>
+
+#include <cwchar>
+
+/// Whether two texts are equal without regard to case.
+bool equalNoCase(const VxString& left, const VxString& right);
+
+/// A `printf` format filled in; wide strings go in with "%ls". Empty if the format can't be filled.
+template <class... Values>
+VxString formatText(const VxString& format, Values... values) {
+    constexpr std::size_t kLongest = 64 * 1024;  // characters; no text of a dialog comes near
+    VxString text(256, L'\0');
+    while (text.size() <= kLongest) {
+        const int length = std::swprintf(text.data(), text.size(), format.c_str(), values...);
+        if (length >= 0) {
+            text.resize(static_cast<std::size_t>(length));
+            return text;
+        }
+        text.resize(text.size() * 4);
+    }
+    return {};
+}

@@ -1,0 +1,5 @@
+#pragma once
+
+/// Brings the tools that depend on the lighting units in line with the drawing: what is on offer,
+/// what is shown, and the current tools of the sky and units flyouts. Nothing without a panel set.
+void refreshLightingUnits();
