@@ -1,0 +1,13 @@
+#pragma once
+
+#include <memory>
+
+#include "workbench/drawing/db_object.h"
+
+namespace workbench::drawing {
+
+/// A fresh object of the kind, in no database, with every property at its default. Null for
+/// `RecordKind::Table`.
+std::unique_ptr<DbObject> makeRecord(RecordKind kind);
+
+}  // namespace workbench::drawing

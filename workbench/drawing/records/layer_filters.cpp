@@ -1,0 +1,174 @@
+#include "workbench/drawing/records/layer_filters.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "workbench/drawing/database.h"
+#include "workbench/drawing/records/entity.h"
+#include "workbench/drawing/records/layer_filter_expression.h"
+
+namespace workbench::drawing {
+
+namespace {
+
+constexpr std::array<const char*, 4> kKindNames{"all", "used", "property", "group"};
+
+bool isUsed(ObjectId layer, const Database& database) {
+    const std::vector<ObjectId> entities = database.ids(RecordKind::Entity);
+    return std::any_of(entities.begin(), entities.end(), [&](ObjectId id) {
+        const auto* entity = database.look<Entity>(id);
+        return entity != nullptr && entity->layer.id == layer;
+    });
+}
+
+bool expressionShows(const std::string& expression, ObjectId id, const Database& database) {
+    const auto* layer = database.look<Layer>(id);
+    if (layer == nullptr) {
+        return false;
+    }
+    try {
+        return LayerFilterExpression(expression).matches(*layer);
+    } catch (const ValueError&) {
+        return false;
+    }
+}
+
+void setMember(LayerFilter& filter, const Value::Member& member, const Database& database) {
+    if (member.name == "name") {
+        fromValue(member.value, filter.name, database);
+    } else if (member.name == "kind") {
+        fromValue(member.value, filter.kind, database);
+    } else if (member.name == "expression") {
+        filter.expression = member.value.asString();
+        LayerFilterExpression check(filter.expression);
+    } else if (member.name == "layers") {
+        fromValue(member.value, filter.layers, database);
+    } else if (member.name == "children") {
+        fromValue(member.value, filter.children, database);
+    } else {
+        throw ValueError("a layer filter has no \"" + member.name + "\"");
+    }
+}
+
+void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        if (sameName(name, filter.name)) {
+            throw ValueError("two layer filters are named \"" + filter.name + "\"");
+        }
+    }
+    names.push_back(filter.name);
+    for (const LayerFilter& child : filter.children) {
+        collectNames(child, names);
+    }
+}
+
+}  // namespace
+
+LayerFilters::LayerFilters() {
+    root.name = "All";
+    root.kind = FilterKind::All;
+    LayerFilter used;
+    used.name = "All Used Layers";
+    used.kind = FilterKind::Used;
+    root.children.push_back(used);
+    current = root.name;
+}
+
+const std::vector<Property<LayerFilters>>& LayerFilters::properties() {
+    static const std::vector<Property<LayerFilters>> kProperties{
+        property<LayerFilters, &LayerFilters::root>("root"),
+        property<LayerFilters, &LayerFilters::current>("current"),
+    };
+    return kProperties;
+}
+
+const LayerFilter* findFilter(const LayerFilter& start, std::string_view name) {
+    if (sameName(start.name, name)) {
+        return &start;
+    }
+    for (const LayerFilter& child : start.children) {
+        const LayerFilter* found = findFilter(child, name);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+LayerFilter* findFilter(LayerFilter& start, std::string_view name) {
+    return const_cast<LayerFilter*>(findFilter(static_cast<const LayerFilter&>(start), name));
+}
+
+const LayerFilter* findFilterParent(const LayerFilter& start, std::string_view name) {
+    for (const LayerFilter& child : start.children) {
+        if (sameName(child.name, name)) {
+            return &start;
+        }
+        const LayerFilter* found = findFilterParent(child, name);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+LayerFilter* findFilterParent(LayerFilter& start, std::string_view name) {
+    return const_cast<LayerFilter*>(findFilterParent(static_cast<const LayerFilter&>(start), name));
+}
+
+bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database) {
+    switch (filter.kind) {
+    case FilterKind::All:
+        return true;
+    case FilterKind::Used:
+        return isUsed(layer, database);
+    case FilterKind::Property:
+        return expressionShows(filter.expression, layer, database);
+    case FilterKind::Group:
+        break;
+    }
+    return std::any_of(filter.layers.begin(), filter.layers.end(),
+                       [layer](const auto& member) { return member.id == layer; });
+}
+
+Value toValue(FilterKind member, const Database& /*database*/) {
+    return kKindNames[static_cast<std::size_t>(member)];
+}
+
+void fromValue(const Value& value, FilterKind& member, const Database& /*database*/) {
+    const std::string& text = value.asString();
+    const auto found = std::find(kKindNames.begin(), kKindNames.end(), text);
+    if (found == kKindNames.end()) {
+        throw ValueError("expected all, used, property or group, got " + value.describe());
+    }
+    member = static_cast<FilterKind>(found - kKindNames.begin());
+}
+
+Value toValue(const LayerFilter& member, const Database& database) {
+    Value::Table table{{"name", member.name}, {"kind", toValue(member.kind, database)}};
+    if (member.kind == FilterKind::Property) {
+        table.push_back({"expression", member.expression});
+    }
+    if (member.kind == FilterKind::Group) {
+        table.push_back({"layers", toValue(member.layers, database)});
+    }
+    if (!member.children.empty()) {
+        table.push_back({"children", toValue(member.children, database)});
+    }
+    return table;
+}
+
+void fromValue(const Value& value, LayerFilter& member, const Database& database) {
+    member = LayerFilter();
+    for (const Value::Member& entry : value.asTable()) {
+        setMember(member, entry, database);
+    }
+    if (member.name.empty()) {
+        throw ValueError("a layer filter needs a \"name\"");
+    }
+    std::vector<std::string> names;
+    collectNames(member, names);
+}
+
+}  // namespace workbench::drawing
