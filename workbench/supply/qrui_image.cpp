@@ -1,0 +1,61 @@
+#include "workbench/base/input_error.h"
+#include "workbench/base/text.h"
+#include "workbench/core/host_call.h"
+#include "workbench/core/workbench.h"
+#include "workbench/loader/module_loader.h"
+#include "workbench/toolkit/toolkit.h"
+
+#include <hostapi/qrui18/image.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+using workbench::HostCall;
+using workbench::Workbench;
+
+namespace {
+
+/// The bytes of a file that is a picture; empty for any other.
+std::vector<std::uint8_t> readPicture(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    std::vector<std::uint8_t> bytes{std::istreambuf_iterator<char>(stream), {}};
+    try {
+        workbench::decodePng(bytes.data(), bytes.size(), file.string());
+    } catch (const workbench::InputError&) {
+        bytes.clear();
+    }
+    return bytes;
+}
+
+}  // namespace
+
+HBITMAP QrUiLoadImageFromResource(HINSTANCE library, const wchar_t* key, int size, int flags) {
+    HostCall call("QrUiLoadImageFromResource", {library, key, size, flags});
+    HBITMAP picture = nullptr;
+    if (!call.failed() && library != nullptr && key != nullptr && size > 0) {
+        const std::string name = workbench::toUtf8(key);
+        const auto bytes =
+            Workbench::current().modules().libraries().resources(library).findPicture(
+                name, static_cast<std::uint32_t>(size));
+        if (bytes)
+            picture = Workbench::current().toolkit().pictures().add(
+                name, {bytes->data, bytes->data + bytes->length});
+    }
+    call.returns(static_cast<const void*>(picture));
+    return picture;
+}
+
+HBITMAP LoadBitmapFileGdiPlus(const wchar_t* fileName) {
+    HostCall call("LoadBitmapFileGdiPlus", {fileName});
+    HBITMAP picture = nullptr;
+    if (!call.failed() && fileName != nullptr) {
+        const std::string name = workbench::toUtf8(fileName);
+        std::vector<std::uint8_t> bytes = readPicture(name);
+        if (!bytes.empty())
+            picture = Workbench::current().toolkit().pictures().add(name, std::move(bytes));
+    }
+    call.returns(static_cast<const void*>(picture));
+    return picture;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <hostapi/window/geometry.h>
+#include <hostapi/xmldom.h>
+
+#include <optional>
+
+namespace workbench {
+
+/// An edge of the main frame at which bars dock.
+enum class Edge { left, right };
+
+/// Where a bar stands.
+struct BarPlace {
+    bool floating = false;
+    Edge edge = Edge::right;  ///< Where it docks, now or when it is docked again.
+    bool anchored = false;    ///< Docked as a thin strip.
+    CRect rect;  ///< Floating: the small frame on the screen. Docked: only the width counts.
+
+    friend bool operator==(const BarPlace&, const BarPlace&) = default;
+};
+
+/// Reads a place from below a node; nothing if there is none or it makes no sense.
+std::optional<BarPlace> loadBarPlace(IXMLDOMNode* node);
+/// Writes a place below a node, in place of an earlier one. False if the tree refuses; raises
+/// `VxComError`.
+bool saveBarPlace(IXMLDOMNode* node, const BarPlace& place);
+
+}  // namespace workbench

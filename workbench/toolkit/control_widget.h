@@ -1,0 +1,25 @@
+#pragma once
+
+#include "workbench/windows/window.h"
+
+#include <string>
+
+namespace workbench {
+
+/// A window of the toolkit that can stand in a row of a tool panel.
+class ControlWidget : public Widget {
+public:
+    /// The height in pixels that the window wants in a row when it is `width` wide.
+    virtual int naturalHeight(const Window& window, int width) const;
+    /// The text of the tooltip over a client point; empty for none.
+    virtual std::wstring tipAt(const Window& window, CPoint point) const;
+
+    /// The window's own tooltip.
+    const std::wstring& tip() const { return m_tip; }
+    void setTip(std::wstring tip) { m_tip = std::move(tip); }
+
+private:
+    std::wstring m_tip;
+};
+
+}  // namespace workbench

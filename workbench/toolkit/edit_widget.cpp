@@ -1,0 +1,102 @@
+#include "workbench/toolkit/edit_widget.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/key_road.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr int kTextMargin = 3;      // pixels left of the text
+constexpr int kCharacterWidth = 7;  // pixels, of the control font on average
+constexpr wchar_t kFirstPrintable = L' ';
+
+}  // namespace
+
+const LineEditor& EditWidget::editor(const Window& window) {
+    if (m_editor.text() != window.text)
+        m_editor.setText(window.text);
+    return m_editor;
+}
+
+void EditWidget::selectAll(Window& window) {
+    editor(window);
+    m_editor.selectAll();
+}
+
+bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
+                        LRESULT& /*answer*/) {
+    switch (message) {
+    case kLeftButtonDown:
+        press(window, unpackPoint(lParam));
+        return true;
+    case kCharMessage:
+        character(window, static_cast<wchar_t>(wParam));
+        return true;
+    case WM_KEYDOWN:
+        if (!key(window, wParam))
+            passKeyOn(wParam, lParam);
+        return true;
+    default:
+        return false;
+    }
+}
+
+int EditWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
+    return kHeight;
+}
+
+void EditWidget::press(Window& window, CPoint point) {
+    editor(window);
+    const int along = std::max(0, point.x - kTextMargin);
+    const int place = (along + kCharacterWidth / 2) / kCharacterWidth;
+    m_editor.moveTo(static_cast<std::size_t>(place), false);
+    Workbench::current().windows().setFocus(window.handle);
+}
+
+void EditWidget::character(Window& window, wchar_t character) {
+    editor(window);
+    if (character == kCharSelectAll)
+        m_editor.selectAll();
+    else if (character == kCharBackspace)
+        m_editor.backspace();
+    else if (character >= kFirstPrintable)
+        m_editor.insert(character);
+    showText(window);
+}
+
+/// Edits by a key. False for a key that means nothing here.
+bool EditWidget::key(Window& window, WPARAM key) {
+    editor(window);
+    switch (key) {
+    case kKeyLeft:
+        m_editor.moveLeft(false);
+        return true;
+    case kKeyRight:
+        m_editor.moveRight(false);
+        return true;
+    case kKeyHome:
+        m_editor.moveTo(0, false);
+        return true;
+    case kKeyEnd:
+        m_editor.moveTo(window.text.size(), false);
+        return true;
+    case kKeyDelete:
+        m_editor.erase();
+        showText(window);
+        return true;
+    default:
+        return false;
+    }
+}
+
+void EditWidget::showText(Window& window) {
+    if (window.text != m_editor.text())
+        Workbench::current().windows().setText(window.handle, m_editor.text());
+}
+
+}  // namespace workbench

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/line_editor.h"
+
+namespace workbench {
+
+/// An edit field of one line. A click gives it the focus; the focus coming and going is reported to
+/// its parent.
+class EditWidget final : public ControlWidget {
+public:
+    static constexpr int kHeight = 20;  ///< Pixels.
+
+    /// The text with caret and selection, as they stand now.
+    const LineEditor& editor(const Window& window);
+    void selectAll(Window& window);
+
+    // ControlWidget:
+    bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
+                LRESULT& answer) override;
+    bool reportsFocus() const override { return true; }
+    int naturalHeight(const Window& window, int width) const override;
+
+private:
+    void press(Window& window, CPoint point);
+    void character(Window& window, wchar_t character);
+    bool key(Window& window, WPARAM key);
+    void showText(Window& window);
+
+    LineEditor m_editor;
+};
+
+}  // namespace workbench

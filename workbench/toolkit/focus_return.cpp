@@ -1,0 +1,56 @@
+#include "workbench/toolkit/focus_return.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+bool isField(const WindowSystem& windows, HWND window) {
+    const Window* const found = windows.find(window);
+    return found != nullptr && found->widget != nullptr && found->widget->reportsFocus();
+}
+
+bool palettesAgree(const PaletteSetState& state) {
+    return std::all_of(state.palettes.begin(), state.palettes.end(),
+                       [](const auto& palette) { return palette->CanFrameworkTakeFocus(); });
+}
+
+/// Takes the focus from within a set to the drawing view, if its palettes agree.
+void takeFocusFrom(const CQrUiPaletteSet& set) {
+    Toolkit& toolkit = Workbench::current().toolkit();
+    const PaletteSetState* const state = toolkit.paletteSets().find(&set);
+    if (state != nullptr && palettesAgree(*state))
+        Workbench::current().windows().setFocus(toolkit.frame().drawingView().m_hWnd);
+}
+
+}  // namespace
+
+void giveFocusBack(HWND from, HWND before) {
+    const WindowSystem& windows = Workbench::current().windows();
+    const CQrUiPaletteSet* const set = paletteSetAbove(from);
+    const HWND focus = windows.focus();
+    if (set == nullptr || focus == nullptr || !windows.isWithin(focus, set->m_hWnd))
+        return;
+    const bool wasGivenNow = focus != before || windows.isWithin(focus, from);
+    if (isField(windows, focus) && wasGivenNow)
+        return;
+    takeFocusFrom(*set);
+}
+
+void giveFocusBackOnLeave(HWND paletteSet) {
+    const WindowSystem& windows = Workbench::current().windows();
+    const CQrUiPaletteSet* const set = paletteSetAbove(paletteSet);
+    const HWND focus = windows.focus();
+    if (set == nullptr || focus == nullptr || !windows.isWithin(focus, paletteSet) ||
+        isField(windows, focus))
+        return;
+    takeFocusFrom(*set);
+}
+
+}  // namespace workbench

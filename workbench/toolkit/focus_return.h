@@ -1,0 +1,15 @@
+#pragma once
+
+#include <hostapi/types.h>
+
+namespace workbench {
+
+/// The toolkit takes the keyboard focus back to the drawing view after a gesture in a palette set,
+/// if all palettes of the set agree. `from` is the window of the gesture, `before` the window that
+/// had the focus when it began. An edit field keeps the focus if the gesture gave it to the field.
+void giveFocusBack(HWND from, HWND before);
+
+/// The same when the mouse leaves a palette set: a field that the user types in keeps the focus.
+void giveFocusBackOnLeave(HWND paletteSet);
+
+}  // namespace workbench

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "workbench/windows/window.h"
+
+#include <hostapi/qrui18.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace workbench {
+
+/// The palette set at or above a window, null for none.
+CQrUiPaletteSet* paletteSetAbove(HWND window);
+/// The panel at or above a window, null for none.
+CQrUiPanel* panelAbove(HWND window);
+
+/// The panels with an ID, in the order of the window tree, hidden ones too.
+std::vector<CQrUiPanel*> findPanels(std::wstring_view id);
+/// All panels with a window, in the order of the window tree.
+std::vector<CQrUiPanel*> allPanels();
+
+/// The items with an ID that stand on panels, in flyouts and in controls, in the order of the
+/// window tree; the items of a flyout come behind it. The ID is that of the menu data where the item
+/// was made from some, and otherwise the item's own.
+std::vector<CQrUiToolPanelItem*> findItems(std::wstring_view id);
+/// All such items.
+std::vector<CQrUiToolPanelItem*> allItems();
+/// The tool panel that an item, or the outermost flyout around it, stands on; null for none.
+CQrUiToolPanel* toolPanelOf(const CQrUiToolPanelItem& item);
+
+/// What a user sees of an item.
+struct ItemView {
+    std::wstring id;
+    bool checked = false;
+    bool disabled = false;
+    bool hidden = false;
+    std::wstring name;
+    std::string image;  ///< Resource key or file name of the small picture; empty for none.
+    std::wstring tool;  ///< ID of a flyout's current tool; empty for none.
+};
+ItemView viewOf(const CQrUiToolPanelItem& item);
+
+}  // namespace workbench

@@ -1,0 +1,255 @@
+#include "workbench/toolkit/main_frame.h"
+
+#include "workbench/toolkit/dock_layout.h"
+#include "workbench/toolkit/reparent.h"
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr CRect kFrameRect{0, 0, 1280, 800};
+constexpr int kStripWidth = 24;  // pixels of an anchored set
+constexpr DWORD kDockLeft = 0x1000;
+constexpr DWORD kDockRight = 0x4000;
+
+/// The smallest and the largest size that the palettes of a set ask for, applied to a size.
+CSize limited(const PaletteSetState& state, CSize size) {
+    for (const auto& palette : state.palettes) {
+        CSize least;
+        if (palette->GetMinimumSize(least))
+            size.cx = std::max(size.cx, least.cx);
+        CSize most;
+        if (!palette->GetMaximumSize(most))
+            continue;
+        if (most.cx > 0)
+            size.cx = std::min(size.cx, most.cx);
+        if (most.cy > 0)
+            size.cy = std::min(size.cy, most.cy);
+    }
+    return size;
+}
+
+}  // namespace
+
+MainFrame::MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools)
+    : m_windows(windows),
+      m_sets(sets),
+      m_tools(tools) {
+    makeWindow(m_frame, "CFrameWnd", "", 0);
+    makeWindow(m_drawingView, "DrawingView", "DrawingView", 0);
+    makeWindow(m_commandLine, "CommandLine", "CommandLine", 0);
+    makeWindow(m_leftDock, "CDockBar", "", kLeftDockBar);
+    makeWindow(m_rightDock, "CDockBar", "", kRightDockBar);
+    layout();
+    m_windows.setFocus(m_drawingView.m_hWnd);
+}
+
+MainFrame::~MainFrame() {
+    m_floating.clear();
+    m_orphans.clear();
+    m_windows.destroy(m_frame.m_hWnd);
+}
+
+void MainFrame::makeWindow(CWnd& object, const char* className, const char* name, UINT id) {
+    WindowCreation creation;
+    creation.className = className;
+    creation.style = WS_VISIBLE;
+    creation.rect = kFrameRect;
+    creation.parent = m_frame.m_hWnd;
+    creation.id = static_cast<int>(id);
+    if (creation.parent != nullptr)
+        creation.style |= WS_CHILD;
+    m_windows.create(object, std::move(creation));
+    if (*name != '\0')
+        m_windows.setName(object.m_hWnd, name);
+}
+
+CFrameWnd* MainFrame::frameOf(const CQrUiPaletteSet& set) {
+    const auto floating = m_floating.find(&set);
+    if (floating != m_floating.end())
+        return &floating->second->frame();
+    const Window* const window = m_windows.find(set.m_hWnd);
+    const bool docked = window != nullptr && (window->parent == m_leftDock.m_hWnd ||
+                                              window->parent == m_rightDock.m_hWnd);
+    return docked ? &m_frame : nullptr;
+}
+
+BarPlace MainFrame::placeOf(const CQrUiPaletteSet& set) {
+    BarPlace place = m_sets.of(&set).place;
+    const auto floating = m_floating.find(&set);
+    if (floating != m_floating.end())
+        place.rect = m_windows.screenRect(floating->second->frame().m_hWnd);
+    return place;
+}
+
+void MainFrame::add(CQrUiPaletteSet& set) {
+    m_bars.push_back(&set);
+}
+
+void MainFrame::forget(CQrUiPaletteSet& set) {
+    std::erase(m_bars, &set);
+    const auto floating = m_floating.find(&set);
+    if (floating == m_floating.end())
+        return;
+    // The frame outlives its set's last message and goes at the next layout.
+    m_orphans.push_back(std::move(floating->second));
+    m_floating.erase(floating);
+}
+
+void MainFrame::restore(CQrUiPaletteSet& set, UINT dockBar, const CRect& rectangle) {
+    BarPlace first;
+    first.edge = dockBar == kLeftDockBar ? Edge::left : Edge::right;
+    first.rect = rectangle;
+    put(set, m_tools.placeOf(m_sets.of(&set).toolId).value_or(first));
+}
+
+void MainFrame::put(CQrUiPaletteSet& set, BarPlace place) {
+    PaletteSetState& state = m_sets.of(&set);
+    state.place = place;
+    state.rolledOut = false;
+    m_tools.rememberPlace(state.toolId, place);
+    stand(set);
+    showPalettes(set);
+}
+
+bool MainFrame::dock(CQrUiPaletteSet& set, Edge edge) {
+    if (!isEdgeAllowed(set, edge))
+        return false;
+    BarPlace place = placeOf(set);
+    place.floating = false;
+    place.anchored = false;
+    place.edge = edge;
+    put(set, place);
+    return true;
+}
+
+void MainFrame::floatAt(CQrUiPaletteSet& set, const CRect& rect) {
+    PaletteSetState& state = m_sets.of(&set);
+    BarPlace place = state.place;
+    place.floating = true;
+    place.anchored = false;
+    place.rect = rect;
+    put(set, place);
+    // The palettes answer for the set as it stands now: their limits differ while it floats.
+    const CSize size = limited(state, {rect.Width(), rect.Height()});
+    place.rect.right = rect.left + size.cx;
+    place.rect.bottom = rect.top + size.cy;
+    put(set, place);
+}
+
+bool MainFrame::anchor(CQrUiPaletteSet& set, bool anchored) {
+    BarPlace place = m_sets.of(&set).place;
+    if (!isEdgeAllowed(set, place.edge))
+        return false;
+    place.floating = false;
+    place.anchored = anchored;
+    put(set, place);
+    return true;
+}
+
+void MainFrame::rollOut(CQrUiPaletteSet& set, bool out) {
+    PaletteSetState& state = m_sets.of(&set);
+    state.rolledOut = out && state.place.anchored;
+    showPalettes(set);
+    layout();
+}
+
+void MainFrame::show(CQrUiPaletteSet& set, bool shown, bool delay) {
+    const auto floating = m_floating.find(&set);
+    if (floating != m_floating.end())
+        m_windows.show(floating->second->frame().m_hWnd, shown);
+    m_windows.show(set.m_hWnd, shown);
+    if (!delay)
+        layout();
+}
+
+void MainFrame::setDockedHeight(CQrUiPaletteSet& set, int height) {
+    m_sets.of(&set).dockedHeight = std::max(0, height);
+    layout();
+}
+
+void MainFrame::layout() {
+    endOrphans();
+    std::vector<DockedBar> docked;
+    std::vector<HWND> handles;
+    for (CQrUiPaletteSet* set : m_bars) {
+        const Window* const window = m_windows.find(set->m_hWnd);
+        if (window == nullptr || frameOf(*set) != &m_frame)
+            continue;
+        const PaletteSetState& state = m_sets.of(set);
+        docked.push_back(
+            {state.place.edge, widthOf(*set), state.dockedHeight, window->hasVisibleStyle()});
+        handles.push_back(set->m_hWnd);
+    }
+    const CRect client = m_windows.clientRect(m_frame.m_hWnd);
+    const DockLayout layout = layoutDocks({client.Width(), client.Height()}, docked);
+    constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
+    m_windows.place(m_leftDock.m_hWnd, layout.leftDock, kFlags);
+    m_windows.place(m_rightDock.m_hWnd, layout.rightDock, kFlags);
+    m_windows.place(m_drawingView.m_hWnd, layout.drawingView, kFlags);
+    m_windows.place(m_commandLine.m_hWnd, layout.commandLine, kFlags);
+    for (std::size_t index = 0; index < handles.size(); ++index)
+        m_windows.place(handles[index], layout.bars[index], kFlags);
+}
+
+bool MainFrame::isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const {
+    const PaletteSetState* const state = m_sets.find(&set);
+    const DWORD wanted = edge == Edge::left ? kDockLeft : kDockRight;
+    return state != nullptr && state->dockingAllowed && (state->edges & wanted) != 0;
+}
+
+/// Moves the set's window to where its place says.
+void MainFrame::stand(CQrUiPaletteSet& set) {
+    const Window* const window = m_windows.find(set.m_hWnd);
+    if (window == nullptr)
+        return;
+    const bool shown = window->hasVisibleStyle();
+    const BarPlace& place = m_sets.of(&set).place;
+    reparent(m_windows, set.m_hWnd, homeOf(set));
+    if (place.floating) {
+        FloatingFrame& floating = *m_floating.at(&set);
+        const HWND frame = floating.frame().m_hWnd;
+        m_windows.place(frame, place.rect, SWP_NOZORDER | SWP_NOACTIVATE);
+        const CRect inside = m_windows.clientRect(floating.dockBar().m_hWnd);
+        m_windows.place(set.m_hWnd, inside, SWP_NOZORDER | SWP_NOACTIVATE);
+        m_windows.show(frame, shown);
+    } else if (const auto left = m_floating.find(&set); left != m_floating.end()) {
+        m_orphans.push_back(std::move(left->second));
+        m_floating.erase(left);
+    }
+    layout();
+}
+
+/// Palettes of an anchored set are on show only while it is rolled out.
+void MainFrame::showPalettes(CQrUiPaletteSet& set) {
+    const PaletteSetState& state = m_sets.of(&set);
+    const bool shown = !state.place.anchored || state.rolledOut;
+    for (const auto& palette : state.palettes)
+        m_windows.show(palette->m_hWnd, shown);
+}
+
+/// The window that a set is to be a child of.
+HWND MainFrame::homeOf(CQrUiPaletteSet& set) {
+    const BarPlace& place = m_sets.of(&set).place;
+    if (!place.floating)
+        return place.edge == Edge::left ? m_leftDock.m_hWnd : m_rightDock.m_hWnd;
+    std::unique_ptr<FloatingFrame>& floating = m_floating[&set];
+    if (!floating)
+        floating = std::make_unique<FloatingFrame>(m_windows, place.rect);
+    return floating->dockBar().m_hWnd;
+}
+
+int MainFrame::widthOf(const CQrUiPaletteSet& set) const {
+    const PaletteSetState& state = *m_sets.find(&set);
+    if (state.place.anchored && !state.rolledOut)
+        return kStripWidth;
+    return limited(state, {state.place.rect.Width(), state.place.rect.Height()}).cx;
+}
+
+void MainFrame::endOrphans() {
+    m_orphans.clear();
+}
+
+}  // namespace workbench

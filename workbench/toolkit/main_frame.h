@@ -1,0 +1,90 @@
+#pragma once
+
+#include "workbench/toolkit/bar_place.h"
+#include "workbench/toolkit/floating_frame.h"
+#include "workbench/toolkit/object_states.h"
+#include "workbench/toolkit/state_table.h"
+#include "workbench/toolkit/tool_registry.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/qrui18/palette_set.h>
+#include <hostapi/window/frame.h>
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace workbench {
+
+constexpr UINT kLeftDockBar = 59420;   ///< ID of the main frame's left dock bar.
+constexpr UINT kRightDockBar = 59421;  ///< ID of the main frame's right dock bar.
+
+/// The host's main window: the drawing view, the docked command line ("DrawingView" and
+/// "CommandLine" by name), and the palette sets that dock at its edges or float above it.
+class MainFrame {
+public:
+    using SetStates = StateTable<CQrUiPaletteSet, PaletteSetState>;
+
+    MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools);
+    MainFrame(const MainFrame&) = delete;
+    MainFrame& operator=(const MainFrame&) = delete;
+    ~MainFrame();
+
+    CFrameWnd& frame() { return m_frame; }
+    CWnd& drawingView() { return m_drawingView; }
+    CWnd& commandLine() { return m_commandLine; }
+    /// The palette sets with a window, in order of creation.
+    const std::vector<CQrUiPaletteSet*>& bars() const { return m_bars; }
+    /// The frame that a set is docked in or floats in; null before it was placed.
+    CFrameWnd* frameOf(const CQrUiPaletteSet& set);
+
+    /// Where a set stands now, the user's sizing of its small frame included.
+    BarPlace placeOf(const CQrUiPaletteSet& set);
+    /// Takes a set in that has got its window. It is docked nowhere yet.
+    void add(CQrUiPaletteSet& set);
+    /// Lets a set go whose window ends.
+    void forget(CQrUiPaletteSet& set);
+    /// Puts a set where the user last had its tool, or else at a dock bar with a width.
+    void restore(CQrUiPaletteSet& set, UINT dockBar, const CRect& rectangle);
+    /// Puts a set at a place, with no question whether the edge is allowed.
+    void put(CQrUiPaletteSet& set, BarPlace place);
+    /// Docks a set as a user does. False if the edge is not allowed.
+    bool dock(CQrUiPaletteSet& set, Edge edge);
+    /// Floats a set as a user does, within the limits of its palettes.
+    void floatAt(CQrUiPaletteSet& set, const CRect& rect);
+    /// Anchors a set as a thin strip at its edge, or docks it again. False if the edge is not
+    /// allowed.
+    bool anchor(CQrUiPaletteSet& set, bool anchored);
+    /// Rolls an anchored set out of its strip, or in again.
+    void rollOut(CQrUiPaletteSet& set, bool out);
+    /// Shows or hides a set; the frame is laid out anew unless `delay`.
+    void show(CQrUiPaletteSet& set, bool shown, bool delay);
+    /// Gives a docked set a height in pixels, as far as its edge has room.
+    void setDockedHeight(CQrUiPaletteSet& set, int height);
+    /// Lays out docks, docked sets, drawing view and command line.
+    void layout();
+
+private:
+    void makeWindow(CWnd& object, const char* className, const char* name, UINT id);
+    bool isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const;
+    void stand(CQrUiPaletteSet& set);
+    void showPalettes(CQrUiPaletteSet& set);
+    HWND homeOf(CQrUiPaletteSet& set);
+    int widthOf(const CQrUiPaletteSet& set) const;
+    void endOrphans();
+
+    WindowSystem& m_windows;
+    SetStates& m_sets;
+    ToolRegistry& m_tools;
+    CFrameWnd m_frame;
+    CWnd m_drawingView;
+    CWnd m_commandLine;
+    CDockBar m_leftDock;
+    CDockBar m_rightDock;
+    std::vector<CQrUiPaletteSet*> m_bars;  // not owned
+    std::map<const CQrUiPaletteSet*, std::unique_ptr<FloatingFrame>> m_floating;
+    std::vector<std::unique_ptr<FloatingFrame>> m_orphans;  // their set has gone
+};
+
+}  // namespace workbench

@@ -1,0 +1,97 @@
+#include "workbench/toolkit/mouse.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/focus_return.h"
+#include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/toolkit.h"
+
+#include <cstdint>
+
+namespace workbench {
+
+HWND Mouse::windowAt(HWND window, CPoint& point) const {
+    const Window* const found = m_windows.find(window);
+    if (found == nullptr)
+        return window;
+    for (auto child = found->children.rbegin(); child != found->children.rend(); ++child) {
+        const Window& below = *m_windows.find(*child);
+        if (!below.hasVisibleStyle() || !below.rect.PtInRect(point))
+            continue;
+        point = {point.x - below.rect.left, point.y - below.rect.top};
+        return windowAt(*child, point);
+    }
+    return window;
+}
+
+bool Mouse::move(HWND window, CPoint point, WPARAM held) {
+    noteOver(window, point);
+    return send(window, WM_MOUSEMOVE, held, point);
+}
+
+bool Mouse::press(HWND window, CPoint point) {
+    noteOver(window, point);
+    Workbench::current().toolkit().toolTips().hide();
+    return send(window, kLeftButtonDown, kLeftButtonHeld, point);
+}
+
+bool Mouse::release(HWND window, CPoint point) {
+    return send(window, kLeftButtonUp, 0, point);
+}
+
+bool Mouse::doubleClick(HWND window, CPoint point) {
+    return press(window, point) && release(window, point) &&
+           send(window, kLeftButtonDoubleClick, kLeftButtonHeld, point) && release(window, point);
+}
+
+bool Mouse::contextMenu(HWND window, CPoint point) {
+    noteOver(window, point);
+    Workbench::current().toolkit().toolTips().hide();
+    return send(window, kContextMenuMessage, 0, point);
+}
+
+bool Mouse::wheel(HWND window, CPoint point, int notches) {
+    const auto turn = static_cast<UINT>(notches * kWheelStep) & 0xffffU;
+    return send(window, kMouseWheel, MAKELONG(0, turn), point);
+}
+
+void Mouse::leave() {
+    Workbench::current().toolkit().toolTips().hide();
+    const CQrUiPaletteSet* const set = paletteSetAbove(m_over);
+    const HWND left = m_over;
+    m_over = nullptr;
+    send(left, kMouseLeave, 0, {});
+    if (set != nullptr)
+        giveFocusBackOnLeave(set->m_hWnd);
+}
+
+bool Mouse::send(HWND window, UINT message, WPARAM wParam, CPoint point) {
+    const Window* const captured = m_windows.find(m_captured);
+    if (captured != nullptr && m_captured != window) {
+        const CRect from = m_windows.screenRect(window);
+        const CRect to = m_windows.screenRect(m_captured);
+        point = {point.x + from.left - to.left, point.y + from.top - to.top};
+        window = m_captured;
+    }
+    if (m_windows.find(window) == nullptr || !m_windows.takesInput(window))
+        return false;
+    m_windows.input(window, message, wParam, packPoint(point));
+    return true;
+}
+
+/// Keeps the window that the mouse is over, and its tooltip, up to date.
+void Mouse::noteOver(HWND window, CPoint point) {
+    const CQrUiPaletteSet* const before = paletteSetAbove(m_over);
+    if (before != nullptr && before != paletteSetAbove(window))
+        leave();
+    m_over = window;
+    const Window* const found = m_windows.find(window);
+    if (found == nullptr)
+        return;
+    const auto* const control = dynamic_cast<const ControlWidget*>(found->widget.get());
+    Workbench::current().toolkit().toolTips().mouseOver(
+        window, control == nullptr ? std::wstring() : control->tipAt(*found, point));
+}
+
+}  // namespace workbench

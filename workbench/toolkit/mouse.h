@@ -1,0 +1,43 @@
+#pragma once
+
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/window.h>
+
+namespace workbench {
+
+/// The user's mouse: hands its gestures to the windows as input messages. Windows that take no input
+/// get none. While a window holds the mouse all moves and releases go to it.
+class Mouse {
+public:
+    explicit Mouse(WindowSystem& windows) : m_windows(windows) {}
+
+    /// The deepest window on screen at a client point of a window, the window itself if there is
+    /// none deeper. `point` is changed to that window's client coordinates.
+    HWND windowAt(HWND window, CPoint& point) const;
+
+    /// Points are in the window's client coordinates. False if the window takes no input.
+    bool move(HWND window, CPoint point, WPARAM held = 0);
+    bool press(HWND window, CPoint point);
+    bool release(HWND window, CPoint point);
+    bool doubleClick(HWND window, CPoint point);
+    bool contextMenu(HWND window, CPoint point);
+    /// Turns the wheel by notches, forward above 0.
+    bool wheel(HWND window, CPoint point, int notches);
+    /// Leaves the window that the mouse is over, and its palette set.
+    void leave();
+
+    /// Has a window hold the mouse; null lets it go.
+    void capture(HWND window) { m_captured = window; }
+    HWND captured() const { return m_captured; }
+
+private:
+    bool send(HWND window, UINT message, WPARAM wParam, CPoint point);
+    void noteOver(HWND window, CPoint point);
+
+    WindowSystem& m_windows;
+    HWND m_over = nullptr;      // null: over none of ours
+    HWND m_captured = nullptr;  // null: no window holds the mouse
+};
+
+}  // namespace workbench

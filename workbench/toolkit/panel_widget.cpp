@@ -1,0 +1,131 @@
+#include "workbench/toolkit/panel_widget.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/context_menu.h"
+#include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/panel_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+namespace workbench {
+
+namespace {
+
+constexpr UINT kCollapseCommand = 1;
+
+WindowSystem& windowSystem() {
+    return Workbench::current().windows();
+}
+
+CQrUiPanel& panelOf(const Window& window) {
+    return *static_cast<CQrUiPanel*>(window.object);
+}
+
+PanelState& stateOf(const Window& window) {
+    return Workbench::current().toolkit().panels().of(&panelOf(window));
+}
+
+bool isOnTitle(CPoint point) {
+    return point.y >= 0 && point.y < PanelWidget::kTitleHeight;
+}
+
+bool isOnImage(CPoint point) {
+    return isOnTitle(point) && point.x < PanelWidget::kImageAreaWidth;
+}
+
+}  // namespace
+
+int PanelWidget::layout(Window& window, int width) {
+    const HWND handle = window.handle;
+    const PanelState& state = stateOf(window);
+    int bottom = kTitleHeight;
+    for (std::size_t index = 0; index < state.toolPanels.size() && !state.collapsed; ++index) {
+        CQrUiToolPanel& toolPanel = *state.toolPanels[index];
+        const Window* const below = windowSystem().find(toolPanel.m_hWnd);
+        if (below == nullptr)
+            continue;
+        windowSystem().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
+                             SWP_NOZORDER | SWP_NOACTIVATE);
+        toolPanel.UpdateLayout(0);
+        if (windowSystem().find(handle) == nullptr)
+            return 0;
+        bottom += windowSystem().screenRect(toolPanel.m_hWnd).Height();
+    }
+    return bottom;
+}
+
+void PanelWidget::collapse(Window& window, bool collapsed) {
+    PanelState& state = stateOf(window);
+    if (state.collapsed == collapsed)
+        return;
+    state.collapsed = collapsed;
+    windowSystem().noteChange(window.handle, "collapsed", !collapsed, collapsed);
+    CQrUiPanel& panel = panelOf(window);
+    const HWND parent = window.parent;
+    for (const auto& toolPanel : state.toolPanels)
+        windowSystem().show(toolPanel->m_hWnd, !collapsed);
+    const Window* const set = windowSystem().find(parent);
+    if (set == nullptr || dynamic_cast<const PanelSetWidget*>(set->widget.get()) == nullptr)
+        return;
+    auto& panelSet = *static_cast<CQrUiPanelSet*>(set->object);
+    if (collapsed)
+        panelSet.OnPanelCollapsed(&panel);
+    else
+        panelSet.OnPanelExpanded(&panel);
+}
+
+bool PanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
+                         LRESULT& answer) {
+    const CPoint point = unpackPoint(lParam);
+    switch (message) {
+    case kLeftButtonDown:
+        m_titlePressed = isOnTitle(point) && !isOnImage(point);
+        return true;
+    case kLeftButtonUp:
+        if (m_titlePressed && isOnTitle(point) && !isOnImage(point))
+            collapse(window, !stateOf(window).collapsed);
+        return true;
+    case kLeftButtonDoubleClick:
+        if (isOnImage(point))
+            panelOf(window).OnActivatePanel();
+        return true;
+    case kContextMenuMessage:
+        openContextMenu(window);
+        return true;
+    case kMouseWheel:
+        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        return true;
+    case WM_QRUI_THEME_CHANGED:
+        changeTheme(window, wParam, lParam);
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::string PanelWidget::describe(const Window& window) const {
+    return stateOf(window).collapsed ? "collapsed" : "";
+}
+
+void PanelWidget::openContextMenu(Window& window) {
+    CMenu menu;
+    if (menu.CreatePopupMenu() == 0)
+        return;
+    const bool collapsed = stateOf(window).collapsed;
+    menu.AppendMenu(MF_STRING, kCollapseCommand, collapsed ? L"Expand" : L"Collapse");
+    if (panelOf(window).AddContextMenuItems(menu) == 0)
+        return;
+    runContextMenu(window.handle, menu, [this, collapsed](Window& panel, UINT command) {
+        if (command == kCollapseCommand)
+            collapse(panel, !collapsed);
+        return command == kCollapseCommand;
+    });
+}
+
+void PanelWidget::changeTheme(const Window& window, WPARAM wParam, LPARAM lParam) {
+    const std::vector<HWND> children = window.children;
+    for (const HWND child : children)
+        windowSystem().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
+}
+
+}  // namespace workbench

@@ -1,0 +1,38 @@
+#include "workbench/toolkit/picture_table.h"
+
+#include "workbench/base/input_error.h"
+
+namespace workbench {
+
+namespace {
+
+std::uintptr_t numberOf(HBITMAP picture) {
+    return reinterpret_cast<std::uintptr_t>(picture);
+}
+
+}  // namespace
+
+HBITMAP PictureTable::add(std::string source, std::vector<std::uint8_t> png) {
+    m_pictures.emplace(++m_lastNumber, Picture{std::move(source), std::move(png)});
+    return reinterpret_cast<HBITMAP>(m_lastNumber);
+}
+
+void PictureTable::release(HBITMAP picture) {
+    m_pictures.erase(numberOf(picture));
+}
+
+const std::string& PictureTable::source(HBITMAP picture) const {
+    static const std::string kNone;
+    const auto found = m_pictures.find(numberOf(picture));
+    return found == m_pictures.end() ? kNone : found->second.source;
+}
+
+PngPicture PictureTable::pixels(HBITMAP picture) const {
+    const auto found = m_pictures.find(numberOf(picture));
+    if (found == m_pictures.end())
+        throw InputError("picture", "it was given back");
+    const Picture& known = found->second;
+    return decodePng(known.png.data(), known.png.size(), known.source);
+}
+
+}  // namespace workbench

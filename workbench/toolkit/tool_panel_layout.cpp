@@ -1,0 +1,94 @@
+#include "workbench/toolkit/tool_panel_layout.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/tool_panel_widget.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+namespace workbench {
+
+namespace {
+
+RowItem::Kind kindOf(int type) {
+    switch (type) {
+    case kItemFlyout:
+        return RowItem::Kind::flyout;
+    case kItemControl:
+        return RowItem::Kind::control;
+    case kItemSeparator:
+        return RowItem::Kind::separator;
+    case kItemRowBreak:
+        return RowItem::Kind::rowBreak;
+    default:
+        return RowItem::Kind::button;
+    }
+}
+
+/// Hides the control of a hidden item. Shows only what was hidden here: a control that its owner
+/// hid stays so.
+void showControl(CQrUiToolPanelItem::Record& record, bool shown) {
+    WindowSystem& windows = Workbench::current().windows();
+    const Window* const window = windows.find(record.control);
+    if (!shown && window->hasVisibleStyle()) {
+        record.controlHidden = true;
+        windows.show(record.control, false);
+    } else if (shown && record.controlHidden) {
+        record.controlHidden = false;
+        windows.show(record.control, true);
+    }
+}
+
+void placeControl(HWND control, const CRect& rect) {
+    WindowSystem& windows = Workbench::current().windows();
+    constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
+    const Window* const window = windows.find(control);
+    if (dynamic_cast<const ToolPanelWidget*>(window->widget.get()) == nullptr) {
+        windows.place(control, rect, kFlags);
+        return;
+    }
+    auto& panel = *static_cast<CQrUiToolPanel*>(window->object);
+    auto& states = Workbench::current().toolkit().toolPanels();
+    states.of(&panel).beingPlaced = true;
+    windows.place(control, rect, kFlags);
+    if (windows.find(control) == nullptr)
+        return;
+    states.of(&panel).beingPlaced = false;
+    panel.UpdateLayout(0);
+}
+
+}  // namespace
+
+std::vector<RowItem> rowItemsOf(const CQrUiToolPanel& panel) {
+    std::vector<RowItem> items;
+    items.reserve(static_cast<std::size_t>(panel.GetToolPanelItemCount()));
+    for (int index = 0; index < panel.GetToolPanelItemCount(); ++index) {
+        const CQrUiToolPanelItem& item = *panel.GetToolPanelItem(index);
+        items.push_back({kindOf(item.GetType()), (item.GetState() & kItemHidden) != 0});
+    }
+    return items;
+}
+
+int controlHeight(const CQrUiToolPanelItem& item, int width) {
+    const Window* const window = Workbench::current().windows().find(item.GetControl());
+    if (window == nullptr)
+        return 0;
+    const auto* const control = dynamic_cast<const ControlWidget*>(window->widget.get());
+    return control == nullptr ? window->rect.Height() : control->naturalHeight(*window, width);
+}
+
+void placeItem(CQrUiToolPanelItem& item, const CRect& rect) {
+    CQrUiToolPanelItem::Record& record = *item.m_record;
+    record.rect = rect;
+    record.laidOut = true;
+    if (Workbench::current().windows().find(record.control) == nullptr)
+        return;
+    const bool shown = (record.state & kItemHidden) == 0;
+    const HWND control = record.control;
+    showControl(record, shown);
+    if (shown && Workbench::current().windows().find(control) != nullptr)
+        placeControl(control, rect);
+}
+
+}  // namespace workbench

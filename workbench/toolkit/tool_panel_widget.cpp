@@ -1,0 +1,162 @@
+#include "workbench/toolkit/tool_panel_widget.h"
+
+#include "workbench/base/text.h"
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/flyout_menu.h"
+#include "workbench/toolkit/focus_return.h"
+#include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/panel_widget.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/tool_panel_layout.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+constexpr UINT kIndentStyle = 2;
+constexpr int kImageIndent = 24;  // pixels, the panel's image and its border
+
+WindowSystem& windowSystem() {
+    return Workbench::current().windows();
+}
+
+CQrUiToolPanel& panelOf(const Window& window) {
+    return *static_cast<CQrUiToolPanel*>(window.object);
+}
+
+template <class Type>
+bool standsIn(const Window& window) {
+    const Window* const parent = windowSystem().find(window.parent);
+    return parent != nullptr && dynamic_cast<const Type*>(parent->widget.get()) != nullptr;
+}
+
+CQrUiToolPanelItem* itemAt(const CQrUiToolPanel& panel, CPoint point) {
+    for (int index = 0; index < panel.GetToolPanelItemCount(); ++index) {
+        CQrUiToolPanelItem* const item = panel.GetToolPanelItem(index);
+        const CQrUiToolPanelItem::Record& record = *item->m_record;
+        if ((record.state & kItemHidden) == 0 && record.rect.PtInRect(point))
+            return item;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+RowLayout ToolPanelWidget::rows(const CQrUiToolPanel& panel, int width) const {
+    RowMetrics metrics;
+    metrics.iconSize = Workbench::current().toolkit().iconSize();
+    metrics.indent = (m_toolkitStyle & kIndentStyle) != 0 ? kImageIndent : 0;
+    return layoutRows(
+        rowItemsOf(panel), width, metrics, [&panel](std::size_t index, int controlWidth) {
+            return controlHeight(*panel.GetToolPanelItem(static_cast<int>(index)), controlWidth);
+        });
+}
+
+void ToolPanelWidget::layout(Window& window) {
+    CQrUiToolPanel& panel = panelOf(window);
+    const HWND handle = window.handle;
+    const RowLayout places = rows(panel, window.rect.Width());
+    for (std::size_t index = 0; index < places.items.size(); ++index) {
+        // Placing a control may run its code, which may change the panel.
+        CQrUiToolPanelItem* const item = panel.GetToolPanelItem(static_cast<int>(index));
+        if (item == nullptr || windowSystem().find(handle) == nullptr)
+            return;
+        placeItem(*item, places.items[index]);
+    }
+    if (windowSystem().find(handle) != nullptr && standsIn<PanelWidget>(window))
+        windowSystem().place(handle, {0, 0, window.rect.Width(), places.height},
+                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
+                             LRESULT& answer) {
+    switch (message) {
+    case WM_SIZE:
+        if (standsIn<ToolPanelWidget>(window) &&
+            !Workbench::current().toolkit().toolPanels().of(&panelOf(window)).beingPlaced)
+            panelOf(window).UpdateLayout(1);
+        return true;
+    case kLeftButtonDown:
+        press(window, unpackPoint(lParam));
+        return true;
+    case kLeftButtonUp:
+        release(window, static_cast<UINT>(wParam), unpackPoint(lParam));
+        return true;
+    case kContextMenuMessage:
+        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        return true;
+    case kMouseWheel:
+        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        return true;
+    case WM_QRUI_THEME_CHANGED:
+        changeTheme(window, wParam, lParam);
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::string ToolPanelWidget::describe(const Window& window) const {
+    const int count = panelOf(window).GetToolPanelItemCount();
+    return std::to_string(count) + (count == 1 ? " item" : " items");
+}
+
+int ToolPanelWidget::naturalHeight(const Window& window, int width) const {
+    return rows(panelOf(window), width).height;
+}
+
+std::wstring ToolPanelWidget::tipAt(const Window& window, CPoint point) const {
+    const CQrUiToolPanelItem* const item = itemAt(panelOf(window), point);
+    return item == nullptr ? std::wstring() : item->GetName();
+}
+
+void ToolPanelWidget::press(const Window& window, CPoint point) {
+    m_pressed = itemAt(panelOf(window), point);
+    m_focusBefore = windowSystem().focus();
+    m_isPressed = true;
+}
+
+void ToolPanelWidget::release(Window& window, UINT flags, CPoint point) {
+    CQrUiToolPanelItem* const item = itemAt(panelOf(window), point);
+    if (!m_isPressed || item != m_pressed)
+        return;
+    m_isPressed = false;
+    const HWND handle = window.handle;
+    const HWND before = m_focusBefore;
+    if (item != nullptr)
+        click(window, *item, flags, point);
+    else if (standsIn<ToolPanelWidget>(window))
+        panelOf(window).OnLButtonClicked(flags, point);
+    giveFocusBack(handle, before);
+}
+
+void ToolPanelWidget::click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point) {
+    if ((item.GetState() & (kItemDisabled | kItemHidden)) != 0)
+        return;
+    if (standsIn<ToolPanelWidget>(window)) {
+        panelOf(window).OnLButtonClicked(flags, point);
+        return;
+    }
+    const bool onArrow =
+        item.GetType() == kItemFlyout && point.x >= item.m_record->rect.right - kFlyoutArrowWidth;
+    if (onArrow && !openFlyout(item))
+        return;
+    windowSystem().send(window.parent, WM_QRUI_ITEM_CLICKED, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+/// Hands the change on to the controls and lays out anew, since fonts and hidden items may differ.
+void ToolPanelWidget::changeTheme(Window& window, WPARAM wParam, LPARAM lParam) {
+    const HWND handle = window.handle;
+    CQrUiToolPanel& panel = panelOf(window);
+    const std::vector<HWND> children = window.children;
+    for (const HWND child : children)
+        windowSystem().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
+    if (windowSystem().find(handle) != nullptr)
+        panel.UpdateLayout(1);
+}
+
+}  // namespace workbench

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/window.h>
+
+#include <string>
+
+namespace workbench {
+
+/// Tooltips: a text is shown when the mouse has rested over its window for a while.
+class ToolTips {
+public:
+    explicit ToolTips(WindowSystem& windows, Journal& journal);
+    ToolTips(const ToolTips&) = delete;
+    ToolTips& operator=(const ToolTips&) = delete;
+    ~ToolTips();
+
+    /// The mouse moved over a part of a window that has a text; an empty one has no tooltip. The
+    /// wait begins anew if window or text differ from before.
+    void mouseOver(HWND window, const std::wstring& text);
+    /// The mouse went elsewhere, or a button was pressed.
+    void hide();
+    /// The text on show; empty for none.
+    const std::wstring& shown() const { return m_shown; }
+
+private:
+    class RestWidget;
+    void showNow();
+
+    WindowSystem& m_windows;
+    Journal& m_journal;
+    CWnd m_clock;           // a hidden window that bears the timer
+    HWND m_over = nullptr;  // null: over nothing with a text
+    std::wstring m_text;
+    std::wstring m_shown;
+};
+
+}  // namespace workbench

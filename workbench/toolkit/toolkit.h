@@ -1,0 +1,73 @@
+#pragma once
+
+#include "workbench/core/workbench.h"
+#include "workbench/toolkit/balloon_tips.h"
+#include "workbench/toolkit/main_frame.h"
+#include "workbench/toolkit/message_boxes.h"
+#include "workbench/toolkit/mouse.h"
+#include "workbench/toolkit/object_states.h"
+#include "workbench/toolkit/picture_table.h"
+#include "workbench/toolkit/popup_menus.h"
+#include "workbench/toolkit/state_table.h"
+#include "workbench/toolkit/theme_manager.h"
+#include "workbench/toolkit/tool_registry.h"
+#include "workbench/toolkit/tool_tips.h"
+
+#include <hostapi/qrui18.h>
+
+namespace workbench {
+
+/// The host's toolkit: the main frame with the palette sets in it, themes, pictures, and everything
+/// that speaks to the user. What the toolkit keeps for an object stands in a table by object.
+class Toolkit {
+public:
+    /// Takes windows, journal and answers of the workbench, which must be there already.
+    explicit Toolkit(Workbench& workbench);
+
+    MainFrame& frame() { return m_frame; }
+    ThemeManager& themes() { return m_themes; }
+    ToolRegistry& tools() { return m_tools; }
+    PictureTable& pictures() { return m_pictures; }
+    BalloonTips& balloons() { return m_balloons; }
+    ToolTips& toolTips() { return m_toolTips; }
+    MessageBoxes& boxes() { return m_boxes; }
+    PopupMenus& menus() { return m_menus; }
+    Mouse& mouse() { return m_mouse; }
+
+    StateTable<CQrUiPaletteSet, PaletteSetState>& paletteSets() { return m_paletteSets; }
+    StateTable<CQrUiPanelSet, PanelSetState>& panelSets() { return m_panelSets; }
+    StateTable<CQrUiPanel, PanelState>& panels() { return m_panels; }
+    StateTable<CQrUiToolPanel, ToolPanelState>& toolPanels() { return m_toolPanels; }
+
+    /// The size in pixels that tools are shown in, 16 or 32. A new size shows at the next layout.
+    int iconSize() const { return m_iconSize; }
+    void setIconSize(int pixels) { m_iconSize = pixels; }
+
+    /// One idle tick: the palette sets bring their commands up to date.
+    void idleUpdate();
+
+    /// The number of items that have not ended.
+    int liveItems() const { return m_liveItems; }
+    void noteItemMade() { ++m_liveItems; }
+    void noteItemEnded() { --m_liveItems; }
+
+private:
+    WindowSystem& m_windows;
+    ToolRegistry m_tools;
+    ThemeManager m_themes;
+    PictureTable m_pictures;
+    StateTable<CQrUiToolPanel, ToolPanelState> m_toolPanels;
+    StateTable<CQrUiPanel, PanelState> m_panels;
+    StateTable<CQrUiPanelSet, PanelSetState> m_panelSets;
+    StateTable<CQrUiPaletteSet, PaletteSetState> m_paletteSets;
+    MainFrame m_frame;
+    BalloonTips m_balloons;
+    ToolTips m_toolTips;
+    MessageBoxes m_boxes;
+    PopupMenus m_menus;
+    Mouse m_mouse;
+    int m_iconSize = 16;  // pixels
+    int m_liveItems = 0;
+};
+
+}  // namespace workbench
