@@ -1,5 +1,6 @@
 #include "workbench/toolkit/main_frame.h"
 
+#include "workbench/toolkit/click_focus_widget.h"
 #include "workbench/toolkit/dock_layout.h"
 #include "workbench/toolkit/reparent.h"
 
@@ -61,6 +62,7 @@ void MainFrame::makeWindow(CWnd& object, const char* className, const char* name
     creation.id = static_cast<int>(id);
     if (creation.parent != nullptr)
         creation.style |= WS_CHILD;
+    creation.widget = std::make_unique<ClickFocusWidget>();
     m_windows.create(object, std::move(creation));
     if (*name != '\0')
         m_windows.setName(object.m_hWnd, name);

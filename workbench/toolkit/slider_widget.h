@@ -21,6 +21,8 @@ public:
     int lineSize() const { return m_lineSize; }
     const std::vector<int>& ticks() const { return m_ticks; }
     bool isDragging() const { return m_drag.has_value(); }
+    /// The x of the mouse at the last move of a drag, in client coordinates; 0 outside of one.
+    int dragX() const { return m_drag ? m_drag->x : 0; }
 
     void setRange(Window& window, int lowest, int highest);
     void setLineSize(int positions) { m_lineSize = positions; }

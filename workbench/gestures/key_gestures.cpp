@@ -1,0 +1,76 @@
+#include "workbench/gestures/key_gestures.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/gestures/gesture_error.h"
+#include "workbench/gestures/mouse_gestures.h"
+#include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace workbench::gestures {
+
+namespace {
+
+struct NamedKey {
+    const char* name;
+    UINT message;
+    WPARAM key;
+};
+constexpr NamedKey kKeys[] = {
+    {"enter", WM_KEYDOWN, VK_RETURN},       {"escape", WM_KEYDOWN, VK_ESCAPE},
+    {"tab", WM_KEYDOWN, kKeyTab},           {"left", WM_KEYDOWN, kKeyLeft},
+    {"right", WM_KEYDOWN, kKeyRight},       {"up", WM_KEYDOWN, kKeyUp},
+    {"down", WM_KEYDOWN, kKeyDown},         {"home", WM_KEYDOWN, kKeyHome},
+    {"end", WM_KEYDOWN, kKeyEnd},           {"pageup", WM_KEYDOWN, kKeyPageUp},
+    {"pagedown", WM_KEYDOWN, kKeyPageDown}, {"backspace", kCharMessage, kCharBackspace},
+    {"delete", WM_KEYDOWN, kKeyDelete},     {"f1", WM_HELP, 0},
+};
+
+void typeCharacter(wchar_t character) {
+    Workbench::current().windows().input(nullptr, kCharMessage, static_cast<WPARAM>(character), 0);
+}
+
+}  // namespace
+
+bool focusField(HWND field) {
+    requireOnScreen(field);
+    return clickAt(field, middleOf(field)) && Workbench::current().windows().focus() == field;
+}
+
+void typeText(std::wstring_view text) {
+    for (const wchar_t character : text)
+        typeCharacter(character);
+}
+
+void replaceText(std::wstring_view text) {
+    typeCharacter(kCharSelectAll);
+    if (text.empty())
+        typeCharacter(kCharBackspace);
+    typeText(text);
+}
+
+void pressKey(std::string_view name, HWND window) {
+    const auto* const key =
+        std::find_if(std::begin(kKeys), std::end(kKeys),
+                     [name](const NamedKey& each) { return name == each.name; });
+    if (key == std::end(kKeys))
+        throw GestureError("there is no key \"" + std::string(name) + "\"");
+    Workbench::current().windows().input(window, key->message, key->key, 0);
+}
+
+std::vector<std::string> keyNames() {
+    std::vector<std::string> names;
+    for (const NamedKey& key : kKeys)
+        names.emplace_back(key.name);
+    return names;
+}
+
+void blur() {
+    const HWND view = Workbench::current().toolkit().frame().drawingView().m_hWnd;
+    clickAt(view, middleOf(view));
+}
+
+}  // namespace workbench::gestures

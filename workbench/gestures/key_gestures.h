@@ -1,0 +1,27 @@
+#pragma once
+
+#include <hostapi/types.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// What a user does with the keyboard: keys go to the window with the focus.
+namespace workbench::gestures {
+
+/// Clicks into an edit field. False if it is disabled; raises `GestureError` if it is not on show.
+bool focusField(HWND field);
+/// Types a text into the window with the focus.
+void typeText(std::wstring_view text);
+/// Selects all of the field with the focus and types a text over it.
+void replaceText(std::wstring_view text);
+/// Presses a key by its name: "enter", "escape", "tab", "left", "right", "up", "down", "home",
+/// "end", "pageup", "pagedown", "backspace", "delete", "f1". Raises `GestureError` for another name.
+/// `window` gets the key in place of the window with the focus, unless it is null.
+void pressKey(std::string_view name, HWND window = nullptr);
+/// The names that `pressKey` takes.
+std::vector<std::string> keyNames();
+/// Clicks into the drawing view, so that the dashboard loses the focus.
+void blur();
+
+}  // namespace workbench::gestures
