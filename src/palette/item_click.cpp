@@ -1,0 +1,57 @@
+#include "palette/item_click.h"
+
+#include "palette/foreign_module.h"
+
+#include "core/constants.h"
+#include "core/module.h"
+#include "core/text.h"
+
+#include "controls/control_manager.h"
+#include "controls/tool_clicks.h"
+
+#include <hostapi/qrui18/tool_panel_item.h>
+#include <hostapi/vxdashboard.h>
+#include <hostapi/zorq/frame_windows.h>
+#include <hostapi/zorq/menu_data.h>
+
+namespace {
+
+void runInModule(const VxString& module, CQrUiToolPanelItem* item) {
+    if (equalNoCase(module, kModuleFile)) {
+        if (CVxDaControlMgr* controls = controlManager())
+            controls->handleToolClick(item);
+        return;
+    }
+    void* symbol = findModuleExport(module, "VxDaButtonClicked");
+    if (symbol != nullptr)
+        reinterpret_cast<VxDaButtonClickedFn>(symbol)(item);
+}
+
+void runMacro(CQrUiToolPanelItem* item) {
+    if (CWnd* view = vxedGetZorqDwgView())
+        view->SetFocus();
+    sendItemMacro(item);
+}
+
+}  // namespace
+
+int dispatchItemClick(CQrUiToolPanelItem* item) {
+    if (item == nullptr)
+        return 0;
+    const int type = item->GetType();
+    if (type == kItemSeparator || type == kItemRowBreak)
+        return 1;
+    if (type == kItemFlyout)
+        item = item->GetCurrentFlyoutTool();
+    if (item == nullptr)
+        return 0;
+    const VxToolPanelItemData* data = QrUiGetToolPanelItemData(item);
+    if (data == nullptr)
+        return 0;
+    if (!data->module.empty()) {
+        runInModule(data->module, item);
+    } else if (!data->macro.empty()) {
+        runMacro(item);
+    }
+    return 1;
+}

@@ -1,0 +1,131 @@
+#include "palette/palette.h"
+
+#include "palette/dashboard.h"
+#include "palette/panel_set.h"
+
+#include "core/theme.h"
+
+#include <hostapi/qrui18/messages.h>
+
+namespace {
+
+constexpr UINT kPanelSetId = 1;
+
+CSize windowSize(const CWnd& window) {
+    const CRect rect = window.GetWindowRect();
+    return {rect.Width(), rect.Height()};
+}
+
+/// The size that a panel set reports.
+CSize reportedSize(WPARAM wParam) {
+    return {static_cast<int>(LOWORD(wParam)), static_cast<int>(HIWORD(wParam))};
+}
+
+bool floats(const CQrUiPaletteSet* paletteSet) {
+    return paletteSet != nullptr && paletteSet->IsFloating() != 0;
+}
+
+}  // namespace
+
+constexpr MessageEntry CVxDaPalette::kMessages[] = {
+    {WM_CREATE, to<&CVxDaPalette::onCreate>},
+    {WM_SIZE, to<&CVxDaPalette::onSize>},
+    {WM_QRUI_POSITION, to<&CVxDaPalette::onContentSize>},
+};
+
+const MessageMap CVxDaPalette::kMessageMap{&CQrUiPalette::GetThisMessageMap, kMessages,
+                                           std::size(kMessages)};
+
+const MessageMap& CVxDaPalette::GetMessageMap() const {
+    static_assert(hostapi::isAscendingAndUnique(kMessages));
+    return kMessageMap;
+}
+
+CVxDaPalette::CVxDaPalette() {
+    makePanelSet();
+}
+
+CVxDaPalette::~CVxDaPalette() = default;
+
+void CVxDaPalette::makePanelSet() {
+    m_pPanelSet = std::make_unique<CVxDaPanelSet>();
+    m_pPanelSet->SetTheme(dashboardTheme());
+}
+
+void CVxDaPalette::createPanelSetWindow(const CRect& rect) {
+    m_pPanelSet->Create(WS_CHILD | WS_VISIBLE, rect, this, kPanelSetId);
+}
+
+void CVxDaPalette::replacePanelSet() {
+    if (m_pPanelSet == nullptr)
+        return;
+    if (IsWindow(m_pPanelSet->m_hWnd))
+        m_pPanelSet->DestroyWindow();
+    m_pPanelSet.reset();
+    makePanelSet();
+    createPanelSetWindow(GetClientRect());
+}
+
+bool CVxDaPalette::hasVisiblePanel() const {
+    return m_pPanelSet != nullptr && m_pPanelSet->HasVisiblePanel() != 0;
+}
+
+bool CVxDaPalette::GetMinimumSize(CSize& size) {
+    size = {};
+    if (!hasVisiblePanel())
+        return false;
+    CSize least = windowSize(*m_pPanelSet);
+    size.cy = least.cy;
+    m_pPanelSet->GetMinimumSize(least);
+    size.cx = least.cx;
+    if (floats(GetPaletteSet()))
+        size.cx += GetSystemMetrics(SM_CXSIZEFRAME);
+    return true;
+}
+
+bool CVxDaPalette::GetMaximumSize(CSize& size) {
+    const CQrUiPaletteSet* paletteSet = GetPaletteSet();
+    if (paletteSet != nullptr && paletteSet->Anchored() != 0)
+        return false;
+    size.cx = -1;
+    if (!hasVisiblePanel())
+        return false;
+    size.cy = windowSize(*m_pPanelSet).cy;
+    if (floats(paletteSet))
+        size.cy += paletteSet->GetNonClientSize().cy;
+    return true;
+}
+
+bool CVxDaPalette::CanFrameworkTakeFocus() {
+    if (m_pPanelSet == nullptr)
+        return true;
+    for (HWND control : m_pPanelSet->controlWindows()) {
+        // A control such as a combo with its list open needs the focus.
+        if (::SendMessage(control, WM_QRUI_KEEP_FOCUS, 0, 0) != 0)
+            return false;
+    }
+    return true;
+}
+
+LRESULT CVxDaPalette::onCreate(WPARAM /*unused*/, LPARAM /*create*/) {
+    const LRESULT answer = Default();
+    // Kept as it is: this is the palette's place on the screen, because the first size message
+    // moves the panel set into the client area anyway.
+    createPanelSetWindow(GetWindowRect());
+    return answer;
+}
+
+LRESULT CVxDaPalette::onSize(WPARAM /*kind*/, LPARAM /*size*/) {
+    const LRESULT answer = Default();
+    if (m_pPanelSet != nullptr && IsWindow(m_pPanelSet->m_hWnd)) {
+        m_pPanelSet->MoveWindow(GetClientRect());
+    }
+    return answer;
+}
+
+LRESULT CVxDaPalette::onContentSize(WPARAM size, LPARAM /*unused*/) {
+    if (auto* dashboard = dynamic_cast<CVxDaDashboard*>(GetParent())) {
+        dashboard->resizeToContent(reportedSize(size));
+    }
+    return 0;
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "palette/panel.h"
+
+#include <hostapi/types.h>
+#include <hostapi/vxut.h>
+
+#include <memory>
+#include <vector>
+
+/// A panel that the host knows, shown or not. Menu group and ID together identify it.
+struct PanelRecord {
+    VxString id;
+    VxString title;
+    VxString image;  ///< Resource key or file name; empty for none.
+    VxString menuGroup;
+    VxUtResString toolPaletteGroup;  ///< Empty for none. A made panel has its own copy.
+    CStringArray toolPanelIds;
+    std::unique_ptr<CVxDaPanel> panel;  ///< Null until first shown.
+    bool visible = true;                ///< The panel is to be shown.
+
+    /// Whether the panel was made and has the visible style.
+    bool isOnShow() const { return panel != nullptr && (panel->GetStyle() & WS_VISIBLE) != 0; }
+};
+
+using PanelRecords = std::vector<PanelRecord>;
+
+/// The index of the first record with this ID and menu group, both exact; -1 for none.
+inline int findPanelRecord(const PanelRecords& records, const VxString& menuGroup,
+                           const VxString& id) {
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        if (records[i].id == id && records[i].menuGroup == menuGroup)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
