@@ -24,6 +24,10 @@ public:
     virtual CVxTcUiToolPaletteSet* GetToolPaletteWindow() = 0;
 };
 
+/// Type of the export "VxTpShowScheme" of the tool palettes' module: shows (1) or hides (0) the
+/// palettes of a scheme. Answers 0 for an unknown scheme.
+using VxTpShowSchemeFn = int (*)(const wchar_t* scheme, int show);
+
 /// The manager, null while tool palettes are not installed.
 CVxTcUiManager* VxTcUiGetManager();
 /// Appends the names of a scheme's groups in their order. Returns 0 for an unknown scheme.

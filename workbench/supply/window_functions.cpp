@@ -45,6 +45,10 @@ void SetArrowCursor() {
     const HostCall call("SetArrowCursor");
 }
 
+int Collate(const VxString& left, const VxString& right) {
+    return usersOrder().compare(left, right);
+}
+
 int CollateNoCase(const VxString& left, const VxString& right) {
     return usersOrder().compareNoCase(left, right);
 }

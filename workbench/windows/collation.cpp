@@ -12,25 +12,40 @@
 namespace workbench {
 
 struct Collation::Order {
+    Order(const std::string& locale, icu::Collator::ECollationStrength strength);
+    int compare(std::wstring_view left, std::wstring_view right) const;
+
     std::unique_ptr<icu::Collator> collator;
 };
 
+Collation::Order::Order(const std::string& locale, icu::Collator::ECollationStrength strength) {
+    UErrorCode status = U_ZERO_ERROR;
+    collator.reset(icu::Collator::createInstance(icu::Locale(locale.c_str()), status));
+    if (U_FAILURE(status) || collator == nullptr)
+        throw std::runtime_error("no order of texts for the locale " + locale);
+    collator->setStrength(strength);
+}
+
+int Collation::Order::compare(std::wstring_view left, std::wstring_view right) const {
+    UErrorCode status = U_ZERO_ERROR;
+    return collator->compare(icu::UnicodeString::fromUTF8(toUtf8(left)),
+                             icu::UnicodeString::fromUTF8(toUtf8(right)), status);
+}
+
 Collation::Collation(std::string locale)
     : m_locale(std::move(locale)),
-      m_order(std::make_unique<Order>()) {
-    UErrorCode status = U_ZERO_ERROR;
-    m_order->collator.reset(icu::Collator::createInstance(icu::Locale(m_locale.c_str()), status));
-    if (U_FAILURE(status) || m_order->collator == nullptr)
-        throw std::runtime_error("no order of texts for the locale " + m_locale);
-    m_order->collator->setStrength(icu::Collator::SECONDARY);
+      m_exact(std::make_unique<Order>(m_locale, icu::Collator::TERTIARY)),
+      m_noCase(std::make_unique<Order>(m_locale, icu::Collator::SECONDARY)) {
 }
 
 Collation::~Collation() = default;
 
+int Collation::compare(std::wstring_view left, std::wstring_view right) const {
+    return m_exact->compare(left, right);
+}
+
 int Collation::compareNoCase(std::wstring_view left, std::wstring_view right) const {
-    UErrorCode status = U_ZERO_ERROR;
-    return m_order->collator->compare(icu::UnicodeString::fromUTF8(toUtf8(left)),
-                                      icu::UnicodeString::fromUTF8(toUtf8(right)), status);
+    return m_noCase->compare(left, right);
 }
 
 }  // namespace workbench

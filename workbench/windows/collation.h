@@ -17,6 +17,8 @@ public:
     ~Collation();
 
     const std::string& locale() const { return m_locale; }
+    /// Below, equal to or above 0; case and accents count.
+    int compare(std::wstring_view left, std::wstring_view right) const;
     /// Below, equal to or above 0; case is ignored, accents are not.
     int compareNoCase(std::wstring_view left, std::wstring_view right) const;
 
@@ -24,7 +26,8 @@ private:
     struct Order;
 
     std::string m_locale;
-    std::unique_ptr<Order> m_order;
+    std::unique_ptr<Order> m_exact;
+    std::unique_ptr<Order> m_noCase;
 };
 
 }  // namespace workbench

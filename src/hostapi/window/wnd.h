@@ -113,5 +113,7 @@ LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 int GetSystemMetrics(int index);
 /// Sets the standard arrow as the mouse cursor.
 void SetArrowCursor();
+/// Compares two texts by the user's language: below, equal to or above 0.
+int Collate(const VxString& left, const VxString& right);
 /// Compares two texts by the user's language, ignoring case: below, equal to or above 0.
 int CollateNoCase(const VxString& left, const VxString& right);
