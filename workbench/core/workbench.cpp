@@ -1,5 +1,6 @@
 #include "workbench/core/workbench.h"
 
+#include "workbench/loader/module_loader.h"
 #include "workbench/windows/window_system.h"
 
 #include <stdexcept>
@@ -9,7 +10,6 @@ namespace workbench {
 
 class Editor {};
 class MenuHost {};
-class ModuleLoader {};
 class NavigationTool {};
 class ProfileStore {};
 class Toolkit {};
@@ -51,10 +51,14 @@ Workbench* Workbench::living() {
 
 void Workbench::makeUnits() {
     m_windows = std::make_unique<WindowSystem>(m_clock, m_journal);
+    m_modules = std::make_unique<ModuleLoader>(m_options, m_faults);
 }
 
-/// Ends the units in the opposite order of their making; each may still use those made before it.
+/// Unloads what is still loaded while all units live, then ends them in the opposite order of their
+/// making; each may still use those made before it.
 void Workbench::endUnits() {
+    if (m_modules != nullptr)
+        m_modules->unloadAll();
     m_navigation.reset();
     m_toolPalettes.reset();
     m_menu.reset();

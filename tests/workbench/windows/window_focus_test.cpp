@@ -1,0 +1,141 @@
+#include "tests/workbench/windows/window_fixture.h"
+
+namespace workbench {
+
+namespace {
+
+constexpr int kFirstId = 10001;
+constexpr int kSecondId = 10002;
+
+/// Writes down the focus notifications that it gets, with the focus at that time.
+class FocusParent : public CWnd {
+public:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        const bool isKill = HIWORD(wParam) == EN_KILLFOCUS;
+        const CWnd* const focus = CWnd::GetFocus();
+        log.push_back(std::to_string(LOWORD(wParam)) + (isKill ? " lost" : " got") + ", focus " +
+                      (focus == nullptr ? "none" : std::to_string(focus->GetDlgCtrlID())));
+        controls.push_back(lParam);
+        if (onNotification)
+            onNotification(isKill);
+        return CWnd::OnCommand(wParam, lParam);
+    }
+
+    std::vector<std::string> log;
+    std::vector<LPARAM> controls;
+    std::function<void(bool isKill)> onNotification;
+};
+
+using Log = std::vector<std::string>;
+
+class WindowFocusTest : public WindowTest {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(make(parent));
+        ASSERT_TRUE(makeEdit(first, parent, kFirstId));
+        ASSERT_TRUE(makeEdit(second, parent, kSecondId));
+        ASSERT_TRUE(make(plain, &parent, 3));
+    }
+
+    FocusParent parent;
+    CWnd first;
+    CWnd second;
+    CWnd plain;
+};
+
+}  // namespace
+
+TEST_F(WindowFocusTest, TheParentHearsOfTheOldFieldFirstWhenTheNewOneHasTheFocus) {
+    first.SetFocus();
+    second.SetFocus();
+    EXPECT_EQ(parent.log,
+              (Log{"10001 got, focus 10001", "10001 lost, focus 10002", "10002 got, focus 10002"}));
+    EXPECT_EQ(parent.controls[1], reinterpret_cast<LPARAM>(first.m_hWnd));
+    EXPECT_EQ(CWnd::GetFocus(), &second);
+}
+
+TEST_F(WindowFocusTest, FocusOnTheFocusedFieldDoesNothing) {
+    first.SetFocus();
+    first.SetFocus();
+    EXPECT_EQ(parent.log.size(), 1U);
+}
+
+TEST_F(WindowFocusTest, APlainWindowTakesTheFocusInSilence) {
+    first.SetFocus();
+    plain.SetFocus();
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 lost, focus 3"}));
+}
+
+TEST_F(WindowFocusTest, ADisabledFieldTakesNoFocus) {
+    first.SetFocus();
+    second.EnableWindow(0);
+    second.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), &first);
+    EXPECT_EQ(parent.log.size(), 1U);
+}
+
+TEST_F(WindowFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
+    parent.ShowWindow(SW_HIDE);
+    first.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    parent.ShowWindow(SW_SHOW);
+    parent.EnableWindow(0);
+    first.SetFocus();
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+}
+
+TEST_F(WindowFocusTest, AFieldThatIsDisabledLosesTheFocusAndSaysSo) {
+    first.SetFocus();
+    first.EnableWindow(0);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
+}
+
+TEST_F(WindowFocusTest, AFieldWhoseParentIsHiddenLosesTheFocus) {
+    first.SetFocus();
+    parent.ShowWindow(SW_HIDE);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
+}
+
+TEST_F(WindowFocusTest, AFieldThatEndsLosesTheFocus) {
+    first.SetFocus();
+    first.DestroyWindow();
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+}
+
+TEST_F(WindowFocusTest, AHandlersOwnMoveOfTheFocusStands) {
+    first.SetFocus();
+    parent.log.clear();
+    parent.onNotification = [this](bool isKill) {
+        if (isKill)
+            plain.SetFocus();
+    };
+    second.SetFocus();
+    // The second field was passed over: it neither got nor lost the focus.
+    EXPECT_EQ(parent.log, (Log{"10001 lost, focus 10002"}));
+    EXPECT_EQ(CWnd::GetFocus(), &plain);
+}
+
+TEST_F(WindowFocusTest, AHandlerMayGiveTheFocusBack) {
+    first.SetFocus();
+    parent.log.clear();
+    parent.onNotification = [this](bool isKill) {
+        if (isKill)
+            first.SetFocus();
+    };
+    second.SetFocus();
+    EXPECT_EQ(parent.log, (Log{"10001 lost, focus 10002", "10001 got, focus 10001"}));
+    EXPECT_EQ(CWnd::GetFocus(), &first);
+}
+
+TEST_F(WindowFocusTest, TheNewFieldMayEndInTheOldOnesNotification) {
+    first.SetFocus();
+    parent.log.clear();
+    parent.onNotification = [this](bool) { second.DestroyWindow(); };
+    second.SetFocus();
+    EXPECT_EQ(parent.log, (Log{"10001 lost, focus 10002"}));
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+}
+
+}  // namespace workbench

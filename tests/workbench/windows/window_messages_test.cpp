@@ -1,0 +1,258 @@
+#include "tests/support/allocation_counter.h"
+#include "tests/workbench/windows/window_fixture.h"
+
+#include <iterator>
+
+namespace workbench {
+
+namespace {
+
+constexpr UINT kChained = 2001;
+constexpr UINT kOnlyBase = 2002;
+constexpr UINT kUnknown = 2003;
+constexpr UINT kNested = 2004;
+constexpr UINT kSuicide = 2005;
+
+using Log = std::vector<std::string>;
+
+/// Handles everything that the window classes leave to it.
+class LoggingWidget : public Widget {
+public:
+    explicit LoggingWidget(Log& log) : m_log(log) {}
+    bool handle(Window&, UINT message, WPARAM, LPARAM, LRESULT& answer) override {
+        if (message < kChained && message != WM_COMMAND)
+            return false;
+        m_log.push_back("widget");
+        answer = 100;
+        return true;
+    }
+
+private:
+    Log& m_log;
+};
+
+class BaseWindow : public CWnd {
+public:
+    const MessageMap& GetMessageMap() const override { return GetThisMessageMap(); }
+    Log log;
+
+protected:
+    static const MessageMap& GetThisMessageMap();
+    LRESULT onChained(WPARAM, LPARAM) {
+        log.push_back("base");
+        return Default() + 10;
+    }
+    LRESULT onOnlyBase(WPARAM wParam, LPARAM) {
+        log.push_back("only base");
+        return static_cast<LRESULT>(wParam);
+    }
+    LRESULT onBaseCommand(WPARAM, LPARAM) {
+        log.push_back("base command");
+        return 0;
+    }
+};
+
+const MessageMap& BaseWindow::GetThisMessageMap() {
+    static constexpr MessageEntry kRows[] = {
+        {WM_COMMAND, to<&BaseWindow::onBaseCommand>, 100, 199},
+        {kChained, to<&BaseWindow::onChained>},
+        {kOnlyBase, to<&BaseWindow::onOnlyBase>},
+    };
+    static_assert(hostapi::isAscendingAndUnique(kRows));
+    static const MessageMap kMap{&CWnd::GetThisMessageMap, kRows, std::size(kRows)};
+    return kMap;
+}
+
+class DerivedWindow : public BaseWindow {
+public:
+    const MessageMap& GetMessageMap() const override {
+        static constexpr MessageEntry kRows[] = {
+            {WM_COMMAND, to<&DerivedWindow::onCommand>, 150, 160},
+            {WM_COMMAND, to<&DerivedWindow::onPassedCommand>, 170, 170},
+            {kChained, to<&DerivedWindow::onChained>},
+            {kNested, to<&DerivedWindow::onNested>},
+            {kSuicide, to<&DerivedWindow::onSuicide>},
+        };
+        static_assert(hostapi::isAscendingAndUnique(kRows));
+        static const MessageMap kMap{&BaseWindow::GetThisMessageMap, kRows, std::size(kRows)};
+        return kMap;
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        log.push_back("OnCommand");
+        return BaseWindow::OnCommand(wParam, lParam);
+    }
+    CWnd* other = nullptr;
+
+private:
+    LRESULT onChained(WPARAM, LPARAM) {
+        log.push_back("derived");
+        return Default() + 1;
+    }
+    LRESULT onNested(WPARAM, LPARAM) {
+        log.push_back("nested");
+        // Each Default goes on with its own message, whatever was sent in between.
+        const LRESULT chained = SendMessage(kChained);
+        const LRESULT others = other == nullptr ? 0 : other->SendMessage(kChained);
+        return chained + others + 1000 * Default();
+    }
+    LRESULT onSuicide(WPARAM, LPARAM) {
+        delete this;
+        return 5;
+    }
+    LRESULT onCommand(WPARAM, LPARAM) {
+        log.push_back("derived command");
+        return 0;
+    }
+    LRESULT onPassedCommand(WPARAM, LPARAM) {
+        log.push_back("passed command");
+        return Default();
+    }
+};
+
+class WindowMessagesTest : public WindowTest {
+protected:
+    template <class Type>
+    void makeLogged(Type& window) {
+        ASSERT_TRUE(make(window, nullptr, 0, std::make_unique<LoggingWidget>(window.log)));
+    }
+};
+
+}  // namespace
+
+TEST_F(WindowMessagesTest, DefaultGoesUpTheTablesAndEndsAtTheWidget) {
+    DerivedWindow window;
+    makeLogged(window);
+    EXPECT_EQ(window.SendMessage(kChained), 111);
+    EXPECT_EQ(window.log, (Log{"derived", "base", "widget"}));
+}
+
+TEST_F(WindowMessagesTest, AMessageThatOnlyTheBaseHandlesIsFoundInItsTable) {
+    DerivedWindow window;
+    makeLogged(window);
+    EXPECT_EQ(window.SendMessage(kOnlyBase, 42), 42);
+    EXPECT_EQ(window.log, Log{"only base"});
+}
+
+TEST_F(WindowMessagesTest, AMessageThatNoTableHasGoesToTheWidget) {
+    DerivedWindow window;
+    makeLogged(window);
+    EXPECT_EQ(window.SendMessage(kUnknown), 100);
+}
+
+TEST_F(WindowMessagesTest, AMessageThatNobodyHandlesIsAnsweredZero) {
+    DerivedWindow window;
+    ASSERT_TRUE(make(window));
+    EXPECT_EQ(window.SendMessage(kUnknown), 0);
+    EXPECT_EQ(window.SendMessage(kChained), 11);
+}
+
+TEST_F(WindowMessagesTest, NestedSendsKeepEachDefaultAtItsOwnMessage) {
+    DerivedWindow window;
+    DerivedWindow other;
+    makeLogged(window);
+    makeLogged(other);
+    window.other = &other;
+    EXPECT_EQ(window.SendMessage(kNested), 111 + 111 + 1000 * 100);
+    EXPECT_EQ(window.log, (Log{"nested", "derived", "base", "widget", "widget"}));
+}
+
+TEST_F(WindowMessagesTest, AnObjectMayBeDeletedInItsOwnHandler) {
+    auto* const window = new DerivedWindow;
+    ASSERT_TRUE(make(*window));
+    const HWND handle = window->m_hWnd;
+    EXPECT_EQ(SendMessage(handle, kSuicide, 0, 0), 5);
+    EXPECT_FALSE(IsWindow(handle));
+}
+
+TEST_F(WindowMessagesTest, AWidgetMayEndItsOwnWindow) {
+    class Ending : public Widget {
+    public:
+        bool handle(Window& window, UINT message, WPARAM, LPARAM, LRESULT& answer) override {
+            if (message != kUnknown)
+                return false;
+            window.object->DestroyWindow();
+            answer = m_answer;  // still there, although the window is gone
+            return true;
+        }
+
+    private:
+        LRESULT m_answer = 77;
+    };
+    TestWindow window;
+    ASSERT_TRUE(make(window, nullptr, 0, std::make_unique<Ending>()));
+    EXPECT_EQ(window.SendMessage(kUnknown), 77);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+}
+
+TEST_F(WindowMessagesTest, TheNearestRangeGetsACommand) {
+    DerivedWindow window;
+    makeLogged(window);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 150), 1);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 160), 1);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 161), 1);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 199), 1);
+    EXPECT_EQ(window.log, (Log{"OnCommand", "derived command", "OnCommand", "derived command",
+                               "OnCommand", "base command", "OnCommand", "base command"}));
+}
+
+TEST_F(WindowMessagesTest, ACommandOutsideAllRangesGoesToTheWidget) {
+    DerivedWindow window;
+    makeLogged(window);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 99), 100);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 200), 100);
+    EXPECT_EQ(window.log, (Log{"OnCommand", "widget", "OnCommand", "widget"}));
+}
+
+TEST_F(WindowMessagesTest, ACommandHandlersDefaultGoesOnInTheBaseTable) {
+    DerivedWindow window;
+    makeLogged(window);
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 170), 1);
+    EXPECT_EQ(window.log, (Log{"OnCommand", "passed command", "base command"}));
+}
+
+TEST_F(WindowMessagesTest, ANotificationOfAControlRunsNoCommandRow) {
+    DerivedWindow window;
+    makeLogged(window);
+    const LPARAM control = reinterpret_cast<LPARAM>(window.m_hWnd);
+    window.SendMessage(WM_COMMAND, MAKELONG(150, EN_KILLFOCUS), control);
+    EXPECT_EQ(window.log, (Log{"OnCommand", "widget"}));
+}
+
+TEST_F(WindowMessagesTest, AFontThatIsSetStaysWithTheWindow) {
+    TestWindow window;
+    ASSERT_TRUE(make(window));
+    window.SendMessage(WM_SETFONT, 12, 1);
+    EXPECT_EQ(windows().find(window.m_hWnd)->font, 12U);
+}
+
+TEST_F(WindowMessagesTest, TheJournalHasTheMessagesOfNamedWindowsOnly) {
+    TestWindow named;
+    TestWindow part;
+    ASSERT_TRUE(make(named));
+    ASSERT_TRUE(make(part, &named));
+    windows().setName(named.m_hWnd, "FadeSlider");
+    journal().take();
+    named.SendMessage(kUnknown, 3, -4);
+    part.SendMessage(kUnknown, 3, -4);
+    const std::vector<JournalRecord> records = journal().take("message");
+    ASSERT_EQ(records.size(), 1U);
+    EXPECT_EQ(records[0].field("control"), Value("FadeSlider"));
+    EXPECT_EQ(records[0].field("number"), Value(2003));
+    EXPECT_EQ(records[0].field("wparam"), Value(3));
+    EXPECT_EQ(records[0].field("lparam"), Value(-4));
+}
+
+TEST_F(WindowMessagesTest, SendingAllocatesNothingWhileTheJournalRests) {
+    TestWindow window;
+    ASSERT_TRUE(make(window));
+    windows().setName(window.m_hWnd, "Control");
+    window.got.reserve(8);
+    journal().setRecording(false);
+    const std::size_t before = support::allocationCount();
+    window.SendMessage(kUnknown, 2);
+    window.SendMessage(WM_COMMAND, 2);
+    EXPECT_EQ(support::allocationCount(), before);
+    EXPECT_EQ(window.count(kUnknown), 1);
+}
+
+}  // namespace workbench
