@@ -7,10 +7,11 @@
 #include "core/text.h"
 
 #include "controls/control_manager.h"
-#include "controls/tool_clicks.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>
+#include <hostapi/zorq/commands.h>
+#include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/frame_windows.h>
 #include <hostapi/zorq/menu_data.h>
 
@@ -27,10 +28,10 @@ void runInModule(const VxString& module, CQrUiToolPanelItem* item) {
         reinterpret_cast<VxDaButtonClickedFn>(symbol)(item);
 }
 
-void runMacro(CQrUiToolPanelItem* item) {
+void runMacro(const VxString& macro) {
     if (CWnd* view = vxedGetZorqDwgView())
         view->SetFocus();
-    sendItemMacro(item);
+    vxedSendMenuStringToExecute(vxDocManagerPtr()->mdiActiveDocument(), macro.c_str(), 1);
 }
 
 }  // namespace
@@ -51,7 +52,7 @@ int dispatchItemClick(CQrUiToolPanelItem* item) {
     if (!data->module.empty()) {
         runInModule(data->module, item);
     } else if (!data->macro.empty()) {
-        runMacro(item);
+        runMacro(data->macro);
     }
     return 1;
 }
