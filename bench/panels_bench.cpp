@@ -1,0 +1,56 @@
+#include "bench/session.h"
+
+#include "core/manager.h"
+#include "core/module.h"
+#include "palette/panel_set.h"
+#include "palette/tool_items.h"
+
+#include <benchmark/benchmark.h>
+
+#include <hostapi/qrui18/tool_panel_item.h>
+#include <hostapi/vxdashboard.h>
+
+namespace {
+
+constexpr int kItemsPerPanel = 20;
+
+/// Builds all panels anew, as at a show or a workspace switch.
+void showPanels(benchmark::State& state) {
+    const int panels = static_cast<int>(state.range(0));
+    bench::Session session(bench::menuOf(panels, kItemsPerPanel));
+    session.showDashboard();
+    for (auto _ : state) {
+        state.PauseTiming();
+        dashboardManager()->notify(kDashboardUnload);
+        state.ResumeTiming();
+        dashboardManager()->notify(kDashboardReload);
+    }
+    state.counters["per_item"] =
+        benchmark::Counter(static_cast<double>(state.iterations() * panels * kItemsPerPanel),
+                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(showPanels)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+void findItems(benchmark::State& state) {
+    bench::Session session(bench::menuOf(static_cast<int>(state.range(0)), kItemsPerPanel));
+    session.showDashboard();
+    const CVxDaPanelSet* panelSet = dashboardManager()->panelSet();
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(panelSet->findToolPanelItems(L"PANEL7_ITEM3"));
+    }
+}
+BENCHMARK(findItems)->Arg(10)->Arg(100)->Arg(1000);
+
+void setFlagThatChangesNothing(benchmark::State& state) {
+    bench::Session session(bench::menuOf(static_cast<int>(state.range(0)), kItemsPerPanel));
+    session.showDashboard();
+    const bench::AllocationMeter meter;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(SetItemFlag(L"PANEL7_ITEM3", false, kItemChecked));
+    }
+    state.counters["allocations"] =
+        benchmark::Counter(meter.allocations(), benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(setFlagThatChangesNothing)->Arg(10)->Arg(100)->Arg(1000);
+
+}  // namespace
