@@ -25,6 +25,8 @@ std::string systemText() {
 }
 
 std::string readWhole(const fs::path& file) {
+    if (!fs::is_regular_file(file))
+        throw InputError(file.string(), "the profile is not a file");
     std::ifstream stream(file, std::ios::binary);
     if (!stream)
         throw InputError(file.string(), "the profile cannot be opened: " + systemText());

@@ -27,7 +27,8 @@ void writeAttribute(const XmlNode& node, std::string_view name, std::string_view
 
 /// The text directly in an element; nothing if there is none.
 std::optional<std::string> readText(const XmlNode& node);
-/// Sets the text in an element in place of what it holds. Raises `VxComError` for a text that XML
+/// Sets the text in an element in place of what it holds; line ends become "\n" with the next
+/// reading, as everywhere in XML. Raises `VxComError` for a text that XML
 /// does not allow.
 void writeText(const XmlNode& node, std::string_view text);
 

@@ -1,0 +1,131 @@
+#include "workbench/loader/module_loader.h"
+
+#include "tests/workbench/loader/loader_fixture.h"
+
+#include <hostapi/window/module.h>
+
+#include <string>
+
+namespace workbench {
+
+class ModuleLoaderTest : public LoaderTest {
+protected:
+    VxRxDynamicLinker* linker() {
+        return dynamic_cast<VxRxDynamicLinker*>(vxrxSysRegistry()->at(L"DynamicLinker"));
+    }
+    bool failedBecauseOf(const std::string& words) {
+        return modules().failureText().find(words) != std::string::npos;
+    }
+};
+
+TEST_F(ModuleLoaderTest, ALoadedModuleHasRegisteredItsService) {
+    EXPECT_TRUE(modules().loadModule(kModule));
+    EXPECT_TRUE(modules().isLoaded(kModule));
+    EXPECT_TRUE(vxrxServiceIsRegistered(kService));
+    EXPECT_EQ(registry().findService(kService)->module(), libraries().find(kModule));
+    EXPECT_EQ(modules().runningModule(), nullptr);
+}
+
+TEST_F(ModuleLoaderTest, LoadingTwiceLoadsOnce) {
+    EXPECT_TRUE(modules().loadModule(kModule));
+    EXPECT_TRUE(modules().loadModule(L"VXTP.QLX"));
+    EXPECT_EQ(modules().moduleCount(), 1U);
+    EXPECT_TRUE(modules().unloadModule(kModule));
+    EXPECT_EQ(libraries().find(kModule), nullptr);
+}
+
+TEST_F(ModuleLoaderTest, UnloadingTakesTheServiceBackAndClosesTheLibrary) {
+    const int services = ServiceEntry::liveCount();
+    modules().loadModule(kModule);
+    EXPECT_TRUE(modules().unloadModule(kModule));
+    EXPECT_FALSE(modules().isLoaded(kModule));
+    EXPECT_FALSE(vxrxServiceIsRegistered(kService));
+    EXPECT_EQ(ServiceEntry::liveCount(), services);
+    EXPECT_EQ(libraries().openCount(), 0U);
+    EXPECT_TRUE(libraries().stillMapped().empty());
+    EXPECT_FALSE(modules().unloadModule(kModule));
+    EXPECT_TRUE(failedBecauseOf("not loaded"));
+}
+
+TEST_F(ModuleLoaderTest, AModuleThatStaysLockedIsNotUnloaded) {
+    faults().fail("VxRxDynamicLinker::unlockApplication");
+    modules().loadModule(kModule);
+    EXPECT_FALSE(modules().unloadModule(kModule));
+    EXPECT_TRUE(modules().isLoaded(kModule));
+    modules().unloadAll();
+    EXPECT_FALSE(modules().isLoaded(kModule));
+}
+
+TEST_F(ModuleLoaderTest, AServiceThatAModuleLeavesBehindGoesWithIt) {
+    modules().loadModule(kModule);
+    faults().fail("VxRxDictionary::remove");
+    modules().unloadModule(kModule);
+    EXPECT_FALSE(vxrxServiceIsRegistered(kService));
+}
+
+TEST_F(ModuleLoaderTest, AMissingOrHiddenModuleIsNotLoaded) {
+    EXPECT_FALSE(modules().loadModule(L"VxNothing.qlx"));
+    EXPECT_TRUE(failedBecauseOf("VxNothing.qlx"));
+    faults().hide("VxTp.qlx");
+    EXPECT_FALSE(modules().loadModule(kModule));
+    faults().unhide("VxTp.qlx");
+    EXPECT_TRUE(modules().loadModule(kModule));
+}
+
+TEST_F(ModuleLoaderTest, ALibraryWithoutHandshakeIsNoModule) {
+    EXPECT_FALSE(modules().loadModule(kResources));
+    EXPECT_TRUE(failedBecauseOf("vxrxGetApiVersion"));
+    EXPECT_EQ(libraries().openCount(), 0U);
+}
+
+TEST_F(ModuleLoaderTest, AModuleWithoutEntryPointIsNotLoaded) {
+    faults().hide("VxTp.qlx", "vxrxEntryPoint");
+    EXPECT_FALSE(modules().loadModule(kModule));
+    EXPECT_TRUE(failedBecauseOf("vxrxEntryPoint"));
+    EXPECT_EQ(libraries().openCount(), 0U);
+}
+
+TEST_F(ModuleLoaderTest, OnlyAPacketOfALoadedModuleIsKnown) {
+    int foreign = 0;
+    EXPECT_FALSE(linker()->unlockApplication(&foreign));
+    EXPECT_FALSE(linker()->registerAppMDIAware(&foreign));
+    EXPECT_FALSE(linker()->unlockApplication(nullptr));
+}
+
+TEST_F(ModuleLoaderTest, SymbolsAreFoundThroughTheServicesModule) {
+    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
+    EXPECT_TRUE(linker()->loadModule(kModule, 0, 1));
+    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"),
+              GetProcAddress(GetModuleHandle(kModule), "VxTpShowScheme"));
+    EXPECT_NE(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
+    EXPECT_EQ(linker()->getSymbolAddress(kService, "nothing"), nullptr);
+
+    faults().hide("VxTp.qlx", "VxTpShowScheme");
+    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
+}
+
+TEST_F(ModuleLoaderTest, AServiceOfTheHostHasNoSymbols) {
+    vxrxRegisterService(L"HostService");
+    EXPECT_EQ(linker()->getSymbolAddress(L"HostService", "VxTpShowScheme"), nullptr);
+}
+
+TEST_F(ModuleLoaderTest, TheLoadCallsCanBeToldToFail) {
+    faults().fail("vxrxLoadModule", {}, 1);
+    EXPECT_FALSE(vxrxLoadModule(kModule, false, true));
+    EXPECT_TRUE(vxrxLoadModule(kModule, false, true));
+    faults().fail("VxRxDynamicLinker::getSymbolAddress", {}, 1);
+    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
+    faults().fail("VxRxDynamicLinker::loadModule", {}, 1);
+    EXPECT_FALSE(linker()->loadModule(kModule, 1, 0));
+}
+
+TEST_F(ModuleLoaderTest, ManyRoundsLeaveNothingBehind) {
+    for (int round = 0; round < 100; ++round) {
+        ASSERT_TRUE(modules().loadModule(kModule));
+        ASSERT_TRUE(modules().unloadModule(kModule));
+    }
+    EXPECT_EQ(libraries().openCount(), 0U);
+    EXPECT_TRUE(libraries().stillMapped().empty());
+}
+
+}  // namespace workbench

@@ -1,0 +1,83 @@
+#include "workbench/loader/resource_search.h"
+
+#include "tests/workbench/loader/loader_fixture.h"
+
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/window.h>
+
+namespace workbench {
+
+class ResourceSearchTest : public LoaderTest {
+protected:
+    void SetUp() override {
+        library = LoadLibrary(kResources);
+        ASSERT_NE(library, nullptr);
+    }
+
+    HINSTANCE library = nullptr;
+};
+
+TEST_F(ResourceSearchTest, StringsComeFromTheCurrentLibrary) {
+    VxString text = L"before";
+    EXPECT_EQ(LoadString(203, text), 0);
+    EXPECT_EQ(text, L"before");
+
+    AfxSetResourceHandle(library);
+    EXPECT_EQ(AfxGetResourceHandle(), library);
+    EXPECT_NE(LoadString(203, text), 0);
+    EXPECT_NE(text, L"before");
+    EXPECT_FALSE(text.empty());
+    EXPECT_EQ(modules().strings().resourceNumberOf(text), 203);
+}
+
+TEST_F(ResourceSearchTest, AMissingStringLeavesTheTextAlone) {
+    AfxSetResourceHandle(library);
+    VxString text = L"before";
+    EXPECT_EQ(LoadString(999999, text), 0);
+    EXPECT_EQ(text, L"before");
+    faults().fail("LoadString", {}, 1);
+    EXPECT_EQ(LoadString(203, text), 0);
+    EXPECT_EQ(text, L"before");
+}
+
+TEST_F(ResourceSearchTest, ACurrentLibraryThatWasClosedHasNoStrings) {
+    AfxSetResourceHandle(library);
+    FreeLibrary(library);
+    VxString text;
+    EXPECT_EQ(LoadString(203, text), 0);
+}
+
+TEST_F(ResourceSearchTest, ALibraryIsAttachedOnce) {
+    AFX_EXTENSION_MODULE record;
+    AfxSetResourceHandle(library);
+    EXPECT_NE(AfxInitExtensionModule(record, library), 0);
+    EXPECT_TRUE(record.attached);
+    EXPECT_EQ(record.library, library);
+    EXPECT_EQ(record.resourceHandle, library);
+    EXPECT_EQ(AfxInitExtensionModule(record, library), 0);
+    EXPECT_EQ(modules().resources().attachedCount(), 1U);
+
+    AfxTermExtensionModule(record);
+    EXPECT_FALSE(record.attached);
+    EXPECT_EQ(modules().resources().attachedCount(), 0U);
+}
+
+TEST_F(ResourceSearchTest, AnIconComesAtItsNaturalSizeAndBelongsToTheCaller) {
+    const HICON icon = LoadIcon(library, 220);
+    ASSERT_NE(icon, nullptr);
+    const PngPicture* picture = bench.windows().gdi().findIcon(icon);
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->width, 32U);
+    EXPECT_NE(DestroyIcon(icon), 0);
+    EXPECT_EQ(bench.windows().gdi().iconCount(), 0U);
+}
+
+TEST_F(ResourceSearchTest, AMissingIconIsNull) {
+    EXPECT_EQ(LoadIcon(library, 221), nullptr);
+    EXPECT_EQ(LoadIcon(nullptr, 220), nullptr);
+    faults().fail("LoadIcon", {}, 1);
+    EXPECT_EQ(LoadIcon(library, 220), nullptr);
+}
+
+}  // namespace workbench

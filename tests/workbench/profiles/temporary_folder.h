@@ -1,0 +1,43 @@
+#pragma once
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace workbench {
+
+/// A folder of a test's own, gone with this object.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "test-XXXXXX").string();
+        path = mkdtemp(name.data());
+    }
+    ~TemporaryFolder() {
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+        std::filesystem::remove_all(path);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    void write(const std::string& file, const std::string& content) const {
+        std::ofstream(path / file, std::ios::binary) << content;
+    }
+    std::string read(const std::string& file) const {
+        std::ifstream stream(path / file, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    bool has(const std::string& file) const { return std::filesystem::exists(path / file); }
+    std::size_t fileCount() const {
+        const std::filesystem::directory_iterator files(path);
+        return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+    }
+
+    std::filesystem::path path;
+};
+
+}  // namespace workbench
