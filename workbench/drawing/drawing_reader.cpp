@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <set>
 #include <utility>
 
 #include "workbench/base/input_error.h"

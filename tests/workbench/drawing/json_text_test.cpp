@@ -6,13 +6,13 @@ namespace workbench::drawing {
 namespace {
 
 TEST(JsonText, WhatFitsStaysOnOneLine) {
-    const Value value = Value::Table{{"points", Value::List{Value::List{0, 0.5, -1}}},
+    const Value value = Value::Table{{"points", Value::List{Value::List{0, 0.5, -1}, 1}},
                                      {"name", "a \"b\"\n"},
                                      {"none", Value()},
                                      {"empty", Value::List{}}};
     EXPECT_EQ(jsonText(value),
               "{\n"
-              "  \"points\": [[0, 0.5, -1]],\n"
+              "  \"points\": [[0, 0.5, -1], 1],\n"
               "  \"name\": \"a \\\"b\\\"\\n\",\n"
               "  \"none\": null,\n"
               "  \"empty\": []\n"

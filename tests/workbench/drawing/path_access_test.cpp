@@ -141,9 +141,10 @@ TEST_F(PathAccessTest, NilErasesAndATableAdds) {
     set("layers.Walls", Value());
     set("layers.Walls", Value::Table{{"on", false}});
     EXPECT_EQ(get("layers.Walls.on"), Value(false));
+    const Value corner = Value::List{0, 0, 0};
     set("entities.new", Value::Table{{"type", "box"},
                                      {"layer", "Walls"},
-                                     {"points", Value::List{Value::List{0, 0, 0}}},
+                                     {"points", Value::List(1, corner)},
                                      {"size", Value::List{1, 1, 1}}});
     ASSERT_EQ(get("entities.count"), Value(1));
     const std::string number = get("entities").asList()[0].describe();
