@@ -1,6 +1,10 @@
 #include "workbench/core/workbench.h"
 
 #include "workbench/loader/module_loader.h"
+#include "workbench/menu/menu_host.h"
+#include "workbench/palettes/tool_palettes.h"
+#include "workbench/profiles/profile_store.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <stdexcept>
@@ -9,11 +13,7 @@
 namespace workbench {
 
 class Editor {};
-class MenuHost {};
 class NavigationTool {};
-class ProfileStore {};
-class Toolkit {};
-class ToolPalettes {};
 
 namespace {
 
@@ -52,6 +52,10 @@ Workbench* Workbench::living() {
 void Workbench::makeUnits() {
     m_windows = std::make_unique<WindowSystem>(m_clock, m_journal);
     m_modules = std::make_unique<ModuleLoader>(m_options, m_faults);
+    m_toolkit = std::make_unique<Toolkit>(*this);
+    m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
+    m_menu = std::make_unique<MenuHost>(m_options, m_modules->libraries());
+    m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
 }
 
 /// Unloads what is still loaded while all units live, then ends them in the opposite order of their
