@@ -1,0 +1,105 @@
+#include "workbench/toolkit/edit_widget.h"
+
+#include "tests/workbench/toolkit/toolkit_fixture.h"
+#include "workbench/gestures/key_gestures.h"
+
+namespace workbench {
+namespace {
+
+using gestures::focusField;
+using gestures::pressKey;
+using gestures::replaceText;
+using gestures::typeText;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class EditWidgetTest : public ToolkitTest {
+protected:
+    EditWidgetTest() {
+        m_edit.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 20}, m_toolPanel, 10001, 0);
+        m_edit.SetWindowText(L"50");
+    }
+    /// The notifications of edit fields that the parent was sent, as (ID, notification).
+    std::vector<std::pair<UINT, UINT>> notified() const {
+        std::vector<std::pair<UINT, UINT>> found;
+        for (const Received& message : m_toolPanel->of(WM_COMMAND))
+            found.emplace_back(LOWORD(message.wParam), HIWORD(message.wParam));
+        return found;
+    }
+
+    CQrUiInputEditCtrl m_edit;
+};
+
+TEST_F(EditWidgetTest, AClickGivesTheFocusAndTellsTheParent) {
+    EXPECT_TRUE(focusField(m_edit.m_hWnd));
+    EXPECT_THAT(notified(), ElementsAre(std::pair<UINT, UINT>(10001, EN_SETFOCUS)));
+    gestures::blur();
+    EXPECT_EQ(notified().back(), (std::pair<UINT, UINT>(10001, EN_KILLFOCUS)));
+}
+
+TEST_F(EditWidgetTest, TypingGoesInAtThePlaceOfTheClick) {
+    focusField(m_edit.m_hWnd);
+    typeText(L"0");
+    EXPECT_EQ(m_edit.GetWindowText(), L"500");
+    pressKey("home");
+    typeText(L"-");
+    pressKey("right");
+    pressKey("delete");
+    pressKey("backspace");
+    EXPECT_EQ(m_edit.GetWindowText(), L"-0");
+}
+
+TEST_F(EditWidgetTest, ReplacingTypesOverAll) {
+    focusField(m_edit.m_hWnd);
+    replaceText(L"40");
+    EXPECT_EQ(m_edit.GetWindowText(), L"40");
+    replaceText(L"");
+    EXPECT_EQ(m_edit.GetWindowText(), L"");
+}
+
+TEST_F(EditWidgetTest, ATextSetFromOutsideIsTheOneEdited) {
+    focusField(m_edit.m_hWnd);
+    m_edit.SetWindowText(L"7");
+    pressKey("end");
+    typeText(L"5");
+    EXPECT_EQ(m_edit.GetWindowText(), L"75");
+}
+
+TEST_F(EditWidgetTest, EnterAndEscapeGoOnToTheCommandLine) {
+    focusField(m_edit.m_hWnd);
+    journal().take();
+    pressKey("enter");
+    pressKey("escape");
+    std::vector<Value> keys;
+    for (const JournalRecord& record : journal().take("message")) {
+        if (record.field("control") == Value("CommandLine"))
+            keys.push_back(record.field("wparam"));
+    }
+    EXPECT_THAT(keys, ElementsAre(Value(13), Value(27)));
+    EXPECT_EQ(m_edit.GetWindowText(), L"50");
+}
+
+TEST_F(EditWidgetTest, ADisabledFieldTakesNoFocus) {
+    m_edit.EnableWindow(0);
+    EXPECT_FALSE(focusField(m_edit.m_hWnd));
+    EXPECT_THAT(notified(), IsEmpty());
+}
+
+TEST_F(EditWidgetTest, AHandlerMayChangeTheFocusAndTheText) {
+    m_toolPanel->answers[WM_COMMAND] = [this](WPARAM, LPARAM) {
+        m_edit.SetWindowText(L"told");
+        return LRESULT{0};
+    };
+    focusField(m_edit.m_hWnd);
+    EXPECT_EQ(m_edit.GetWindowText(), L"told");
+}
+
+TEST_F(EditWidgetTest, CreationCanBeToldToFail) {
+    CQrUiInputEditCtrl other;
+    m_workbench.faults().fail("CQrUiInputEditCtrl::Create", {}, 1);
+    EXPECT_EQ(other.Create(WS_CHILD, {}, m_toolPanel, 1, 0), 0);
+    EXPECT_NE(other.Create(WS_CHILD, {}, m_toolPanel, 1, 0), 0);
+}
+
+}  // namespace
+}  // namespace workbench
