@@ -1,3 +1,4 @@
+#include "workbench/base/input_error.h"
 #include "workbench/core/host_call.h"
 #include "workbench/core/workbench.h"
 #include "workbench/loader/module_loader.h"
@@ -28,14 +29,21 @@ std::string_view shown(HINSTANCE library) {
     return loader().libraries().fileName(library);
 }
 
-/// The picture of an icon at the size that icons are drawn for, or else the small one.
+/// The picture of an icon at the size that icons are drawn for, or else the small one; nothing if
+/// the library has none, or one that is no picture.
 std::optional<workbench::PngPicture> iconPicture(HINSTANCE library, UINT number) {
     constexpr std::uint32_t kIconSizes[] = {32, 16};  // pixels
     const std::string key = "#" + std::to_string(number);
     const workbench::ResourceLibrary resources = loader().libraries().resources(library);
     for (const std::uint32_t size : kIconSizes) {
-        if (const auto bytes = resources.findPicture(key, size))
+        const auto bytes = resources.findPicture(key, size);
+        if (!bytes)
+            continue;
+        try {
             return workbench::decodePng(bytes->data, bytes->length, key);
+        } catch (const workbench::InputError&) {
+            return std::nullopt;
+        }
     }
     return std::nullopt;
 }
