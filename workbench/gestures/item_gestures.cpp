@@ -4,12 +4,17 @@
 #include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
+#include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/row_layout.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/tool_panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
+
+#include <algorithm>
+#include <optional>
+#include <vector>
 
 namespace workbench::gestures {
 
@@ -26,44 +31,27 @@ CQrUiToolPanelItem& outermostOf(CQrUiToolPanelItem& item) {
     return *outermost;
 }
 
-/// Where in a list the tools of a flyout are: each visible tool, and the tools of nested flyouts in
-/// their place, from 1 on.
-UINT placeInList(const CQrUiToolPanelItem& flyout, const CQrUiToolPanelItem& wanted, UINT& last) {
-    for (const CQrUiToolPanelItem* tool : flyout.m_record->flyoutItems) {
-        const CQrUiToolPanelItem::Record& record = *tool->m_record;
-        const bool isGap = record.type == kItemSeparator || record.type == kItemRowBreak;
-        if ((record.state & kItemHidden) != 0 || isGap)
-            continue;
-        if (record.type == kItemFlyout) {
-            if (const UINT place = placeInList(*tool, wanted, last); place != 0)
-                return place;
-            continue;
-        }
-        ++last;
-        if (tool == &wanted)
-            return last;
-    }
-    return 0;
-}
-
-bool clickPoint(CQrUiToolPanelItem& item, CPoint point) {
+/// Raises `GestureError` unless the item can be seen, and returns the window that it stands on.
+HWND requirePlace(const CQrUiToolPanelItem& item) {
     const CQrUiToolPanel* const panel = item.m_record->toolPanel;
     requireOnScreen(panel == nullptr ? nullptr : panel->m_hWnd);
     if (item.m_record->rect.Width() <= 0)
         throw GestureError("item \"" + toUtf8(knownId(item)) + "\" has no place on its panel");
-    return clickAt(panel->m_hWnd, point);
+    return panel->m_hWnd;
 }
 
 bool chooseFromFlyout(CQrUiToolPanelItem& flyout, const CQrUiToolPanelItem& tool) {
-    UINT last = 0;
-    const UINT place = placeInList(flyout, tool, last);
-    if (place == 0)
+    const std::vector<CQrUiToolPanelItem*> tools = offeredTools(flyout);
+    const auto found = std::find(tools.begin(), tools.end(), &tool);
+    if (found == tools.end())
         return false;
+    const HWND panel = requirePlace(flyout);
+    const auto place = static_cast<UINT>(found - tools.begin()) + 1;
     Workbench::current().toolkit().menus().answerNext(
         [place](const std::vector<MenuLine>&) { return std::optional<UINT>(place); });
     const CRect& rect = flyout.m_record->rect;
     const bool clicked =
-        clickPoint(flyout, {rect.right - kFlyoutArrowWidth / 2, (rect.top + rect.bottom) / 2});
+        clickAt(panel, {rect.right - kFlyoutArrowWidth / 2, (rect.top + rect.bottom) / 2});
     Workbench::current().toolkit().menus().answerNext(nullptr);
     return clicked;
 }
@@ -76,10 +64,11 @@ bool clickItem(CQrUiToolPanelItem& item) {
         return false;
     if (&outermost != &item)
         return chooseFromFlyout(outermost, item);
+    const HWND panel = requirePlace(item);
     CRect rect = item.m_record->rect;
     if (item.GetType() == kItemFlyout)
         rect.right -= kFlyoutArrowWidth;
-    return clickPoint(item, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
+    return clickAt(panel, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
 }
 
 bool clickIcon(HWND control) {

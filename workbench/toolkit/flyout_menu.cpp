@@ -4,6 +4,7 @@
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
 
+#include <optional>
 #include <vector>
 
 namespace workbench {
@@ -35,6 +36,12 @@ std::vector<MenuLine> linesOf(const CQrUiToolPanelItem& flyout,
 }
 
 }  // namespace
+
+std::vector<CQrUiToolPanelItem*> offeredTools(const CQrUiToolPanelItem& flyout) {
+    std::vector<CQrUiToolPanelItem*> tools;
+    linesOf(flyout, tools);
+    return tools;
+}
 
 bool openFlyout(CQrUiToolPanelItem& flyout) {
     std::vector<CQrUiToolPanelItem*> tools;

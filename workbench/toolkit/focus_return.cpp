@@ -37,10 +37,16 @@ void giveFocusBack(HWND from, HWND before) {
     const HWND focus = windows.focus();
     if (set == nullptr || focus == nullptr || !windows.isWithin(focus, set->m_hWnd))
         return;
-    const bool wasGivenNow = focus != before || windows.isWithin(focus, from);
-    if (isField(windows, focus) && wasGivenNow)
+    if (isField(windows, focus) && focus != before)
         return;
     takeFocusFrom(*set);
+}
+
+void giveFocusBackFromControl(HWND control, HWND before) {
+    const WindowSystem& windows = Workbench::current().windows();
+    const HWND focus = windows.focus();
+    if (!isField(windows, focus) || !windows.isWithin(focus, control))
+        giveFocusBack(control, before);
 }
 
 void giveFocusBackOnLeave(HWND paletteSet) {

@@ -9,6 +9,10 @@ namespace workbench {
 /// had the focus when it began. An edit field keeps the focus if the gesture gave it to the field.
 void giveFocusBack(HWND from, HWND before);
 
+/// The same after a click within a custom control: its own edit fields keep the focus, since the
+/// click may have been meant to bring the user there.
+void giveFocusBackFromControl(HWND control, HWND before);
+
 /// The same when the mouse leaves a palette set: a field that the user types in keeps the focus.
 void giveFocusBackOnLeave(HWND paletteSet);
 

@@ -127,11 +127,15 @@ void ToolPanelWidget::release(Window& window, UINT flags, CPoint point) {
     m_isPressed = false;
     const HWND handle = window.handle;
     const HWND before = m_focusBefore;
+    const bool isControl = standsIn<ToolPanelWidget>(window);
     if (item != nullptr)
         click(window, *item, flags, point);
-    else if (standsIn<ToolPanelWidget>(window))
+    else if (isControl)
         panelOf(window).OnLButtonClicked(flags, point);
-    giveFocusBack(handle, before);
+    if (isControl)
+        giveFocusBackFromControl(handle, before);
+    else
+        giveFocusBack(handle, before);
 }
 
 void ToolPanelWidget::click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point) {

@@ -1,0 +1,72 @@
+#include "workbench/toolkit/focus_return.h"
+
+#include "tests/workbench/toolkit/toolkit_fixture.h"
+#include "workbench/gestures/item_gestures.h"
+#include "workbench/gestures/key_gestures.h"
+#include "workbench/gestures/mouse_gestures.h"
+
+namespace workbench {
+namespace {
+
+class FocusReturnTest : public ToolkitTest {
+protected:
+    FocusReturnTest() {
+        m_control.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 22}, m_toolPanel, 1, 0);
+        addItemTo(m_control, kItemButton, L"TPB_ICON");
+        m_edit.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 20}, &m_control, 10001, 0);
+        m_slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 20}, &m_control, 10002, 2);
+        addControlTo(m_control, m_edit);
+        addControlTo(m_control, m_slider);
+        addControlTo(*m_toolPanel, m_control);
+        m_panelSet.UpdateLayout();
+    }
+    HWND view() { return frame().drawingView().m_hWnd; }
+
+    CQrUiToolPanelItem& m_item = addItem(kItemButton, L"ID_A");
+    ListeningToolPanel m_control;
+    CQrUiInputEditCtrl m_edit;
+    CQrUiProgSliderCtrl m_slider;
+};
+
+TEST_F(FocusReturnTest, AClickOnAToolTakesTheFocusFromAField) {
+    gestures::focusField(m_edit.m_hWnd);
+    gestures::clickItem(m_item);
+    EXPECT_EQ(windows().focus(), view());
+}
+
+TEST_F(FocusReturnTest, APaletteMayRefuse) {
+    m_palette->releasesFocus = false;
+    gestures::focusField(m_edit.m_hWnd);
+    gestures::clickItem(m_item);
+    EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
+}
+
+TEST_F(FocusReturnTest, AFieldThatTheClickGaveTheFocusKeepsIt) {
+    m_control.onClick = [this] { m_edit.SetFocus(); };
+    gestures::clickIcon(m_control.m_hWnd);
+    EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
+    gestures::clickIcon(m_control.m_hWnd);
+    EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
+}
+
+TEST_F(FocusReturnTest, LeavingTakesTheFocusFromASliderAndNotFromAField) {
+    gestures::focusField(m_edit.m_hWnd);
+    gestures::leave();
+    EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
+    m_slider.SetFocus();
+    gestures::hoverAt(m_slider.m_hWnd, {1, 1});
+    gestures::leave();
+    EXPECT_EQ(windows().focus(), view());
+}
+
+TEST_F(FocusReturnTest, AFocusOutsideTheSetStaysWhereItIs) {
+    const HWND commandLine = frame().commandLine().m_hWnd;
+    windows().setFocus(commandLine);
+    gestures::clickItem(m_item);
+    EXPECT_EQ(windows().focus(), commandLine);
+    giveFocusBack(nullptr, nullptr);
+    EXPECT_EQ(windows().focus(), commandLine);
+}
+
+}  // namespace
+}  // namespace workbench

@@ -1,0 +1,60 @@
+#include "workbench/toolkit/key_road.h"
+
+#include "tests/workbench/toolkit/toolkit_fixture.h"
+#include "workbench/gestures/key_gestures.h"
+
+namespace workbench {
+namespace {
+
+class KeyRoadTest : public ToolkitTest {
+protected:
+    KeyRoadTest() {
+        UINT id = 1;
+        for (CQrUiInputEditCtrl* edit : {&m_first, &m_second, &m_third})
+            edit->Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 20}, m_toolPanel, id++, 0);
+    }
+    CQrUiInputEditCtrl m_first;
+    CQrUiInputEditCtrl m_second;
+    CQrUiInputEditCtrl m_third;
+};
+
+TEST_F(KeyRoadTest, TabGoesFromFieldToFieldAndRound) {
+    gestures::focusField(m_first.m_hWnd);
+    gestures::pressKey("tab");
+    EXPECT_EQ(windows().focus(), m_second.m_hWnd);
+    gestures::pressKey("tab");
+    gestures::pressKey("tab");
+    EXPECT_EQ(windows().focus(), m_first.m_hWnd);
+}
+
+TEST_F(KeyRoadTest, TabPassesOverDisabledAndHiddenFields) {
+    m_second.EnableWindow(0);
+    EXPECT_EQ(nextField(m_first.m_hWnd), m_third.m_hWnd);
+    m_third.ShowWindow(SW_HIDE);
+    EXPECT_EQ(nextField(m_first.m_hWnd), nullptr);
+}
+
+TEST_F(KeyRoadTest, TabSelectsTheWholeText) {
+    m_second.SetWindowText(L"old");
+    gestures::focusField(m_first.m_hWnd);
+    gestures::pressKey("tab");
+    gestures::typeText(L"n");
+    EXPECT_EQ(m_second.GetWindowText(), L"n");
+}
+
+TEST_F(KeyRoadTest, OutsideASetThereIsNoNextField) {
+    EXPECT_EQ(nextField(frame().drawingView().m_hWnd), nullptr);
+    EXPECT_EQ(nextField(nullptr), nullptr);
+}
+
+TEST_F(KeyRoadTest, OtherKeysGoToTheCommandLine) {
+    journal().take();
+    passKeyOn(VK_RETURN, 0);
+    const std::vector<JournalRecord> messages = journal().take("message");
+    ASSERT_EQ(messages.size(), 1U);
+    EXPECT_EQ(messages[0].field("control"), Value("CommandLine"));
+    EXPECT_EQ(messages[0].field("number"), Value(256));
+}
+
+}  // namespace
+}  // namespace workbench
