@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <string>
@@ -64,6 +65,9 @@ protected:
     Clock& clock() { return m_workbench.clock(); }
     Journal& journal() { return m_workbench.journal(); }
 
+    /// How many windows live that the host's own units didn't make.
+    std::size_t windowCount() { return windows().count() - m_hostWindows; }
+
     /// Makes a visible window, 100 by 50 pixels at (10, 20) of its parent.
     bool make(CWnd& object, CWnd* parent = nullptr, int id = 0,
               std::unique_ptr<Widget> widget = nullptr, const char* className = "Test") {
@@ -83,6 +87,7 @@ protected:
 
 private:
     Workbench m_workbench{WorkbenchOptions{}};
+    std::size_t m_hostWindows = m_workbench.windows().count();
 };
 
 }  // namespace workbench

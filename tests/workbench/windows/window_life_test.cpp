@@ -37,14 +37,14 @@ TEST_F(WindowLifeTest, ACreationThatAnswersMinusOneLeavesNoWindow) {
     window.answer = -1;
     EXPECT_FALSE(make(window));
     EXPECT_EQ(window.m_hWnd, nullptr);
-    EXPECT_EQ(windows().count(), 0U);
+    EXPECT_EQ(windowCount(), 0U);
 }
 
 TEST_F(WindowLifeTest, AnObjectGetsNoSecondWindow) {
     TestWindow window;
     ASSERT_TRUE(make(window));
     EXPECT_FALSE(make(window));
-    EXPECT_EQ(windows().count(), 1U);
+    EXPECT_EQ(windowCount(), 1U);
 }
 
 TEST_F(WindowLifeTest, AWindowThatIsGoingTakesNoChild) {
@@ -103,7 +103,7 @@ TEST_F(WindowLifeTest, DestroyingHidesFirstAndTellsParentsBeforeChildren) {
     EXPECT_EQ(parent.m_hWnd, nullptr);
     EXPECT_EQ(child.m_hWnd, nullptr);
     EXPECT_EQ(grandchild.m_hWnd, nullptr);
-    EXPECT_EQ(windows().count(), 0U);
+    EXPECT_EQ(windowCount(), 0U);
     EXPECT_FALSE(parent.DestroyWindow());
 }
 
@@ -119,6 +119,7 @@ TEST_F(WindowLifeTest, HandlesAreClearedChildrenBeforeParents) {
             gone.push_back(window);
     });
     parent.DestroyWindow();
+    windows().setObserver(nullptr);
     EXPECT_EQ(gone, expected);
 }
 
@@ -132,10 +133,10 @@ TEST_F(WindowLifeTest, AnObjectThatEndsTakesItsWindowAlong) {
         handle = child.m_hWnd;
     }
     EXPECT_FALSE(IsWindow(handle));
-    EXPECT_EQ(windows().count(), 1U);
+    EXPECT_EQ(windowCount(), 1U);
 }
 
-TEST_F(WindowLifeTest, AnObjectThatOutlivesTheWorkbenchEndsInPeace) {
+TEST_F(WindowLifeTest, AbandonedWindowsGoWithoutAMessage) {
     auto window = std::make_unique<TestWindow>();
     ASSERT_TRUE(make(*window));
     windows().abandonAll();
@@ -168,7 +169,7 @@ TEST_F(WindowLifeTest, AParentMayEndInsideTheEndOfItsChild) {
     child.DestroyWindow();
     EXPECT_EQ(child.count(WM_DESTROY), 1);
     EXPECT_EQ(parent.count(WM_DESTROY), 1);
-    EXPECT_EQ(windows().count(), 0U);
+    EXPECT_EQ(windowCount(), 0U);
 }
 
 }  // namespace workbench
