@@ -1,0 +1,10 @@
+#pragma once
+
+#include "workbench/commands/command_registry.h"
+
+namespace workbench {
+
+/// BEDIT and BCLOSE: the block editor, as BLOCKEDITOR tells it.
+void addBlockEditorCommands(CommandRegistry& registry);
+
+}  // namespace workbench

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "workbench/commands/command_registry.h"
+
+namespace workbench {
+
+/// Commands whose whole work is to open a dialog.
+void addDialogCommands(CommandRegistry& registry);
+
+}  // namespace workbench

@@ -1,0 +1,57 @@
+#include "workbench/commands/erase_command.h"
+
+#include "workbench/commands/answers.h"
+#include "workbench/commands/host_commands.h"
+#include "workbench/drawing/records/entity.h"
+#include "workbench/editor/document.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace workbench {
+
+namespace {
+
+using drawing::Database;
+using drawing::Entity;
+using drawing::ObjectId;
+using drawing::RecordKind;
+
+/// Asks for objects, "Last" or "All", until Enter, and erases them then.
+class EraseCommand final : public Command {
+public:
+    CommandState start(const CommandScope& /*scope*/) override { return CommandState::Waiting; }
+
+    CommandState feed(const CommandScope& scope, std::wstring_view answer) override {
+        Database& database = scope.document.data();
+        if (answer.empty()) {
+            for (const ObjectId id : m_chosen)
+                drawing::Writing<Entity>(database, id).erase();
+            return CommandState::Ended;
+        }
+        const std::vector<ObjectId> entities = database.ids(RecordKind::Entity);
+        if (choosesOption(answer, L"ALL"))
+            m_chosen = entities;
+        else if (choosesOption(answer, L"Last") && !entities.empty())
+            choose(entities.back());
+        return CommandState::Waiting;
+    }
+
+    std::wstring prompt() const override { return L"Select objects [Last/ALL]:"; }
+
+private:
+    void choose(ObjectId id) {
+        if (std::find(m_chosen.begin(), m_chosen.end(), id) == m_chosen.end())
+            m_chosen.push_back(id);
+    }
+
+    std::vector<ObjectId> m_chosen;
+};
+
+}  // namespace
+
+void addEraseCommands(CommandRegistry& registry) {
+    addHostCommand<EraseCommand>(registry, L"ERASE", CommandTraits::Plain);
+}
+
+}  // namespace workbench

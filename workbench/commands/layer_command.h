@@ -1,0 +1,10 @@
+#pragma once
+
+#include "workbench/commands/command_registry.h"
+
+namespace workbench {
+
+/// -LAYER, which asks at the command line for what is to become of the layers.
+void addLayerCommands(CommandRegistry& registry);
+
+}  // namespace workbench

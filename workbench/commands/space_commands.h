@@ -1,0 +1,10 @@
+#pragma once
+
+#include "workbench/commands/command_registry.h"
+
+namespace workbench {
+
+/// -LAYOUT, MODEL, MSPACE and PSPACE: the space in which the user works.
+void addSpaceCommands(CommandRegistry& registry);
+
+}  // namespace workbench

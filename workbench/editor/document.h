@@ -1,0 +1,62 @@
+#pragma once
+
+#include "workbench/drawing/drawing.h"
+#include "workbench/editor/document_locks.h"
+#include "workbench/editor/input_manager.h"
+#include "workbench/editor/object_adapters.h"
+#include "workbench/editor/variables/variable_definition.h"
+#include "workbench/editor/view_history.h"
+
+#include <hostapi/zorq/documents.h>
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace workbench {
+
+class CommandProcessor;
+
+/// An open document: a drawing with what the editor keeps for it.
+class Document final : public VxApDocument {
+public:
+    /// `name` is its title and, until it is saved, its file's name.
+    Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::Drawing> drawing);
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+    ~Document() override;
+
+    // VxApDocument:
+    VxDbDatabase* database() const override;
+    int lockMode() const override;
+    VxEdInputManager* inputManager() override;
+
+    const std::wstring& name() const { return m_name; }
+    drawing::Drawing& drawing() { return *m_drawing; }
+    drawing::Database& data() const { return m_drawing->db; }
+    /// The database as modules see it: one object for the document's life.
+    DatabaseAdapter& hostDatabase() const { return *m_hostDatabase; }
+    CommandProcessor& processor() { return *m_processor; }
+    InputManager& input() { return m_input; }
+    DocumentLocks& locks() { return m_locks; }
+    const DocumentLocks& locks() const { return m_locks; }
+    ViewHistory& viewHistory() { return *m_viewHistory; }
+    OpenObjects& openObjects() { return *m_openObjects; }
+
+    using VariableValues = std::map<const VariableDefinition*, Value>;
+    /// The values of the variables that live with the document, as far as they were written.
+    VariableValues& variables() { return m_variables; }
+
+private:
+    std::wstring m_name;
+    std::unique_ptr<drawing::Drawing> m_drawing;
+    std::unique_ptr<DatabaseAdapter> m_hostDatabase;
+    VariableValues m_variables;
+    InputManager m_input;
+    DocumentLocks m_locks;
+    std::unique_ptr<ViewHistory> m_viewHistory;
+    std::unique_ptr<OpenObjects> m_openObjects;
+    std::unique_ptr<CommandProcessor> m_processor;
+};
+
+}  // namespace workbench

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "workbench/commands/command_registry.h"
+#include "workbench/core/journal.h"
+#include "workbench/editor/document_list.h"
+#include "workbench/editor/editor_objects.h"
+#include "workbench/editor/editor_reactors.h"
+#include "workbench/editor/profile_values.h"
+#include "workbench/editor/variables/system_variables.h"
+
+#include <string_view>
+
+namespace workbench {
+
+/// The editor: system variables, documents, commands, and the events of all of them. It composes
+/// its units; what they do stands with them.
+class Editor {
+public:
+    /// All of them must outlive the editor, whose objects are in the registry meanwhile.
+    Editor(Journal& journal, ProfileValues& profileValues, SystemRegistry& registry);
+    Editor(const Editor&) = delete;
+    Editor& operator=(const Editor&) = delete;
+
+    SystemVariables& variables() { return m_variables; }
+    DocumentList& documents() { return m_documents; }
+    CommandRegistry& commands() { return m_commands; }
+    EditorReactors& reactors() { return m_reactors; }
+    EditorObjects& objects() { return m_objects; }
+    Journal& journal() { return m_journal; }
+    ProfileValues& profileValues() { return m_profileValues; }
+
+    // The session, as scripts and the desktop drive it.
+
+    /// Runs the command text that waits in all documents, and tells of variables that were changed
+    /// from outside. To be called whenever the host would come round to its command loop.
+    void pump();
+    /// Types at the command line of the current document. False without a document.
+    bool type(std::wstring_view text);
+    /// Starts a command that waits for input, under any name. False without a document.
+    bool beginCommand(std::wstring_view name);
+    /// Ends the innermost command of the current document. False if none waits.
+    bool finishCommand(CommandState outcome);
+    /// Writes a variable as the host itself, read-only ones too. False for an unknown name and for
+    /// a value that it can't hold.
+    bool set(std::wstring_view name, const Value& value);
+    /// A variable's value; nil for an unknown name, and for one that can't be had now.
+    Value read(std::wstring_view name) const { return m_variables.read(name); }
+    /// As the commands U and REDO. False without a document.
+    bool undo();
+    bool redo();
+    void quitBegin() { m_reactors.beginQuit(); }
+    void quitAbort() { m_reactors.quitAborted(); }
+    void viewChanged() { m_reactors.viewChanged(); }
+
+private:
+    bool runNow(std::wstring_view text);
+
+    Journal& m_journal;
+    ProfileValues& m_profileValues;
+    EditorReactors m_reactors;
+    CommandRegistry m_commands;
+    SystemVariables m_variables{*this};
+    DocumentList m_documents{*this};
+    EditorObjects m_objects;
+};
+
+}  // namespace workbench

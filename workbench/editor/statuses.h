@@ -1,0 +1,17 @@
+#pragma once
+
+#include <hostapi/types.h>
+
+namespace workbench {
+
+/// \name Statuses of document and command calls
+/// @{
+constexpr Zorq::ErrorStatus kNotApplicable = 2;
+constexpr Zorq::ErrorStatus kInvalidInput = 3;
+constexpr Zorq::ErrorStatus kDuplicateKey = 28;
+constexpr Zorq::ErrorStatus kKeyNotFound = 29;
+constexpr Zorq::ErrorStatus kNoDocument = 372;
+constexpr Zorq::ErrorStatus kNoLock = 373;
+/// @}
+
+}  // namespace workbench

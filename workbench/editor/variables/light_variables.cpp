@@ -1,0 +1,55 @@
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/sun.h"
+#include "workbench/editor/sky_status.h"
+#include "workbench/editor/variables/drawing_access.h"
+
+namespace workbench {
+
+namespace {
+
+using drawing::Sun;
+
+Value readSunStatus(const VariableScope& scope) {
+    return readRecord<Sun>(scope, activeOrOnlySun, [](const Sun& sun) { return sun.on ? 1 : 0; });
+}
+
+bool writeSunStatus(const VariableScope& scope, const Value& value) {
+    if (scope.document == nullptr)
+        return false;
+    ensureSun(scope.document->data());
+    const bool on = value.asInteger() != 0;
+    return writeRecord<Sun>(scope, activeOrOnlySun, [on](Sun& sun) { sun.on = on; });
+}
+
+Value readSkyStatusOf(const VariableScope& scope) {
+    return scope.document == nullptr ? Value() : Value(readSkyStatus(scope.document->data()));
+}
+
+bool writeSkyStatusOf(const VariableScope& scope, const Value& value) {
+    return scope.document != nullptr &&
+           writeSkyStatus(scope.document->data(), static_cast<int>(value.asInteger()));
+}
+
+}  // namespace
+
+void addLightVariables(VariableTable& table) {
+    using enum VariableHome;
+    table.insert(table.end(), {
+                                  {.name = L"DEFAULTLIGHTING", .initial = 1, .range = {{0, 1}}},
+                                  {.name = L"LIGHTGLYPHDISPLAY", .initial = 1, .range = {{0, 1}}},
+                                  // 0 generic, 1 American, 2 international units.
+                                  {.name = L"LIGHTINGUNITS", .initial = 2, .range = {{0, 2}}},
+                                  {.name = L"SUNSTATUS",
+                                   .home = Viewport,
+                                   .range = {{0, 1}},
+                                   .get = readSunStatus,
+                                   .set = writeSunStatus},
+                                  {.name = L"SKYSTATUS",
+                                   .home = Viewport,
+                                   .range = {{0, 2}},
+                                   .get = readSkyStatusOf,
+                                   .set = writeSkyStatusOf},
+                              });
+}
+
+}  // namespace workbench

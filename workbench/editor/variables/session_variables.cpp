@@ -1,0 +1,58 @@
+#include "workbench/base/text.h"
+#include "workbench/commands/command_processor.h"
+#include "workbench/editor/document.h"
+#include "workbench/editor/editor.h"
+#include "workbench/editor/profile_values.h"
+#include "workbench/editor/variables/variable_definition.h"
+
+namespace workbench {
+
+namespace {
+
+Value readActive(const VariableScope& scope) {
+    return scope.document == nullptr ? 0 : scope.document->processor().activity();
+}
+
+Value readActiveNames(const VariableScope& scope) {
+    return scope.document == nullptr ? std::string()
+                                     : toUtf8(scope.document->processor().activeNames());
+}
+
+Value readDrawingName(const VariableScope& scope) {
+    return scope.document == nullptr ? std::string() : toUtf8(scope.document->name());
+}
+
+Value readProfileName(const VariableScope& scope) {
+    return scope.editor.profileValues().currentProfile();
+}
+
+}  // namespace
+
+void addSessionVariables(VariableTable& table) {
+    using enum VariableType;
+    using enum VariableHome;
+    table.insert(
+        table.end(),
+        {
+            {.name = L"CMDACTIVE", .home = Computed, .readOnly = true, .get = readActive},
+            {.name = L"CMDNAMES",
+             .type = String,
+             .home = Computed,
+             .readOnly = true,
+             .get = readActiveNames},
+            {.name = L"CPROFILE",
+             .type = String,
+             .home = Computed,
+             .readOnly = true,
+             .get = readProfileName},
+            {.name = L"DWGNAME",
+             .type = String,
+             .home = Computed,
+             .readOnly = true,
+             .get = readDrawingName},
+            {.name = L"CleanScreenState", .home = Session, .range = {{0, 1}}, .readOnly = true},
+            {.name = L"DASHBOARDSTATE", .home = Session, .range = {{0, 1}}, .readOnly = true},
+        });
+}
+
+}  // namespace workbench

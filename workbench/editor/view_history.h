@@ -1,0 +1,46 @@
+#pragma once
+
+#include "workbench/drawing/database.h"
+#include "workbench/drawing/reactors.h"
+#include "workbench/drawing/records/view_parameters.h"
+
+#include <functional>
+#include <map>
+#include <vector>
+
+namespace workbench {
+
+/// The earlier views of each viewport of one drawing: a view goes on the viewport's stack when it
+/// is replaced, whoever replaces it.
+class ViewHistory final : public drawing::DatabaseReactor {
+public:
+    /// `onViewChanged` is told each viewport whose view was replaced.
+    ViewHistory(drawing::Database& database, std::function<void(drawing::ObjectId)> onViewChanged);
+    ViewHistory(const ViewHistory&) = delete;
+    ViewHistory& operator=(const ViewHistory&) = delete;
+    ~ViewHistory() override;
+
+    /// How many earlier views a viewport has.
+    std::size_t depth(drawing::ObjectId viewport) const;
+    /// Gives a viewport its last view back. False if it has none or can't be changed now.
+    bool stepBack(drawing::ObjectId viewport);
+
+    // drawing::DatabaseReactor:
+    void objectAppended(const drawing::DbObject& object) override;
+    void objectModified(const drawing::DbObject& object) override;
+
+private:
+    struct History {
+        drawing::ViewParameters shown;
+        std::vector<drawing::ViewParameters> earlier;  // the last one was shown last
+    };
+
+    static constexpr std::size_t kMostViews = 100;  // of a viewport; the oldest go
+
+    drawing::Database& m_database;
+    std::function<void(drawing::ObjectId)> m_onViewChanged;
+    std::map<drawing::ObjectId, History> m_histories;
+    bool m_steppingBack = false;  // the view that is replaced by going back is not kept
+};
+
+}  // namespace workbench

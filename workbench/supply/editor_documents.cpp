@@ -1,0 +1,100 @@
+#include "workbench/commands/command_processor.h"
+#include "workbench/core/host_call.h"
+#include "workbench/core/workbench.h"
+#include "workbench/editor/document_list.h"
+#include "workbench/editor/editor.h"
+#include "workbench/editor/statuses.h"
+
+#include <hostapi/zorq/documents.h>
+
+namespace workbench {
+
+int DocumentList::documentCount() const {
+    HostCall call("VxApDocManager::documentCount");
+    return call.returns(call.failed() ? call.status(0) : count());
+}
+
+VxApDocument* DocumentList::curDocument() const {
+    HostCall call("VxApDocManager::curDocument");
+    VxApDocument* document = call.failed() ? nullptr : m_current;
+    return call.returns(document);
+}
+
+VxApDocument* DocumentList::mdiActiveDocument() const {
+    HostCall call("VxApDocManager::mdiActiveDocument");
+    VxApDocument* document = call.failed() ? nullptr : m_active;
+    return call.returns(document);
+}
+
+void DocumentList::addReactor(VxApDocManagerReactor* reactor) {
+    HostCall call("VxApDocManager::addReactor", {reactor});
+    if (!call.failed())
+        m_reactors.add(reactor);
+}
+
+void DocumentList::removeReactor(VxApDocManagerReactor* reactor) {
+    HostCall call("VxApDocManager::removeReactor", {reactor});
+    if (!call.failed())
+        m_reactors.remove(reactor);
+}
+
+Zorq::ErrorStatus DocumentList::lockDocument(VxApDocument* document, int mode,
+                                             const wchar_t* globalCommand,
+                                             const wchar_t* localCommand, bool prompt) {
+    HostCall call("VxApDocManager::lockDocument",
+                  {document, mode, globalCommand, localCommand, prompt});
+    if (call.failed())
+        return call.returns(call.status(kNotApplicable));
+    Document* locked = find(document);
+    if (locked == nullptr)
+        return call.returns(kNoDocument);
+    return call.returns(locked->locks().lock(mode) ? Zorq::eOk : kInvalidInput);
+}
+
+Zorq::ErrorStatus DocumentList::unlockDocument(VxApDocument* document) {
+    HostCall call("VxApDocManager::unlockDocument", {document});
+    if (call.failed())
+        return call.returns(call.status(kNotApplicable));
+    Document* locked = find(document);
+    if (locked == nullptr)
+        return call.returns(kNoDocument);
+    return call.returns(locked->locks().unlock() ? Zorq::eOk : kNoLock);
+}
+
+Zorq::ErrorStatus DocumentList::sendToCommandLine(VxApDocument* document, const wchar_t* text,
+                                                  bool activate, bool wrapUpInactive, bool echo) {
+    HostCall call("VxApDocManager::sendToCommandLine",
+                  {document, text, activate, wrapUpInactive, echo});
+    if (call.failed())
+        return call.returns(call.status(kNotApplicable));
+    Document* receiver = find(document);
+    if (receiver == nullptr || text == nullptr)
+        return call.returns(receiver == nullptr ? kNoDocument : kInvalidInput);
+    receiver->processor().sendLine(text, activate, wrapUpInactive, echo);
+    return call.returns(Zorq::eOk);
+}
+
+}  // namespace workbench
+
+VxApDocManager* vxDocManagerPtr() {
+    workbench::HostCall call("vxDocManagerPtr");
+    VxApDocManager* manager =
+        call.failed() ? nullptr : &workbench::Workbench::current().editor().documents();
+    return call.returns(manager);
+}
+
+VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
+    workbench::HostCall call("VxAxDocLock::VxAxDocLock", {database, mode});
+    workbench::Document* document =
+        workbench::Workbench::current().editor().documents().find(database);
+    if (!call.failed() && document != nullptr && document->locks().lock(mode))
+        m_document = document;
+}
+
+VxAxDocLock::~VxAxDocLock() {
+    workbench::HostCall call("VxAxDocLock::~VxAxDocLock");
+    workbench::Document* document =
+        workbench::Workbench::current().editor().documents().find(m_document);
+    if (document != nullptr)
+        document->locks().unlock();
+}
