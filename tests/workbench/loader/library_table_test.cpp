@@ -2,9 +2,6 @@
 
 #include "tests/workbench/loader/loader_fixture.h"
 
-#include <hostapi/vxut.h>
-#include <hostapi/window/module.h>
-
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -97,36 +94,6 @@ TEST_F(LibraryTableTest, ALibraryThatSomebodyElseHoldsIsReportedAsStillMapped) {
     libraries().load(kResources);
     table.free(library);
     EXPECT_EQ(table.stillMapped(), std::vector<std::string>{"VxDashboardRes.dll"});
-}
-
-class ModuleFunctionsTest : public LoaderTest {};
-
-TEST_F(ModuleFunctionsTest, LibrariesAreReachedByTheFrameworksCalls) {
-    const HINSTANCE library = LoadLibrary(kResources);
-    ASSERT_NE(library, nullptr);
-    EXPECT_EQ(GetModuleHandle(kResources), library);
-    EXPECT_NE(GetProcAddress(library, kResourceDirectorySymbol), nullptr);
-    EXPECT_EQ(GetProcAddress(library, "nothing"), nullptr);
-    EXPECT_EQ(GetLastError(), kErrorSymbolNotFound);
-    EXPECT_NE(FreeLibrary(library), 0);
-    EXPECT_EQ(FreeLibrary(library), 0);
-    EXPECT_EQ(LoadLibrary(nullptr), nullptr);
-}
-
-TEST_F(ModuleFunctionsTest, AToldFailureSetsTheLastError) {
-    faults().fail("LoadLibrary", {}, 1);
-    EXPECT_EQ(LoadLibrary(kResources), nullptr);
-    EXPECT_EQ(GetLastError(), kErrorFileNotFound);
-    faults().fail("LoadLibrary", 193, 1);
-    EXPECT_EQ(LoadLibrary(kResources), nullptr);
-    EXPECT_EQ(GetLastError(), kErrorBadLibrary);
-}
-
-TEST_F(ModuleFunctionsTest, TheLastErrorCanBeSetAndHasWords) {
-    SetLastError(2);
-    EXPECT_EQ(GetLastError(), 2U);
-    EXPECT_EQ(VxUt::GetSystemErrorMessage(2), L"The specified file cannot be found");
-    EXPECT_EQ(VxUt::GetSystemErrorMessage(4711), L"Unknown error 4711");
 }
 
 }  // namespace workbench

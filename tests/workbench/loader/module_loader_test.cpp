@@ -2,17 +2,12 @@
 
 #include "tests/workbench/loader/loader_fixture.h"
 
-#include <hostapi/window/module.h>
-
 #include <string>
 
 namespace workbench {
 
 class ModuleLoaderTest : public LoaderTest {
 protected:
-    VxRxDynamicLinker* linker() {
-        return dynamic_cast<VxRxDynamicLinker*>(vxrxSysRegistry()->at(L"DynamicLinker"));
-    }
     bool failedBecauseOf(const std::string& words) {
         return modules().failureText().find(words) != std::string::npos;
     }
@@ -72,51 +67,10 @@ TEST_F(ModuleLoaderTest, AMissingOrHiddenModuleIsNotLoaded) {
     EXPECT_TRUE(modules().loadModule(kModule));
 }
 
-TEST_F(ModuleLoaderTest, ALibraryWithoutHandshakeIsNoModule) {
+TEST_F(ModuleLoaderTest, WhatIsNoModuleIsClosedAgain) {
     EXPECT_FALSE(modules().loadModule(kResources));
-    EXPECT_TRUE(failedBecauseOf("vxrxGetApiVersion"));
+    EXPECT_TRUE(failedBecauseOf("VxDashboardRes.dll: it has no vxrxGetApiVersion"));
     EXPECT_EQ(libraries().openCount(), 0U);
-}
-
-TEST_F(ModuleLoaderTest, AModuleWithoutEntryPointIsNotLoaded) {
-    faults().hide("VxTp.qlx", "vxrxEntryPoint");
-    EXPECT_FALSE(modules().loadModule(kModule));
-    EXPECT_TRUE(failedBecauseOf("vxrxEntryPoint"));
-    EXPECT_EQ(libraries().openCount(), 0U);
-}
-
-TEST_F(ModuleLoaderTest, OnlyAPacketOfALoadedModuleIsKnown) {
-    int foreign = 0;
-    EXPECT_FALSE(linker()->unlockApplication(&foreign));
-    EXPECT_FALSE(linker()->registerAppMDIAware(&foreign));
-    EXPECT_FALSE(linker()->unlockApplication(nullptr));
-}
-
-TEST_F(ModuleLoaderTest, SymbolsAreFoundThroughTheServicesModule) {
-    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
-    EXPECT_TRUE(linker()->loadModule(kModule, 0, 1));
-    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"),
-              GetProcAddress(GetModuleHandle(kModule), "VxTpShowScheme"));
-    EXPECT_NE(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
-    EXPECT_EQ(linker()->getSymbolAddress(kService, "nothing"), nullptr);
-
-    faults().hide("VxTp.qlx", "VxTpShowScheme");
-    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
-}
-
-TEST_F(ModuleLoaderTest, AServiceOfTheHostHasNoSymbols) {
-    vxrxRegisterService(L"HostService");
-    EXPECT_EQ(linker()->getSymbolAddress(L"HostService", "VxTpShowScheme"), nullptr);
-}
-
-TEST_F(ModuleLoaderTest, TheLoadCallsCanBeToldToFail) {
-    faults().fail("vxrxLoadModule", {}, 1);
-    EXPECT_FALSE(vxrxLoadModule(kModule, false, true));
-    EXPECT_TRUE(vxrxLoadModule(kModule, false, true));
-    faults().fail("VxRxDynamicLinker::getSymbolAddress", {}, 1);
-    EXPECT_EQ(linker()->getSymbolAddress(kService, "VxTpShowScheme"), nullptr);
-    faults().fail("VxRxDynamicLinker::loadModule", {}, 1);
-    EXPECT_FALSE(linker()->loadModule(kModule, 1, 0));
 }
 
 TEST_F(ModuleLoaderTest, ManyRoundsLeaveNothingBehind) {

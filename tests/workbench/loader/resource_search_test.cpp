@@ -2,9 +2,7 @@
 
 #include "tests/workbench/loader/loader_fixture.h"
 
-#include "workbench/windows/window_system.h"
-
-#include <hostapi/window.h>
+#include <hostapi/window/module.h>
 
 namespace workbench {
 
@@ -61,23 +59,6 @@ TEST_F(ResourceSearchTest, ALibraryIsAttachedOnce) {
     AfxTermExtensionModule(record);
     EXPECT_FALSE(record.attached);
     EXPECT_EQ(modules().resources().attachedCount(), 0U);
-}
-
-TEST_F(ResourceSearchTest, AnIconComesAtItsNaturalSizeAndBelongsToTheCaller) {
-    const HICON icon = LoadIcon(library, 220);
-    ASSERT_NE(icon, nullptr);
-    const PngPicture* picture = bench.windows().gdi().findIcon(icon);
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->width, 32U);
-    EXPECT_NE(DestroyIcon(icon), 0);
-    EXPECT_EQ(bench.windows().gdi().iconCount(), 0U);
-}
-
-TEST_F(ResourceSearchTest, AMissingIconIsNull) {
-    EXPECT_EQ(LoadIcon(library, 221), nullptr);
-    EXPECT_EQ(LoadIcon(nullptr, 220), nullptr);
-    faults().fail("LoadIcon", {}, 1);
-    EXPECT_EQ(LoadIcon(library, 220), nullptr);
 }
 
 }  // namespace workbench

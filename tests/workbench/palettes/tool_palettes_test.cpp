@@ -1,7 +1,6 @@
 #include "workbench/palettes/tool_palettes.h"
 
 #include "workbench/core/workbench.h"
-#include "workbench/loader/module_loader.h"
 
 #include "tests/workbench/loader/test_options.h"
 
@@ -11,8 +10,6 @@ namespace workbench {
 
 class ToolPalettesTest : public testing::Test {
 protected:
-    static constexpr const wchar_t* kScheme = L"ToolPaletteScheme";
-
     ToolPalettes& palettes() { return bench.toolPalettes(); }
 
     Workbench bench{testOptions(PROJECT_SOURCE_ROOT "/examples/panels.json")};
@@ -22,21 +19,6 @@ class NoToolPalettesTest : public testing::Test {
 protected:
     Workbench bench{testOptions()};
 };
-
-TEST_F(NoToolPalettesTest, WithoutASchemeThereIsNoManager) {
-    CStringArray groups;
-    EXPECT_EQ(VxTcUiGetManager(), nullptr);
-    EXPECT_EQ(VxTcUiGetToolPaletteGroups(L"ToolPaletteScheme", groups), 0);
-}
-
-TEST_F(ToolPalettesTest, TheGroupsComeInTheirOrderBehindWhatIsThere) {
-    CStringArray groups{L"before"};
-    EXPECT_NE(VxTcUiGetToolPaletteGroups(kScheme, groups), 0);
-    ASSERT_GE(groups.size(), 3U);
-    EXPECT_EQ(groups[0], L"before");
-    EXPECT_EQ(groups[1], L"All Palettes");
-    EXPECT_EQ(VxTcUiGetToolPaletteGroups(L"Nothing", groups), 0);
-}
 
 TEST_F(ToolPalettesTest, TheWindowComesWithTheFirstShow) {
     CVxTcUiManager* manager = VxTcUiGetManager();
@@ -56,44 +38,24 @@ TEST_F(ToolPalettesTest, TheWindowComesWithTheFirstShow) {
     EXPECT_FALSE(palettes().showScheme("Nothing", true));
 }
 
-TEST_F(ToolPalettesTest, OnlyAKnownGroupBecomesActive) {
-    palettes().showScheme("ToolPaletteScheme", true);
-    CVxTcUiToolPaletteSet* window = VxTcUiGetManager()->GetToolPaletteWindow();
-    EXPECT_NE(window->SetActivePaletteGroup(L"Garden"), 0);
-    EXPECT_EQ(palettes().window()->activeGroup(), L"Garden");
-    EXPECT_EQ(window->SetActivePaletteGroup(L"garden"), 0);
-    EXPECT_EQ(palettes().window()->activeGroup(), L"Garden");
+TEST_F(ToolPalettesTest, TheyAreInstalledIfTheMenuHasAScheme) {
+    EXPECT_TRUE(palettes().isInstalled());
+    EXPECT_TRUE(palettes().groups("ToolPaletteScheme"));
+    EXPECT_FALSE(palettes().groups("Nothing"));
 }
 
-TEST_F(ToolPalettesTest, ShowingAgainKeepsTheGroup) {
-    palettes().showScheme("ToolPaletteScheme", true);
-    palettes().window()->SetActivePaletteGroup(L"Garden");
-    palettes().showScheme("ToolPaletteScheme", true);
-    EXPECT_EQ(palettes().window()->activeGroup(), L"Garden");
+TEST_F(NoToolPalettesTest, WithoutASchemeTheyAreNot) {
+    EXPECT_FALSE(bench.toolPalettes().isInstalled());
+    EXPECT_FALSE(bench.toolPalettes().showScheme("ToolPaletteScheme", true));
 }
 
-TEST_F(ToolPalettesTest, TheModuleShowsThemByItsSymbol) {
-    ASSERT_TRUE(vxrxLoadModule(L"VxTp.qlx", false, true));
-    const auto showScheme = reinterpret_cast<VxTpShowSchemeFn>(bench.modules().libraries().symbol(
-        bench.modules().libraries().find(L"VxTp.qlx"), "VxTpShowScheme"));
-    ASSERT_NE(showScheme, nullptr);
-    EXPECT_EQ(showScheme(kScheme, 1), 1);
-    EXPECT_NE(VxTcUiGetManager()->IsToolPaletteWindowVisible(), 0);
-    EXPECT_EQ(showScheme(kScheme, 0), 1);
-    EXPECT_EQ(VxTcUiGetManager()->IsToolPaletteWindowVisible(), 0);
-    EXPECT_EQ(showScheme(L"Nothing", 1), 0);
-    EXPECT_EQ(showScheme(nullptr, 1), 0);
-}
-
-TEST_F(ToolPalettesTest, TheCallsCanBeToldToFail) {
+TEST_F(ToolPalettesTest, ToldFailuresHideTheWindow) {
     palettes().showScheme("ToolPaletteScheme", true);
-    CVxTcUiManager* manager = VxTcUiGetManager();
-    bench.faults().fail("VxTcUiGetManager", {}, 1);
-    EXPECT_EQ(VxTcUiGetManager(), nullptr);
     bench.faults().fail("CVxTcUiManager::GetToolPaletteWindow", {}, 1);
-    EXPECT_EQ(manager->GetToolPaletteWindow(), nullptr);
-    bench.faults().fail("CVxTcUiToolPaletteSet::SetActivePaletteGroup", {}, 1);
-    EXPECT_EQ(manager->GetToolPaletteWindow()->SetActivePaletteGroup(L"Garden"), 0);
+    EXPECT_EQ(palettes().GetToolPaletteWindow(), nullptr);
+    bench.faults().fail("CVxTcUiManager::IsToolPaletteWindowVisible", {}, 1);
+    EXPECT_EQ(palettes().IsToolPaletteWindowVisible(), 0);
+    EXPECT_NE(palettes().IsToolPaletteWindowVisible(), 0);
 }
 
 }  // namespace workbench

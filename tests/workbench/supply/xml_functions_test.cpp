@@ -51,23 +51,6 @@ protected:
     NodePtr root{tree->makeNode(tree->root())};
 };
 
-TEST_F(XmlFunctionsTest, TheInterfaceIsGivenOutCountedUp) {
-    void* object = nullptr;
-    ASSERT_EQ(root->QueryInterface(IID_IXMLDOMNode, &object), S_OK);
-    const NodePtr second(static_cast<IXMLDOMNode*>(object));
-    EXPECT_EQ(second.get(), root.get());
-    EXPECT_EQ(second->AddRef(), 3U);
-    EXPECT_EQ(second->Release(), 2U);
-}
-
-TEST_F(XmlFunctionsTest, AForeignInterfaceOrAFaultGivesNull) {
-    void* object = root.get();
-    EXPECT_EQ(root->QueryInterface(GUID{}, &object), E_NOINTERFACE);
-    EXPECT_EQ(object, nullptr);
-    faults().fail("IXMLDOMNode::QueryInterface", -5, 1);
-    EXPECT_EQ(root->QueryInterface(IID_IXMLDOMNode, &object), -5);
-}
-
 TEST_F(XmlFunctionsTest, ChildrenComeInOrderAndByExactName) {
     add(L"A");
     add(L"B");
