@@ -48,9 +48,8 @@ MainFrame::MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools
 }
 
 MainFrame::~MainFrame() {
-    m_floating.clear();
-    m_orphans.clear();
-    m_windows.destroy(m_frame.m_hWnd);
+    // What is left inside belongs to modules that may be gone, so nothing is told.
+    m_windows.abandonAll();
 }
 
 void MainFrame::makeWindow(CWnd& object, const char* className, const char* name, UINT id) {
@@ -173,7 +172,7 @@ void MainFrame::setDockedHeight(CQrUiPaletteSet& set, int height) {
 }
 
 void MainFrame::layout() {
-    endOrphans();
+    m_orphans.clear();
     std::vector<DockedBar> docked;
     std::vector<HWND> handles;
     for (CQrUiPaletteSet* set : m_bars) {
@@ -186,14 +185,14 @@ void MainFrame::layout() {
         handles.push_back(set->m_hWnd);
     }
     const CRect client = m_windows.clientRect(m_frame.m_hWnd);
-    const DockLayout layout = layoutDocks({client.Width(), client.Height()}, docked);
+    const DockLayout places = layoutDocks({client.Width(), client.Height()}, docked);
     constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
-    m_windows.place(m_leftDock.m_hWnd, layout.leftDock, kFlags);
-    m_windows.place(m_rightDock.m_hWnd, layout.rightDock, kFlags);
-    m_windows.place(m_drawingView.m_hWnd, layout.drawingView, kFlags);
-    m_windows.place(m_commandLine.m_hWnd, layout.commandLine, kFlags);
+    m_windows.place(m_leftDock.m_hWnd, places.leftDock, kFlags);
+    m_windows.place(m_rightDock.m_hWnd, places.rightDock, kFlags);
+    m_windows.place(m_drawingView.m_hWnd, places.drawingView, kFlags);
+    m_windows.place(m_commandLine.m_hWnd, places.commandLine, kFlags);
     for (std::size_t index = 0; index < handles.size(); ++index)
-        m_windows.place(handles[index], layout.bars[index], kFlags);
+        m_windows.place(handles[index], places.bars[index], kFlags);
 }
 
 bool MainFrame::isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const {
@@ -248,10 +247,6 @@ int MainFrame::widthOf(const CQrUiPaletteSet& set) const {
     if (state.place.anchored && !state.rolledOut)
         return kStripWidth;
     return limited(state, {state.place.rect.Width(), state.place.rect.Height()}).cx;
-}
-
-void MainFrame::endOrphans() {
-    m_orphans.clear();
 }
 
 }  // namespace workbench

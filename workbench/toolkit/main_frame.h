@@ -29,6 +29,7 @@ public:
     MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools);
     MainFrame(const MainFrame&) = delete;
     MainFrame& operator=(const MainFrame&) = delete;
+    /// Lets all windows go without a message.
     ~MainFrame();
 
     CFrameWnd& frame() { return m_frame; }
@@ -72,7 +73,6 @@ private:
     void showPalettes(CQrUiPaletteSet& set);
     HWND homeOf(CQrUiPaletteSet& set);
     int widthOf(const CQrUiPaletteSet& set) const;
-    void endOrphans();
 
     WindowSystem& m_windows;
     SetStates& m_sets;
