@@ -95,6 +95,8 @@ public:
     /// Sends the queued messages, those queued meanwhile too, until none is left. Throws
     /// std::runtime_error if that takes more than `kMostPostedMessages`.
     void runPosted();
+    /// Whether messages are queued.
+    bool hasPosted() const { return !m_posted.empty(); }
     /// Advances the clock by milliseconds; posted messages and timers run at their times, in order.
     void advance(std::int64_t milliseconds);
 

@@ -1,0 +1,155 @@
+#include "workbench/main/command_line.h"
+
+#include "workbench/base/input_error.h"
+#include "workbench/drawing/drawing_reader.h"
+#include "workbench/main/default_paths.h"
+#include "workbench/main/gesture_road.h"
+#include "workbench/menu/menu_reader.h"
+#include "workbench/profiles/profile_store.h"
+#include "workbench/script/script_engine.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace workbench {
+
+namespace {
+
+/// What the command line asks for.
+struct Request {
+    WorkbenchOptions options;
+    std::filesystem::path journalFile;  // empty: none
+    std::string script;
+    std::vector<std::string> scriptArguments;
+    std::string drawing;
+    std::vector<std::string> files;  // to check
+};
+
+/// The journal's file, open while the workbench lives.
+class JournalFile {
+public:
+    JournalFile(Journal& journal, const std::filesystem::path& file) : m_journal(journal) {
+        if (file.empty())
+            return;
+        m_stream.open(file, std::ios::binary | std::ios::trunc);
+        if (!m_stream)
+            throw InputError(file.string(), "the journal can't be written there");
+        m_journal.writeTo(&m_stream);
+    }
+    JournalFile(const JournalFile&) = delete;
+    JournalFile& operator=(const JournalFile&) = delete;
+    ~JournalFile() {
+        m_journal.flush();
+        m_journal.writeTo(nullptr);
+    }
+
+private:
+    Journal& m_journal;
+    std::ofstream m_stream;
+};
+
+void reportComplaints(Workbench& workbench) {
+    for (const std::string& complaint : workbench.profiles().complaints()) {
+        std::cerr << complaint << '\n';
+    }
+}
+
+int runScript(const Request& request) {
+    Workbench workbench(request.options);
+    reportComplaints(workbench);
+    const JournalFile journal(workbench.journal(), request.journalFile);
+    const ScriptResult result = runScriptFile(workbench, request.script, request.scriptArguments);
+    if (!result.passed)
+        std::cerr << result.complaint << '\n';
+    return result.passed ? kExitPassed : kExitFailed;
+}
+
+int showDashboard(const Request& request) {
+    Workbench workbench(request.options);
+    reportComplaints(workbench);
+    const JournalFile journal(workbench.journal(), request.journalFile);
+    showGestureRoad(workbench, request.drawing, std::cout);
+    return kExitPassed;
+}
+
+/// A file is a drawing if it says so, and otherwise menu data.
+void checkFile(const std::string& file) {
+    if (isDrawingFile(file)) {
+        drawing::readDrawing(file);
+    } else {
+        readMenuFile(file);
+    }
+}
+
+int checkFiles(const Request& request) {
+    int code = kExitPassed;
+    for (const std::string& file : request.files) {
+        try {
+            checkFile(file);
+            std::cout << file << ": good\n";
+        } catch (const InputError& error) {
+            std::cerr << error.what() << '\n';
+            code = kExitUsage;
+        }
+    }
+    return code;
+}
+
+void addCommonOptions(CLI::App& command, Request& request) {
+    command.add_option("--journal", request.journalFile, "Write the journal to a file, JSON lines");
+    command.add_option("--panels", request.options.panelFile, "Menu data (JSON)");
+    command.add_option("--profile-dir", request.options.profileDir, "Folder of the profiles");
+    command.add_option("--locale", request.options.locale, "Language and formats, such as en_US");
+    command.add_option("--lib-dir", request.options.libraryDir, "Folder of modules and libraries");
+}
+
+int run(int count, char** arguments) {
+    Request request;
+    request.options.libraryDir = defaultLibraryDir();
+    request.options.panelFile = defaultPanelFile();
+    request.drawing = defaultDrawing().string();
+
+    CLI::App program("A stand-in host for the dashboard");
+    program.require_subcommand(1);
+    CLI::App* runCommand = program.add_subcommand("run", "Run a script against a fresh workbench");
+    runCommand->add_option("script", request.script, "The script (Lua 5.4)")->required();
+    runCommand->add_option("arguments", request.scriptArguments, "Arguments of the script");
+    runCommand->positionals_at_end();
+    addCommonOptions(*runCommand, request);
+    CLI::App* showCommand =
+        program.add_subcommand("show", "Print the dashboard and the road of one gesture");
+    showCommand->add_option("drawing", request.drawing, "The drawing to open (JSON)");
+    addCommonOptions(*showCommand, request);
+    CLI::App* checkCommand = program.add_subcommand("check", "Check drawings and menu data");
+    checkCommand->add_option("files", request.files, "The files (JSON)")->required();
+
+    try {
+        program.parse(count, arguments);
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? kExitPassed : kExitUsage;
+    }
+    if (runCommand->parsed())
+        return runScript(request);
+    if (showCommand->parsed())
+        return showDashboard(request);
+    return checkFiles(request);
+}
+
+}  // namespace
+
+int runCommandLine(int count, char** arguments) {
+    try {
+        return run(count, arguments);
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return kExitUsage;
+    }
+}
+
+}  // namespace workbench

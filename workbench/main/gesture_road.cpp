@@ -1,0 +1,71 @@
+#include "workbench/main/gesture_road.h"
+
+#include "workbench/base/input_error.h"
+#include "workbench/base/text.h"
+#include "workbench/editor/editor.h"
+#include "workbench/gestures/slider_gestures.h"
+#include "workbench/loader/module_loader.h"
+#include "workbench/windows/window_parts.h"
+#include "workbench/windows/window_system.h"
+
+#include <ostream>
+
+namespace workbench {
+
+namespace {
+
+constexpr const wchar_t* kModule = L"VxDashboard.qlx";
+constexpr const char* kControl = "LayerLockTransparencySliderControl";
+constexpr int kFade = 40;            // percent
+constexpr std::int64_t kRest = 400;  // milliseconds, longer than the slider needs to settle
+
+void settle(Workbench& workbench) {
+    do {
+        workbench.windows().runPosted();
+        workbench.editor().pump();
+    } while (workbench.windows().hasPosted());
+}
+
+void openDashboard(Workbench& workbench, const std::string& drawing) {
+    workbench.modules().environment().set("ENABLEDASHBOARD", "1");
+    if (!workbench.modules().loadModule(kModule)) {
+        throw InputError(toUtf8(kModule), workbench.modules().failureText());
+    }
+    workbench.editor().documents().open(drawing);
+    settle(workbench);
+    workbench.editor().type(L"DASHBOARDOLD\n");
+    settle(workbench);
+}
+
+/// The slider of the control; null if no panel holds it.
+HWND findSlider(WindowSystem& windows) {
+    const HWND control = windows.findByName(kControl);
+    return control == nullptr ? nullptr : findPart(windows, control, "slider");
+}
+
+void printSteps(Workbench& workbench, std::ostream& out) {
+    for (const JournalRecord& record : workbench.journal().take())
+        out << toJsonLine(record) << '\n';
+}
+
+}  // namespace
+
+void showGestureRoad(Workbench& workbench, const std::string& drawing, std::ostream& out) {
+    openDashboard(workbench, drawing);
+    out << workbench.windows().tree() << '\n';
+    const HWND slider = findSlider(workbench.windows());
+    if (slider == nullptr) {
+        out << "No panel on show holds " << kControl << ".\n";
+        return;
+    }
+    workbench.journal().take();
+    out << "The road of one gesture: " << kControl << " is dragged to " << kFade << " and rests.\n";
+    gestures::dragSlider(slider, {kFade});
+    gestures::releaseSlider(slider);
+    settle(workbench);
+    workbench.windows().advance(kRest);
+    settle(workbench);
+    printSteps(workbench, out);
+}
+
+}  // namespace workbench

@@ -1,0 +1,5 @@
+#include "workbench/main/command_line.h"
+
+int main(int count, char** arguments) {
+    return workbench::runCommandLine(count, arguments);
+}

@@ -1,0 +1,198 @@
+#include "workbench/base/text.h"
+#include "workbench/gestures/item_gestures.h"
+#include "workbench/gestures/key_gestures.h"
+#include "workbench/gestures/mouse_gestures.h"
+#include "workbench/gestures/slider_gestures.h"
+#include "workbench/script/handles.h"
+#include "workbench/script/script_error.h"
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/slider_widget.h"
+#include "workbench/windows/window_parts.h"
+#include "workbench/windows/window_system.h"
+
+#include <lua.hpp>
+
+namespace workbench::script {
+
+namespace {
+
+constexpr const char* kSlider = "slider";
+constexpr const char* kEdit = "edit";
+
+WindowSystem& windows(Session& session) {
+    return session.workbench().windows();
+}
+
+/// A part of the handle's control; throws ScriptError if it has none of that name.
+HWND partOf(Session& session, const Arguments& arguments, const std::string& part) {
+    const HWND window = findPart(windows(session), controlOf(session, arguments), part);
+    if (window == nullptr)
+        throw ScriptError("the control has no \"" + part + "\"");
+    return window;
+}
+
+HWND fieldOf(Session& session, const Arguments& arguments, int number) {
+    return partOf(session, arguments, arguments.optionalText(number).value_or(kEdit));
+}
+
+const SliderWidget& sliderOf(Session& session, const Arguments& arguments) {
+    const Window* window = windows(session).find(partOf(session, arguments, kSlider));
+    return dynamic_cast<const SliderWidget&>(*window->widget);
+}
+
+int pushTruth(lua_State* lua, bool truth) {
+    lua_pushboolean(lua, truth ? 1 : 0);
+    return 1;
+}
+
+/// Result: whether the slider took the gesture.
+int drag(Session& session, Arguments& arguments) {
+    if (arguments.count() == 0)
+        throw ScriptError("say where to drag the thumb to");
+    const HWND slider = partOf(session, arguments, kSlider);
+    session.noteGesture("drag " + wordsOf(arguments));
+    const bool taken = gestures::dragSlider(slider, arguments.integersFrom(1));
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
+int release(Session& session, Arguments& arguments) {
+    const HWND slider = partOf(session, arguments, kSlider);
+    session.noteGesture("release " + wordsOf(arguments));
+    const bool held = gestures::releaseSlider(slider);
+    session.settle();
+    return pushTruth(arguments.lua(), held);
+}
+
+int slider(Session& session, Arguments& arguments) {
+    lua_pushinteger(arguments.lua(), sliderOf(session, arguments).position());
+    return 1;
+}
+
+int range(Session& session, Arguments& arguments) {
+    const SliderWidget& widget = sliderOf(session, arguments);
+    lua_pushinteger(arguments.lua(), widget.lowest());
+    lua_pushinteger(arguments.lua(), widget.highest());
+    return 2;
+}
+
+/// Without a field: whether the control takes gestures, which its slider, if it has one, must too.
+int enabled(Session& session, Arguments& arguments) {
+    const HWND control = controlOf(session, arguments);
+    if (arguments.has(1)) {
+        const HWND field = partOf(session, arguments, arguments.text(1));
+        return pushTruth(arguments.lua(), windows(session).takesInput(field));
+    }
+    const HWND main = findPart(windows(session), control, kSlider);
+    return pushTruth(arguments.lua(),
+                     windows(session).takesInput(main == nullptr ? control : main));
+}
+
+int visible(Session& session, Arguments& arguments) {
+    return pushTruth(arguments.lua(), windows(session).isOnScreen(controlOf(session, arguments)));
+}
+
+int click(Session& session, Arguments& arguments) {
+    const HWND control = controlOf(session, arguments);
+    session.noteGesture("click " + wordsOf(arguments));
+    bool taken = false;
+    if (arguments.count() == 0) {
+        taken = gestures::clickIcon(control);
+    } else {
+        taken = gestures::clickAt(control, {static_cast<int>(arguments.integer(1)),
+                                            static_cast<int>(arguments.integer(2))});
+    }
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
+int focus(Session& session, Arguments& arguments) {
+    const HWND field = fieldOf(session, arguments, 1);
+    session.noteGesture("focus " + wordsOf(arguments));
+    const bool taken = gestures::focusField(field);
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
+int text(Session& session, Arguments& arguments) {
+    const Window* field = windows(session).find(fieldOf(session, arguments, 1));
+    lua_pushstring(arguments.lua(), toUtf8(field->text).c_str());
+    return 1;
+}
+
+void putText(Session& session, const Arguments& arguments) {
+    const std::string entry = arguments.text(1);
+    if (!gestures::focusField(fieldOf(session, arguments, 2))) {
+        throw ScriptError("the field is disabled");
+    }
+    session.settle();
+    gestures::replaceText(toWide(entry));
+    session.settle();
+}
+
+int put(Session& session, Arguments& arguments) {
+    session.noteGesture("put " + arguments.text(1) + " into " + wordsOf(arguments));
+    putText(session, arguments);
+    return 0;
+}
+
+int enter(Session& session, Arguments& arguments) {
+    session.noteGesture("enter " + arguments.text(1) + " into " + wordsOf(arguments));
+    putText(session, arguments);
+    gestures::pressKey("enter");
+    session.settle();
+    return 0;
+}
+
+/// Without a field the key goes to the window with the focus.
+int key(Session& session, Arguments& arguments) {
+    const std::string name = arguments.text(1);
+    controlOf(session, arguments);
+    const HWND field = arguments.has(2) ? fieldOf(session, arguments, 2) : nullptr;
+    session.noteGesture("key " + name + " in " + wordsOf(arguments));
+    gestures::pressKey(name, field);
+    session.settle();
+    return 0;
+}
+
+int blur(Session& session, Arguments& arguments) {
+    controlOf(session, arguments);
+    session.noteGesture("leave " + wordsOf(arguments));
+    gestures::blur();
+    session.settle();
+    return 0;
+}
+
+int wheel(Session& session, Arguments& arguments) {
+    const HWND control = controlOf(session, arguments);
+    const HWND main = findPart(windows(session), control, kSlider);
+    const HWND target = main == nullptr ? control : main;
+    session.noteGesture("wheel over " + wordsOf(arguments));
+    const bool taken = gestures::turnWheel(target, gestures::middleOf(target),
+                                           static_cast<int>(arguments.integer(1)));
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
+/// The tooltip of the slider, or of a field.
+int tip(Session& session, Arguments& arguments) {
+    const HWND part = partOf(session, arguments, arguments.optionalText(1).value_or(kSlider));
+    const Window* window = windows(session).find(part);
+    const auto* widget = dynamic_cast<const ControlWidget*>(window->widget.get());
+    lua_pushstring(arguments.lua(), widget == nullptr ? "" : toUtf8(widget->tip()).c_str());
+    return 1;
+}
+
+}  // namespace
+
+const std::vector<Call>& controlMethods() {
+    static const std::vector<Call> calls{
+        {"blur", blur},   {"click", click},     {"drag", drag},     {"enabled", enabled},
+        {"enter", enter}, {"focus", focus},     {"key", key},       {"put", put},
+        {"range", range}, {"release", release}, {"slider", slider}, {"text", text},
+        {"tip", tip},     {"visible", visible}, {"wheel", wheel},
+    };
+    return calls;
+}
+
+}  // namespace workbench::script

@@ -1,0 +1,50 @@
+#include "workbench/script/session.h"
+
+#include "workbench/editor/editor.h"
+#include "workbench/windows/window_system.h"
+
+#include <utility>
+
+namespace workbench::script {
+
+namespace {
+
+constexpr const wchar_t* kFirstDocument = L"Drawing1";
+
+}  // namespace
+
+Session::Session(Workbench& workbench) : m_workbench(workbench) {
+    m_workbench.journal().setListener([this](const JournalRecord& record) {
+        if (record.kind == "command" && !record.field("way").isNil())
+            m_sent.push_back(record);
+    });
+}
+
+Session::~Session() {
+    m_workbench.journal().setListener(nullptr);
+}
+
+void Session::settle() {
+    do {
+        m_workbench.windows().runPosted();
+        m_workbench.editor().pump();
+    } while (m_workbench.windows().hasPosted());
+}
+
+void Session::needDocument() {
+    if (m_documentsMade)
+        return;
+    m_documentsMade = true;
+    m_workbench.editor().documents().create(kFirstDocument);
+    settle();
+}
+
+void Session::noteGesture(const std::string& words) {
+    m_workbench.journal().add("gesture", {{"text", words}});
+}
+
+std::vector<JournalRecord> Session::takeSent() {
+    return std::exchange(m_sent, {});
+}
+
+}  // namespace workbench::script

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "workbench/core/workbench.h"
+
+#include <string>
+#include <vector>
+
+namespace workbench::script {
+
+/// What the calls of one script share: the workbench, and what it has handed out already.
+class Session {
+public:
+    explicit Session(Workbench& workbench);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+    ~Session();
+
+    Workbench& workbench() { return m_workbench; }
+
+    /// Lets everything run that a gesture has set going, up to the next wait for a user or the
+    /// clock: posted messages and command text.
+    void settle();
+    /// Opens "Drawing1" if the script has made no document so far: a host starts with one.
+    void needDocument();
+    /// The script makes its documents itself.
+    void noteDocumentMade() { m_documentsMade = true; }
+    /// Notes in the journal what the script does.
+    void noteGesture(const std::string& words);
+    /// The command texts sent since the last call, oldest first.
+    std::vector<JournalRecord> takeSent();
+
+private:
+    Workbench& m_workbench;
+    bool m_documentsMade = false;
+    std::vector<JournalRecord> m_sent;
+};
+
+}  // namespace workbench::script

@@ -1,0 +1,129 @@
+#include "workbench/base/text.h"
+#include "workbench/editor/editor.h"
+#include "workbench/menu/menu_host.h"
+#include "workbench/profiles/profile_store.h"
+#include "workbench/script/calls.h"
+#include "workbench/script/script_error.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace workbench::script {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> kAnswerKinds = {"box", "menu", "dialog", "select"};
+
+std::optional<int> optionalInt(const Arguments& arguments, int number) {
+    const auto value = arguments.optionalInteger(number);
+    if (!value)
+        return {};
+    return static_cast<int>(*value);
+}
+
+int hide(Session& session, Arguments& arguments) {
+    session.workbench().faults().hide(arguments.text(1), arguments.optionalText(2).value_or(""));
+    return 0;
+}
+
+int unhide(Session& session, Arguments& arguments) {
+    session.workbench().faults().unhide(arguments.text(1), arguments.optionalText(2).value_or(""));
+    return 0;
+}
+
+int fail(Session& session, Arguments& arguments) {
+    session.workbench().faults().fail(arguments.text(1), optionalInt(arguments, 2),
+                                      optionalInt(arguments, 3));
+    return 0;
+}
+
+int unfail(Session& session, Arguments& arguments) {
+    session.workbench().faults().unfail(arguments.text(1));
+    return 0;
+}
+
+int answer(Session& session, Arguments& arguments) {
+    const std::string kind = arguments.text(1);
+    if (std::find(kAnswerKinds.begin(), kAnswerKinds.end(), kind) == kAnswerKinds.end()) {
+        throw ScriptError("there is no question of the kind \"" + kind + "\"");
+    }
+    session.workbench().answers().queue(kind, arguments.value(2));
+    return 0;
+}
+
+int wait(Session& session, Arguments& arguments) {
+    const std::int64_t milliseconds = arguments.integer(1);
+    if (milliseconds < 0)
+        throw ScriptError("time doesn't run backwards");
+    session.noteGesture("wait " + std::to_string(milliseconds));
+    session.workbench().windows().advance(milliseconds);
+    session.settle();
+    return 0;
+}
+
+int idle(Session& session, Arguments& arguments) {
+    const std::int64_t ticks = arguments.integerOr(1, 1);
+    for (std::int64_t i = 0; i < ticks; ++i) {
+        session.workbench().toolkit().idleUpdate();
+        session.settle();
+    }
+    return 0;
+}
+
+int profile(Session& session, Arguments& arguments) {
+    session.workbench().profiles().switchTo(arguments.text(1));
+    session.settle();
+    return 0;
+}
+
+int saveProfile(Session& session, Arguments& /*arguments*/) {
+    session.workbench().profiles().save();
+    session.settle();
+    return 0;
+}
+
+int workspace(Session& session, Arguments& arguments) {
+    const std::string name = arguments.text(1);
+    if (!session.workbench().menu().switchWorkspace(name)) {
+        throw ScriptError("there is no workspace \"" + name + "\"");
+    }
+    session.settle();
+    return 0;
+}
+
+int quitBegin(Session& session, Arguments& /*arguments*/) {
+    session.workbench().editor().quitBegin();
+    session.settle();
+    return 0;
+}
+
+int quitAbort(Session& session, Arguments& /*arguments*/) {
+    session.workbench().editor().quitAbort();
+    session.settle();
+    return 0;
+}
+
+}  // namespace
+
+const std::vector<Call>& sessionCalls() {
+    static const std::vector<Call> calls{
+        {"answer", answer},
+        {"fail", fail},
+        {"hide", hide},
+        {"idle", idle},
+        {"profile", profile},
+        {"quit_abort", quitAbort},
+        {"quit_begin", quitBegin},
+        {"save_profile", saveProfile},
+        {"unfail", unfail},
+        {"unhide", unhide},
+        {"wait", wait},
+        {"workspace", workspace},
+    };
+    return calls;
+}
+
+}  // namespace workbench::script
