@@ -52,7 +52,7 @@ public:
     /// Hands out and forgets the untaken records of a kind, or of all kinds if `kind` is empty.
     std::vector<JournalRecord> take(std::string_view kind = {});
 
-    /// Writes each record from now on to a stream as a JSON line, when it is forgotten or flushed.
+    /// Writes each untaken and each later record to a stream as a JSON line, when taken or flushed.
     /// The stream must outlive the journal. Null ends it.
     void writeTo(std::ostream* stream) { m_stream = stream; }
     /// Writes what has not been written yet.

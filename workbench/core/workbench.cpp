@@ -1,7 +1,9 @@
 #include "workbench/core/workbench.h"
 
+#include "workbench/editor/editor.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
+#include "workbench/navigation/navigation_tool.h"
 #include "workbench/palettes/tool_palettes.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/toolkit.h"
@@ -11,9 +13,6 @@
 #include <utility>
 
 namespace workbench {
-
-class Editor {};
-class NavigationTool {};
 
 namespace {
 
@@ -54,8 +53,10 @@ void Workbench::makeUnits() {
     m_modules = std::make_unique<ModuleLoader>(m_options, m_faults);
     m_toolkit = std::make_unique<Toolkit>(*this);
     m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
+    m_editor = std::make_unique<Editor>(m_journal, *m_profiles, m_modules->registry());
     m_menu = std::make_unique<MenuHost>(m_options, m_modules->libraries());
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
+    m_navigation = std::make_unique<NavigationTool>(*m_editor, m_journal);
 }
 
 /// Unloads what is still loaded while all units live, then ends them in the opposite order of their
