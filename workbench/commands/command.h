@@ -34,8 +34,8 @@ public:
     virtual std::wstring prompt() const { return {}; }
     /// Whether a blank belongs to the present answer instead of ending it.
     virtual bool takesBlanks() const { return false; }
-    /// Gives the work up; called at most once, while it waits.
-    virtual void cancel(const CommandScope& /*scope*/) {}
+    /// Lets go of what it holds, since it is ended from outside; called at most once, while it waits.
+    virtual void stop(const CommandScope& /*scope*/) {}
 };
 
 }  // namespace workbench

@@ -147,8 +147,7 @@ bool CommandProcessor::finish(CommandState outcome) {
         return false;
     const Busy busy(*this);
     m_document.input().endInput();
-    if (outcome != CommandState::Ended)
-        m_running.back().command->cancel(scope());
+    m_running.back().command->stop(scope());
     end(m_running.size() - 1, outcome);
     comeToRest();
     return true;
@@ -278,7 +277,7 @@ void CommandProcessor::cancelInnermost() {
         return;
     m_running.back().waiting = false;
     m_document.input().endInput();
-    m_running.back().command->cancel(scope());
+    m_running.back().command->stop(scope());
     end(m_running.size() - 1, CommandState::Cancelled);
 }
 

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "workbench/core/journal.h"
+#include "workbench/navigation/graphics_system.h"
+#include "workbench/navigation/tool.h"
+
+#include <optional>
+
+namespace workbench {
+
+class Editor;
+
+/// How far the recording of an animation is.
+enum class AnimationState { None, Recording, Paused, Playing };
+
+/// Interactive navigation: the tool that runs while the user orbits, walks or flies, its modes, the
+/// recording of an animation, and the graphics system whose views it turns.
+class NavigationTool {
+public:
+    /// \name Modes
+    /// @{
+    static constexpr int kPan = 2;
+    static constexpr int kZoom = 3;
+    static constexpr int kConstrainedOrbit = 4;
+    static constexpr int kContinuousOrbit = 5;
+    static constexpr int kSwivel = 9;
+    static constexpr int kDistance = 10;
+    static constexpr int kWalk = 17;
+    static constexpr int kFly = 18;
+    static constexpr int kFreeOrbit = 22;
+    static constexpr int kParallelProjection = 4315;     ///< changes the view; the mode stays
+    static constexpr int kPerspectiveProjection = 4316;  ///< likewise
+    /// @}
+
+    /// Adds the commands that start the tool to the editor's. The editor must outlive it.
+    NavigationTool(Editor& editor, Journal& journal);
+    NavigationTool(const NavigationTool&) = delete;
+    NavigationTool& operator=(const NavigationTool&) = delete;
+    ~NavigationTool();
+
+    bool isRunning() const { return m_tool.has_value(); }
+    /// The running tool; null for none.
+    CTool* tool() { return m_tool ? &*m_tool : nullptr; }
+    /// The mode of the running tool; 0 for none.
+    int mode() const { return m_tool ? m_tool->mode() : 0; }
+    /// What kind of navigation runs: 0 none, 1 orbiting and its like, 2 walking or flying.
+    int activity() const;
+
+    /// Starts the tool. False if it runs already.
+    bool start(int mode);
+    void stop();
+    /// Changes the mode of the running tool, or its view's projection; nothing while none runs.
+    void switchMode(int mode);
+    /// Shows the settings of walking and flying.
+    void showWalkSettings();
+
+    AnimationState animation() const { return m_animation; }
+    /// Starts recording, or goes on with it.
+    void recordAnimation();
+    /// Pauses the recording; nothing while none is under way.
+    void pauseRecording();
+    /// Plays what was recorded; nothing if nothing was.
+    void playAnimation();
+    /// Asks where what was recorded is to be saved; nothing if nothing was.
+    void saveAnimation();
+    void showAnimationSettings();
+
+    GraphicsSystem& graphics() { return m_graphics; }
+
+private:
+    void setAnimation(AnimationState state);
+    void showDialog(const char* name);
+    void noteMode();
+
+    Editor& m_editor;
+    Journal& m_journal;
+    GraphicsSystem m_graphics;
+    std::optional<CTool> m_tool;  // nothing: none runs
+    AnimationState m_animation = AnimationState::None;
+};
+
+}  // namespace workbench
