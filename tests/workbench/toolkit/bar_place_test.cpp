@@ -33,7 +33,10 @@ TEST_F(BarPlaceTest, APlaceComesBackAsItWasSaved) {
         EXPECT_TRUE(saveBarPlace(m_node, place));
         EXPECT_EQ(loadBarPlace(m_node), place);
     }
-    EXPECT_EQ(VxUt::GetChildNodes(m_node).size(), 1U);
+    const CTypedPtrArray<IXMLDOMNode*> places = VxUt::GetChildNodes(m_node);
+    EXPECT_EQ(places.size(), 1U);
+    for (IXMLDOMNode* place : places)
+        place->Release();
 }
 
 TEST_F(BarPlaceTest, ANodeWithoutAPlaceGivesNone) {
