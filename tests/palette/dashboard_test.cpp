@@ -1,0 +1,246 @@
+#include "palette/dashboard.h"
+
+#include "core/manager.h"
+#include "core/module.h"
+#include "palette/xml_node.h"
+#include "tests/palette/palette_fixture.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/vxdashboard.h>
+#include <hostapi/vxut.h>
+#include <hostapi/zorq/frame_windows.h>
+#include <hostapi/zorq/profiles.h>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// Notes what the bar's listeners are told.
+class Listener final : public VxDaDashboardReactor {
+public:
+    void panelsWillUnload() override {}
+    void panelsUnloaded() override {}
+    void panelsWillLoad() override {}
+    void panelsLoaded() override {}
+    void controlsWillBeReleased() override {}
+    void visibilityChanged(BOOL visible) override { told.push_back(visible); }
+
+    std::vector<BOOL> told;
+};
+
+class DashboardTest : public PaletteTest {
+protected:
+    workbench::MainFrame& frame() { return bench().toolkit().frame(); }
+    NodePtr makeNode() {
+        return NodePtr(vxProfileManagerPtr()->profileStorage(L"Default", true)->createNode(L"Bar"));
+    }
+    Names menuBehind(const std::vector<UINT>& begun) {
+        CMenu menu;
+        menu.CreatePopupMenu();
+        for (const UINT flags : begun)
+            menu.AppendMenu(flags, 1, L"Begun");
+        EXPECT_EQ(dashboard().AddContextMenuItems(menu), 1);
+        return labels(bench().windows().menus().read(menu.m_hMenu));
+    }
+};
+
+TEST_F(DashboardTest, IsDockedAtTheRightWithItsTitleIconAndTheme) {
+    show();
+    EXPECT_EQ(dashboard().GetWindowText(), L"Dashboard");
+    EXPECT_FALSE(dashboard().IsFloating());
+    EXPECT_EQ(frame().placeOf(dashboard()).edge, workbench::Edge::right);
+    EXPECT_NE(dashboard().GetTheme(), nullptr);
+    EXPECT_EQ(bench().windows().gdi().iconCount(), 1U);
+}
+
+TEST_F(DashboardTest, DocksAtTheLeftAndRightEdgesOnly) {
+    load();
+    forget();
+    dashboardManager()->showDashboard();
+    EXPECT_NE(lastCall("CQrUiDockControlBar::EnableDocking").find("20480"), std::string::npos);
+    EXPECT_NE(lastCall("CQrUiDockControlBar::RestoreControlBar").find("59421"), std::string::npos);
+    EXPECT_NE(lastCall("CQrUiPaletteSet::Create").find("4194304"), std::string::npos);
+    EXPECT_NE(lastCall("CQrUiPaletteSet::Create").find("46"), std::string::npos);
+}
+
+TEST_F(DashboardTest, AMissingIconLeavesTheDefault) {
+    load();
+    fail("LoadIcon");
+    showLoaded();
+    EXPECT_EQ(bench().windows().gdi().iconCount(), 0U);
+    EXPECT_EQ(shown().size(), 4U);
+}
+
+TEST_F(DashboardTest, ThePassedOnFailureOfTheToolkitLeavesNoWindow) {
+    load();
+    fail("CQrUiPaletteSet::OnCreate");
+    dashboardManager()->showDashboard();
+    EXPECT_EQ(dashboard().m_hWnd, nullptr);
+    EXPECT_EQ(dashboard().palette()->m_hWnd, nullptr);
+}
+
+TEST_F(DashboardTest, WithTheThemeMissingThePaletteIsNeverCreated) {
+    fail("QrUiGetThemeManager", 100);
+    load();
+    dashboardManager()->showDashboard();
+    EXPECT_NE(dashboard().m_hWnd, nullptr);
+    EXPECT_EQ(dashboard().palette()->m_hWnd, nullptr);
+    EXPECT_EQ(panelSet().m_hWnd, nullptr);
+    EXPECT_EQ(shown(), Names{});
+    EXPECT_EQ(callCount("CQrUiPaletteSet::AddPalette"), 0);
+}
+
+TEST_F(DashboardTest, APaletteThatCannotBeCreatedIsNotAdded) {
+    load();
+    fail("CQrUiPalette::Create");
+    dashboardManager()->showDashboard();
+    EXPECT_EQ(callCount("CQrUiPaletteSet::AddPalette"), 0);
+    EXPECT_EQ(shown(), Names{});
+}
+
+TEST_F(DashboardTest, TheUsersClosingAndShowingReachesTheListeners) {
+    show();
+    Listener listener;
+    dashboardManager()->addOrRemoveReactor(&listener, true);
+    dashboard().ShowWindow(SW_HIDE);
+    dashboard().ShowWindow(SW_SHOW);
+    dashboard().SetWindowPos(0, 0, 300, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_EQ(listener.told, (std::vector<BOOL>{0, 1}));
+    dashboardManager()->addOrRemoveReactor(&listener, false);
+}
+
+TEST_F(DashboardTest, ShowsAndHidesThroughTheFrame) {
+    show();
+    EXPECT_EQ(dashboard().show(0), 1);
+    EXPECT_EQ(dashboard().GetStyle() & WS_VISIBLE, 0U);
+    EXPECT_EQ(dashboard().show(1), 1);
+    EXPECT_NE(dashboard().GetStyle() & WS_VISIBLE, 0U);
+    EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 2);
+}
+
+TEST_F(DashboardTest, F1AnywhereInsideOpensTheTopicAndIsNotPassedOn) {
+    show();
+    for (CWnd* window : {static_cast<CWnd*>(&dashboard()), static_cast<CWnd*>(&panelSet())}) {
+        forget();
+        bench().windows().input(window->m_hWnd, WM_HELP, 0, 0);
+        EXPECT_NE(lastCall("vxedHelp").find("[null,\"DASHBOARD\",0]"), std::string::npos);
+        EXPECT_EQ(callCount("vxedHelp"), 1);
+    }
+    MSG key{dashboard().m_hWnd, WM_HELP, 0, 0};
+    EXPECT_EQ(dashboard().PreTranslateMessage(&key), 1);
+    MSG other{dashboard().m_hWnd, WM_KEYDOWN, VK_RETURN, 0};
+    EXPECT_EQ(dashboard().PreTranslateMessage(&other), 0);
+}
+
+TEST_F(DashboardTest, TheHelpCommandOpensTheTopic) {
+    show();
+    dashboard().SendMessage(WM_COMMAND, 37330);
+    EXPECT_NE(lastCall("vxedHelp").find("[null,\"DASHBOARD\",0]"), std::string::npos);
+}
+
+TEST_F(DashboardTest, PanelCommandsTogglePanels) {
+    show();
+    dashboard().SendMessage(WM_COMMAND, 53500);
+    EXPECT_EQ(shown(), (Names{"MAIN/Draw", "OTHER/Draw", "MAIN/Spare"}));
+}
+
+TEST_F(DashboardTest, AnAnchoredBarIsNeverResizedByItsContent) {
+    show();
+    ASSERT_TRUE(frame().anchor(dashboard(), true));
+    forget();
+    dashboard().resizeToContent({200, 120});
+    EXPECT_EQ(callCount("QrUiResizeControlBarVerticalSize"), 0);
+    EXPECT_EQ(callCount("CWnd::SetWindowPos"), 0);
+}
+
+TEST_F(DashboardTest, AFloatingBarFollowsTheContentsHeightKeepingItsWidth) {
+    show();
+    frame().floatAt(dashboard(), {100, 100, 340, 500});
+    const CRect before = dashboard().GetParentFrame()->GetWindowRect();
+    dashboard().resizeToContent({200, 120});
+    const CRect after = dashboard().GetParentFrame()->GetWindowRect();
+    EXPECT_EQ(after.Width(), before.Width());
+    EXPECT_EQ(after.Height(), 120);
+    EXPECT_EQ(after.left, before.left);
+    EXPECT_EQ(after.top, before.top);
+}
+
+TEST_F(DashboardTest, ADockedBarAsksForTheContentsHeightPlusThirteen) {
+    show();
+    dashboard().resizeToContent({200, 120});
+    EXPECT_NE(lastCall("QrUiResizeControlBarVerticalSize").find("133"), std::string::npos);
+}
+
+/// Lines that the toolkit has begun the context menu with, and what they look like before the
+/// dashboard's own.
+struct BegunMenu {
+    std::vector<UINT> begun;
+    Names kept;
+};
+
+class BegunMenuTest : public DashboardTest, public testing::WithParamInterface<BegunMenu> {};
+
+TEST_P(BegunMenuTest, EndsWithOneSeparatorBeforeThePanels) {
+    show();
+    Names expected = GetParam().kept;
+    expected.insert(expected.end(), {"Panels", "Help"});
+    EXPECT_EQ(menuBehind(GetParam().begun), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Menus, BegunMenuTest,
+                         testing::Values(BegunMenu{{}, {}}, BegunMenu{{MF_STRING}, {"Begun", "-"}},
+                                         BegunMenu{{MF_STRING, MF_SEPARATOR}, {"Begun", "-"}},
+                                         BegunMenu{{MF_STRING, MF_SEPARATOR, MF_SEPARATOR},
+                                                   {"Begun", "-"}},
+                                         BegunMenu{{MF_SEPARATOR}, {}}));
+
+TEST_F(DashboardTest, APanelsMenuThatCannotBeBuiltIsLeftOut) {
+    show();
+    CMenu menu;
+    menu.CreatePopupMenu();
+    fail("CMenu::CreatePopupMenu");
+    EXPECT_EQ(dashboard().AddContextMenuItems(menu), 1);
+    EXPECT_EQ(labels(bench().windows().menus().read(menu.m_hMenu)), Names{"Help"});
+}
+
+TEST_F(DashboardTest, ItsPlaceIsKeptInTheToolkitsStore) {
+    show();
+    const NodePtr node = makeNode();
+    EXPECT_EQ(dashboard().Save(node.get()), 1);
+    EXPECT_EQ(dashboard().Load(node.get()), 1);
+    EXPECT_EQ(dashboard().Load(nullptr), 0);
+    EXPECT_EQ(dashboard().Save(nullptr), 0);
+}
+
+TEST_F(DashboardTest, AnErrorOfTheStoreBecomesTheLastError) {
+    show();
+    const NodePtr node = makeNode();
+    SetLastError(0);
+    bench().faults().fail("VxUt::SetAttributeValue");
+    EXPECT_EQ(dashboard().Save(node.get()), 0);
+    bench().faults().unfail("VxUt::SetAttributeValue");
+    EXPECT_NE(GetLastError(), 0U);
+}
+
+TEST_F(DashboardTest, AChangeOfTheThemeGoesToThePanelSet) {
+    show();
+    ProbeWindow probe(*panel(L"MAIN", L"Layers"));
+    dashboard().ThemeModified(3);
+    ASSERT_FALSE(probe.got.empty());
+    EXPECT_EQ(probe.got.front(),
+              (ProbeWindow::Message{1565, 0, reinterpret_cast<LPARAM>(dashboard().GetTheme())}));
+}
+
+TEST_F(DashboardTest, TheIdleUpdateGoesToTheControlsAndAnswersZero) {
+    show();
+    EXPECT_EQ(dashboard().SendMessage(WM_IDLEUPDATECMDUI, 1, 0), 0);
+    int received = 0;
+    for (const auto& record : bench().journal().take("message")) {
+        if (toJsonLine(record).find("867") != std::string::npos)
+            ++received;
+    }
+    EXPECT_EQ(received, 2);
+}
+
+}  // namespace

@@ -1,0 +1,103 @@
+#include "palette/item_click.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/qrui18/messages.h>
+#include <hostapi/qrui18/tool_panel_item.h>
+
+namespace {
+
+class ItemClickTest : public PaletteTest {
+protected:
+    /// A click as the toolkit reports it to the panel.
+    LRESULT click(CQrUiToolPanelItem* item) {
+        return panel(L"MAIN", L"Layers")
+            ->SendMessage(WM_QRUI_ITEM_CLICKED, 0, reinterpret_cast<LPARAM>(item));
+    }
+    /// The only command text that was sent; empty unless it is one.
+    std::string onlySent() { return sent().size() == 1 ? sent()[0] : ""; }
+};
+
+TEST_F(ItemClickTest, NoItemAnswersZero) {
+    show();
+    EXPECT_EQ(click(nullptr), 0);
+}
+
+/// A type that takes no click.
+class DeadTypeTest : public ItemClickTest, public testing::WithParamInterface<int> {};
+
+TEST_P(DeadTypeTest, DoesNothing) {
+    show();
+    item(L"ID_Line")->SetType(GetParam());
+    EXPECT_EQ(click(item(L"ID_Line")), 1);
+    EXPECT_TRUE(sent().empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(SeparatorAndRowBreak, DeadTypeTest, testing::Values(3, 4));
+
+TEST_F(ItemClickTest, AMacroIsSentAfterTheDrawingViewGotTheFocus) {
+    show();
+    EXPECT_EQ(click(item(L"ID_Line")), 1);
+    EXPECT_NE(onlySent().find("\"_line\\n\""), std::string::npos);
+    EXPECT_NE(onlySent().find("\"menu\""), std::string::npos);
+    EXPECT_EQ(bench().windows().focus(), bench().toolkit().frame().drawingView().m_hWnd);
+}
+
+TEST_F(ItemClickTest, AFlyoutActsAsItsCurrentTool) {
+    show();
+    CQrUiToolPanelItem* flyout = item(L"TPL_A");
+    ASSERT_NE(flyout->SetCurrentFlyoutTool(item(L"ID_A2")), 0);
+    EXPECT_EQ(click(flyout), 1);
+    EXPECT_NE(onlySent().find("\"_a2\\n\""), std::string::npos);
+}
+
+TEST_F(ItemClickTest, AFlyoutWithoutACurrentToolAnswersZero) {
+    show();
+    CQrUiToolPanelItem flyout(nullptr);
+    flyout.SetType(kItemFlyout);
+    EXPECT_EQ(click(&flyout), 0);
+}
+
+TEST_F(ItemClickTest, AnItemWithoutMenuDataAnswersZero) {
+    show();
+    CQrUiToolPanelItem plain(nullptr);
+    EXPECT_EQ(click(&plain), 0);
+}
+
+TEST_F(ItemClickTest, AnItemWithNeitherModuleNorMacroDoesNothing) {
+    show();
+    EXPECT_EQ(click(item(L"ID_Idle")), 1);
+    EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(callCount("CWnd::SetFocus"), 0);
+}
+
+TEST_F(ItemClickTest, AToolOfThisModuleDoesNotRunItsMacro) {
+    show();
+    EXPECT_EQ(click(item(L"ID_Own")), 1);
+    EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(callCount("vxrxLoadModule"), 0);
+}
+
+TEST_F(ItemClickTest, AForeignModuleGetsTheItem) {
+    show();
+    EXPECT_EQ(click(item(L"ID_ExampleCount")), 1);
+    EXPECT_EQ(item(L"ID_ExampleCount")->GetName(), L"1 click");
+}
+
+TEST_F(ItemClickTest, AForeignModuleWithoutTheExportIgnoresTheClick) {
+    show();
+    bench().faults().hide("VxExampleTools.qlx", "VxDaButtonClicked");
+    EXPECT_EQ(click(item(L"ID_ExampleCount")), 1);
+    EXPECT_EQ(item(L"ID_ExampleCount")->GetName().find(L"click"), VxString::npos);
+}
+
+TEST_F(ItemClickTest, AModuleThatCannotBeLoadedEndsTheClick) {
+    show();
+    EXPECT_EQ(click(item(L"ID_Lost")), 1);
+    EXPECT_EQ(callCount("vxrxLoadModule"), 1);
+    EXPECT_TRUE(sent().empty());
+}
+
+}  // namespace

@@ -1,0 +1,175 @@
+#include "palette/panel_set.h"
+
+#include "core/broadcast_messages.h"
+#include "tests/palette/palette_fixture.h"
+#include "tests/support/allocation_counter.h"
+#include "workbench/core/journal.h"
+#include "workbench/profiles/profile_store.h"
+
+#include <hostapi/vxut.h>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class PanelSetTest : public PaletteTest {
+protected:
+    /// Ends the dashboard's panels and builds them again, as the host's reload does.
+    void rebuild() {
+        dashboard().palette()->replacePanelSet();
+        dashboard().loadPanels();
+        settle();
+    }
+    void chooseGroup(const wchar_t* menuGroup, const wchar_t* id, int index) {
+        menuOf(*panel(menuGroup, id));
+        panel(menuGroup, id)->SendMessage(WM_COMMAND, static_cast<WPARAM>(53246 + index));
+    }
+};
+
+TEST_F(PanelSetTest, SendsAMessageToAllControlsInTheOrderOfTheirCreation) {
+    show();
+    ASSERT_EQ(panelSet().controlWindows().size(), 2U);
+    bench().journal().take();
+    panelSet().sendToControls(WM_DA_DOC_BECAME_CURRENT, 0, 0);
+    std::vector<std::string> receivers;
+    for (const auto& record : bench().journal().take("message")) {
+        const std::string line = toJsonLine(record);
+        if (line.find("1726") != std::string::npos)
+            receivers.push_back(line);
+    }
+    ASSERT_EQ(receivers.size(), 2U);
+    EXPECT_NE(receivers[0].find("LayerLockTransparencySliderControl"), std::string::npos);
+}
+
+TEST_F(PanelSetTest, AControlThatIsGoneIsPassedOver) {
+    show();
+    CWnd::FromHandle(panelSet().controlWindows()[0])->DestroyWindow();
+    panelSet().sendToControls(WM_DA_DOC_BECAME_CURRENT, 0, 0);
+    EXPECT_EQ(panelSet().controlWindows().size(), 2U);
+}
+
+TEST_F(PanelSetTest, ABroadcastTakesNoMemory) {
+    show();
+    bench().journal().setRecording(false);
+    panelSet().sendIdleUpdate();
+    const std::size_t before = support::allocationCount();
+    panelSet().sendToControls(WM_DA_DOC_TO_BE_ACTIVATED, 0, 0);
+    panelSet().sendIdleUpdate();
+    EXPECT_EQ(support::allocationCount(), before);
+}
+
+TEST_F(PanelSetTest, ControlsOfAHiddenPanelStayInTheBroadcast) {
+    show();
+    panelSet().hidePanel(panel(L"MAIN", L"Draw"));
+    EXPECT_EQ(panelSet().controlWindows().size(), 2U);
+    EXPECT_TRUE(IsWindow(panelSet().controlWindows()[0]));
+}
+
+TEST_F(PanelSetTest, WhatIsSavedDecidesAtTheNextLoadWhatIsShown) {
+    show();
+    panelSet().togglePanel(53501);
+    EXPECT_EQ(panelSet().saveToProfile(), 1);
+    rebuild();
+    EXPECT_EQ(shown(), (Names{"MAIN/Layers", "OTHER/Draw", "MAIN/Spare"}));
+}
+
+TEST_F(PanelSetTest, TheToolPaletteGroupOfThePanelsMenuIsSaved) {
+    show();
+    chooseGroup(L"MAIN", L"Layers", 0);
+    panelSet().saveToProfile();
+    rebuild();
+    EXPECT_EQ(panel(L"MAIN", L"Layers")->toolPaletteGroup().text(), L"Doors");
+    EXPECT_TRUE(panel(L"MAIN", L"Draw")->toolPaletteGroup().isEmpty());
+}
+
+TEST_F(PanelSetTest, ReadingTheProfileAgainChangesThePanelsGroupAndNoWindow) {
+    show();
+    panelSet().saveToProfile();
+    chooseGroup(L"MAIN", L"Layers", 0);
+    panelSet().togglePanel(53500);
+    EXPECT_EQ(panelSet().loadFromProfile(), 1);
+    EXPECT_TRUE(panel(L"MAIN", L"Layers")->toolPaletteGroup().isEmpty());
+    EXPECT_EQ(shown().size(), 3U);
+}
+
+TEST_F(PanelSetTest, ASecondSaveDoesNotDuplicateElements) {
+    show();
+    panelSet().saveToProfile();
+    panelSet().saveToProfile();
+    IXMLDOMNode* node =
+        vxProfileManagerPtr()->profileStorage(L"Default", false)->openNode(L"Dashboard");
+    const auto sets = VxUt::GetChildNodes(node);
+    ASSERT_EQ(sets.size(), 1U);
+    const auto panels = VxUt::GetChildNodes(sets[0]);
+    EXPECT_EQ(panels.size(), 4U);
+    for (IXMLDOMNode* child : panels)
+        child->Release();
+    sets[0]->Release();
+    node->Release();
+}
+
+TEST_F(PanelSetTest, WithoutAProfilesNodeNothingIsSavedAndNothingFails) {
+    show();
+    EXPECT_EQ(panelSet().loadFromProfile(), 1);
+    fail("vxedGetVar");
+    EXPECT_EQ(panelSet().loadFromProfile(), 1);
+    fail("vxedGetVar");
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+}
+
+TEST_F(PanelSetTest, WithoutRecordsNothingIsSaved) {
+    fail("vxedGetPanelSetData");
+    show();
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+    EXPECT_EQ(callCount("vxedGetVar"), 0);
+}
+
+/// A host call of the save, and whether its failure raises an error.
+struct SaveFault {
+    const char* call;
+    bool raises;
+};
+
+class SaveFaultTest : public PanelSetTest, public testing::WithParamInterface<SaveFault> {};
+
+TEST_P(SaveFaultTest, EndsTheSaveWithZero) {
+    show();
+    chooseGroup(L"MAIN", L"Layers", 0);
+    SetLastError(0);
+    fail(GetParam().call, 100);
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+    bench().faults().unfail(GetParam().call);
+    EXPECT_EQ(GetLastError() != 0, GetParam().raises);
+}
+
+INSTANTIATE_TEST_SUITE_P(HostCalls, SaveFaultTest,
+                         testing::Values(SaveFault{"VxUt::RemoveChildren", true},
+                                         SaveFault{"VxUt::SetAttributeValue", true},
+                                         SaveFault{"VxUtResString::Save", true}));
+
+TEST_F(PanelSetTest, LoadAndSaveOfNoNodeAnswerZero) {
+    show();
+    EXPECT_EQ(panelSet().Load(nullptr), 0);
+    EXPECT_EQ(panelSet().Save(nullptr), 0);
+}
+
+TEST_F(PanelSetTest, ThePanelsMenuNeedsAMenu) {
+    show();
+    EXPECT_EQ(panelSet().buildPanelsMenu(nullptr), 0);
+    CMenu menu;
+    fail("CMenu::CreatePopupMenu");
+    EXPECT_EQ(panelSet().buildPanelsMenu(&menu), 0);
+    EXPECT_EQ(panelSet().buildPanelsMenu(&menu), 1);
+    EXPECT_EQ(menu.GetMenuItemCount(), 4);
+    EXPECT_EQ(panelSet().buildPanelsMenu(&menu), 1);
+    EXPECT_EQ(menu.GetMenuItemCount(), 4);
+}
+
+TEST_F(PanelSetTest, ItemsOfOneIdOnTwoPanelsAreFoundTogether) {
+    show();
+    ASSERT_NE(panelSet().findToolPanelItems(L"ID_Line"), nullptr);
+    EXPECT_EQ(panelSet().findToolPanelItems(L"ID_Line")->size(), 2U);
+    EXPECT_EQ(panelSet().findToolPanelItems(L"id_line"), nullptr);
+}
+
+}  // namespace

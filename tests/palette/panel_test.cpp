@@ -1,0 +1,170 @@
+#include "palette/panel.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "workbench/menu/menu_host.h"
+#include "workbench/palettes/tool_palettes.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <stdexcept>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+class PanelTest : public PaletteTest {
+protected:
+    CVxDaPanel& layers() { return *panel(L"MAIN", L"Layers"); }
+    void command(UINT number) { layers().SendMessage(WM_COMMAND, number); }
+    Names groups() { return labels(popup(menuOf(layers()), L"Tool Palette Group")); }
+    static VxUtResString textOf(const wchar_t* text) {
+        VxUtResString result;
+        result.setText(text);
+        return result;
+    }
+};
+
+TEST_F(PanelTest, TheContextMenuHasItsLinesInOrder) {
+    show();
+    EXPECT_EQ(labels(menuOf(layers())),
+              (Names{"Tool Palette Group", "Hide", "Help", "-", "Panels", "-", "Customize..."}));
+    EXPECT_EQ(labels(popup(menuOf(layers()), L"Panels")),
+              (Names{"*Layers", "*Drawing", "*House", "*Spare"}));
+}
+
+TEST_F(PanelTest, AMenuThatTheToolkitHasBegunGetsASeparatorFirst) {
+    show();
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 1, L"Collapse");
+    layers().AddContextMenuItems(menu);
+    const auto lines = bench().windows().menus().read(menu.m_hMenu);
+    EXPECT_EQ(labels(lines)[1], "-");
+    EXPECT_EQ(labels(lines)[2], "Tool Palette Group");
+}
+
+TEST_F(PanelTest, TheGroupThatIsNeverOfferedLeavesItsNumberFree) {
+    show();
+    const auto lines = popup(menuOf(layers()), L"Tool Palette Group");
+    EXPECT_EQ(labels(lines), (Names{"Doors", "Windows", "*None"}));
+    EXPECT_EQ(lines[0].command, 53246U);
+    EXPECT_EQ(lines[1].command, 53248U);
+    EXPECT_EQ(lines[2].command, 53249U);
+}
+
+TEST_F(PanelTest, TheChosenGroupIsChecked) {
+    show();
+    menuOf(layers());
+    command(53248);
+    EXPECT_EQ(layers().toolPaletteGroup().text(), L"Windows");
+    EXPECT_EQ(groups(), (Names{"Doors", "*Windows", "None"}));
+}
+
+TEST_F(PanelTest, TheEntryForNoGroupEmptiesIt) {
+    show();
+    layers().setToolPaletteGroup(textOf(L"Doors"));
+    menuOf(layers());
+    command(53249);
+    EXPECT_TRUE(layers().toolPaletteGroup().isEmpty());
+}
+
+TEST_F(PanelTest, AGroupThatTheSchemeNoLongerHasIsKeptAsACheckedExtraLine) {
+    show();
+    layers().setToolPaletteGroup(textOf(L"Roofs"));
+    const auto lines = popup(menuOf(layers()), L"Tool Palette Group");
+    EXPECT_EQ(labels(lines), (Names{"Doors", "Windows", "*Roofs", "None"}));
+    EXPECT_EQ(lines[2].command, 53249U);
+    command(53249);
+    EXPECT_EQ(layers().toolPaletteGroup().text(), L"Roofs");
+}
+
+TEST_F(PanelTest, AGroupIsComparedExactly) {
+    show();
+    layers().setToolPaletteGroup(textOf(L"doors"));
+    EXPECT_EQ(groups(), (Names{"Doors", "Windows", "*doors", "None"}));
+}
+
+TEST_F(PanelTest, AChoiceOutsideOfTheListIsAnInvalidArgument) {
+    show();
+    menuOf(layers());
+    EXPECT_THROW(command(53250), std::invalid_argument);
+    EXPECT_TRUE(layers().toolPaletteGroup().isEmpty());
+}
+
+TEST_F(PanelTest, AChoiceBeforeTheFirstMenuIsAnInvalidArgument) {
+    show();
+    EXPECT_THROW(command(53246), std::invalid_argument);
+}
+
+TEST_F(PanelTest, WithoutAPanelsMenuTheMenuIsRefused) {
+    show();
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menuOf(layers());
+    // The first popup of the second menu is that of the groups.
+    bench().faults().fail("CMenu::CreatePopupMenu");
+    EXPECT_EQ(layers().AddContextMenuItems(menu), 0);
+    bench().faults().unfail("CMenu::CreatePopupMenu");
+}
+
+TEST_F(PanelTest, HideTakesThePanelOffShow) {
+    show();
+    command(37331);
+    EXPECT_EQ(shown(), (Names{"MAIN/Draw", "OTHER/Draw", "MAIN/Spare"}));
+    EXPECT_EQ(panelSet().HasPanel(&layers()), 0);
+    EXPECT_EQ(layers().GetStyle() & WS_VISIBLE, 0U);
+}
+
+TEST_F(PanelTest, HelpOpensTheDashboardsTopic) {
+    show();
+    command(37330);
+    EXPECT_NE(lastCall("vxedHelp").find("[null,\"DASHBOARD\",0]"), std::string::npos);
+}
+
+/// A panel command, and the index of the panel that it toggles.
+class ToggleTest : public PanelTest, public testing::WithParamInterface<std::size_t> {};
+
+TEST_P(ToggleTest, GoesToThePanelSet) {
+    show();
+    Names expected = shown();
+    expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(GetParam()));
+    command(53500 + static_cast<UINT>(GetParam()));
+    EXPECT_EQ(shown(), expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, ToggleTest, testing::Values(0U, 1U, 2U, 3U));
+
+TEST_F(PanelTest, CustomizeSelectsThePanelAndSendsTheCommand) {
+    show();
+    command(37332);
+    ASSERT_TRUE(bench().menu().customization().selection().has_value());
+    EXPECT_EQ(bench().menu().customization().selection()->panelId, "Layers");
+    EXPECT_EQ(bench().menu().customization().selection()->menuGroup, "MAIN");
+    ASSERT_EQ(sent().size(), 1U);
+    EXPECT_NE(sent()[0].find("\"_.CUI \""), std::string::npos);
+}
+
+TEST_F(PanelTest, WithoutTheCustomizationDialogTheCommandIsSentAllTheSame) {
+    show();
+    fail("zorqiGetCustomizationInterface");
+    command(37332);
+    EXPECT_FALSE(bench().menu().customization().selection().has_value());
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(PanelTest, APanelWithoutAGroupOpensNothing) {
+    show();
+    EXPECT_EQ(layers().OnActivatePanel(), 0);
+    EXPECT_EQ(callCount("VxTcUiGetManager"), 0);
+}
+
+TEST_F(PanelTest, APanelWithAGroupOpensTheToolPalettesOnIt) {
+    show();
+    layers().setToolPaletteGroup(textOf(L"Windows"));
+    EXPECT_EQ(layers().OnActivatePanel(), 1);
+    ASSERT_NE(bench().toolPalettes().window(), nullptr);
+    EXPECT_EQ(bench().toolPalettes().window()->activeGroup(), L"Windows");
+    EXPECT_TRUE(bench().toolPalettes().window()->isOnScreen());
+}
+
+}  // namespace
