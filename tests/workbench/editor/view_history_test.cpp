@@ -1,0 +1,73 @@
+#include "workbench/editor/view_history.h"
+
+#include "workbench/drawing/drawing.h"
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/viewport.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace workbench {
+
+using drawing::Viewport;
+using drawing::Writing;
+
+class ViewHistoryTest : public testing::Test {
+protected:
+    drawing::Database& data() { return m_drawing->db; }
+    drawing::ObjectId port() { return drawing::activeViewport(data()); }
+    void setWidth(double width) { Writing<Viewport>(data(), port())->view.width = width; }
+    double width() { return data().look<Viewport>(port())->view.width; }
+
+    std::unique_ptr<drawing::Drawing> m_drawing = drawing::makeNewDrawing();
+    int m_changes = 0;
+    ViewHistory m_history{m_drawing->db, [this](drawing::ObjectId) { ++m_changes; }};
+};
+
+TEST_F(ViewHistoryTest, WithoutAnEarlierViewThereIsNoStepBack) {
+    EXPECT_FALSE(m_history.stepBack(port()));
+    EXPECT_FALSE(m_history.stepBack({}));
+    EXPECT_EQ(m_changes, 0);
+}
+
+TEST_F(ViewHistoryTest, StepsBackThroughTheViewsOneByOne) {
+    const double first = width();
+    setWidth(10);
+    setWidth(20);
+    EXPECT_EQ(m_history.depth(port()), 2U);
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_EQ(width(), 10);
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_EQ(width(), first);
+    EXPECT_FALSE(m_history.stepBack(port()));
+    EXPECT_EQ(m_changes, 4);
+}
+
+TEST_F(ViewHistoryTest, AChangeThatLeavesTheViewIsNone) {
+    Writing<Viewport>(data(), port())->locked = true;
+    EXPECT_EQ(m_history.depth(port()), 0U);
+    EXPECT_EQ(m_changes, 0);
+}
+
+TEST_F(ViewHistoryTest, AViewThatCannotBeChangedStaysOnTheStack) {
+    setWidth(10);
+    {
+        const drawing::Reading<Viewport> reading(data(), port());
+        EXPECT_FALSE(m_history.stepBack(port()));
+    }
+    EXPECT_EQ(m_history.depth(port()), 1U);
+    EXPECT_TRUE(m_history.stepBack(port()));
+}
+
+TEST_F(ViewHistoryTest, AViewportThatIsAddedHasAHistoryToo) {
+    Viewport added;
+    added.number = 5;
+    added.view.width = 3;
+    const drawing::ObjectId id = data().add(added).id;
+    Writing<Viewport>(data(), id)->view.width = 4;
+    EXPECT_TRUE(m_history.stepBack(id));
+    EXPECT_EQ(data().look<Viewport>(id)->view.width, 3);
+}
+
+}  // namespace workbench
