@@ -35,8 +35,7 @@ int Collation::Order::compare(std::wstring_view left, std::wstring_view right) c
 Collation::Collation(std::string locale)
     : m_locale(std::move(locale)),
       m_exact(std::make_unique<Order>(m_locale, icu::Collator::TERTIARY)),
-      m_noCase(std::make_unique<Order>(m_locale, icu::Collator::SECONDARY)) {
-}
+      m_noCase(std::make_unique<Order>(m_locale, icu::Collator::SECONDARY)) {}
 
 Collation::~Collation() = default;
 

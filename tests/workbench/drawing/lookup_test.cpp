@@ -8,7 +8,7 @@
 namespace workbench::drawing {
 namespace {
 
-class LookupTest : public testing::Test {
+class DrawingLookupTest : public testing::Test {
 protected:
     void set(const char* path, const Value& value) { setByPath(m_drawing->db, path, value); }
 
@@ -16,14 +16,14 @@ protected:
     Database& m_db = m_drawing->db;
 };
 
-TEST_F(LookupTest, InModelSpaceTheTileIsActive) {
+TEST_F(DrawingLookupTest, InModelSpaceTheTileIsActive) {
     EXPECT_TRUE(activeLayout(m_db).isNull());
     EXPECT_EQ(activeViewport(m_db), findViewport(m_db, {}, 2));
     EXPECT_FALSE(activeSun(m_db).isNull());
     EXPECT_TRUE(activeBackground(m_db).isNull());
 }
 
-TEST_F(LookupTest, InALayoutItsOwnCurrentViewportIsActive) {
+TEST_F(DrawingLookupTest, InALayoutItsOwnCurrentViewportIsActive) {
     set("current.tileMode", false);
     const ObjectId layout = m_db.find(RecordKind::Layout, "Layout1");
     EXPECT_EQ(activeLayout(m_db), layout);
@@ -34,12 +34,12 @@ TEST_F(LookupTest, InALayoutItsOwnCurrentViewportIsActive) {
     EXPECT_EQ(viewportsOf(m_db, layout).size(), 2U);
 }
 
-TEST_F(LookupTest, ErasedSunShinesNoMore) {
+TEST_F(DrawingLookupTest, ErasedSunShinesNoMore) {
     set("suns.Sun", Value());
     EXPECT_TRUE(activeSun(m_db).isNull());
 }
 
-TEST_F(LookupTest, MissingViewportIsNone) {
+TEST_F(DrawingLookupTest, MissingViewportIsNone) {
     set("current.modelViewport", 9);
     EXPECT_TRUE(activeViewport(m_db).isNull());
     EXPECT_TRUE(activeVisualStyle(m_db).isNull());
