@@ -36,7 +36,7 @@ public:
     /// Removes a group with its commands; false if there is none. Runs of them go on.
     bool removeGroup(std::wstring_view group);
 
-    /// The command of a name: in the group that was made last first. Null for none.
+    /// The command of a name, of several the one that was added last; null for none.
     std::shared_ptr<const CommandDefinition> find(std::wstring_view name, CommandNames names) const;
     /// All commands, in the order in which they were added.
     const std::vector<std::shared_ptr<const CommandDefinition>>& all() const { return m_commands; }
