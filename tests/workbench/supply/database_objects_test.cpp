@@ -1,0 +1,52 @@
+#include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/drawing/records/sun.h"
+
+#include <hostapi/vxdb18/database.h>
+
+namespace workbench {
+
+using DatabaseFunctionsTest = EditorTest;
+
+TEST_F(DatabaseFunctionsTest, AnIdIsValidAsLongAsItsDrawingIsOpenAlsoWhenErased) {
+    Document& document = newDocument();
+    const drawing::ObjectId sun = document.data().add(drawing::Sun()).id;
+    const VxDbObjectId id = toHostId(sun);
+    EXPECT_TRUE(id.isValid());
+    drawing::Writing<drawing::Sun>(document.data(), sun).erase();
+    EXPECT_TRUE(id.isValid());
+    EXPECT_FALSE(VxDbObjectId().isValid());
+    EXPECT_FALSE(VxDbObjectId{id.number + 1000}.isValid());
+    editor().documents().close(document);
+    EXPECT_FALSE(id.isValid());
+}
+
+TEST_F(DatabaseFunctionsTest, ObjectsAreOpenedForReadByManyAndForWriteByOne) {
+    Document& document = newDocument();
+    const VxDbObjectId id = toHostId(document.data().add(drawing::Sun()).id);
+    VxDbObject* reader = nullptr;
+    VxDbObject* other = nullptr;
+    EXPECT_EQ(vxdbOpenObject(reader, id, VxDbOpenMode::kForRead), Zorq::eOk);
+    EXPECT_EQ(vxdbOpenObject(other, id, VxDbOpenMode::kForRead), Zorq::eOk);
+    other->close();
+    EXPECT_NE(vxdbOpenObject(other, id, VxDbOpenMode::kForWrite), Zorq::eOk);
+    EXPECT_EQ(other, nullptr);
+    reader->close();
+    EXPECT_EQ(vxdbOpenObject(other, id, VxDbOpenMode::kForWrite), Zorq::eOk);
+    EXPECT_EQ(other->close(), Zorq::eOk);
+    EXPECT_EQ(document.openObjects().count(), 0U);
+}
+
+TEST_F(DatabaseFunctionsTest, WhatCannotBeOpenedIsNull) {
+    Document& document = newDocument();
+    const drawing::ObjectId sun = document.data().add(drawing::Sun()).id;
+    VxDbObject* object = nullptr;
+    EXPECT_NE(vxdbOpenObject(object, {}, VxDbOpenMode::kForRead), Zorq::eOk);
+    EXPECT_NE(vxdbOpenObject(object, {99}, VxDbOpenMode::kForRead), Zorq::eOk);
+    m_bench.faults().fail("vxdbOpenObject", 77, 1);
+    EXPECT_EQ(vxdbOpenObject(object, toHostId(sun), VxDbOpenMode::kForRead), 77);
+    drawing::Writing<drawing::Sun>(document.data(), sun).erase();
+    EXPECT_NE(vxdbOpenObject(object, toHostId(sun), VxDbOpenMode::kForRead), Zorq::eOk);
+    EXPECT_EQ(object, nullptr);
+}
+
+}  // namespace workbench

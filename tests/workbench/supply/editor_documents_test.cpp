@@ -1,0 +1,85 @@
+#include "tests/workbench/editor/editor_fixture.h"
+
+#include <hostapi/zorq/documents.h>
+
+namespace workbench {
+
+using DocumentFunctionsTest = EditorTest;
+
+TEST_F(DocumentFunctionsTest, TheManagerIsTheEditorsDocuments) {
+    EXPECT_EQ(vxDocManagerPtr(), &editor().documents());
+    m_bench.faults().fail("vxDocManagerPtr");
+    EXPECT_EQ(vxDocManagerPtr(), nullptr);
+}
+
+TEST_F(DocumentFunctionsTest, LocksAreTakenAndEnded) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false), Zorq::eOk);
+    EXPECT_EQ(document.lockMode(), kDocLockWrite);
+    EXPECT_EQ(manager.unlockDocument(&document), Zorq::eOk);
+    EXPECT_NE(manager.unlockDocument(&document), Zorq::eOk);
+    EXPECT_NE(manager.lockDocument(&document, 0, L"G", L"L", false), Zorq::eOk);
+    EXPECT_NE(manager.lockDocument(nullptr, kDocLockWrite, L"G", L"L", false), Zorq::eOk);
+    EXPECT_NE(manager.unlockDocument(nullptr), Zorq::eOk);
+    m_bench.faults().fail("VxApDocManager::lockDocument", 42);
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false), 42);
+}
+
+TEST_F(DocumentFunctionsTest, ALockScopeLocksTheDocumentOfItsDatabase) {
+    Document& document = newDocument();
+    {
+        const VxAxDocLock lock(document.database(), 1);
+        EXPECT_EQ(document.locks().mode(), 1);
+    }
+    EXPECT_EQ(document.locks().mode(), 0);
+    {
+        const VxAxDocLock nothing(nullptr, 1);
+        m_bench.faults().fail("VxAxDocLock::VxAxDocLock", {}, 1);
+        const VxAxDocLock failed(document.database(), 1);
+        EXPECT_EQ(document.locks().mode(), 0);
+    }
+    EXPECT_EQ(document.locks().mode(), 0);
+}
+
+TEST_F(DocumentFunctionsTest, SentTextWaitsForTheProcessor) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    EXPECT_EQ(manager.sendToCommandLine(&document, L"_lunits\n4\n", false, true, true), Zorq::eOk);
+    EXPECT_EQ(read(L"LUNITS"), Value(2));
+    editor().pump();
+    EXPECT_EQ(read(L"LUNITS"), Value(4));
+    EXPECT_NE(manager.sendToCommandLine(nullptr, L"x", false, true, true), Zorq::eOk);
+    EXPECT_NE(manager.sendToCommandLine(&document, nullptr, false, true, true), Zorq::eOk);
+}
+
+TEST_F(DocumentFunctionsTest, TheFlagOfSentTextHoldsItsThreeTruths) {
+    Document& document = newDocument();
+    m_bench.journal().take();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    manager.sendToCommandLine(&document, L"_model", false, true, true);
+    manager.sendToCommandLine(&document, L"\3\3", true, false, true);
+    const std::vector<JournalRecord> records = m_bench.journal().take("command");
+    ASSERT_EQ(records.size(), 2U);
+    EXPECT_EQ(records[0].field("flag"), Value(6));
+    EXPECT_EQ(records[0].field("way"), Value("line"));
+    EXPECT_EQ(records[1].field("flag"), Value(5));
+    EXPECT_EQ(records[1].field("way"), Value("cancel"));
+}
+
+TEST_F(DocumentFunctionsTest, FaultsHideDocumentsAndReactors) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    for (const char* call : {"VxApDocManager::curDocument", "VxApDocManager::mdiActiveDocument",
+                             "VxApDocManager::documentCount", "VxApDocManager::addReactor"})
+        m_bench.faults().fail(call);
+    EXPECT_EQ(manager.curDocument(), nullptr);
+    EXPECT_EQ(manager.mdiActiveDocument(), nullptr);
+    EXPECT_EQ(manager.documentCount(), 0);
+    EventLog deaf;
+    manager.addReactor(&deaf);
+    editor().documents().close(document);
+    EXPECT_EQ(deaf.take(), Lines{});
+}
+
+}  // namespace workbench
