@@ -67,8 +67,7 @@ TEST_F(ModuleTest, ToolIsRegisteredAlsoWithoutCommands) {
 }
 
 TEST_F(ModuleTest, ServiceThatIsThereIsNotRegisteredTwice) {
-    VxRxObject* none = nullptr;
-    EXPECT_EQ(vxrxSysRegistry()->at(L"NoSuchEntry"), none);
+    bench();
     vxrxRegisterService(L"ZorqVxDashboard");
     calls();
     loadAndTakeCalls();
@@ -190,6 +189,8 @@ TEST_F(ModuleTest, SecondLoadStartsFresh) {
 TEST_F(ModuleTest, ManyRoundsOfLoadShowAndUnloadLeaveNothingBehind) {
     env("ENABLEDASHBOARD", "1");
     newDocument(L"A");
+    // The example module keeps its own control as long as it is loaded itself.
+    bench().faults().hide("VxExampleTools.qlx");
     for (int round = 0; round < 100; ++round) {
         ASSERT_TRUE(load());
         type(L"DASHBOARDOLD\n");

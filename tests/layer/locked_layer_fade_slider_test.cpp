@@ -360,10 +360,18 @@ TEST_F(FadeSliderTest, EnterIsConsumedAndNeverReachesTheCommandLine) {
     EXPECT_EQ(bench().windows().focus(), edit());
 }
 
-TEST_F(FadeSliderTest, NegativeEntrySwitchesFadingOff) {
+TEST_F(FadeSliderTest, NegativeEntrySwitchesFadingOffAndShowsItsSize) {
     enter(L"-20");
+    EXPECT_EQ(fade(), -20);
     EXPECT_EQ(position(), 20);
-    EXPECT_FALSE(isEnabled(slider()));
+    EXPECT_EQ(text(), L"      20%");
+    EXPECT_TRUE(isEnabled(slider())) << "the control knew the value before its event came";
+}
+
+TEST_F(FadeSliderTest, LeavingTheFieldAfterANegativeEntryTakesTheShownSizeForTheValue) {
+    enter(L"-20");
+    leave();
+    EXPECT_EQ(fade(), 20);
 }
 
 TEST_F(FadeSliderTest, NotificationHidesTheBalloon) {
@@ -377,6 +385,7 @@ TEST_F(FadeSliderTest, NotificationHidesTheBalloon) {
 
 TEST_F(FadeSliderTest, EntryDuringTheSettleTimeIsWrittenTwiceWithTheEnteredValue) {
     drag({70});
+    release();
     enter(L"15");
     wait(300);
     EXPECT_EQ(fade(), 15);

@@ -1,5 +1,8 @@
 #include "workbench/commands/module_command.h"
 
+#include "workbench/core/invalid_argument.h"
+#include "workbench/editor/editor.h"
+
 namespace workbench {
 
 namespace {
@@ -8,8 +11,13 @@ class ModuleCommand final : public Command {
 public:
     explicit ModuleCommand(VxEdCommandStack::CommandFunction function) : m_function(function) {}
 
-    CommandState start(const CommandScope& /*scope*/) override {
-        m_function();
+    CommandState start(const CommandScope& scope) override {
+        try {
+            m_function();
+        } catch (const InvalidArgument& failure) {
+            scope.editor.journal().add("box", {{"text", failure.what()}, {"string", {}}});
+            return CommandState::Failed;
+        }
         return CommandState::Ended;
     }
 
