@@ -36,6 +36,20 @@ Outcome outcomeOf(CommandState state) {
     return {"ended", &EditorReactors::commandEnded};
 }
 
+/// Gives a place another value for the length of a scope.
+template <class Type>
+class Replaced {
+public:
+    Replaced(Type& place, Type value) : m_place(place), m_before(std::exchange(place, value)) {}
+    ~Replaced() { m_place = m_before; }
+    Replaced(const Replaced&) = delete;
+    Replaced& operator=(const Replaced&) = delete;
+
+private:
+    Type& m_place;
+    Type m_before;
+};
+
 constexpr int kActivityCommand = 1;
 constexpr int kActivityTransparent = 2;
 
@@ -124,10 +138,12 @@ bool CommandProcessor::doCommand(std::wstring_view text, int flag) {
 
 bool CommandProcessor::runNow(std::wstring_view text) {
     const Busy busy(*this);
-    const std::size_t outer = std::exchange(m_outer, m_running.size());
-    CommandText answers{std::wstring(text)};
-    const bool good = consume(answers, true);
-    m_outer = outer;
+    bool good = false;
+    {
+        const Replaced<std::size_t> outer(m_outer, m_running.size());
+        CommandText answers{std::wstring(text)};
+        good = consume(answers, true);
+    }
     comeToRest();
     return good;
 }
@@ -235,17 +251,29 @@ bool CommandProcessor::start(std::shared_ptr<const CommandDefinition> definition
         m_document.locks().lock(DocumentLocks::kAutoWrite);
     }
     noteEvent(definition->globalName, "started");
-    m_editor.reactors().commandWillStart(definition->globalName.c_str());
-    Command& command = *m_running[run].command;
-    return settle(run, command.start(scope()));
+    return work(run, [this, &definition](Command& command) {
+        m_editor.reactors().commandWillStart(definition->globalName.c_str());
+        return command.start(scope());
+    });
 }
 
 bool CommandProcessor::feed(std::wstring_view answer) {
     const std::size_t run = m_running.size() - 1;
     m_running[run].waiting = false;
     m_document.input().endInput();
-    Command& command = *m_running[run].command;
-    return settle(run, command.feed(scope(), answer));
+    return work(run, [this, answer](Command& command) { return command.feed(scope(), answer); });
+}
+
+template <class Work>
+bool CommandProcessor::work(std::size_t run, Work step) {
+    CommandState state = CommandState::Failed;
+    try {
+        state = step(*m_running[run].command);
+    } catch (...) {
+        end(run, CommandState::Failed);
+        throw;
+    }
+    return settle(run, state);
 }
 
 bool CommandProcessor::settle(std::size_t run, CommandState state) {
@@ -291,10 +319,11 @@ void CommandProcessor::comeToRest() {
     if (m_busy > 1 || m_resting || isActive() || m_abandoned)
         return;
     m_resting = true;
-    m_tellingRest = true;
-    m_document.input().beginQuiescentState();
+    {
+        const Replaced<bool> telling(m_tellingRest, true);
+        m_document.input().beginQuiescentState();
+    }
     // What ran inside the event left the rest without telling; it is over unless it waits.
-    m_tellingRest = false;
     m_resting = !isActive();
 }
 

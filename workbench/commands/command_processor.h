@@ -88,6 +88,9 @@ private:
     bool startNamed(const std::wstring& entered, bool inside);
     bool start(std::shared_ptr<const CommandDefinition> definition, bool transparent);
     bool feed(std::wstring_view answer);
+    /// Has a run's command do a step of its work; one that throws has failed.
+    template <class Work>
+    bool work(std::size_t run, Work step);
     /// Goes on with what a run answered; false if it failed.
     bool settle(std::size_t run, CommandState state);
     void end(std::size_t run, CommandState outcome);

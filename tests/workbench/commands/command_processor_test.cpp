@@ -277,6 +277,17 @@ TEST_F(CommandProcessorTest, ACommandAtWorkCannotBeCancelledOrFinished) {
     EXPECT_EQ(std::count(told.begin(), told.end(), "cancelled WORK"), 0);
 }
 
+TEST_F(CommandProcessorTest, ACommandThatThrowsHasFailedAndTheProcessorGoesOn) {
+    addWork([] { throw std::runtime_error("broken"); });
+    EXPECT_THROW(run(L"_work\n"), std::runtime_error);
+    EXPECT_EQ(events(), (Lines{"rest ends", "started WORK", "failed WORK"}));
+    EXPECT_EQ(read(L"CMDACTIVE"), Value(0));
+    EXPECT_EQ(m_document.locks().mode(), 0);
+    EXPECT_TRUE(run(L"_lunits\n4\n"));
+    EXPECT_EQ(read(L"LUNITS"), Value(4));
+    EXPECT_EQ(events().back(), "rest begins");
+}
+
 // Documents, locks and undo.
 
 TEST_F(CommandProcessorTest, TextForADocumentBehindRunsWithItCurrent) {
