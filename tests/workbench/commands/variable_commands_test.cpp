@@ -2,6 +2,8 @@
 
 #include "tests/workbench/editor/editor_fixture.h"
 
+#include <ostream>
+
 namespace workbench {
 
 class VariableCommandsTest : public EditorTest {
@@ -46,6 +48,10 @@ struct NamedCase {
     const wchar_t* variable;
     int value;
     const char* name;
+
+    friend void PrintTo(const NamedCase& shown, std::ostream* out) {
+        *out << '"' << toUtf8(shown.text) << '"';
+    }
 };
 
 class NamedVariableCommandTest : public VariableCommandsTest,

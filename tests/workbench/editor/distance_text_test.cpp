@@ -1,7 +1,10 @@
 #include "workbench/editor/distance_text.h"
 
+#include "workbench/base/text.h"
+
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 namespace workbench {
@@ -10,6 +13,10 @@ struct DistanceCase {
     const wchar_t* text;
     LinearUnit unit;
     double value;
+
+    friend void PrintTo(const DistanceCase& shown, std::ostream* out) {
+        *out << '"' << toUtf8(shown.text) << '"';
+    }
 };
 
 class DistanceTextTest : public testing::TestWithParam<DistanceCase> {};
@@ -53,6 +60,10 @@ INSTANTIATE_TEST_SUITE_P(
 struct BadDistance {
     const wchar_t* text;
     LinearUnit unit;
+
+    friend void PrintTo(const BadDistance& shown, std::ostream* out) {
+        *out << '"' << toUtf8(shown.text) << '"';
+    }
 };
 
 class BadDistanceTextTest : public testing::TestWithParam<BadDistance> {};

@@ -3,11 +3,17 @@
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/navigation/navigation_tool.h"
 
+#include <ostream>
+
 namespace workbench {
 
 struct NavigationCase {
     const wchar_t* command;
     int mode;
+
+    friend void PrintTo(const NavigationCase& shown, std::ostream* out) {
+        *out << '"' << toUtf8(shown.command) << '"';
+    }
 };
 
 class NavigationCommandsTest : public EditorTest,

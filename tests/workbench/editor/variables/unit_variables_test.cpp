@@ -1,5 +1,7 @@
 #include "tests/workbench/editor/editor_fixture.h"
 
+#include <ostream>
+
 namespace workbench {
 
 struct UnitCase {
@@ -7,6 +9,10 @@ struct UnitCase {
     int least;
     int most;
     int initial;
+
+    friend void PrintTo(const UnitCase& shown, std::ostream* out) {
+        *out << '"' << toUtf8(shown.name) << '"';
+    }
 };
 
 class UnitVariablesTest : public EditorTest, public testing::WithParamInterface<UnitCase> {};

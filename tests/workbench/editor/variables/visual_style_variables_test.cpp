@@ -2,12 +2,18 @@
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/visual_style.h"
 
+#include <ostream>
+
 namespace workbench {
 
 struct StyleCase {
     const wchar_t* name;
     int value;
     int beyond;
+
+    friend void PrintTo(const StyleCase& shown, std::ostream* out) {
+        *out << '"' << toUtf8(shown.name) << '"';
+    }
 };
 
 class VisualStyleVariablesTest : public EditorTest,
