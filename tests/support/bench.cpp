@@ -1,6 +1,7 @@
 #include "tests/support/bench.h"
 
 #include "workbench/base/text.h"
+#include "workbench/commands/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/loader/module_loader.h"
@@ -145,12 +146,12 @@ void Bench::openDrawing(const std::string& file) {
 
 void Bench::type(const std::wstring& text) {
     bench().editor().type(text);
-    settle();
+    runHost();
 }
 
 void Bench::begin(const std::wstring& command) {
     bench().editor().beginCommand(command);
-    settle();
+    runHost();
 }
 
 void Bench::finish(const std::string& outcome) {
@@ -159,7 +160,7 @@ void Bench::finish(const std::string& outcome) {
                                               ? workbench::CommandState::Cancelled
                                               : workbench::CommandState::Failed;
     EXPECT_TRUE(bench().editor().finishCommand(state));
-    settle();
+    runHost();
 }
 
 workbench::Value Bench::var(const std::wstring& name) {
@@ -173,15 +174,25 @@ void Bench::set(const std::wstring& name, const workbench::Value& value) {
 
 void Bench::wait(std::int64_t milliseconds) {
     bench().windows().advance(milliseconds);
-    settle();
+    runHost();
 }
 
 void Bench::idle() {
     bench().toolkit().idleUpdate();
-    settle();
+    runHost();
 }
 
 void Bench::settle() {
+    do {
+        bench().windows().runPosted();
+        const workbench::Document* document = bench().editor().documents().current();
+        const bool isRunning = document != nullptr && document->processor().isActive();
+        if (!isRunning)
+            bench().editor().pump();
+    } while (bench().windows().hasPosted());
+}
+
+void Bench::runHost() {
     do {
         bench().windows().runPosted();
         bench().editor().pump();

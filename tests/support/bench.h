@@ -67,8 +67,11 @@ protected:
     void set(const std::wstring& name, const workbench::Value& value);
     void wait(std::int64_t milliseconds);
     void idle();
-    /// Lets everything run that has been set going.
+    /// Lets run what a gesture has set going: posted messages, and command text unless a command
+    /// is running. What is queued behind a running command waits for `runHost`.
     void settle();
+    /// The host's next turn: posted messages and all command text. Part of `wait`, `idle`, `type`.
+    void runHost();
     /// Commands enabled, module loaded, a document "A", the dashboard shown.
     void showDashboard();
     void fail(const std::string& call, std::optional<int> status = {},

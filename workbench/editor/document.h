@@ -36,7 +36,7 @@ public:
     drawing::Database& data() const { return m_drawing->db; }
     /// The database as modules see it: one object for the document's life.
     DatabaseAdapter& hostDatabase() const { return *m_hostDatabase; }
-    CommandProcessor& processor() { return *m_processor; }
+    CommandProcessor& processor() const { return *m_processor; }
     InputManager& input() { return m_input; }
     DocumentLocks& locks() { return m_locks; }
     const DocumentLocks& locks() const { return m_locks; }

@@ -66,7 +66,7 @@ int type(Session& session, Arguments& arguments) {
     currentDocument(session);
     session.noteGesture("type " + text);
     editor(session).type(toWide(text));
-    session.settle();
+    session.runHost();
     return 0;
 }
 
@@ -74,7 +74,7 @@ int begin(Session& session, Arguments& arguments) {
     const std::string command = arguments.text(1);
     currentDocument(session);
     editor(session).beginCommand(toWide(command));
-    session.settle();
+    session.runHost();
     return 0;
 }
 
@@ -93,7 +93,7 @@ int finish(Session& session, Arguments& arguments) {
     const CommandState outcome = outcomeNamed(arguments.optionalText(1).value_or("ended"));
     if (!editor(session).finishCommand(outcome))
         throw ScriptError("no command is running");
-    session.settle();
+    session.runHost();
     return 0;
 }
 
@@ -126,14 +126,14 @@ int set(Session& session, Arguments& arguments) {
 int undo(Session& session, Arguments& arguments) {
     currentDocument(session);
     lua_pushboolean(arguments.lua(), editor(session).undo() ? 1 : 0);
-    session.settle();
+    session.runHost();
     return 1;
 }
 
 int redo(Session& session, Arguments& arguments) {
     currentDocument(session);
     lua_pushboolean(arguments.lua(), editor(session).redo() ? 1 : 0);
-    session.settle();
+    session.runHost();
     return 1;
 }
 

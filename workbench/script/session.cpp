@@ -1,5 +1,6 @@
 #include "workbench/script/session.h"
 
+#include "workbench/commands/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/windows/window_system.h"
 
@@ -27,8 +28,21 @@ Session::~Session() {
 void Session::settle() {
     do {
         m_workbench.windows().runPosted();
+        if (!isCommandRunning())
+            m_workbench.editor().pump();
+    } while (m_workbench.windows().hasPosted());
+}
+
+void Session::runHost() {
+    do {
+        m_workbench.windows().runPosted();
         m_workbench.editor().pump();
     } while (m_workbench.windows().hasPosted());
+}
+
+bool Session::isCommandRunning() const {
+    const Document* document = m_workbench.editor().documents().current();
+    return document != nullptr && document->processor().isActive();
 }
 
 void Session::needDocument() {

@@ -17,9 +17,12 @@ public:
 
     Workbench& workbench() { return m_workbench; }
 
-    /// Lets everything run that a gesture has set going, up to the next wait for a user or the
-    /// clock: posted messages and command text.
+    /// Lets run what a gesture has set going: posted messages, and command text unless a command is
+    /// running in the current document. Text that is queued behind a running command, the cancel
+    /// characters too, waits for the host's next turn.
     void settle();
+    /// The host's next turn: posted messages and all command text.
+    void runHost();
     /// Opens "Drawing1" if the script has made no document so far: a host starts with one.
     void needDocument();
     /// The script makes its documents itself.
@@ -30,6 +33,8 @@ public:
     std::vector<JournalRecord> takeSent();
 
 private:
+    bool isCommandRunning() const;
+
     Workbench& m_workbench;
     bool m_documentsMade = false;
     std::vector<JournalRecord> m_sent;

@@ -60,7 +60,7 @@ int wait(Session& session, Arguments& arguments) {
         throw ScriptError("time doesn't run backwards");
     session.noteGesture("wait " + std::to_string(milliseconds));
     session.workbench().windows().advance(milliseconds);
-    session.settle();
+    session.runHost();
     return 0;
 }
 
@@ -68,7 +68,7 @@ int idle(Session& session, Arguments& arguments) {
     const std::int64_t ticks = arguments.integerOr(1, 1);
     for (std::int64_t i = 0; i < ticks; ++i) {
         session.workbench().toolkit().idleUpdate();
-        session.settle();
+        session.runHost();
     }
     return 0;
 }

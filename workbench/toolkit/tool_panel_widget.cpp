@@ -49,11 +49,18 @@ CQrUiToolPanelItem* itemAt(const CQrUiToolPanel& panel, CPoint point) {
 RowLayout ToolPanelWidget::rows(const CQrUiToolPanel& panel, int width) const {
     RowMetrics metrics;
     metrics.iconSize = Workbench::current().toolkit().iconSize();
-    metrics.indent = (m_toolkitStyle & kIndentStyle) != 0 ? kImageIndent : 0;
+    metrics.indent = indentOf(panel);
     return layoutRows(
         rowItemsOf(panel), width, metrics, [&panel](std::size_t index, int controlWidth) {
             return controlHeight(*panel.GetToolPanelItem(static_cast<int>(index)), controlWidth);
         });
+}
+
+int ToolPanelWidget::indentOf(const CQrUiToolPanel& panel) const {
+    const Window* const window = windowSystem().find(panel.m_hWnd);
+    // A custom control stands to the right of the panel's image already.
+    const bool isControl = window != nullptr && standsIn<ToolPanelWidget>(*window);
+    return (m_toolkitStyle & kIndentStyle) != 0 && !isControl ? kImageIndent : 0;
 }
 
 void ToolPanelWidget::layout(Window& window) {

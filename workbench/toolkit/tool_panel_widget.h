@@ -26,6 +26,7 @@ public:
 
 private:
     RowLayout rows(const CQrUiToolPanel& panel, int width) const;
+    int indentOf(const CQrUiToolPanel& panel) const;
     void press(const Window& window, CPoint point);
     void release(Window& window, UINT flags, CPoint point);
     void click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point);

@@ -14,7 +14,7 @@ public:
     ~CQrUiToolPanel() override;
 
     /// Creates the window. `rect` is in the parent's client coordinates. Toolkit style 2 indents the
-    /// rows below a panel image. Returns 0 on failure.
+    /// rows of a panel's own tool panel below the panel's image. Returns 0 on failure.
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id, UINT toolkitStyle);
 
     /// The left button was released over an item that is not handled by the panel, or over the
