@@ -24,7 +24,8 @@ void broadcastToControls(benchmark::State& state) {
     session.showDashboard();
     CVxDaPanelSet* receivers = dashboardManager()->panelSet();
     const bench::AllocationMeter meter;
-    for (auto _ : state) receivers->sendToControls(WM_DA_VIEW_CHANGED, 0, 0);
+    for (auto _ : state)
+        receivers->sendToControls(WM_DA_VIEW_CHANGED, 0, 0);
     setReceiverCounters(state, meter);
 }
 BENCHMARK(broadcastToControls)->Arg(10)->Arg(100)->Arg(1000);
@@ -36,7 +37,8 @@ void systemVariableEvent(benchmark::State& state) {
     session.showDashboard();
     workbench::EditorReactors& reactors = session.workbench().editor().reactors();
     const bench::AllocationMeter meter;
-    for (auto _ : state) reactors.sysVarChanged(L"STEPSIZE", true);
+    for (auto _ : state)
+        reactors.sysVarChanged(L"STEPSIZE", true);
     setReceiverCounters(state, meter);
 }
 BENCHMARK(systemVariableEvent)->Arg(10)->Arg(100)->Arg(1000);
@@ -47,7 +49,8 @@ void idleTick(benchmark::State& state) {
     session.showDashboard();
     CVxDaPanelSet* receivers = dashboardManager()->panelSet();
     const bench::AllocationMeter meter;
-    for (auto _ : state) receivers->sendIdleUpdate();
+    for (auto _ : state)
+        receivers->sendIdleUpdate();
     setReceiverCounters(state, meter);
 }
 BENCHMARK(idleTick)->Arg(10)->Arg(100)->Arg(1000);

@@ -13,7 +13,8 @@ void writeProfileTree(benchmark::State& state) {
     bench::Session session(bench::menuOf(static_cast<int>(state.range(0)), 1));
     session.showDashboard();
     CVxDaPanelSet* panelSet = dashboardManager()->panelSet();
-    for (auto _ : state) panelSet->saveToProfile();
+    for (auto _ : state)
+        panelSet->saveToProfile();
 }
 BENCHMARK(writeProfileTree)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
@@ -22,7 +23,8 @@ void readProfileTree(benchmark::State& state) {
     session.showDashboard();
     CVxDaPanelSet* panelSet = dashboardManager()->panelSet();
     panelSet->saveToProfile();
-    for (auto _ : state) panelSet->loadFromProfile();
+    for (auto _ : state)
+        panelSet->loadFromProfile();
 }
 BENCHMARK(readProfileTree)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
 

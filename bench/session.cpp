@@ -63,7 +63,8 @@ std::string menuOf(int panels, int items, int controls) {
 Session::MenuFile::MenuFile(const std::string& text) {
     std::string name = (std::filesystem::temp_directory_path() / "vxbench-XXXXXX").string();
     const int file = mkstemp(name.data());
-    if (file < 0) std::abort();
+    if (file < 0)
+        std::abort();
     m_path = name;
     std::ofstream(m_path) << text;
 }
@@ -74,15 +75,20 @@ Session::MenuFile::~MenuFile() {
 }
 
 Session::Session(const std::string& menuText)
-    : m_menuFile(menuText), m_workbench(optionsFor(m_menuFile.path())) {
+    : m_menuFile(menuText),
+      m_workbench(optionsFor(m_menuFile.path())) {
     m_workbench.journal().setRecording(false);
     loadModule(nullptr);
     m_workbench.editor().documents().create(L"Drawing1");
 }
 
-Session::~Session() { unloadModule(); }
+Session::~Session() {
+    unloadModule();
+}
 
-void Session::showDashboard() { dashboardManager()->showDashboard(); }
+void Session::showDashboard() {
+    dashboardManager()->showDashboard();
+}
 
 AllocationMeter::AllocationMeter() : m_start(support::allocationCount()) {}
 

@@ -1,5 +1,5 @@
-#include "workbench/base/input_error.h"
 #include "workbench/menu/menu_reader.h"
+#include "workbench/base/input_error.h"
 
 #include <cstddef>
 #include <cstdint>
