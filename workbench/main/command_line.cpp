@@ -1,6 +1,7 @@
 #include "workbench/main/command_line.h"
 
 #include "workbench/base/input_error.h"
+#include "workbench/base/json_parser.h"
 #include "workbench/drawing/drawing_reader.h"
 #include "workbench/main/default_paths.h"
 #include "workbench/main/gesture_road.h"
@@ -10,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -78,9 +80,14 @@ int showDashboard(const Request& request) {
     return kExitPassed;
 }
 
+bool isDrawing(const std::string& file) {
+    const JsonValue content = parseJson(readWholeFile(file), file);
+    return std::find(content.names.begin(), content.names.end(), "format") != content.names.end();
+}
+
 /// A file is a drawing if it says so, and otherwise menu data.
 void checkFile(const std::string& file) {
-    if (isDrawingFile(file)) {
+    if (isDrawing(file)) {
         drawing::readDrawing(file);
     } else {
         readMenuFile(file);
@@ -116,11 +123,10 @@ int run(int count, char** arguments) {
     request.drawing = defaultDrawing().string();
 
     CLI::App program("A stand-in host for the dashboard");
-    program.require_subcommand(1);
+    program.require_subcommand(0, 1);
     CLI::App* runCommand = program.add_subcommand("run", "Run a script against a fresh workbench");
     runCommand->add_option("script", request.script, "The script (Lua 5.4)")->required();
     runCommand->add_option("arguments", request.scriptArguments, "Arguments of the script");
-    runCommand->positionals_at_end();
     addCommonOptions(*runCommand, request);
     CLI::App* showCommand =
         program.add_subcommand("show", "Print the dashboard and the road of one gesture");
@@ -138,7 +144,11 @@ int run(int count, char** arguments) {
         return runScript(request);
     if (showCommand->parsed())
         return showDashboard(request);
-    return checkFiles(request);
+    if (checkCommand->parsed())
+        return checkFiles(request);
+    std::cerr
+        << "say what to do: run a script, show a drawing or check files (--help tells more)\n";
+    return kExitUsage;
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
 #include "workbench/main/default_paths.h"
 
-#include "workbench/base/json_parser.h"
-
-#include <algorithm>
 #include <initializer_list>
 
 namespace workbench {
@@ -34,11 +31,6 @@ std::filesystem::path defaultPanelFile() {
 
 std::filesystem::path defaultDrawing() {
     return findExample("house.json");
-}
-
-bool isDrawingFile(const std::string& file) {
-    const JsonValue content = parseJson(readWholeFile(file), file);
-    return std::find(content.names.begin(), content.names.end(), "format") != content.names.end();
 }
 
 }  // namespace workbench

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 namespace workbench {
 
@@ -12,8 +11,5 @@ std::filesystem::path defaultLibraryDir();
 std::filesystem::path defaultPanelFile();
 /// The example drawing, found likewise.
 std::filesystem::path defaultDrawing();
-
-/// Whether a JSON file says that it is a drawing. Throws InputError if it can't be read.
-bool isDrawingFile(const std::string& file);
 
 }  // namespace workbench

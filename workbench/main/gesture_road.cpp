@@ -5,6 +5,7 @@
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/slider_gestures.h"
 #include "workbench/loader/module_loader.h"
+#include "workbench/main/step_text.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
@@ -45,7 +46,7 @@ HWND findSlider(WindowSystem& windows) {
 
 void printSteps(Workbench& workbench, std::ostream& out) {
     for (const JournalRecord& record : workbench.journal().take())
-        out << toJsonLine(record) << '\n';
+        out << describeStep(record) << '\n';
 }
 
 }  // namespace

@@ -63,6 +63,21 @@ Value Arguments::value(int number) const {
     return number <= m_count ? toValue(m_lua, index(number)) : Value();
 }
 
+std::string Arguments::words(int number) const {
+    switch (lua_type(m_lua, index(number))) {
+    case LUA_TNIL:
+    case LUA_TBOOLEAN:
+    case LUA_TNUMBER:
+    case LUA_TSTRING: {
+        const std::string text = luaL_tolstring(m_lua, index(number), nullptr);
+        lua_pop(m_lua, 1);
+        return text;
+    }
+    default:
+        return std::string("a ") + luaL_typename(m_lua, index(number));
+    }
+}
+
 std::vector<int> Arguments::integersFrom(int number) const {
     std::vector<int> integers;
     for (int i = number; i <= m_count; ++i) {

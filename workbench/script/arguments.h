@@ -30,6 +30,8 @@ public:
     std::optional<std::int64_t> optionalInteger(int number) const;
     bool truth(int number) const;
     Value value(int number) const;
+    /// What was given, in words for the journal.
+    std::string words(int number) const;
     /// All arguments from a number on, as whole numbers.
     std::vector<int> integersFrom(int number) const;
     /// The stack index of an argument.

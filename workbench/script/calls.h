@@ -7,10 +7,14 @@
 
 namespace workbench::script {
 
-/// One call that scripts can make: its name and what it does. Returns how many results it pushed.
+/// Whether a call does something, which the journal then notes as a gesture, or only asks.
+enum class CallKind { Asks, Acts };
+
+/// One call that scripts can make. Its function returns how many results it pushed.
 struct Call {
     const char* name;
     int (*function)(Session& session, Arguments& arguments);
+    CallKind kind = CallKind::Asks;
 };
 
 /// The calls of the table `wb`, a list a file.

@@ -50,7 +50,6 @@ int drag(Session& session, Arguments& arguments) {
     if (arguments.count() == 0)
         throw ScriptError("say where to drag the thumb to");
     const HWND slider = partOf(session, arguments, kSlider);
-    session.noteGesture("drag " + wordsOf(arguments));
     const bool taken = gestures::dragSlider(slider, arguments.integersFrom(1));
     session.settle();
     return pushTruth(arguments.lua(), taken);
@@ -58,7 +57,6 @@ int drag(Session& session, Arguments& arguments) {
 
 int release(Session& session, Arguments& arguments) {
     const HWND slider = partOf(session, arguments, kSlider);
-    session.noteGesture("release " + wordsOf(arguments));
     const bool held = gestures::releaseSlider(slider);
     session.settle();
     return pushTruth(arguments.lua(), held);
@@ -94,7 +92,6 @@ int visible(Session& session, Arguments& arguments) {
 
 int click(Session& session, Arguments& arguments) {
     const HWND control = controlOf(session, arguments);
-    session.noteGesture("click " + wordsOf(arguments));
     bool taken = false;
     if (arguments.count() == 0) {
         taken = gestures::clickIcon(control);
@@ -108,7 +105,6 @@ int click(Session& session, Arguments& arguments) {
 
 int focus(Session& session, Arguments& arguments) {
     const HWND field = fieldOf(session, arguments, 1);
-    session.noteGesture("focus " + wordsOf(arguments));
     const bool taken = gestures::focusField(field);
     session.settle();
     return pushTruth(arguments.lua(), taken);
@@ -131,13 +127,11 @@ void putText(Session& session, const Arguments& arguments) {
 }
 
 int put(Session& session, Arguments& arguments) {
-    session.noteGesture("put " + arguments.text(1) + " into " + wordsOf(arguments));
     putText(session, arguments);
     return 0;
 }
 
 int enter(Session& session, Arguments& arguments) {
-    session.noteGesture("enter " + arguments.text(1) + " into " + wordsOf(arguments));
     putText(session, arguments);
     gestures::pressKey("enter");
     session.settle();
@@ -149,7 +143,6 @@ int key(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
     controlOf(session, arguments);
     const HWND field = arguments.has(2) ? fieldOf(session, arguments, 2) : nullptr;
-    session.noteGesture("key " + name + " in " + wordsOf(arguments));
     gestures::pressKey(name, field);
     session.settle();
     return 0;
@@ -157,7 +150,6 @@ int key(Session& session, Arguments& arguments) {
 
 int blur(Session& session, Arguments& arguments) {
     controlOf(session, arguments);
-    session.noteGesture("leave " + wordsOf(arguments));
     gestures::blur();
     session.settle();
     return 0;
@@ -167,7 +159,6 @@ int wheel(Session& session, Arguments& arguments) {
     const HWND control = controlOf(session, arguments);
     const HWND main = findPart(windows(session), control, kSlider);
     const HWND target = main == nullptr ? control : main;
-    session.noteGesture("wheel over " + wordsOf(arguments));
     const bool taken = gestures::turnWheel(target, gestures::middleOf(target),
                                            static_cast<int>(arguments.integer(1)));
     session.settle();
@@ -187,10 +178,21 @@ int tip(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& controlMethods() {
     static const std::vector<Call> calls{
-        {"blur", blur},   {"click", click},     {"drag", drag},     {"enabled", enabled},
-        {"enter", enter}, {"focus", focus},     {"key", key},       {"put", put},
-        {"range", range}, {"release", release}, {"slider", slider}, {"text", text},
-        {"tip", tip},     {"visible", visible}, {"wheel", wheel},
+        {"blur", blur, CallKind::Acts},
+        {"click", click, CallKind::Acts},
+        {"drag", drag, CallKind::Acts},
+        {"enabled", enabled},
+        {"enter", enter, CallKind::Acts},
+        {"focus", focus, CallKind::Acts},
+        {"key", key, CallKind::Acts},
+        {"put", put, CallKind::Acts},
+        {"range", range},
+        {"release", release, CallKind::Acts},
+        {"slider", slider},
+        {"text", text},
+        {"tip", tip},
+        {"visible", visible},
+        {"wheel", wheel, CallKind::Acts},
     };
     return calls;
 }

@@ -64,7 +64,6 @@ int close(Session& session, Arguments& arguments) {
 int type(Session& session, Arguments& arguments) {
     const std::string text = arguments.text(1);
     currentDocument(session);
-    session.noteGesture("type " + text);
     editor(session).type(toWide(text));
     session.runHost();
     return 0;
@@ -144,6 +143,7 @@ int db(Session& session, Arguments& arguments) {
         push(arguments.lua(), drawing::getByPath(data, path));
         return 1;
     }
+    session.noteGesture("db " + path + " " + arguments.words(2));
     drawing::setByPath(data, path, arguments.value(2));
     session.settle();
     return 0;
@@ -153,9 +153,12 @@ int db(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& documentCalls() {
     static const std::vector<Call> calls{
-        {"activate", activate}, {"begin", begin},     {"close", close}, {"db", db},
-        {"finish", finish},     {"new", newDocument}, {"open", open},   {"redo", redo},
-        {"set", set},           {"type", type},       {"undo", undo},   {"var", var},
+        {"activate", activate, CallKind::Acts}, {"begin", begin, CallKind::Acts},
+        {"close", close, CallKind::Acts},       {"db", db},
+        {"finish", finish, CallKind::Acts},     {"new", newDocument, CallKind::Acts},
+        {"open", open, CallKind::Acts},         {"redo", redo, CallKind::Acts},
+        {"set", set, CallKind::Acts},           {"type", type, CallKind::Acts},
+        {"undo", undo, CallKind::Acts},         {"var", var},
     };
     return calls;
 }

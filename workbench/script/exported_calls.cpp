@@ -83,7 +83,7 @@ int addOrRemoveReactor(Session& session, Arguments& arguments) {
     const auto function = find<VxDaAddOrRemoveReactorFn>(session, "VxDaAddOrRemoveReactor");
     LuaListener* listener = nullptr;
     if (arguments.has(2))
-        listener = &LuaListener::of(arguments.lua(), arguments.index(2));
+        listener = &LuaListener::of(session, arguments.lua(), arguments.index(2));
     const int answer = function(listener, arguments.integerOr(3, 1) != 0 ? 1 : 0);
     session.settle();
     return pushInteger(arguments.lua(), answer);

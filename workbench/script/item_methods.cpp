@@ -14,7 +14,6 @@ namespace {
 /// Result: whether the click found the item enabled.
 int click(Session& session, Arguments& arguments) {
     CQrUiToolPanelItem& item = itemOf(arguments);
-    session.noteGesture("click " + wordsOf(arguments));
     lua_pushboolean(arguments.lua(), gestures::clickItem(item) ? 1 : 0);
     session.settle();
     return 1;
@@ -38,7 +37,7 @@ int state(Session& /*session*/, Arguments& arguments) {
 
 const std::vector<Call>& itemMethods() {
     static const std::vector<Call> calls{
-        {"click", click},
+        {"click", click, CallKind::Acts},
         {"state", state},
     };
     return calls;

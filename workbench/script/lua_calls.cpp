@@ -1,5 +1,7 @@
 #include "workbench/script/lua_calls.h"
 
+#include "workbench/script/handles.h"
+
 #include <lua.hpp>
 
 #include <exception>
@@ -9,7 +11,18 @@ namespace workbench::script {
 
 namespace {
 
-/// Runs a call; its failure becomes the script's, with the script's place in front.
+/// What a call does, such as "drag control LayerControl 10 20".
+std::string wordsFor(const Call& call, const Arguments& arguments, bool isMethod) {
+    std::string words = call.name;
+    if (isMethod)
+        words += " " + wordsOf(arguments);
+    for (int number = 1; number <= arguments.count(); ++number)
+        words += " " + arguments.words(number);
+    return words;
+}
+
+/// Runs a call; its failure becomes the script's, with the script's place in front. So does that of
+/// a listener that the call has made run.
 int runCall(lua_State* lua) {
     auto& session = *static_cast<Session*>(lua_touserdata(lua, lua_upvalueindex(1)));
     const auto& call = *static_cast<const Call*>(lua_touserdata(lua, lua_upvalueindex(2)));
@@ -18,7 +31,12 @@ int runCall(lua_State* lua) {
     std::string reason;
     try {
         Arguments arguments(lua, first);
-        return call.function(session, arguments);
+        if (call.kind == CallKind::Acts)
+            session.noteGesture(wordsFor(call, arguments, first > 1));
+        const int results = call.function(session, arguments);
+        reason = session.takeListenerError();
+        if (reason.empty())
+            return results;
     } catch (const std::exception& error) {
         reason = error.what();
     }

@@ -1,6 +1,7 @@
 #include "workbench/script/lua_listener.h"
 
 #include "workbench/script/script_error.h"
+#include "workbench/script/session.h"
 
 #include <lua.hpp>
 
@@ -14,7 +15,7 @@ constexpr const char* kListeners = "workbench.listeners";  // registry table: ta
 
 }  // namespace
 
-LuaListener& LuaListener::of(lua_State* lua, int index) {
+LuaListener& LuaListener::of(Session& session, lua_State* lua, int index) {
     if (!lua_istable(lua, index))
         throw ScriptError("a listener must be a table of functions");
     luaL_getsubtable(lua, LUA_REGISTRYINDEX, kListeners);
@@ -29,7 +30,7 @@ LuaListener& LuaListener::of(lua_State* lua, int index) {
     const int reference = luaL_ref(lua, LUA_REGISTRYINDEX);
     lua_pushvalue(lua, index);
     void* memory = lua_newuserdatauv(lua, sizeof(LuaListener), 0);
-    auto* listener = new (memory) LuaListener(lua, reference);
+    auto* listener = new (memory) LuaListener(session, lua, reference);
     lua_rawset(lua, -3);
     lua_pop(lua, 1);
     return *listener;
@@ -59,14 +60,21 @@ bool LuaListener::pushFunction(const char* name) {
 
 void LuaListener::call(const char* name) {
     if (pushFunction(name))
-        lua_call(m_lua, 0, 0);
+        run(0);
+}
+
+void LuaListener::run(int arguments) {
+    if (lua_pcall(m_lua, arguments, 0, 0) == LUA_OK)
+        return;
+    m_session.noteListenerError(luaL_tolstring(m_lua, -1, nullptr));
+    lua_pop(m_lua, 2);
 }
 
 void LuaListener::visibilityChanged(BOOL visible) {
     if (!pushFunction("visibilityChanged"))
         return;
     lua_pushinteger(m_lua, visible);
-    lua_call(m_lua, 1, 0);
+    run(1);
 }
 
 }  // namespace workbench::script

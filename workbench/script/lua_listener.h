@@ -8,6 +8,8 @@ struct lua_State;
 
 namespace workbench::script {
 
+class Session;
+
 /// A listener to the dashboard that calls the functions of a table: `panelsWillUnload`,
 /// `panelsUnloaded`, `panelsWillLoad`, `panelsLoaded`, `controlsWillBeReleased`,
 /// `visibilityChanged`; missing ones are left out.
@@ -15,12 +17,15 @@ class LuaListener final : public VxDaDashboardReactor {
 public:
     /// The listener of the table at a stack index: always the same for the same table. It lives as
     /// long as the script. Throws ScriptError for anything but a table.
-    static LuaListener& of(lua_State* lua, int index);
+    static LuaListener& of(Session& session, lua_State* lua, int index);
 
     /// All listeners that the script has made.
     static std::vector<LuaListener*> all(lua_State* lua);
 
-    LuaListener(lua_State* lua, int table) : m_lua(lua), m_table(table) {}
+    LuaListener(Session& session, lua_State* lua, int table)
+        : m_session(session),
+          m_lua(lua),
+          m_table(table) {}
 
     // VxDaDashboardReactor:
     void panelsWillUnload() override { call("panelsWillUnload"); }
@@ -33,7 +38,9 @@ public:
 private:
     bool pushFunction(const char* name);
     void call(const char* name);
+    void run(int arguments);
 
+    Session& m_session;
     lua_State* m_lua;
     int m_table;  // the table's reference in the registry
 };

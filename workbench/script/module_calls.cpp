@@ -4,6 +4,8 @@
 #include "workbench/script/exported_calls.h"
 #include "workbench/script/script_error.h"
 
+#include <lua.hpp>
+
 namespace workbench::script {
 
 namespace {
@@ -18,20 +20,21 @@ int env(Session& session, Arguments& arguments) {
     return 0;
 }
 
-int load(Session& session, Arguments& /*arguments*/) {
-    ModuleLoader& modules = session.workbench().modules();
-    if (!modules.loadModule(kModule))
-        throw ScriptError(modules.failureText());
+/// What loading or unloading answered; a failure is the script's.
+int finish(Session& session, Arguments& arguments, bool done) {
+    if (!done)
+        throw ScriptError(session.workbench().modules().failureText());
     session.settle();
-    return 0;
+    lua_pushboolean(arguments.lua(), 1);
+    return 1;
 }
 
-int unload(Session& session, Arguments& /*arguments*/) {
-    ModuleLoader& modules = session.workbench().modules();
-    if (!modules.unloadModule(kModule))
-        throw ScriptError(modules.failureText());
-    session.settle();
-    return 0;
+int load(Session& session, Arguments& arguments) {
+    return finish(session, arguments, session.workbench().modules().loadModule(kModule));
+}
+
+int unload(Session& session, Arguments& arguments) {
+    return finish(session, arguments, session.workbench().modules().unloadModule(kModule));
 }
 
 int exportCall(Session& session, Arguments& arguments) {
@@ -46,8 +49,9 @@ int notify(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& moduleCalls() {
     static const std::vector<Call> calls{
-        {"env", env},       {"export", exportCall}, {"load", load},
-        {"notify", notify}, {"unload", unload},
+        {"env", env, CallKind::Acts},       {"export", exportCall, CallKind::Acts},
+        {"load", load, CallKind::Acts},     {"notify", notify, CallKind::Acts},
+        {"unload", unload, CallKind::Acts},
     };
     return calls;
 }

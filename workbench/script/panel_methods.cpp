@@ -28,7 +28,6 @@ int menu(Session& session, Arguments& arguments) {
     const HWND window = panelOf(arguments).m_hWnd;
     const auto path = arguments.optionalText(1);
     if (path) {
-        session.noteGesture("choose " + *path + " in the menu of " + wordsOf(arguments));
         gestures::chooseFromContextMenu(window, toWide(*path));
         session.settle();
         return 0;
@@ -51,7 +50,7 @@ int visible(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& panelMethods() {
     static const std::vector<Call> calls{
-        {"menu", menu},
+        {"menu", menu, CallKind::Acts},
         {"visible", visible},
     };
     return calls;

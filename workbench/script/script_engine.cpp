@@ -39,12 +39,15 @@ void addWorkbenchTable(lua_State* lua, script::Session& session) {
     lua_setglobal(lua, "wb");
 }
 
-void prepare(lua_State* lua, script::Session& session, const std::vector<std::string>& arguments) {
+void prepare(lua_State* lua, script::Session& session, const std::string& place,
+             const std::vector<std::string>& arguments) {
     luaL_openlibs(lua);
     luaL_dostring(lua, kPlacedAssert);
     script::addHandleKinds(lua, session);
     addWorkbenchTable(lua, session);
     script::push(lua, arguments);
+    lua_pushstring(lua, place.c_str());
+    lua_seti(lua, -2, 0);
     lua_setglobal(lua, "arg");
 }
 
@@ -64,7 +67,7 @@ ScriptResult runScriptText(Workbench& workbench, std::string_view text, const st
                            const std::vector<std::string>& arguments) {
     script::Session session(workbench);
     const LuaPtr lua(luaL_newstate());
-    prepare(lua.get(), session, arguments);
+    prepare(lua.get(), session, place, arguments);
     const std::string chunkName = "@" + place;
     // "t": a text only, since a file of compiled code could do anything.
     ScriptResult result{true, {}};

@@ -15,8 +15,8 @@ struct ScriptResult {
     std::string complaint;  ///< "FILE:LINE: reason" of a failed check or an error; empty if passed
 };
 
-/// Runs a script file against a workbench. `arguments` become the global list `arg`. Throws
-/// InputError if the file can't be read.
+/// Runs a script file against a workbench. `arguments` become the global list `arg`, with the file's
+/// name as element 0. Throws InputError if the file can't be read.
 ScriptResult runScriptFile(Workbench& workbench, const std::filesystem::path& file,
                            const std::vector<std::string>& arguments = {});
 /// The same from a text; `place` stands for the file's name.

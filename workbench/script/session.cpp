@@ -61,4 +61,13 @@ std::vector<JournalRecord> Session::takeSent() {
     return std::exchange(m_sent, {});
 }
 
+void Session::noteListenerError(const std::string& text) {
+    if (m_listenerError.empty())
+        m_listenerError = text;
+}
+
+std::string Session::takeListenerError() {
+    return std::exchange(m_listenerError, {});
+}
+
 }  // namespace workbench::script

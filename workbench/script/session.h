@@ -32,12 +32,19 @@ public:
     /// The command texts sent since the last call, oldest first.
     std::vector<JournalRecord> takeSent();
 
+    /// A listener of the script has failed, inside the dashboard's own work, through which its error
+    /// can't travel: the call that made it run reports it. The first one stays.
+    void noteListenerError(const std::string& text);
+    /// The listener's error since the last call; empty for none.
+    std::string takeListenerError();
+
 private:
     bool isCommandRunning() const;
 
     Workbench& m_workbench;
     bool m_documentsMade = false;
     std::vector<JournalRecord> m_sent;
+    std::string m_listenerError;  // empty: none
 };
 
 }  // namespace workbench::script

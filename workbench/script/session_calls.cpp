@@ -58,7 +58,6 @@ int wait(Session& session, Arguments& arguments) {
     const std::int64_t milliseconds = arguments.integer(1);
     if (milliseconds < 0)
         throw ScriptError("time doesn't run backwards");
-    session.noteGesture("wait " + std::to_string(milliseconds));
     session.workbench().windows().advance(milliseconds);
     session.runHost();
     return 0;
@@ -110,18 +109,18 @@ int quitAbort(Session& session, Arguments& /*arguments*/) {
 
 const std::vector<Call>& sessionCalls() {
     static const std::vector<Call> calls{
-        {"answer", answer},
-        {"fail", fail},
-        {"hide", hide},
-        {"idle", idle},
-        {"profile", profile},
-        {"quit_abort", quitAbort},
-        {"quit_begin", quitBegin},
-        {"save_profile", saveProfile},
-        {"unfail", unfail},
-        {"unhide", unhide},
-        {"wait", wait},
-        {"workspace", workspace},
+        {"answer", answer, CallKind::Acts},
+        {"fail", fail, CallKind::Acts},
+        {"hide", hide, CallKind::Acts},
+        {"idle", idle, CallKind::Acts},
+        {"profile", profile, CallKind::Acts},
+        {"quit_abort", quitAbort, CallKind::Acts},
+        {"quit_begin", quitBegin, CallKind::Acts},
+        {"save_profile", saveProfile, CallKind::Acts},
+        {"unfail", unfail, CallKind::Acts},
+        {"unhide", unhide, CallKind::Acts},
+        {"wait", wait, CallKind::Acts},
+        {"workspace", workspace, CallKind::Acts},
     };
     return calls;
 }
