@@ -51,6 +51,14 @@ void prepare(lua_State* lua, script::Session& session, const std::string& place,
     lua_setglobal(lua, "arg");
 }
 
+/// Runs the chunk on top of the stack with the arguments, which it sees as `...` too.
+int callChunk(lua_State* lua, const std::vector<std::string>& arguments) {
+    luaL_checkstack(lua, static_cast<int>(arguments.size()), nullptr);
+    for (const std::string& argument : arguments)
+        lua_pushlstring(lua, argument.data(), argument.size());
+    return lua_pcall(lua, static_cast<int>(arguments.size()), 0, 0);
+}
+
 std::string messageOnTop(lua_State* lua) {
     const char* message = luaL_tolstring(lua, -1, nullptr);
     return message == nullptr ? "an error without words" : message;
@@ -72,7 +80,7 @@ ScriptResult runScriptText(Workbench& workbench, std::string_view text, const st
     // "t": a text only, since a file of compiled code could do anything.
     ScriptResult result{true, {}};
     if (luaL_loadbufferx(lua.get(), text.data(), text.size(), chunkName.c_str(), "t") != LUA_OK ||
-        lua_pcall(lua.get(), 0, 0, 0) != LUA_OK) {
+        callChunk(lua.get(), arguments) != LUA_OK) {
         result = {false, messageOnTop(lua.get())};
     }
     script::removeListeners(session, lua.get());
