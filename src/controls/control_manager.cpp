@@ -13,15 +13,16 @@
 #include <hostapi/zorq/documents.h>
 
 #include <algorithm>
+#include <string_view>
 
 namespace {
 
 /// Commands that change layers; compared without regard to case.
 constexpr const wchar_t* kLayerCommands[] = {L"LAYER", L"-LAYER", L"U", L"UNDO", L"REDO"};
 
-bool changesLayers(const VxString& command) {
+bool changesLayers(std::wstring_view command) {
     return std::any_of(std::begin(kLayerCommands), std::end(kLayerCommands),
-                       [&command](const wchar_t* name) { return equalNoCase(command, name); });
+                       [command](const wchar_t* name) { return equalNoCase(command, name); });
 }
 
 }  // namespace
@@ -105,7 +106,7 @@ void CVxDaControlMgr::onSysVarChanged(const wchar_t* name, BOOL /*success*/) {
     if (equalNoCase(name, L"LIGHTINGUNITS"))
         refreshLightingUnits();
     // Kept as it is: this one name counts in exactly this spelling, as the host sends it.
-    if (name == VxString(L"TILEMODE"))
+    if (name == std::wstring_view(L"TILEMODE"))
         refreshFilterCombos();
 }
 

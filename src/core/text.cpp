@@ -12,6 +12,6 @@ bool sameLetter(wchar_t left, wchar_t right) {
 
 }  // namespace
 
-bool equalNoCase(const VxString& left, const VxString& right) {
+bool equalNoCase(std::wstring_view left, std::wstring_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(), sameLetter);
 }

@@ -3,9 +3,10 @@
 #include <hostapi/types.h>
 
 #include <cwchar>
+#include <string_view>
 
 /// Whether two texts are equal without regard to case.
-bool equalNoCase(const VxString& left, const VxString& right);
+bool equalNoCase(std::wstring_view left, std::wstring_view right);
 
 /// A `printf` format filled in; wide strings go in with "%ls". Empty if the format can't be filled.
 template <class... Values>

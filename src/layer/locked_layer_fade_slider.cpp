@@ -18,6 +18,7 @@
 #include <cwctype>
 #include <iterator>
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -156,7 +157,7 @@ LRESULT CVxDaLockedLayerTransparencySliderCtrl::onTimer(WPARAM timer, LPARAM /*u
 }
 
 LRESULT CVxDaLockedLayerTransparencySliderCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    if (reinterpret_cast<const wchar_t*>(name) != VxString(kVariable))
+    if (reinterpret_cast<const wchar_t*>(name) != std::wstring_view(kVariable))
         return 0;
     const int fade = readVariableStrict(kVariable);
     if (fade == m_fade)

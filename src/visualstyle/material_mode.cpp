@@ -25,7 +25,7 @@ void updateMaterialModeFlyout() {
 
 }  // namespace
 
-void refreshMaterialModeFor(const VxString& name) {
+void refreshMaterialModeFor(std::wstring_view name) {
     const bool concerns = equalNoCase(name, kVariable) || equalNoCase(name, L"VSCURRENT");
     if (!concerns && !s_refreshPending)
         return;

@@ -1,0 +1,200 @@
+#include "tests/support/bench.h"
+
+#include "workbench/editor/editor.h"
+
+#include <hostapi/zorq.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+using support::Sent;
+using workbench::Value;
+using Texts = std::vector<Sent>;
+
+class LightingToolsTest : public support::Bench {
+protected:
+    void SetUp() override {
+        showDashboard();
+        sent();
+        journal();
+    }
+    void clickTool(const wchar_t* id) { click(item(id)); }
+    void goToPaperSpace() {
+        set(L"TILEMODE", 0);
+        ASSERT_EQ(var(L"CVPORT"), Value(1));
+    }
+    int number(const wchar_t* variable) { return static_cast<int>(var(variable).asInteger()); }
+};
+
+struct ToggleCase {
+    const wchar_t* id;
+    const wchar_t* variable;
+    const char* command;
+};
+
+class LightToggleTest : public LightingToolsTest, public testing::WithParamInterface<ToggleCase> {
+protected:
+    std::string bare() const { return std::string("_") + GetParam().command; }
+    Sent full(int state) const { return {bare() + "\n" + std::to_string(state) + "\n", "do_cmd"}; }
+};
+
+TEST_P(LightToggleTest, ClickAtRestTurnsTheVariableOverAtOnce) {
+    set(GetParam().variable, 0);
+    clickTool(GetParam().id);
+    EXPECT_EQ(sent(), Texts{full(1)});
+    EXPECT_EQ(number(GetParam().variable), 1);
+    clickTool(GetParam().id);
+    EXPECT_EQ(sent(), Texts{full(0)});
+    EXPECT_EQ(number(GetParam().variable), 0);
+}
+
+TEST_P(LightToggleTest, ClickDuringACommandCancelsItAndWaitsForTheQuietMoment) {
+    set(GetParam().variable, 0);
+    begin(L"LINE");
+    clickTool(GetParam().id);
+    EXPECT_EQ(sent(), (Texts{{"\x03\x03", "cancel"}}));
+    EXPECT_NE(number(L"CMDACTIVE"), 0) << "it was told to stop and has not stopped yet";
+    EXPECT_EQ(number(GetParam().variable), 0);
+    idle();
+    EXPECT_EQ(sent(), Texts{full(1)});
+    EXPECT_EQ(number(L"CMDACTIVE"), 0);
+    EXPECT_EQ(number(GetParam().variable), 1);
+}
+
+TEST_P(LightToggleTest, TwoClicksDuringACommandRunInOrderAndTheSecondUndoesTheFirst) {
+    set(GetParam().variable, 0);
+    begin(L"LINE");
+    clickTool(GetParam().id);
+    clickTool(GetParam().id);
+    sent();
+    idle();
+    EXPECT_EQ(sent(), (Texts{full(1), full(0)}));
+    EXPECT_EQ(number(GetParam().variable), 0);
+}
+
+TEST_P(LightToggleTest, PaperSpaceSendsTheBareCommandAndTouchesNoVariable) {
+    set(GetParam().variable, 0);
+    goToPaperSpace();
+    clickTool(GetParam().id);
+    EXPECT_EQ(sent(), (Texts{{bare(), "line"}}));
+    EXPECT_EQ(number(GetParam().variable), 0);
+    type(L"\x1b");
+}
+
+TEST_P(LightToggleTest, BlockEditorSendsTheBareCommandInModelSpaceToo) {
+    set(L"BLOCKEDITOR", 1);
+    clickTool(GetParam().id);
+    EXPECT_EQ(sent(), (Texts{{bare(), "line"}}));
+    type(L"\x1b");
+}
+
+TEST_P(LightToggleTest, FocusGoesToTheCommandLineBeforeTheCancel) {
+    begin(L"LINE");
+    clickTool(GetParam().id);
+    EXPECT_EQ(CWnd::GetFocus(), vxedGetZorqDockCmdLine());
+    sent();
+    idle();
+    sent();
+}
+
+TEST_P(LightToggleTest, ClosingTheDocumentDropsWhatWaits) {
+    newDocument(L"B");
+    begin(L"LINE");
+    clickTool(GetParam().id);
+    sent();
+    closeDocument(L"B");
+    idle();
+    EXPECT_TRUE(sent().empty());
+}
+
+TEST_P(LightToggleTest, CommandRunsUnderALockThatEndsWithIt) {
+    journal();
+    clickTool(GetParam().id);
+    const std::vector<std::string> made = calls();
+    const auto command = std::find(made.begin(), made.end(), "do_cmd");
+    ASSERT_NE(command, made.end());
+    EXPECT_NE(std::find(made.begin(), command, "VxAxDocLock"), command);
+    EXPECT_EQ(vxDocManagerPtr()->curDocument()->lockMode() & kDocLockWrite, 0);
+    sent();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tools, LightToggleTest,
+    testing::Values(ToggleCase{L"ID_DefaultLighting", L"DEFAULTLIGHTING", "defaultlighting"},
+                    ToggleCase{L"ID_Light", L"LIGHTGLYPHDISPLAY", "lightglyphdisplay"},
+                    ToggleCase{L"ID_SunStatus", L"SUNSTATUS", "sunstatus"}));
+
+TEST_F(LightingToolsTest, UnreadableSunStatusSendsZero) {
+    set(L"SUNSTATUS", 0);
+    fail("vxedGetVar:SUNSTATUS");
+    clickTool(L"ID_SunStatus");
+    EXPECT_EQ(sent(), (Texts{{"_sunstatus\n0\n", "do_cmd"}}));
+}
+
+TEST_F(LightingToolsTest, UnreadableDefaultLightingSendsOne) {
+    set(L"DEFAULTLIGHTING", 1);
+    fail("vxedGetVar:DEFAULTLIGHTING");
+    clickTool(L"ID_DefaultLighting");
+    EXPECT_EQ(sent(), (Texts{{"_defaultlighting\n1\n", "do_cmd"}}));
+}
+
+// The sky
+
+struct SkyCase {
+    int before;  // SKYSTATUS: 0 off, 1 background, 2 background and illumination
+    const wchar_t* id;
+    const char* text;  // null: nothing is sent
+    int after;
+};
+
+class SkyTest : public LightingToolsTest, public testing::WithParamInterface<SkyCase> {};
+
+TEST_P(SkyTest, ClickSendsTheNewStateOnlyIfItDiffers) {
+    set(L"PERSPECTIVE", 1);
+    type(L"SKYSTATUS\n" + std::to_wstring(GetParam().before) + L"\n");
+    sent();
+    clickTool(GetParam().id);
+    const Texts expected =
+        GetParam().text == nullptr ? Texts{} : Texts{{GetParam().text, "do_cmd"}};
+    EXPECT_EQ(sent(), expected);
+    EXPECT_EQ(number(L"SKYSTATUS"), GetParam().after);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    States, SkyTest,
+    testing::Values(SkyCase{0, L"ID_Skylight_Off", nullptr, 0},
+                    SkyCase{0, L"ID_Skylight_Background", "_skystatus\n1\n", 1},
+                    SkyCase{0, L"ID_Skylight_Illumination", "_skystatus\n2\n", 2},
+                    SkyCase{1, L"ID_Skylight_Off", "_skystatus\n0\n", 0},
+                    SkyCase{1, L"ID_Skylight_Background", nullptr, 1},
+                    SkyCase{1, L"ID_Skylight_Illumination", "_skystatus\n2\n", 2},
+                    SkyCase{2, L"ID_Skylight_Off", "_skystatus\n0\n", 0},
+                    SkyCase{2, L"ID_Skylight_Background", "_skystatus\n1\n", 1},
+                    SkyCase{2, L"ID_Skylight_Illumination", nullptr, 2}));
+
+TEST_F(LightingToolsTest, SkyInAParallelViewTurnsPerspectiveOn) {
+    set(L"PERSPECTIVE", 0);
+    clickTool(L"ID_Skylight_Background");
+    EXPECT_EQ(number(L"PERSPECTIVE"), 1);
+    EXPECT_EQ(sent(), (Texts{{"_skystatus\n1\n", "do_cmd"}}));
+}
+
+TEST_F(LightingToolsTest, SkyOffLeavesAParallelViewAlone) {
+    type(L"SKYSTATUS\n2\n");
+    set(L"PERSPECTIVE", 0);
+    sent();
+    clickTool(L"ID_Skylight_Off");
+    EXPECT_EQ(number(L"PERSPECTIVE"), 0);
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(LightingToolsTest, UnreadableSkySendsNothing) {
+    fail("vxedActiveViewportId");
+    clickTool(L"ID_Skylight_Background");
+    EXPECT_TRUE(sent().empty());
+}
+
+}  // namespace

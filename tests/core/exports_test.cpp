@@ -1,0 +1,220 @@
+#include "tests/support/bench.h"
+
+#include "workbench/menu/menu_host.h"
+#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/windows/window_system.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+class ExportsTest : public support::Bench {
+protected:
+    VxDaPanelList visiblePanels(int expectedAnswer = 1) {
+        VxDaPanelList panels;
+        EXPECT_EQ(exported<VxDaGetVisiblePanelsFn>("VxDaGetVisiblePanels")(&panels),
+                  expectedAnswer);
+        return panels;
+    }
+    int setVisiblePanels(const VxDaPanelList& panels) {
+        const int answer = exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(&panels);
+        settle();
+        return answer;
+    }
+    const VxDaToolPanelItems* items(const wchar_t* id) {
+        return exported<VxDaGetToolPanelItemsFn>("VxDaGetToolPanelItems")(id);
+    }
+    int addOrRemove(VxDaDashboardReactor* listener, int add) {
+        return exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(listener, add);
+    }
+    bool isOnScreen() { return paletteSet()->IsWindowVisible() != 0; }
+};
+
+class CountingListener final : public VxDaDashboardReactor {
+public:
+    void panelsWillUnload() override { ++calls; }
+    void panelsUnloaded() override { ++calls; }
+    void panelsWillLoad() override { ++calls; }
+    void panelsLoaded() override { ++calls; }
+    void controlsWillBeReleased() override { ++releases; }
+    void visibilityChanged(BOOL visible) override {
+        ++calls;
+        lastVisible = visible;
+    }
+    int calls = 0;
+    int releases = 0;
+    BOOL lastVisible = -1;
+};
+
+// Before the first show
+
+TEST_F(ExportsTest, VisiblePanelsBeforeTheFirstShowAreNone) {
+    ASSERT_TRUE(load());
+    VxDaPanelList panels{{L"left", L"over"}};
+    EXPECT_EQ(exported<VxDaGetVisiblePanelsFn>("VxDaGetVisiblePanels")(&panels), 0);
+    EXPECT_TRUE(panels.empty());
+    EXPECT_EQ(setVisiblePanels({{L"Layers", L"ZORQ"}}), 0);
+    EXPECT_EQ(items(L"ID_3DWalk"), nullptr);
+    EXPECT_EQ(exported<VxDaInvalidateDashboardFn>("VxDaInvalidateDashboard")(), 0);
+}
+
+struct CodeCase {
+    int code;
+    int answer;
+};
+class CodeBeforeShowTest : public ExportsTest, public testing::WithParamInterface<CodeCase> {};
+
+TEST_P(CodeBeforeShowTest, Answers) {
+    ASSERT_TRUE(load());
+    EXPECT_EQ(notify(GetParam().code), GetParam().answer);
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, CodeBeforeShowTest,
+                         testing::Values(CodeCase{kDashboardReleaseControls, 1},
+                                         CodeCase{kDashboardUnload, 1},
+                                         CodeCase{kDashboardReload, 0}, CodeCase{3, 1},
+                                         CodeCase{-1, 1}, CodeCase{99, 1}));
+
+// Codes
+
+TEST_F(ExportsTest, ReleaseEndsTheControlsAndKeepsThePanels) {
+    showDashboard();
+    CountingListener listener;
+    addOrRemove(&listener, 1);
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(control("LayerLockTransparencySliderControl"), nullptr);
+    EXPECT_EQ(listener.releases, 1);
+    EXPECT_FALSE(panelsOnScreen().empty());
+    unload();
+}
+
+TEST_F(ExportsTest, ReleaseTwiceIsHarmlessAndIsToldTwice) {
+    showDashboard();
+    CountingListener listener;
+    addOrRemove(&listener, 1);
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(listener.releases, 2);
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_NE(control("LayerLockTransparencySliderControl"), nullptr);
+    unload();
+}
+
+TEST_F(ExportsTest, ReleaseWithoutPanelsTellsNobody) {
+    showDashboard();
+    CountingListener listener;
+    addOrRemove(&listener, 1);
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(listener.releases, 0);
+    unload();
+}
+
+TEST_F(ExportsTest, UnloadTwiceAnswersOneAndLeavesTheSavedStateAlone) {
+    showDashboard();
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    workbench::closePaletteSet(*paletteSet());
+    settle();
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_TRUE(isOnScreen()) << "the first unload saw the bar on screen";
+}
+
+TEST_F(ExportsTest, ReloadRestoresAHiddenBarAsHidden) {
+    showDashboard();
+    workbench::closePaletteSet(*paletteSet());
+    settle();
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    CountingListener listener;
+    addOrRemove(&listener, 1);
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_FALSE(isOnScreen());
+    EXPECT_EQ(listener.lastVisible, 0);
+    EXPECT_NE(control("LayerLockTransparencySliderControl"), nullptr);
+    unload();
+}
+
+TEST_F(ExportsTest, ReloadWithoutAnUnloadBuildsNothing) {
+    showDashboard();
+    const HWND before = control("LayerLockTransparencySliderControl");
+    workbench::closePaletteSet(*paletteSet());
+    settle();
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_EQ(control("LayerLockTransparencySliderControl"), before);
+}
+
+TEST_F(ExportsTest, SwitchOfWorkspaceShowsItsPanelsAfterUnloadAndReload) {
+    showDashboard();
+    ASSERT_TRUE(bench().menu().switchWorkspace("Drafting"));
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_EQ(visiblePanels(), (VxDaPanelList{{L"Draw", L"ZORQ"},
+                                              {L"Layers", L"ZORQ"},
+                                              {L"Text", L"ZORQ"},
+                                              {L"HouseTools", L"HOUSETOOLS"}}));
+    EXPECT_FALSE(bench().menu().workspaces().panelRefreshFromWorkspace());
+}
+
+// Panels and items
+
+TEST_F(ExportsTest, VisiblePanelsAreListedInTheOrderOfTheRecords) {
+    showDashboard();
+    const VxDaPanelList panels = visiblePanels();
+    ASSERT_EQ(panels.size(), 11U);
+    EXPECT_EQ(panels.front(), (std::pair<VxString, VxString>{L"Layers", L"ZORQ"}));
+    EXPECT_EQ(panels.back(), (std::pair<VxString, VxString>{L"HouseTools", L"HOUSETOOLS"}));
+}
+
+TEST_F(ExportsTest, SetVisiblePanelsWithoutTheRefreshFlagOnlyHides) {
+    showDashboard();
+    EXPECT_EQ(setVisiblePanels({{L"Layers", L"ZORQ"}}), 1);
+    EXPECT_TRUE(visiblePanels().empty());
+}
+
+TEST_F(ExportsTest, SetVisiblePanelsWithTheFlagRaisedShowsTheListInItsOrder) {
+    showDashboard();
+    bench().menu().workspaces().setPanelRefreshFromWorkspace(true);
+    EXPECT_EQ(setVisiblePanels({{L"Text", L"ZORQ"}, {L"Nowhere", L"ZORQ"}, {L"Layers", L"ZORQ"}}),
+              1);
+    EXPECT_EQ(visiblePanels(), (VxDaPanelList{{L"Text", L"ZORQ"}, {L"Layers", L"ZORQ"}}));
+}
+
+TEST_F(ExportsTest, ItemsOfAnIdAreHandedOut) {
+    showDashboard();
+    const VxDaToolPanelItems* walls = items(L"HT_WALL");
+    ASSERT_NE(walls, nullptr);
+    EXPECT_EQ(walls->size(), 2U) << "a button and a tool in a flyout";
+    EXPECT_EQ(items(L"ht_wall"), nullptr) << "IDs are exact";
+    EXPECT_EQ(items(nullptr), nullptr);
+}
+
+TEST_F(ExportsTest, InvalidateWorksWithoutPanels) {
+    showDashboard();
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(exported<VxDaInvalidateDashboardFn>("VxDaInvalidateDashboard")(), 1);
+}
+
+// Listeners
+
+TEST_F(ExportsTest, ListenerEntersOnce) {
+    showDashboard();
+    CountingListener listener;
+    EXPECT_EQ(addOrRemove(&listener, 1), 1);
+    EXPECT_EQ(addOrRemove(&listener, 1), 1);
+    EXPECT_EQ(addOrRemove(&listener, 0), 1);
+    const int before = listener.calls;
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(listener.calls, before) << "one removal takes it off altogether";
+}
+
+TEST_F(ExportsTest, UnknownListenerIsRemovedWithOneAndNullAnswersZero) {
+    ASSERT_TRUE(load());
+    CountingListener listener;
+    EXPECT_EQ(addOrRemove(&listener, 0), 1);
+    EXPECT_EQ(addOrRemove(nullptr, 1), 0);
+    EXPECT_EQ(addOrRemove(nullptr, 0), 0);
+}
+
+}  // namespace
