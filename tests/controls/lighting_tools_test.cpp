@@ -116,7 +116,7 @@ TEST_P(LightToggleTest, CommandRunsUnderALockThatEndsWithIt) {
     const std::vector<std::string> made = calls();
     const auto command = std::find(made.begin(), made.end(), "do_cmd");
     ASSERT_NE(command, made.end());
-    EXPECT_NE(std::find(made.begin(), command, "VxAxDocLock"), command);
+    EXPECT_NE(std::find(made.begin(), command, "VxAxDocLock::VxAxDocLock"), command);
     EXPECT_EQ(vxDocManagerPtr()->curDocument()->lockMode() & kDocLockWrite, 0);
     sent();
 }
