@@ -17,6 +17,7 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace workbench {
@@ -117,6 +118,9 @@ void addCommonOptions(CLI::App& command, Request& request) {
 }
 
 int run(int count, char** arguments) {
+    // What follows "--" is the script's, options too.
+    char** const end = arguments + count;
+    char** const cut = std::find(arguments, end, std::string_view("--"));
     Request request;
     request.options.libraryDir = defaultLibraryDir();
     request.options.panelFile = defaultPanelFile();
@@ -136,10 +140,12 @@ int run(int count, char** arguments) {
     checkCommand->add_option("files", request.files, "The files (JSON)")->required();
 
     try {
-        program.parse(count, arguments);
+        program.parse(static_cast<int>(cut - arguments), arguments);
     } catch (const CLI::ParseError& error) {
         return program.exit(error) == 0 ? kExitPassed : kExitUsage;
     }
+    if (cut != end)
+        request.scriptArguments.insert(request.scriptArguments.end(), cut + 1, end);
     if (runCommand->parsed())
         return runScript(request);
     if (showCommand->parsed())

@@ -47,10 +47,17 @@ std::int64_t Arguments::integerOr(int number, std::int64_t standard) const {
     return has(number) ? integer(number) : standard;
 }
 
-std::optional<std::int64_t> Arguments::optionalInteger(int number) const {
+int Arguments::int32(int number) const {
+    const std::int64_t value = integer(number);
+    if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max())
+        refuse(number, "a number of 32 bits");
+    return static_cast<int>(value);
+}
+
+std::optional<int> Arguments::optionalInt32(int number) const {
     if (!has(number))
         return {};
-    return integer(number);
+    return int32(number);
 }
 
 bool Arguments::truth(int number) const {
@@ -78,16 +85,11 @@ std::string Arguments::words(int number) const {
     }
 }
 
-std::vector<int> Arguments::integersFrom(int number) const {
-    std::vector<int> integers;
-    for (int i = number; i <= m_count; ++i) {
-        const std::int64_t value = integer(i);
-        if (value < std::numeric_limits<int>::min() || value > std::numeric_limits<int>::max()) {
-            refuse(i, "a number of 32 bits");
-        }
-        integers.push_back(static_cast<int>(value));
-    }
-    return integers;
+std::vector<int> Arguments::int32sFrom(int number) const {
+    std::vector<int> numbers;
+    for (int i = number; i <= m_count; ++i)
+        numbers.push_back(int32(i));
+    return numbers;
 }
 
 void Arguments::refuse(int number, const char* wanted) const {

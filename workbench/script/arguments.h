@@ -27,13 +27,15 @@ public:
     std::optional<std::string> optionalText(int number) const;
     std::int64_t integer(int number) const;
     std::int64_t integerOr(int number, std::int64_t standard) const;
-    std::optional<std::int64_t> optionalInteger(int number) const;
+    /// A whole number that fits a parameter of 32 bits.
+    int int32(int number) const;
+    std::optional<int> optionalInt32(int number) const;
     bool truth(int number) const;
     Value value(int number) const;
     /// What was given, in words for the journal.
     std::string words(int number) const;
-    /// All arguments from a number on, as whole numbers.
-    std::vector<int> integersFrom(int number) const;
+    /// All arguments from a number on, as `int32` takes them.
+    std::vector<int> int32sFrom(int number) const;
     /// The stack index of an argument.
     int index(int number) const { return m_first + number - 1; }
 

@@ -50,7 +50,7 @@ int drag(Session& session, Arguments& arguments) {
     if (arguments.count() == 0)
         throw ScriptError("say where to drag the thumb to");
     const HWND slider = partOf(session, arguments, kSlider);
-    const bool taken = gestures::dragSlider(slider, arguments.integersFrom(1));
+    const bool taken = gestures::dragSlider(slider, arguments.int32sFrom(1));
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }
@@ -96,8 +96,7 @@ int click(Session& session, Arguments& arguments) {
     if (arguments.count() == 0) {
         taken = gestures::clickIcon(control);
     } else {
-        taken = gestures::clickAt(control, {static_cast<int>(arguments.integer(1)),
-                                            static_cast<int>(arguments.integer(2))});
+        taken = gestures::clickAt(control, {arguments.int32(1), arguments.int32(2)});
     }
     session.settle();
     return pushTruth(arguments.lua(), taken);
@@ -159,8 +158,7 @@ int wheel(Session& session, Arguments& arguments) {
     const HWND control = controlOf(session, arguments);
     const HWND main = findPart(windows(session), control, kSlider);
     const HWND target = main == nullptr ? control : main;
-    const bool taken = gestures::turnWheel(target, gestures::middleOf(target),
-                                           static_cast<int>(arguments.integer(1)));
+    const bool taken = gestures::turnWheel(target, gestures::middleOf(target), arguments.int32(1));
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }

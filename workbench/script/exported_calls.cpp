@@ -53,7 +53,7 @@ int getApiVersion(Session& session, Arguments& arguments) {
 
 int entryPoint(Session& session, Arguments& arguments) {
     const auto function = find<VxRxEntryPointFn>(session, "vxrxEntryPoint");
-    const int answer = function(static_cast<int>(arguments.integer(2)), nullptr);
+    const int answer = function(arguments.int32(2), nullptr);
     session.settle();
     return pushInteger(arguments.lua(), answer);
 }
@@ -76,7 +76,7 @@ int getCustomControl(Session& session, Arguments& arguments) {
 }
 
 int notifyDashboard(Session& session, Arguments& arguments) {
-    return callNotify(session, static_cast<int>(arguments.integer(2)), arguments.lua());
+    return callNotify(session, arguments.int32(2), arguments.lua());
 }
 
 int addOrRemoveReactor(Session& session, Arguments& arguments) {

@@ -24,11 +24,12 @@ struct KindWords {
     const char* type;    // of the userdata
     const char* prefix;  // of its methods in errors
     const char* word;
+    const char* one;  // the word with its article
 };
 constexpr std::array<KindWords, 3> kKinds{{
-    {"workbench.item", "item:", "item"},
-    {"workbench.panel", "panel:", "panel"},
-    {"workbench.control", "control:", "control"},
+    {"workbench.item", "item:", "item", "an item"},
+    {"workbench.panel", "panel:", "panel", "a panel"},
+    {"workbench.control", "control:", "control", "a control"},
 }};
 
 const KindWords& wordsOf(HandleKind kind) {
@@ -48,7 +49,7 @@ Handle* findHandle(const Arguments& arguments, HandleKind kind) {
 const Handle& handleOf(const Arguments& arguments, HandleKind kind) {
     const Handle* handle = findHandle(arguments, kind);
     if (handle == nullptr) {
-        throw ScriptError(std::string("call it as a method of a ") + wordsOf(kind).word);
+        throw ScriptError(std::string("call it as a method of ") + wordsOf(kind).one);
     }
     return *handle;
 }

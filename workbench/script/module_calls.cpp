@@ -42,7 +42,7 @@ int exportCall(Session& session, Arguments& arguments) {
 }
 
 int notify(Session& session, Arguments& arguments) {
-    return callNotify(session, static_cast<int>(arguments.integer(1)), arguments.lua());
+    return callNotify(session, arguments.int32(1), arguments.lua());
 }
 
 }  // namespace

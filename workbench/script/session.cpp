@@ -49,7 +49,10 @@ void Session::needDocument() {
     if (m_documentsMade)
         return;
     m_documentsMade = true;
-    m_workbench.editor().documents().create(kFirstDocument);
+    DocumentList& documents = m_workbench.editor().documents();
+    if (!documents.all().empty())
+        return;
+    documents.create(kFirstDocument);
     settle();
 }
 

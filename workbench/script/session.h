@@ -23,7 +23,7 @@ public:
     void settle();
     /// The host's next turn: posted messages and all command text.
     void runHost();
-    /// Opens "Drawing1" if the script has made no document so far: a host starts with one.
+    /// Opens "Drawing1" if there has been no document so far: a host starts with one.
     void needDocument();
     /// The script makes its documents itself.
     void noteDocumentMade() { m_documentsMade = true; }

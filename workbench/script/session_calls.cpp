@@ -17,13 +17,6 @@ namespace {
 
 constexpr std::array<std::string_view, 4> kAnswerKinds = {"box", "menu", "dialog", "select"};
 
-std::optional<int> optionalInt(const Arguments& arguments, int number) {
-    const auto value = arguments.optionalInteger(number);
-    if (!value)
-        return {};
-    return static_cast<int>(*value);
-}
-
 int hide(Session& session, Arguments& arguments) {
     session.workbench().faults().hide(arguments.text(1), arguments.optionalText(2).value_or(""));
     return 0;
@@ -35,8 +28,8 @@ int unhide(Session& session, Arguments& arguments) {
 }
 
 int fail(Session& session, Arguments& arguments) {
-    session.workbench().faults().fail(arguments.text(1), optionalInt(arguments, 2),
-                                      optionalInt(arguments, 3));
+    session.workbench().faults().fail(arguments.text(1), arguments.optionalInt32(2),
+                                      arguments.optionalInt32(3));
     return 0;
 }
 

@@ -1,0 +1,108 @@
+#include "tests/workbench/script/script_fixture.h"
+#include "workbench/profiles/profile_store.h"
+#include "workbench/script/calls.h"
+
+namespace workbench::script {
+
+namespace {
+
+class SessionCallsTest : public ScriptTest {};
+
+TEST_F(SessionCallsTest, HiddenLibraryIsMissingUntilUnhidden) {
+    run("wb.hide('VxDashboard.qlx') assert(not pcall(wb.load)) "
+        "wb.unhide('VxDashboard.qlx') assert(wb.load())");
+}
+
+TEST_F(SessionCallsTest, HiddenSymbolIsMissing) {
+    run("wb.hide('VxDashboard.qlx', 'VxDaNotifyDashboard') wb.load() "
+        "local done, reason = pcall(wb.notify, 3) "
+        "assert(reason:find('the module exports no VxDaNotifyDashboard', 1, true)) "
+        "wb.unhide('VxDashboard.qlx', 'VxDaNotifyDashboard') assert(wb.notify(3) == 1)");
+}
+
+TEST_F(SessionCallsTest, FaultComesAsOftenAsAsked) {
+    runOnDashboard(R"(
+        local fade = wb.control("LayerLockTransparencySliderControl")
+        wb.fail("vxedSetVar", -5001, 1)
+        fade:enter("20")
+        assert(wb.var("LAYLOCKFADECTL") == 50)
+        assert(wb.journal("call")[1] ~= nil)
+        fade:enter("30")
+        assert(wb.var("LAYLOCKFADECTL") == 30)
+    )");
+}
+
+TEST_F(SessionCallsTest, FaultWithoutCountStaysUntilTakenBack) {
+    runOnDashboard(R"(
+        local fade = wb.control("LayerLockTransparencySliderControl")
+        wb.fail("vxedSetVar")
+        fade:enter("20") fade:enter("25")
+        assert(wb.var("LAYLOCKFADECTL") == 50)
+        wb.unfail("vxedSetVar")
+        fade:enter("30")
+        assert(wb.var("LAYLOCKFADECTL") == 30)
+    )");
+}
+
+TEST_F(SessionCallsTest, AnswerMustFitAQuestion) {
+    EXPECT_EQ(complaintOf("wb.answer('riddle', 'ok')"),
+              "wb.answer: there is no question of the kind \"riddle\"");
+    run("wb.answer('box', 'no') wb.answer('select', {1, 2})");
+    EXPECT_EQ(workbench().answers().take("box"), Value("no"));
+    EXPECT_EQ(workbench().answers().take("select"), Value(Value::List{1, 2}));
+}
+
+TEST_F(SessionCallsTest, ClockMovesOnlyForwardAndOnlyWhenAsked) {
+    run("wb.new('A') wb.idle(3)");
+    EXPECT_EQ(workbench().clock().now(), 0);
+    run("wb.wait(70) wb.wait(0)");
+    EXPECT_EQ(workbench().clock().now(), 70);
+    EXPECT_EQ(complaintOf("wb.wait(-1)"), "wb.wait: time doesn't run backwards");
+}
+
+TEST_F(SessionCallsTest, IdleTicksReachTheDashboard) {
+    runOnDashboard(R"(
+        wb.begin("MOVE")
+        wb.item("ID_DefaultLighting"):click()
+        assert(wb.var("CMDNAMES") == "MOVE")
+        wb.idle()
+        assert(wb.var("CMDNAMES") == "")
+    )");
+}
+
+TEST_F(SessionCallsTest, ProfileIsSwitchedAndSaved) {
+    run("wb.profile('Mine') assert(wb.var('CPROFILE') == 'Mine') wb.save_profile()");
+    EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(workbench().profiles().folder()) /
+                                        "Mine.xml"));
+}
+
+TEST_F(SessionCallsTest, ProfileNameThatLeavesTheFolderIsRefused) {
+    EXPECT_EQ(complaintOf("wb.profile('../x')").find("wb.profile: "), 0U);
+}
+
+TEST_F(SessionCallsTest, UnknownWorkspaceIsNamed) {
+    EXPECT_EQ(complaintOf("wb.workspace('Nowhere')"),
+              "wb.workspace: there is no workspace \"Nowhere\"");
+    run("wb.workspace('Drafting')");
+}
+
+TEST_F(SessionCallsTest, NothingIsSavedWhileTheApplicationQuits) {
+    runOnDashboard(R"(
+        local function saves()
+            wb.journal()
+            wb.save_profile()
+            for _, record in ipairs(wb.journal("call")) do
+                if record.name == "VxApProfileStorage::createNode" then return true end
+            end
+            return false
+        end
+        wb.quit_begin()
+        assert(not saves())
+        wb.quit_abort()
+        assert(saves())
+    )");
+}
+
+}  // namespace
+
+}  // namespace workbench::script
