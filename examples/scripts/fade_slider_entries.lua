@@ -25,6 +25,10 @@ assert(wb.var("LAYLOCKFADECTL") == 50)
 fade:enter("45%")
 assert(wb.var("LAYLOCKFADECTL") == 45)
 assert(fade:slider() == 45)
+fade:click()
+assert(wb.var("LAYLOCKFADECTL") == -45)
+fade:click()
+assert(wb.var("LAYLOCKFADECTL") == 45)
 fade:enter("90")
 assert(wb.var("LAYLOCKFADECTL") == 90)
 wb.journal("balloon")
@@ -46,6 +50,21 @@ assert(fade:text() == "12")
 fade:key("escape")
 assert(fade:text() == "      90%")
 assert(wb.var("LAYLOCKFADECTL") == 90)
+
+-- A change by the host stands, whatever is being typed.
+fade:put("12")
+wb.set("LAYLOCKFADECTL", -70)
+assert(wb.var("LAYLOCKFADECTL") == -70)
+assert(fade:text() == "      70%" and not fade:enabled())
+wb.set("LAYLOCKFADECTL", 90)
+
+-- A press on the slider leaves the field; the drag is written when it rests, as always.
+fade:enter("80")
+fade:drag(60)
+fade:release()
+assert(wb.var("LAYLOCKFADECTL") == 80)
+wb.wait(300)
+assert(wb.var("LAYLOCKFADECTL") == 60)
 
 -- While a command runs the control waits.
 wb.begin("SCALE")

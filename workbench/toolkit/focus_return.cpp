@@ -49,6 +49,13 @@ void giveFocusBackFromControl(HWND control, HWND before) {
         giveFocusBack(control, before);
 }
 
+void giveFocusBackOnPress(HWND pressed) {
+    const WindowSystem& windows = Workbench::current().windows();
+    const HWND focus = windows.focus();
+    if (isField(windows, focus) && !isField(windows, pressed))
+        giveFocusBack(pressed, focus);
+}
+
 void giveFocusBackOnLeave(HWND paletteSet) {
     const WindowSystem& windows = Workbench::current().windows();
     const CQrUiPaletteSet* const set = paletteSetAbove(paletteSet);

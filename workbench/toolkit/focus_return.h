@@ -13,6 +13,10 @@ void giveFocusBack(HWND from, HWND before);
 /// click may have been meant to bring the user there.
 void giveFocusBackFromControl(HWND control, HWND before);
 
+/// The same when the mouse presses on something other than a field: the user leaves the field with
+/// the focus before anything comes of the press.
+void giveFocusBackOnPress(HWND pressed);
+
 /// The same when the mouse leaves a palette set: a field that the user types in keeps the focus.
 void giveFocusBackOnLeave(HWND paletteSet);
 

@@ -33,6 +33,7 @@ bool Mouse::move(HWND window, CPoint point, WPARAM held) {
 bool Mouse::press(HWND window, CPoint point) {
     noteOver(window, point);
     Workbench::current().toolkit().toolTips().hide();
+    giveFocusBackOnPress(window);
     return send(window, kLeftButtonDown, kLeftButtonHeld, point);
 }
 

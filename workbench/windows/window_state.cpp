@@ -36,8 +36,12 @@ void WindowSystem::enable(HWND window, bool enabled) {
         return;
     found->enabled = enabled;
     noteChange(window, "enabled", !enabled, enabled);
-    if (!enabled)
-        dropFocusWithin(window);
+    if (enabled)
+        return;
+    // Its user has not left a field that is disabled: what stands in it is no entry.
+    if (m_focus == window)
+        m_reportedFocus = nullptr;
+    dropFocusWithin(window);
 }
 
 void WindowSystem::setText(HWND window, std::wstring text) {

@@ -4,6 +4,7 @@
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/gestures/mouse_gestures.h"
+#include "workbench/gestures/slider_gestures.h"
 
 namespace workbench {
 namespace {
@@ -47,6 +48,17 @@ TEST_F(FocusReturnTest, AFieldThatTheClickGaveTheFocusKeepsIt) {
     EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
     gestures::clickIcon(m_control.m_hWnd);
     EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
+}
+
+TEST_F(FocusReturnTest, APressElsewhereLeavesTheFieldBeforeTheClickComes) {
+    gestures::focusField(m_edit.m_hWnd);
+    HWND focusInClick = m_edit.m_hWnd;
+    m_control.onClick = [&] { focusInClick = windows().focus(); };
+    gestures::clickIcon(m_control.m_hWnd);
+    EXPECT_EQ(focusInClick, view());
+    gestures::focusField(m_edit.m_hWnd);
+    gestures::dragSlider(m_slider.m_hWnd, {10});
+    EXPECT_NE(windows().focus(), m_edit.m_hWnd);
 }
 
 TEST_F(FocusReturnTest, LeavingTakesTheFocusFromASliderAndNotFromAField) {

@@ -84,10 +84,17 @@ TEST_F(WindowFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
     EXPECT_NE(CWnd::GetFocus(), &first);
 }
 
-TEST_F(WindowFocusTest, AFieldThatIsDisabledLosesTheFocusAndSaysSo) {
+TEST_F(WindowFocusTest, AFieldThatIsDisabledLosesTheFocusInSilence) {
     first.SetFocus();
     first.EnableWindow(0);
-    EXPECT_NE(CWnd::GetFocus(), &first);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001"}));
+}
+
+TEST_F(WindowFocusTest, AFieldWhoseParentIsDisabledLosesTheFocus) {
+    first.SetFocus();
+    parent.EnableWindow(0);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
     EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
 }
 
