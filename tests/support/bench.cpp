@@ -56,6 +56,8 @@ void Bench::TearDown() {
     settle();
     for (const Sent& text : m_sent)
         ADD_FAILURE() << "untaken command text: " << text.text;
+    for (const std::string& call : m_bench->faults().untaken())
+        ADD_FAILURE() << "fault that no call came to: " << call;
     for (const char* kind : {"balloon", "box"}) {
         for (const std::string& text : texts(kind)) {
             ADD_FAILURE() << "untaken " << kind << ": " << text;

@@ -23,7 +23,7 @@ struct Sent {
 };
 
 /// Test fixture: a workbench of its own with the example menu, and a user's verbs. At the end a
-/// test fails that has left a command text, a balloon or a box untaken.
+/// test fails that has left a command text, a balloon or a box untaken, or whose fault never came.
 class Bench : public testing::Test {
 protected:
     Bench();

@@ -3,7 +3,7 @@
 namespace workbench {
 
 void Faults::fail(std::string_view call, std::optional<int> status, std::optional<int> count) {
-    m_faults.insert_or_assign(std::string(call), Pending{status, count});
+    m_faults.insert_or_assign(std::string(call), Pending{status, count, false});
 }
 
 void Faults::unfail(std::string_view call) {
@@ -30,9 +30,19 @@ std::optional<Faults::Fault> Faults::take(std::string_view call) {
     if (found == m_faults.end())
         return {};
     const Fault fault{found->second.status};
+    found->second.taken = true;
     if (found->second.left && --*found->second.left <= 0)
         m_faults.erase(found);
     return fault;
+}
+
+std::vector<std::string> Faults::untaken() const {
+    std::vector<std::string> calls;
+    for (const auto& [call, pending] : m_faults) {
+        if (!pending.taken)
+            calls.push_back(call);
+    }
+    return calls;
 }
 
 }  // namespace workbench

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace workbench {
 
@@ -28,11 +29,14 @@ public:
     };
     /// The fault of a call that is being made now, counted down; nothing if it is not to fail.
     std::optional<Fault> take(std::string_view call);
+    /// The calls that are told to fail and have not been made since.
+    std::vector<std::string> untaken() const;
 
 private:
     struct Pending {
         std::optional<int> status;
         std::optional<int> left;  // nothing: without end
+        bool taken = false;
     };
     std::map<std::string, Pending, std::less<>> m_faults;
     std::set<std::pair<std::string, std::string>> m_hidden;  // library, symbol or empty

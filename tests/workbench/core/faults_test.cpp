@@ -31,6 +31,16 @@ TEST(FaultsTest, ALaterFaultReplacesTheEarlier) {
     EXPECT_TRUE(faults.take("vxedSetVar").has_value());
 }
 
+TEST(FaultsTest, AFaultThatNoCallCameToIsUntaken) {
+    Faults faults;
+    faults.fail("vxedGetVar");
+    faults.fail("vxedSetVar");
+    faults.take("vxedSetVar");
+    EXPECT_EQ(faults.untaken(), std::vector<std::string>{"vxedGetVar"});
+    faults.unfail("vxedGetVar");
+    EXPECT_TRUE(faults.untaken().empty());
+}
+
 TEST(FaultsTest, ALibraryAndItsSymbolsAreHiddenApart) {
     Faults faults;
     faults.hide("VxTp.qlx", "VxTpShowScheme");
