@@ -13,22 +13,32 @@ void focusCommandLine() {
         commandLine->SetFocus();
 }
 
+/// Sends text to the current document's command line; nothing without the host's documents.
+void sendToCurrentDocument(const wchar_t* text, bool activate, bool wrapUpInactive) {
+    focusCommandLine();
+    if (VxApDocManager* documents = vxDocManagerPtr()) {
+        documents->sendToCommandLine(documents->curDocument(), text, activate, wrapUpInactive,
+                                     true);
+    }
+}
+
 }  // namespace
 
 bool commandStopped() {
     if (readVariableFlag(L"CMDACTIVE") == 0)
         return false;
-    focusCommandLine();
-    VxApDocManager* documents = vxDocManagerPtr();
-    documents->sendToCommandLine(documents->curDocument(), kCancelTwice, true, false, true);
+    sendToCurrentDocument(kCancelTwice, true, false);
     return true;
 }
 
 bool sendHostCommand(const wchar_t* text) {
-    focusCommandLine();
-    VxApDocManager* documents = vxDocManagerPtr();
-    documents->sendToCommandLine(documents->curDocument(), text, false, true, true);
+    sendToCurrentDocument(text, false, true);
     return true;
+}
+
+void sendMenuMacro(const wchar_t* macro) {
+    if (const VxApDocManager* documents = vxDocManagerPtr())
+        vxedSendMenuStringToExecute(documents->mdiActiveDocument(), macro, 1);
 }
 
 void runHostCommand(VxString text, int flag) {

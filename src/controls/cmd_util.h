@@ -9,6 +9,8 @@
 bool commandStopped();
 /// Sends a command to the command line, for the user to answer there. Returns true.
 bool sendHostCommand(const wchar_t* text);
+/// Sends a macro to the document whose window is active, as a choice from a menu does.
+void sendMenuMacro(const wchar_t* macro);
 /// Runs a command with all its answers before it returns. `flag` is the host's own; 0 in the
 /// lighting callbacks.
 void runHostCommand(VxString text, int flag);

@@ -25,11 +25,16 @@ bool changesLayers(std::wstring_view command) {
                        [command](const wchar_t* name) { return equalNoCase(command, name); });
 }
 
+void removeFrom(VxApDocument& document, VxEdInputContextReactor& reactor) {
+    if (VxEdInputManager* input = document.inputManager())
+        input->removeReactor(&reactor);
+}
+
 }  // namespace
 
 CVxDaControlMgr::~CVxDaControlMgr() {
     for (auto& [document, reactor] : m_documentReactors) {
-        document->inputManager()->removeReactor(reactor.get());
+        removeFrom(*document, *reactor);
         reactor.reset();
     }
     releaseControls();
@@ -121,16 +126,18 @@ void CVxDaControlMgr::runWhenQuiescent(std::unique_ptr<InputContextReactor::Call
         callback->run();
         return;
     }
-    if (VxApDocument* document = vxDocManagerPtr()->curDocument()) {
+    const VxApDocManager* documents = vxDocManagerPtr();
+    VxApDocument* document = documents == nullptr ? nullptr : documents->curDocument();
+    if (document != nullptr)
         documentReactor(document).append(std::move(callback));
-    }
 }
 
 VxDaCmdUtil::InputContextReactor& CVxDaControlMgr::documentReactor(VxApDocument* document) {
     std::unique_ptr<InputContextReactor>& reactor = m_documentReactors[document];
     if (reactor == nullptr) {
         reactor = std::make_unique<InputContextReactor>();
-        document->inputManager()->addReactor(reactor.get());
+        if (VxEdInputManager* input = document->inputManager())
+            input->addReactor(reactor.get());
     }
     return *reactor;
 }
@@ -139,6 +146,6 @@ void CVxDaControlMgr::removeDocumentReactor(VxApDocument* document) {
     const auto found = m_documentReactors.find(document);
     if (found == m_documentReactors.end())
         return;
-    document->inputManager()->removeReactor(found->second.get());
+    removeFrom(*document, *found->second);
     m_documentReactors.erase(found);
 }

@@ -12,7 +12,8 @@ constexpr const wchar_t* kGlobalCommandName = L"Dashboard Operation";
 }  // namespace
 
 VxDaDocLock::VxDaDocLock() {
-    VxApDocument* document = vxDocManagerPtr()->mdiActiveDocument();
+    VxApDocManager* documents = vxDocManagerPtr();
+    VxApDocument* document = documents == nullptr ? nullptr : documents->mdiActiveDocument();
     if (document == nullptr)
         return;
     const VxString localName = loadDashboardString(kStrLocalLockCommand);
@@ -20,14 +21,15 @@ VxDaDocLock::VxDaDocLock() {
         m_status = Zorq::eOk;
         return;
     }
-    m_status = vxDocManagerPtr()->lockDocument(document, kDocLockWrite, kGlobalCommandName,
-                                               localName.c_str(), false);
+    m_status = documents->lockDocument(document, kDocLockWrite, kGlobalCommandName,
+                                       localName.c_str(), false);
     if (m_status == Zorq::eOk)
         m_document = document;
 }
 
 VxDaDocLock::~VxDaDocLock() {
-    if (m_document != nullptr)
-        vxDocManagerPtr()->unlockDocument(m_document);
+    VxApDocManager* documents = vxDocManagerPtr();
+    if (m_document != nullptr && documents != nullptr)
+        documents->unlockDocument(m_document);
     m_document = nullptr;
 }

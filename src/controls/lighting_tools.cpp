@@ -43,6 +43,8 @@ public:
     void run() override {
         const VxAxDocLock lock(workingDatabase(), kLockForWrite);
         VxResultBuffer* buffer = vxutNewRb(kRtShort);
+        if (buffer == nullptr)
+            return;
         vxedGetVar(variable(), buffer);
         sendNumber(command(), 1 - buffer->value.shortInt);
         vxutRelRb(buffer);

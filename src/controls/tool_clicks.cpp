@@ -1,5 +1,6 @@
 #include "controls/tool_clicks.h"
 
+#include "controls/cmd_util.h"
 #include "controls/control_manager.h"
 #include "controls/lighting_tools.h"
 
@@ -69,7 +70,8 @@ Function findNavigationSymbol(const char* symbol) {
 bool isNavigationModuleLoaded() {
     if (vxrxServiceIsRegistered(kNavigationService))
         return true;
-    if (dynamicLinker()->loadModule(kNavigationModule, 1, 0))
+    VxRxDynamicLinker* linker = dynamicLinker();
+    if (linker != nullptr && linker->loadModule(kNavigationModule, 1, 0))
         return true;
     AfxMessageBox(formatText(loadDashboardString(kStrNavigationLoadFailed), kNavigationModule),
                   MB_OK | MB_ICONWARNING);
@@ -107,7 +109,7 @@ int sendItemMacro(CQrUiToolPanelItem* item) {
     const VxToolPanelItemData* data = QrUiGetToolPanelItemData(item);
     if (data == nullptr || data->macro.empty())
         return 0;
-    vxedSendMenuStringToExecute(vxDocManagerPtr()->mdiActiveDocument(), data->macro.c_str(), 1);
+    sendMenuMacro(data->macro.c_str());
     return 1;
 }
 

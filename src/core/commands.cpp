@@ -38,8 +38,10 @@ bool areCommandsEnabled() {
 
 void addCommand(const wchar_t* globalName, const VxString& localName, int flags,
                 VxEdCommandStack::CommandFunction function) {
-    commandStack()->addCommand(kCommandGroup, globalName, localName.c_str(), flags, function,
-                               nullptr, -1, nullptr, nullptr);
+    if (VxEdCommandStack* commands = commandStack()) {
+        commands->addCommand(kCommandGroup, globalName, localName.c_str(), flags, function, nullptr,
+                             -1, nullptr, nullptr);
+    }
 }
 
 }  // namespace
@@ -53,5 +55,6 @@ void registerCommands() {
 }
 
 void removeCommands() {
-    commandStack()->removeGroup(kCommandGroup);
+    if (VxEdCommandStack* commands = commandStack())
+        commands->removeGroup(kCommandGroup);
 }

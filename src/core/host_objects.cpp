@@ -6,14 +6,24 @@
 
 namespace {
 
+VxRxObject* findEntry(const wchar_t* name) {
+    const VxRxDictionary* registry = vxrxSysRegistry();
+    return registry == nullptr ? nullptr : registry->at(name);
+}
+
 const VxRxClass* findDescriptor(const wchar_t* className) {
-    auto* classes = dynamic_cast<VxRxDictionary*>(vxrxSysRegistry()->at(L"ClassDictionary"));
+    auto* classes = dynamic_cast<VxRxDictionary*>(findEntry(L"ClassDictionary"));
     return classes == nullptr ? nullptr : dynamic_cast<VxRxClass*>(classes->at(className));
 }
 
+/// The object of an entry if it is of a class.
 template <class Host>
-Host* findObject(const wchar_t* entry, const VxRxClass* descriptor) {
-    VxRxObject* object = vxrxSysRegistry()->at(entry);
+Host* findObject(const wchar_t* entry, const wchar_t* className) {
+    // Descriptors never move, so one that was found is kept; a miss is not.
+    static const VxRxClass* descriptor = nullptr;
+    if (descriptor == nullptr)
+        descriptor = findDescriptor(className);
+    VxRxObject* object = findEntry(entry);
     if (object == nullptr || !object->isKindOf(descriptor))
         return nullptr;
     return static_cast<Host*>(object);
@@ -22,20 +32,17 @@ Host* findObject(const wchar_t* entry, const VxRxClass* descriptor) {
 }  // namespace
 
 VxRxDynamicLinker* dynamicLinker() {
-    static const VxRxClass* const descriptor = findDescriptor(L"VxRxDynamicLinker");
-    return findObject<VxRxDynamicLinker>(L"DynamicLinker", descriptor);
+    return findObject<VxRxDynamicLinker>(L"DynamicLinker", L"VxRxDynamicLinker");
 }
 
 VxEdCommandStack* commandStack() {
-    static const VxRxClass* const descriptor = findDescriptor(L"VxEdCommandStack");
-    return findObject<VxEdCommandStack>(L"ZORQ_REGISTERED_COMMANDS", descriptor);
+    return findObject<VxEdCommandStack>(L"ZORQ_REGISTERED_COMMANDS", L"VxEdCommandStack");
 }
 
 VxEditor* hostEditor() {
-    static const VxRxClass* const descriptor = findDescriptor(L"VxEditor");
-    return findObject<VxEditor>(L"VxEditor", descriptor);
+    return findObject<VxEditor>(L"VxEditor", L"VxEditor");
 }
 
 VxRxDictionary* serviceDictionary() {
-    return dynamic_cast<VxRxDictionary*>(vxrxSysRegistry()->at(L"ServiceDictionary"));
+    return dynamic_cast<VxRxDictionary*>(findEntry(L"ServiceDictionary"));
 }

@@ -28,6 +28,27 @@ bool canShowOrHide(const CVxDaDashboard& bar) {
     return !bar.IsFloating() || bar.GetDockingFrame() != nullptr;
 }
 
+/// Adds a reactor to an object of the host; nothing if the host has none.
+template <class Host, class Reactor>
+void addTo(Host* host, const std::unique_ptr<Reactor>& reactor) {
+    if (host != nullptr)
+        host->addReactor(reactor.get());
+}
+
+/// Takes a reactor off an object of the host, then ends it.
+template <class Host, class Reactor>
+void removeFrom(Host* host, std::unique_ptr<Reactor>& reactor) {
+    if (host != nullptr && reactor != nullptr)
+        host->removeReactor(reactor.get());
+    reactor.reset();
+}
+
+/// Whether one document is open, or is about to be the last one that was.
+bool hasOneDocument() {
+    const VxApDocManager* documents = vxDocManagerPtr();
+    return documents != nullptr && documents->documentCount() == 1;
+}
+
 bool isCleanScreenOn() {
     return readVariableFlag(L"CleanScreenState") == 1;
 }
@@ -37,25 +58,19 @@ bool isCleanScreenOn() {
 VxDaManager::VxDaManager() = default;
 
 VxDaManager::~VxDaManager() {
-    if (m_pProfileReactor != nullptr)
-        vxProfileManagerPtr()->removeReactor(m_pProfileReactor.get());
-    m_pProfileReactor.reset();
-    if (m_pEditorReactor != nullptr)
-        hostEditor()->removeReactor(m_pEditorReactor.get());
-    m_pEditorReactor.reset();
-    if (m_pDocManagerReactor != nullptr)
-        vxDocManagerPtr()->removeReactor(m_pDocManagerReactor.get());
-    m_pDocManagerReactor.reset();
+    removeFrom(vxProfileManagerPtr(), m_pProfileReactor);
+    removeFrom(hostEditor(), m_pEditorReactor);
+    removeFrom(vxDocManagerPtr(), m_pDocManagerReactor);
     deleteDashboard();
 }
 
 BOOL VxDaManager::attach() {
     m_pProfileReactor = std::make_unique<VxDaProfileManagerReactor>(this);
-    vxProfileManagerPtr()->addReactor(m_pProfileReactor.get());
+    addTo(vxProfileManagerPtr(), m_pProfileReactor);
     m_pEditorReactor = std::make_unique<VxDaEditorReactor>(this);
-    hostEditor()->addReactor(m_pEditorReactor.get());
+    addTo(hostEditor(), m_pEditorReactor);
     m_pDocManagerReactor = std::make_unique<VxDaDocManagerReactor>(this);
-    vxDocManagerPtr()->addReactor(m_pDocManagerReactor.get());
+    addTo(vxDocManagerPtr(), m_pDocManagerReactor);
     return 1;
 }
 
@@ -197,7 +212,7 @@ void VxDaManager::onDocumentDestroyed(const wchar_t* fileName) {
     if (m_bQuitting)
         return;
     // The dying document still counts.
-    if (vxDocManagerPtr()->documentCount() != 1)
+    if (!hasOneDocument())
         return;
     m_bWasVisible = m_pDashboard != nullptr && isBarOnScreen();
     if (m_bWasVisible && m_bPanelsLoaded) {
@@ -208,7 +223,7 @@ void VxDaManager::onDocumentDestroyed(const wchar_t* fileName) {
 }
 
 void VxDaManager::onDocumentCreated() {
-    if (vxDocManagerPtr()->documentCount() != 1 || !m_bWasVisible)
+    if (!hasOneDocument() || !m_bWasVisible)
         return;
     if (isCleanScreenOn())
         return;

@@ -28,8 +28,11 @@ std::unique_ptr<CVxDaControlMgr> s_controlManager;
 HINSTANCE s_iconLibrary = nullptr;  // stays loaded for the life of the process
 
 void announceModule(void* appPacket) {
-    dynamicLinker()->unlockApplication(appPacket);
-    dynamicLinker()->registerAppMDIAware(appPacket);
+    VxRxDynamicLinker* linker = dynamicLinker();
+    if (linker == nullptr)
+        return;
+    linker->unlockApplication(appPacket);
+    linker->registerAppMDIAware(appPacket);
 }
 
 void registerService() {

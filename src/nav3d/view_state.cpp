@@ -27,6 +27,8 @@ bool isTemporaryViewPerspective(int viewportNumber) {
     if (graphics == nullptr)
         return false;
     VxGsClassFactory* factory = graphics->classFactory();
+    if (factory == nullptr)
+        return false;
     VxGsView* view = factory->createView({viewportNumber, vxedGetCurViewportObjectId()});
     if (view == nullptr)
         return false;

@@ -6,12 +6,11 @@
 #include "core/module.h"
 #include "core/text.h"
 
+#include "controls/cmd_util.h"
 #include "controls/control_manager.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>
-#include <hostapi/zorq/commands.h>
-#include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/frame_windows.h>
 #include <hostapi/zorq/menu_data.h>
 
@@ -31,7 +30,7 @@ void runInModule(const VxString& module, CQrUiToolPanelItem* item) {
 void runMacro(const VxString& macro) {
     if (CWnd* view = vxedGetZorqDwgView())
         view->SetFocus();
-    vxedSendMenuStringToExecute(vxDocManagerPtr()->mdiActiveDocument(), macro.c_str(), 1);
+    sendMenuMacro(macro.c_str());
 }
 
 }  // namespace

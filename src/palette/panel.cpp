@@ -9,6 +9,8 @@
 #include "core/resources.h"
 #include "core/string_ids.h"
 
+#include "controls/cmd_util.h"
+
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/vxtcui.h>
 #include <hostapi/zorq.h>
@@ -115,7 +117,7 @@ LRESULT CVxDaPanel::onCustomize(WPARAM /*command*/, LPARAM /*unused*/) {
     if (VxCustomizationInterface* customization = zorqiGetCustomizationInterface()) {
         customization->selectPanel(m_menuGroup, GetID());
     }
-    vxedSendMenuStringToExecute(vxDocManagerPtr()->mdiActiveDocument(), L"_.CUI ", 1);
+    sendMenuMacro(L"_.CUI ");
     return 0;
 }
 

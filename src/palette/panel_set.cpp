@@ -26,7 +26,9 @@ NodePtr openDashboardNode(NodeUse use) {
     if (!profile)
         return nullptr;
     const bool write = use == NodeUse::Write;
-    VxApProfileStorage* storage = vxProfileManagerPtr()->profileStorage(profile->c_str(), write);
+    VxApProfileManager* profiles = vxProfileManagerPtr();
+    VxApProfileStorage* storage =
+        profiles == nullptr ? nullptr : profiles->profileStorage(profile->c_str(), write);
     if (storage == nullptr)
         return nullptr;
     return NodePtr(write ? storage->createNode(kDashboardNode) : storage->openNode(kDashboardNode));
