@@ -1,0 +1,162 @@
+#include "controls/cmd_util.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "workbench/editor/editor.h"
+
+#include <hostapi/zorq.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using workbench::Value;
+
+class CmdUtilTest : public PaletteTest {
+protected:
+    void SetUp() override { load(); }
+
+    /// The last sending to the command line: text, and whether it activates, wraps up, echoes.
+    struct Line {
+        std::string text;
+        bool activate;
+        bool wrapUp;
+        bool echo;
+        friend bool operator==(const Line&, const Line&) = default;
+    };
+    std::vector<Line> lines() {
+        std::vector<Line> found;
+        for (const workbench::JournalRecord& record : bench().journal().take("call")) {
+            if (record.field("name") != Value("VxApDocManager::sendToCommandLine"))
+                continue;
+            const auto& args = record.field("args").asList();
+            found.push_back({args.at(1).asString(), args.at(2) == Value(true),
+                             args.at(3) == Value(true), args.at(4) == Value(true)});
+        }
+        return found;
+    }
+    void blur() { AfxGetMainWnd()->SetFocus(); }
+    void set(const wchar_t* name, int value) { ASSERT_TRUE(bench().editor().set(name, value)); }
+    void endCommands() { bench().editor().pump(); }
+};
+
+using Lines = std::vector<std::string>;
+
+// Stopping what runs
+
+TEST_F(CmdUtilTest, NothingIsStoppedWhileNoCommandRuns) {
+    blur();
+    forget();
+    EXPECT_FALSE(commandStopped());
+    EXPECT_TRUE(lines().empty());
+    EXPECT_NE(CWnd::GetFocus(), vxedGetZorqDockCmdLine());
+}
+
+TEST_F(CmdUtilTest, RunningCommandIsToldToStopAtTheCommandLine) {
+    bench().editor().beginCommand(L"LINE");
+    blur();
+    forget();
+    EXPECT_TRUE(commandStopped());
+    const auto told = lines();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0], (Line{"\x03\x03", true, false, true}));
+    EXPECT_EQ(CWnd::GetFocus(), vxedGetZorqDockCmdLine());
+    EXPECT_NE(bench().editor().read(L"CMDACTIVE"), Value(0)) << "it has not stopped yet";
+    endCommands();
+    EXPECT_EQ(bench().editor().read(L"CMDACTIVE"), Value(0));
+}
+
+TEST_F(CmdUtilTest, UnreadableActivityCountsAsRest) {
+    bench().editor().beginCommand(L"LINE");
+    bench().faults().fail("vxedGetVar:CMDACTIVE");
+    forget();
+    EXPECT_FALSE(commandStopped());
+    EXPECT_TRUE(lines().empty());
+}
+
+TEST_F(CmdUtilTest, WithoutADockedCommandLineTheCancelGoesOutAllTheSame) {
+    bench().editor().beginCommand(L"LINE");
+    bench().faults().fail("vxedGetZorqDockCmdLine");
+    forget();
+    EXPECT_TRUE(commandStopped());
+    EXPECT_EQ(lines().size(), 1U);
+    endCommands();
+}
+
+// Sending
+
+TEST_F(CmdUtilTest, CommandForTheUserGoesToTheCommandLineWithItsFocus) {
+    blur();
+    forget();
+    EXPECT_TRUE(sendHostCommand(L"_sunstatus"));
+    const auto told = lines();
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0], (Line{"_sunstatus", false, true, true}));
+    EXPECT_EQ(CWnd::GetFocus(), vxedGetZorqDockCmdLine());
+}
+
+TEST_F(CmdUtilTest, SendingWithoutTheHostsDocumentsIsQuiet) {
+    bench().faults().fail("vxDocManagerPtr", std::nullopt, 1);
+    forget();
+    EXPECT_TRUE(sendHostCommand(L"_sunstatus"));
+    EXPECT_TRUE(lines().empty());
+}
+
+TEST_F(CmdUtilTest, WholeCommandHasRunWhenTheCallReturns) {
+    set(L"DEFAULTLIGHTING", 0);
+    forget();
+    runHostCommand(L"_defaultlighting\n1\n", 0);
+    EXPECT_EQ(bench().editor().read(L"DEFAULTLIGHTING"), Value(1));
+    const std::string call = lastCall("do_cmd");
+    EXPECT_NE(call.find("_defaultlighting"), std::string::npos);
+    EXPECT_NE(call.find(",0,0,1]"), std::string::npos) << call;
+}
+
+// Where the user works
+
+struct SpaceCase {
+    int tileMode;
+    int viewport;
+    bool paperSpace;
+};
+class ActiveSpaceTest : public CmdUtilTest, public testing::WithParamInterface<SpaceCase> {
+protected:
+    void SetUp() override {
+        CmdUtilTest::SetUp();
+        bench().editor().documents().open(std::string(PROJECT_SOURCE_ROOT) +
+                                          "/examples/house.json");
+    }
+};
+
+TEST_P(ActiveSpaceTest, IsPaperSpaceInTheSheetsOwnViewportAlone) {
+    set(L"TILEMODE", GetParam().tileMode);
+    set(L"CVPORT", GetParam().viewport);
+    EXPECT_EQ(isPaperSpaceActive(), GetParam().paperSpace);
+}
+
+INSTANTIATE_TEST_SUITE_P(Spaces, ActiveSpaceTest,
+                         testing::Values(SpaceCase{1, 2, false}, SpaceCase{0, 1, true},
+                                         SpaceCase{0, 2, false}));
+
+TEST_F(CmdUtilTest, UnreadableTileModeLeavesTheViewportToDecide) {
+    set(L"TILEMODE", 0);
+    bench().faults().fail("vxedGetVar:TILEMODE");
+    EXPECT_TRUE(isPaperSpaceActive());
+    bench().faults().fail("vxedGetVar:CVPORT");
+    EXPECT_FALSE(isPaperSpaceActive());
+}
+
+TEST_F(CmdUtilTest, BlockEditorIsOpenAtOneAlone) {
+    EXPECT_FALSE(isBlockEditorActive());
+    set(L"BLOCKEDITOR", 1);
+    EXPECT_TRUE(isBlockEditorActive());
+}
+
+// The main window
+
+TEST_F(CmdUtilTest, ActivationIsZeroWithoutAMainWindow) {
+    bench().faults().fail("AfxGetMainWnd");
+    EXPECT_EQ(activateMainWindow(), 0);
+}
+
+}  // namespace

@@ -1,0 +1,78 @@
+#include "controls/doc_lock.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "workbench/editor/editor.h"
+
+#include <hostapi/zorq.h>
+
+namespace {
+
+class DocLockTest : public PaletteTest {
+protected:
+    void SetUp() override { load(); }
+    void fail(const char* call, int status) { bench().faults().fail(call, status); }
+};
+
+TEST_F(DocLockTest, LockHoldsForItsScope) {
+    VxApDocument* document = vxDocManagerPtr()->mdiActiveDocument();
+    {
+        const VxDaDocLock lock;
+        EXPECT_EQ(lock.status(), 0);
+        EXPECT_NE(document->lockMode() & kDocLockWrite, 0);
+    }
+    EXPECT_EQ(document->lockMode() & kDocLockWrite, 0);
+}
+
+TEST_F(DocLockTest, LockInsideAWriteLockTakesNone) {
+    const VxDaDocLock outer;
+    {
+        const VxDaDocLock inner;
+        EXPECT_EQ(inner.status(), 0);
+    }
+    EXPECT_NE(vxDocManagerPtr()->mdiActiveDocument()->lockMode() & kDocLockWrite, 0);
+}
+
+TEST_F(DocLockTest, FailedLockKeepsTheHostsStatusAndUnlocksNothing) {
+    fail("VxApDocManager::lockDocument", 15);
+    const VxDaDocLock lock;
+    EXPECT_EQ(lock.status(), 15);
+}
+
+TEST_F(DocLockTest, LockWithoutADocumentHasTheStatusOfNone) {
+    workbench::DocumentList& documents = workbench::Workbench::current().editor().documents();
+    documents.close(*documents.current());
+    const VxDaDocLock lock;
+    EXPECT_EQ(lock.status(), 374);
+}
+
+TEST_F(DocLockTest, LockIsForWritingUnderTheModulesNamesWithoutAPrompt) {
+    forget();
+    { const VxDaDocLock lock; }
+    const workbench::JournalRecord* made = nullptr;
+    for (const workbench::JournalRecord& record : bench().journal().records()) {
+        if (record.field("name") == workbench::Value("VxApDocManager::lockDocument"))
+            made = &record;
+    }
+    ASSERT_NE(made, nullptr);
+    const auto& args = made->field("args").asList();
+    EXPECT_EQ(args.at(1), workbench::Value(kDocLockWrite));
+    EXPECT_EQ(args.at(2), workbench::Value("Dashboard Operation"));
+    EXPECT_FALSE(args.at(3).asString().empty());
+    EXPECT_EQ(args.at(4), workbench::Value(false));
+    EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 1);
+}
+
+TEST_F(DocLockTest, LockThatWasNotTakenIsNotGivenBack) {
+    fail("VxApDocManager::lockDocument", 15);
+    forget();
+    { const VxDaDocLock lock; }
+    EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 0);
+}
+
+TEST_F(DocLockTest, LockWithoutTheHostsDocumentsHasTheStatusOfNone) {
+    bench().faults().fail("vxDocManagerPtr");
+    const VxDaDocLock lock;
+    EXPECT_EQ(lock.status(), 374);
+}
+
+}  // namespace

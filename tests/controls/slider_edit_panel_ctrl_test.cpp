@@ -1,0 +1,251 @@
+#include "controls/slider_edit_panel_ctrl.h"
+
+#include "controls/edit_messages.h"
+#include "controls/row_items.h"
+#include "controls/slider_edit_panel_ctrl2.h"
+#include "tests/palette/palette_fixture.h"
+
+#include <hostapi/qrui18/tool_panel_item.h>
+#include <hostapi/window/frame.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int kIconWidth = 22;      // pixels, the toolkit's at 16-pixel icons
+constexpr int kSeparatorWidth = 6;  // pixels
+
+/// What stands in the row.
+enum class Row { Whole, NoSeparator, OneItem };
+
+/// A control of the test's own: its row, and a record of what its edit fields told it.
+template <class Base>
+class TestControl final : public Base {
+public:
+    explicit TestControl(Row row) : Base(nullptr), m_row(row) {}
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_CREATE)
+            return create(reinterpret_cast<const CREATESTRUCT*>(lParam));
+        if (message == WM_DA_EDIT_ENTER || message == WM_DA_EDIT_ESCAPE) {
+            told.push_back({message, wParam, lParam});
+            return 0;
+        }
+        return Base::WindowProc(message, wParam, lParam);
+    }
+
+    struct Told {
+        UINT message;
+        WPARAM id;
+        LPARAM window;
+    };
+    std::vector<Told> told;
+    CQrUiProgSliderCtrl& slider() { return this->m_slider; }
+    CQrUiInputEditCtrl& edit() { return this->m_edit; }
+
+private:
+    LRESULT create(const CREATESTRUCT* creation) {
+        if (this->OnCreate(creation) == -1)
+            return -1;
+        this->m_slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 10, 10}, this, 10001, 2);
+        if (m_row != Row::OneItem)
+            addIconItem(this, L"TPB_TEST", L"RCDATA_NONE");
+        addControlItem(this, this->m_slider.m_hWnd);
+        if (m_row == Row::Whole)
+            this->CreateEditPart();
+        if (m_row == Row::NoSeparator) {
+            this->createEdit(this->m_edit, kFirstEditId);
+            addControlItem(this, this->m_edit.m_hWnd);
+        }
+        return 0;
+    }
+
+    Row m_row;
+};
+
+using OneField = TestControl<CVxDaSliderEditPanelCtrl>;
+using TwoFields = TestControl<CVxDaSliderEditPanelCtrl2>;
+
+class SliderEditTest : public PaletteTest {
+protected:
+    void SetUp() override { load(); }
+
+    template <class Control>
+    void create(Control& control, int width) {
+        ASSERT_TRUE(
+            control.Create(WS_CHILD | WS_VISIBLE, {0, 0, width, 60}, AfxGetMainWnd(), 900, 0));
+        control.UpdateLayout(1);
+    }
+    static int widthOf(const CWnd& window) { return window.GetWindowRect().Width(); }
+    static int leftOf(const CWnd& window) {
+        const CRect rect = window.GetWindowRect();
+        return window.GetParent()->ScreenToClient({rect.left, rect.top}).x;
+    }
+    template <class Control>
+    BOOL press(Control& control, WPARAM key) {
+        MSG msg{control.m_hWnd, WM_KEYDOWN, key, 0};
+        return control.PreTranslateMessage(&msg);
+    }
+};
+
+// Layout
+
+class RowWidthTest : public SliderEditTest, public testing::WithParamInterface<int> {};
+
+TEST_P(RowWidthTest, SliderTakesTwoThirdsAndTheFieldWhatIsLeft) {
+    OneField control(Row::Whole);
+    create(control, GetParam());
+    // The toolkit has given slider and field all that icon and separator leave.
+    const int shared = GetParam() - kIconWidth - kSeparatorWidth;
+    const int sliderWidth = 2 * (shared / 2 + (shared - shared / 2)) / 3;
+    EXPECT_EQ(widthOf(control.slider()), sliderWidth);
+    EXPECT_EQ(leftOf(control.slider()), kIconWidth);
+    EXPECT_EQ(control.GetToolPanelItem(2)->GetPosition().x, kIconWidth + sliderWidth);
+    EXPECT_EQ(leftOf(control.edit()), kIconWidth + sliderWidth + kSeparatorWidth);
+    EXPECT_EQ(widthOf(control.edit()), GetParam() - kIconWidth - sliderWidth - kSeparatorWidth);
+    control.DestroyWindow();
+}
+
+INSTANTIATE_TEST_SUITE_P(Widths, RowWidthTest, testing::Values(150, 211, 300, 301, 640));
+
+TEST_F(SliderEditTest, SliderAndFieldOf120And60KeepTheirShare) {
+    constexpr int kShared = 120 + 60;
+    OneField control(Row::Whole);
+    create(control, kIconWidth + kSeparatorWidth + kShared);
+    EXPECT_EQ(widthOf(control.slider()), 120);
+    EXPECT_EQ(widthOf(control.edit()), 60);
+}
+
+TEST_F(SliderEditTest, SecondLayoutChangesNothing) {
+    OneField control(Row::Whole);
+    create(control, 301);
+    const int slider = widthOf(control.slider());
+    const int edit = widthOf(control.edit());
+    control.UpdateLayout(0);
+    EXPECT_EQ(widthOf(control.slider()), slider);
+    EXPECT_EQ(widthOf(control.edit()), edit);
+}
+
+TEST_F(SliderEditTest, WithoutASeparatorTheFieldBeginsAtTheSlidersRightEdge) {
+    OneField control(Row::NoSeparator);
+    create(control, 300);
+    EXPECT_EQ(leftOf(control.edit()), leftOf(control.slider()) + widthOf(control.slider()));
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, LayoutWithoutAFieldAnswersOneAndLeavesTheSlider) {
+    OneField control(Row::OneItem);
+    create(control, 300);
+    const int before = widthOf(control.slider());
+    EXPECT_EQ(control.UpdateLayout(1), 1);
+    EXPECT_EQ(widthOf(control.slider()), before);
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, NarrowRowGivesTheFieldNoWidthInsteadOfANegativeOne) {
+    OneField control(Row::Whole);
+    create(control, 20);
+    EXPECT_EQ(widthOf(control.edit()), 0);
+    control.DestroyWindow();
+}
+
+// Keys
+
+TEST_F(SliderEditTest, EnterAndEscapeInTheFieldReachTheControlAndAreConsumed) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    control.edit().SetFocus();
+    EXPECT_NE(press(control, VK_RETURN), 0);
+    EXPECT_NE(press(control, VK_ESCAPE), 0);
+    ASSERT_EQ(control.told.size(), 2U);
+    EXPECT_EQ(control.told[0].message, WM_DA_EDIT_ENTER);
+    EXPECT_EQ(control.told[1].message, WM_DA_EDIT_ESCAPE);
+    EXPECT_EQ(control.told[0].id, WPARAM{kFirstEditId});
+    EXPECT_EQ(control.told[0].window, reinterpret_cast<LPARAM>(control.edit().m_hWnd));
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, OtherKeysGoTheOrdinaryWay) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    control.edit().SetFocus();
+    press(control, 'A');
+    EXPECT_TRUE(control.told.empty());
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, EnterOutsideTheFieldGoesTheOrdinaryWay) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    control.slider().SetFocus();
+    EXPECT_EQ(press(control, VK_RETURN), 0);
+    AfxGetMainWnd()->SetFocus();
+    EXPECT_EQ(press(control, VK_RETURN), 0);
+    EXPECT_TRUE(control.told.empty());
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, ControlAnswersTheToolkitsQueries) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    EXPECT_EQ(control.SendMessage(1567), 1);
+    EXPECT_EQ(control.SendMessage(1571), 1);
+    EXPECT_EQ(control.SendMessage(1566), 0);
+    control.DestroyWindow();
+}
+
+// Failures
+
+TEST_F(SliderEditTest, FailedFieldAnswersZero) {
+    OneField control(Row::OneItem);
+    create(control, 300);
+    workbench::Workbench::current().faults().fail("CQrUiInputEditCtrl::Create", {}, 1);
+    EXPECT_EQ(control.CreateEditPart(), 0);
+    control.DestroyWindow();
+}
+
+// Two fields
+
+TEST_F(SliderEditTest, TwoFieldsStandInASecondRowAndAreNotSharedOut) {
+    TwoFields control(Row::Whole);
+    create(control, 300);
+    ASSERT_EQ(control.GetToolPanelItemCount(), 6);
+    const int types[] = {kItemButton,  kItemControl,   kItemRowBreak,
+                         kItemControl, kItemSeparator, kItemControl};
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(control.GetToolPanelItem(i)->GetType(), types[i]);
+    EXPECT_EQ(control.GetToolPanelItem(2)->GetID(), L"TPB_VXDA_SLIDER_ROWBREAK");
+    EXPECT_EQ(control.GetToolPanelItem(4)->GetID(), L"TPB_VXDA_SLIDER_SEPARATOR");
+    EXPECT_EQ(widthOf(control.slider()), 300 - kIconWidth);
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, KeysInEitherOfTwoFieldsNameTheirField) {
+    TwoFields control(Row::Whole);
+    create(control, 300);
+    CWnd* second = CWnd::FromHandle(control.GetToolPanelItem(5)->GetControl());
+    second->SetFocus();
+    EXPECT_NE(press(control, VK_RETURN), 0);
+    control.edit().SetFocus();
+    EXPECT_NE(press(control, VK_RETURN), 0);
+    ASSERT_EQ(control.told.size(), 2U);
+    EXPECT_EQ(control.told[0].id, WPARAM{kSecondEditId});
+    EXPECT_EQ(control.told[1].id, WPARAM{kFirstEditId});
+    control.DestroyWindow();
+}
+
+// Row items
+
+TEST_F(SliderEditTest, RowItemsOfNoControlAreNone) {
+    EXPECT_EQ(addRowBreakItem(nullptr), 0);
+    EXPECT_EQ(addSeparatorItem(nullptr), 0);
+    EXPECT_EQ(addControlItem(nullptr, nullptr), 0);
+    EXPECT_EQ(addIconItem(nullptr, L"x", L"y"), nullptr);
+    OneField control(Row::OneItem);
+    create(control, 300);
+    EXPECT_EQ(addControlItem(&control, nullptr), 0);
+    control.DestroyWindow();
+}
+
+}  // namespace

@@ -1,0 +1,73 @@
+#include "controls/variable_access.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "workbench/editor/editor.h"
+
+namespace {
+
+class VariableAccessTest : public PaletteTest {
+protected:
+    void SetUp() override { load(); }
+    void set(const wchar_t* name, const workbench::Value& value) {
+        ASSERT_TRUE(workbench::Workbench::current().editor().set(name, value));
+    }
+    void fail(const char* call, int status) {
+        workbench::Workbench::current().faults().fail(call, status);
+    }
+};
+
+TEST_F(VariableAccessTest, StrictReadTakesEachTypeOfNumber) {
+    set(L"LAYLOCKFADECTL", -30);
+    EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), -30);
+    set(L"STEPSIZE", 7.9);
+    EXPECT_EQ(readVariableStrict(L"STEPSIZE"), 7) << "a real is truncated toward zero";
+}
+
+TEST_F(VariableAccessTest, StrictReadOfATextOrOfNothingIsMinusOne) {
+    EXPECT_EQ(readVariableStrict(L"CPROFILE"), -1);
+    EXPECT_EQ(readVariableStrict(L"NOSUCHVARIABLE"), -1);
+}
+
+TEST_F(VariableAccessTest, FlagReadOfNothingIsZero) {
+    EXPECT_EQ(readVariableFlag(L"NOSUCHVARIABLE"), 0);
+    set(L"TILEMODE", 1);
+    EXPECT_EQ(readVariableFlag(L"TILEMODE"), 1);
+}
+
+TEST_F(VariableAccessTest, TextReadTakesTextsOnly) {
+    EXPECT_TRUE(readVariableText(L"CPROFILE").has_value());
+    EXPECT_FALSE(readVariableText(L"TILEMODE").has_value());
+    EXPECT_FALSE(readVariableText(L"NOSUCHVARIABLE").has_value());
+}
+
+TEST_F(VariableAccessTest, WriteGoesThrough) {
+    writeVariableShort(L"LAYLOCKFADECTL", 12);
+    EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), 12);
+}
+
+TEST_F(VariableAccessTest, ShortReadLooksAtTheValueAlone) {
+    set(L"LAYLOCKFADECTL", -30);
+    EXPECT_EQ(readVariableShort(L"LAYLOCKFADECTL"), -30);
+    EXPECT_EQ(readVariableShort(L"NOSUCHVARIABLE"), 0);
+}
+
+class FailedReadTest : public VariableAccessTest, public testing::WithParamInterface<int> {};
+
+TEST_P(FailedReadTest, IsMinusOneStrictlyAndZeroAsAFlag) {
+    set(L"LAYLOCKFADECTL", 30);
+    fail("vxedGetVar:LAYLOCKFADECTL", GetParam());
+    EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), -1);
+    EXPECT_EQ(readVariableFlag(L"LAYLOCKFADECTL"), 0);
+    EXPECT_EQ(readVariableShort(L"LAYLOCKFADECTL"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Statuses, FailedReadTest, testing::Values(-5001, 0, -1, 5000));
+
+TEST_F(VariableAccessTest, RefusedWriteIsPassedOver) {
+    set(L"LAYLOCKFADECTL", 30);
+    fail("vxedSetVar:LAYLOCKFADECTL", -5001);
+    writeVariableShort(L"LAYLOCKFADECTL", 12);
+    EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), 30);
+}
+
+}  // namespace

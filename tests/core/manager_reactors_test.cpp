@@ -1,0 +1,131 @@
+#include "core/manager_reactors.h"
+
+#include "controls/control_manager.h"
+#include "core/module.h"
+#include "layer/filter_refresh.h"
+#include "tests/palette/palette_fixture.h"
+#include "workbench/editor/editor.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr const char* kControl = "LayerLockTransparencySliderControl";
+
+/// Notes in the journal when the layer filter lists are refreshed.
+class NotingView final : public LayerFilterView {
+public:
+    NotingView() { addLayerFilterView(this); }
+    ~NotingView() override { removeLayerFilterView(this); }
+    void refreshFilters() override { workbench::Workbench::current().journal().add("filters", {}); }
+};
+
+class ManagerReactorsTest : public PaletteTest {
+protected:
+    workbench::EditorReactors& editor() { return bench().editor().reactors(); }
+
+    /// What the fade slider was told and what the control manager did, in order: the numbers of
+    /// messages, "read NAME" and "filters".
+    std::vector<std::string> road() {
+        std::vector<std::string> steps;
+        for (const workbench::JournalRecord& record : bench().journal().take()) {
+            if (record.kind == "message" && record.field("control") == workbench::Value(kControl)) {
+                steps.push_back(std::to_string(record.field("number").asInteger()));
+            } else if (record.kind == "filters") {
+                steps.push_back("filters");
+            } else if (record.kind == "call" &&
+                       record.field("name") == workbench::Value("vxedGetVar")) {
+                steps.push_back("read " + record.field("args").asList().front().asString());
+            }
+        }
+        return steps;
+    }
+};
+
+using Road = std::vector<std::string>;
+
+TEST_F(ManagerReactorsTest, VariableReachesTheControlsThenTheControlManagerThenCleanScreen) {
+    show();
+    editor().sysVarChanged(L"VSMATERIALMODE", true);
+    EXPECT_EQ(road(), (Road{"1727", "read VSMATERIALMODE"}));
+    editor().sysVarChanged(L"CLEANSCREENSTATE", true);
+    EXPECT_EQ(road(), (Road{"1727", "read CleanScreenState"}));
+}
+
+TEST_F(ManagerReactorsTest, TileModeRefreshesTheFilterListsAfterTheBroadcast) {
+    show();
+    const NotingView view;
+    editor().sysVarChanged(L"TILEMODE", true);
+    EXPECT_EQ(road(), (Road{"1727", "filters"}));
+}
+
+TEST_F(ManagerReactorsTest, EndOfALayerCommandIsToldFirstAndThenRefreshesTheFilterLists) {
+    show();
+    const NotingView view;
+    editor().commandEnded(L"LAYER");
+    EXPECT_EQ(road(), (Road{"1730", "filters"}));
+}
+
+struct SilentCase {
+    const char* what;
+    void (workbench::EditorReactors::*raise)(const wchar_t*);
+    const char* number;
+};
+class SilentEventTest : public ManagerReactorsTest,
+                        public testing::WithParamInterface<SilentCase> {};
+
+TEST_P(SilentEventTest, ReachesTheControlsAlone) {
+    show();
+    const NotingView view;
+    (editor().*GetParam().raise)(L"LAYER");
+    EXPECT_EQ(road(), Road{GetParam().number}) << GetParam().what;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Events, SilentEventTest,
+    testing::Values(SilentCase{"a start", &workbench::EditorReactors::commandWillStart, "1729"},
+                    SilentCase{"a cancel", &workbench::EditorReactors::commandCancelled, "1731"},
+                    SilentCase{"a failure", &workbench::EditorReactors::commandFailed, "1729"},
+                    SilentCase{"a coming change", &workbench::EditorReactors::sysVarWillChange,
+                               "1728"}));
+
+TEST_F(ManagerReactorsTest, DocumentThatBecomesCurrentIsToldBeforeTheFilterListsAreRefreshed) {
+    show();
+    const NotingView view;
+    bench().editor().documents().create(L"B");
+    const Road steps = road();
+    const auto told = std::find(steps.begin(), steps.end(), "1726");
+    ASSERT_NE(told, steps.end());
+    EXPECT_NE(std::find(told, steps.end(), "filters"), steps.end());
+    EXPECT_EQ(std::count(steps.begin(), steps.end(), "filters"), 1);
+    EXPECT_NE(std::find(steps.begin(), told, "1724"), told) << "activation is told before";
+}
+
+TEST_F(ManagerReactorsTest, DocumentReactorWithoutAManagerPassesNothingOn) {
+    show();
+    const NotingView view;
+    VxDaDocManagerReactor alone(nullptr);
+    VxApDocument* document = vxDocManagerPtr()->curDocument();
+    forget();
+    alone.documentCreated(document);
+    alone.documentToBeDestroyed(document);
+    alone.documentDestroyed(L"A");
+    alone.documentBecameCurrent(document);
+    alone.documentToBeActivated(document);
+    EXPECT_TRUE(road().empty());
+}
+
+TEST_F(ManagerReactorsTest, EventsBeforeTheFirstShowFindNoPanelSet) {
+    load();
+    VxDaProfileManagerReactor profiles(dashboardManager());
+    forget();
+    profiles.currentProfileChanged(L"Other");
+    profiles.currentProfileWillBeSaved(L"Other");
+    editor().viewChanged();
+    EXPECT_TRUE(road().empty());
+    EXPECT_EQ(callCount("VxApProfileManager::profileStorage"), 0);
+}
+
+}  // namespace

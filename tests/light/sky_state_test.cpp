@@ -1,0 +1,117 @@
+#include "light/sky_state.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/path_access.h"
+#include "workbench/drawing/records/background.h"
+#include "workbench/drawing/records/sun.h"
+#include "workbench/drawing/records/viewport.h"
+#include "workbench/editor/editor.h"
+#include "workbench/editor/sky_status.h"
+#include "workbench/loader/module_loader.h"
+
+namespace {
+
+namespace drawing = workbench::drawing;
+
+class SkyStateTest : public PaletteTest {
+protected:
+    void TearDown() override {
+        bench().modules().unloadAll();
+        PaletteTest::TearDown();
+    }
+    drawing::Database& data() { return bench().editor().documents().current()->data(); }
+    void setSky(int status) { ASSERT_TRUE(workbench::writeSkyStatus(data(), status)); }
+    /// Gives the view a background of a type.
+    void setBackground(int type) {
+        drawing::Background background;
+        background.name = "Test";
+        background.type = type;
+        const drawing::ObjectId id = data().add(background).id;
+        drawing::Writing<drawing::Viewport> view(data(), drawing::activeViewport(data()));
+        ASSERT_TRUE(view);
+        view->background = id;
+    }
+    /// Whether all that was opened has been closed again.
+    bool allClosed() {
+        return bool(drawing::Writing<drawing::Viewport>(data(), drawing::activeViewport(data())));
+    }
+};
+
+// Status
+
+TEST_F(SkyStateTest, ViewWithoutABackgroundHasItsSkyOff) {
+    EXPECT_EQ(readSkyStatus(), kSkyStatusOff);
+    EXPECT_TRUE(allClosed());
+}
+
+struct BackgroundCase {
+    int type;
+    int status;
+};
+class BackgroundTypeTest : public SkyStateTest,
+                           public testing::WithParamInterface<BackgroundCase> {};
+
+TEST_P(BackgroundTypeTest, SkyIsOnAtElevenAlone) {
+    setBackground(GetParam().type);
+    EXPECT_EQ(readSkyStatus(), GetParam().status);
+    EXPECT_TRUE(allClosed());
+}
+
+INSTANTIATE_TEST_SUITE_P(Types, BackgroundTypeTest,
+                         testing::Values(BackgroundCase{5, 0}, BackgroundCase{7, 0},
+                                         BackgroundCase{9, 0}, BackgroundCase{11, 11}));
+
+TEST_F(SkyStateTest, ViewThatCannotBeOpenedHasNoStatus) {
+    fail("vxdbOpenObject", 1);
+    EXPECT_FALSE(readSkyStatus().has_value());
+    EXPECT_EQ(readSkyStatus(), kSkyStatusOff);
+}
+
+TEST_F(SkyStateTest, WithoutAViewThereIsNoStatus) {
+    fail("vxedActiveViewportId", 1);
+    EXPECT_FALSE(readSkyStatus().has_value());
+}
+
+TEST_F(SkyStateTest, BackgroundThatIsOpenForWriteHasNoStatusAndTheViewIsClosedAgain) {
+    setSky(1);
+    {
+        const drawing::Writing<drawing::Background> elsewhere(data(),
+                                                              drawing::activeBackground(data()));
+        EXPECT_FALSE(readSkyStatus().has_value());
+    }
+    EXPECT_TRUE(allClosed());
+}
+
+// Illumination
+
+TEST_F(SkyStateTest, SunOfTheViewSaysWhetherTheSkyGivesLight) {
+    setSky(1);
+    EXPECT_FALSE(readSkyIllumination());
+    setSky(2);
+    EXPECT_TRUE(readSkyIllumination());
+    EXPECT_EQ(callCount("VxRxDynamicLinker::getSymbolAddress"), 0) << "the view has its sun";
+    EXPECT_TRUE(allClosed());
+}
+
+TEST_F(SkyStateTest, DrawingsSunStandsInForAMissingOneOfTheView) {
+    setSky(2);
+    {
+        drawing::Writing<drawing::Viewport> view(data(), drawing::activeViewport(data()));
+        view->sun = {};
+    }
+    EXPECT_TRUE(readSkyIllumination());
+    EXPECT_EQ(callCount("VxRxDynamicLinker::getSymbolAddress"), 1);
+}
+
+TEST_F(SkyStateTest, WithoutSunOrServiceTheSkyGivesNoLight) {
+    setSky(2);
+    {
+        drawing::Writing<drawing::Viewport> view(data(), drawing::activeViewport(data()));
+        view->sun = {};
+    }
+    bench().faults().hide("VxSceneUI.qlx");
+    EXPECT_FALSE(readSkyIllumination());
+}
+
+}  // namespace
