@@ -4,6 +4,7 @@
 #include "core/module.h"
 #include "layer/filter_refresh.h"
 #include "tests/palette/palette_fixture.h"
+#include "visualstyle/material_mode.h"
 #include "workbench/editor/editor.h"
 
 #include <algorithm>
@@ -24,6 +25,12 @@ public:
 
 class ManagerReactorsTest : public PaletteTest {
 protected:
+    /// Shows the dashboard, with the material mode read: the first event of all would read it.
+    void show() {
+        PaletteTest::show();
+        refreshMaterialModeFor(L"VSCURRENT");
+        road();
+    }
     workbench::EditorReactors& editor() { return bench().editor().reactors(); }
 
     /// What the fade slider was told and what the control manager did, in order: the numbers of
