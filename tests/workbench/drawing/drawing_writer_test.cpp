@@ -37,7 +37,7 @@ TEST(DrawingWriter, NewDrawingComesBackEqual) {
 TEST(DrawingWriter, EveryChangeMakesADifference) {
     const auto house = readDrawing(kHouse);
     const Value before = drawingValue(*house);
-    setByPath(house->db, "layers.A-Roof.locked", true);
+    setByPath(house->db, "layers.Roof.locked", true);
     EXPECT_FALSE(drawingValue(*house) == before);
     house->db.undoLog().undo();
     EXPECT_EQ(drawingValue(*house), before);

@@ -31,11 +31,11 @@ TEST_F(HouseDrawing, HasSomethingOfEverything) {
 
 TEST_F(HouseDrawing, HasLayersInEveryState) {
     EXPECT_EQ(get("filters.Out of Reach.shows"),
-              Value(Value::List{"A-Floor", "S-Ground", "S-Survey", "D-Dimensions", "D-Notes",
-                                "D-Furniture"}));
-    EXPECT_EQ(get("layers.A-Floor.locked"), Value(true));
-    EXPECT_EQ(get("layers.D-Dimensions.on"), Value(false));
-    EXPECT_EQ(get("layers.D-Notes.frozen"), Value(true));
+              Value(Value::List{"Floor", "Ground", "Survey", "Dimensions", "Notes",
+                                "Furniture"}));
+    EXPECT_EQ(get("layers.Floor.locked"), Value(true));
+    EXPECT_EQ(get("layers.Dimensions.on"), Value(false));
+    EXPECT_EQ(get("layers.Notes.frozen"), Value(true));
 }
 
 TEST_F(HouseDrawing, HasLockedAndFreeViewports) {

@@ -76,8 +76,8 @@ TEST_F(DocumentCallsTest, VariableIsSetAsTheHostItselfDoes) {
 
 TEST_F(DocumentCallsTest, DrawingIsReadAndChangedByPath) {
     run("wb.open('" + kHouse +
-        "') assert(wb.db('layers.A-Roof.frozen') == false) "
-        "wb.db('layers.A-Roof.frozen', true) assert(wb.db('layers.A-Roof.frozen') == true) "
+        "') assert(wb.db('layers.Roof.frozen') == false) "
+        "wb.db('layers.Roof.frozen', true) assert(wb.db('layers.Roof.frozen') == true) "
         "assert(type(wb.db('sun.azimuth')) == 'number') "
         "assert(wb.db('layers.Nowhere') == nil)");
 }
@@ -88,10 +88,10 @@ TEST_F(DocumentCallsTest, WrongPathTellsWhy) {
 
 TEST_F(DocumentCallsTest, ChangesAreUndoneAndRedone) {
     run("wb.open('" + kHouse +
-        "') wb.type('-LAYER\\nFreeze\\nA-Roof\\n\\n') "
-        "assert(wb.db('layers.A-Roof.frozen') == true) "
-        "wb.undo() assert(wb.db('layers.A-Roof.frozen') == false) "
-        "wb.redo() assert(wb.db('layers.A-Roof.frozen') == true)");
+        "') wb.type('-LAYER\\nFreeze\\nRoof\\n\\n') "
+        "assert(wb.db('layers.Roof.frozen') == true) "
+        "wb.undo() assert(wb.db('layers.Roof.frozen') == false) "
+        "wb.redo() assert(wb.db('layers.Roof.frozen') == true)");
 }
 
 }  // namespace
