@@ -66,8 +66,17 @@ char32_t takeCharacter(std::string_view& text) {
     return isCharacter(value) ? value : kReplacement;
 }
 
-wchar_t lower(wchar_t letter) {
-    return letter >= L'A' && letter <= L'Z' ? static_cast<wchar_t>(letter - L'A' + L'a') : letter;
+template <class Letter>
+Letter lower(Letter letter) {
+    return letter >= Letter{'A'} && letter <= Letter{'Z'}
+               ? static_cast<Letter>(letter - Letter{'A'} + Letter{'a'})
+               : letter;
+}
+
+template <class Text>
+bool equalLetters(Text left, Text right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](auto a, auto b) { return lower(a) == lower(b); });
 }
 
 wchar_t upper(wchar_t letter) {
@@ -95,8 +104,11 @@ std::wstring toWide(std::string_view text) {
 }
 
 bool equalNoCase(std::wstring_view left, std::wstring_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](wchar_t a, wchar_t b) { return lower(a) == lower(b); });
+    return equalLetters(left, right);
+}
+
+bool equalNoCase(std::string_view left, std::string_view right) {
+    return equalLetters(left, right);
 }
 
 std::wstring toUpper(std::wstring_view text) {

@@ -11,6 +11,7 @@ std::string toUtf8(std::wstring_view text);
 std::wstring toWide(std::string_view text);
 /// Whether two texts are equal when the letters A to Z count like a to z.
 bool equalNoCase(std::wstring_view left, std::wstring_view right);
+bool equalNoCase(std::string_view left, std::string_view right);
 /// The text in upper case, A to Z only.
 std::wstring toUpper(std::wstring_view text);
 

@@ -1,5 +1,7 @@
 #include "workbench/drawing/colour.h"
 
+#include "workbench/base/text.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -119,13 +121,13 @@ Colour parseColour(const Value& value) {
         return Colour::byIndex(static_cast<int>(index));
     }
     const std::string& text = value.asString();
-    if (sameName(text, "ByLayer")) {
+    if (equalNoCase(text, "ByLayer")) {
         return Colour::byLayer();
     }
-    if (sameName(text, "ByBlock")) {
+    if (equalNoCase(text, "ByBlock")) {
         return Colour::byBlock();
     }
-    if (sameName(text, "ByEntity")) {
+    if (equalNoCase(text, "ByEntity")) {
         return Colour::byEntity();
     }
     Colour colour;

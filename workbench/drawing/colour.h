@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 
 namespace workbench::drawing {
 

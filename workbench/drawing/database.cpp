@@ -1,5 +1,7 @@
 #include "workbench/drawing/database.h"
 
+#include "workbench/base/text.h"
+
 namespace workbench::drawing {
 
 namespace {
@@ -91,7 +93,7 @@ std::vector<ObjectId> Database::ids(RecordKind kind) const {
 
 ObjectId Database::find(RecordKind kind, std::string_view name) const {
     for (const auto& object : m_objects) {
-        if (object->kind() == kind && !object->isErased() && sameName(object->name(), name)) {
+        if (object->kind() == kind && !object->isErased() && equalNoCase(object->name(), name)) {
             return object->id();
         }
     }

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string_view>
 
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 
 namespace workbench::drawing {
 

@@ -5,12 +5,12 @@
 #include <string_view>
 #include <vector>
 
+#include "workbench/base/value.h"
 #include "workbench/drawing/object_id.h"
 #include "workbench/drawing/reactor_list.h"
 #include "workbench/drawing/reactors.h"
 #include "workbench/drawing/record_kind.h"
 #include "workbench/drawing/status.h"
-#include "workbench/drawing/value.h"
 
 namespace workbench::drawing {
 

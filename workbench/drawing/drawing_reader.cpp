@@ -8,6 +8,7 @@
 
 #include "workbench/base/input_error.h"
 #include "workbench/base/json_parser.h"
+#include "workbench/base/text.h"
 #include "workbench/drawing/drawing_defaults.h"
 #include "workbench/drawing/drawing_sections.h"
 #include "workbench/drawing/lookup.h"
@@ -182,7 +183,7 @@ private:
     void readVariables(const Place& variables) {
         for (const auto& [name, place] : variables.members()) {
             for (const HeldElsewhere& held : kHeldElsewhere) {
-                if (sameName(name, held.variable)) {
+                if (equalNoCase(name, held.variable)) {
                     place.fail(name + " is kept at " + held.place);
                 }
             }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "workbench/base/text.h"
 #include "workbench/drawing/path_target.h"
 #include "workbench/drawing/path_text.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
@@ -67,19 +68,19 @@ void checkFreeName(LayerFilters& filters, const std::string& name, const LayerFi
 
 void setMember(LayerFilters& filters, LayerFilter& filter, const std::string& member,
                const Value& value, const Database& database) {
-    if (sameName(member, "name")) {
+    if (equalNoCase(member, "name")) {
         checkFreeName(filters, value.asString(), &filter);
-        const bool isCurrent = sameName(filters.current, filter.name);
+        const bool isCurrent = equalNoCase(filters.current, filter.name);
         filter.name = value.asString();
         if (isCurrent) {
             filters.current = filter.name;
         }
-    } else if (sameName(member, "kind")) {
+    } else if (equalNoCase(member, "kind")) {
         fromValue(value, filter.kind, database);
-    } else if (sameName(member, "expression")) {
+    } else if (equalNoCase(member, "expression")) {
         const LayerFilterExpression check(value.asString());
         filter.expression = value.asString();
-    } else if (sameName(member, "layers")) {
+    } else if (equalNoCase(member, "layers")) {
         fromValue(value, filter.layers, database);
     } else {
         throw ValueError("a layer filter has no \"" + member + "\" to be set");
@@ -110,7 +111,7 @@ void setWhole(LayerFilters& filters, const std::string& name, const Value& value
         filter = &addFilter(filters, name, value);
     }
     for (const Value::Member& member : value.asTable()) {
-        if (!isNew || !sameName(member.name, "parent")) {
+        if (!isNew || !equalNoCase(member.name, "parent")) {
             setMember(filters, *filter, member.name, member.value, database);
         }
     }
@@ -122,7 +123,7 @@ void deleteFilter(LayerFilters& filters, const std::string& name) {
         throw ValueError("there is no layer filter named \"" + name + "\" that could be deleted");
     }
     std::erase_if(parent->children,
-                  [&name](const LayerFilter& child) { return sameName(child.name, name); });
+                  [&name](const LayerFilter& child) { return equalNoCase(child.name, name); });
     if (findFilter(filters.root, filters.current) == nullptr) {
         filters.current = filters.root.name;
     }
@@ -131,12 +132,12 @@ void deleteFilter(LayerFilters& filters, const std::string& name) {
 void change(LayerFilters& filters, const std::vector<std::string>& steps, const Value& value,
             const Database& database) {
     const std::string& step = steps[1];
-    if (steps.size() == 2 && sameName(step, "current")) {
+    if (steps.size() == 2 && equalNoCase(step, "current")) {
         if (findFilter(filters.root, value.asString()) == nullptr) {
             throw ValueError("there is no layer filter named " + value.describe());
         }
         filters.current = value.asString();
-    } else if (steps.size() == 2 && sameName(step, "root")) {
+    } else if (steps.size() == 2 && equalNoCase(step, "root")) {
         fromValue(value, filters.root, database);
     } else if (steps.size() == 2 && value.isNil()) {
         deleteFilter(filters, step);
@@ -163,9 +164,9 @@ Value getFilterPath(const Database& database, const std::vector<std::string>& st
     }
     const LayerFilter* filter = findFilter(filters->root, steps[1]);
     if (filter == nullptr && steps.size() == 2) {
-        return sameName(steps[1], "current") ? Value(filters->current)
-               : sameName(steps[1], "root")  ? toValue(filters->root, database)
-               : sameName(steps[1], "count")
+        return equalNoCase(steps[1], "current") ? Value(filters->current)
+               : equalNoCase(steps[1], "root")  ? toValue(filters->root, database)
+               : equalNoCase(steps[1], "count")
                    ? Value(static_cast<std::int64_t>(allNames(*filters).size()))
                    : Value();
     }

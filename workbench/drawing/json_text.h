@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 
 namespace workbench::drawing {
 

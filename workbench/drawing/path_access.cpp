@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "workbench/base/text.h"
 #include "workbench/drawing/drawing_sections.h"
 #include "workbench/drawing/filter_paths.h"
 #include "workbench/drawing/lookup.h"
@@ -60,7 +61,7 @@ Value& partOf(Value& whole, const Steps& steps, std::size_t used) {
     const std::string& step = steps[used];
     if (whole.isTable()) {
         for (Value::Member& member : whole.asTable()) {
-            if (sameName(member.name, step)) {
+            if (equalNoCase(member.name, step)) {
                 return member.value;
             }
         }
@@ -69,7 +70,7 @@ Value& partOf(Value& whole, const Steps& steps, std::size_t used) {
         static constexpr std::array<std::string_view, 3> kAxes{"x", "y", "z"};
         Value::List& list = whole.asList();
         for (std::size_t axis = 0; axis < kAxes.size(); ++axis) {
-            if (list.size() == kAxes.size() && sameName(step, kAxes[axis])) {
+            if (list.size() == kAxes.size() && equalNoCase(step, kAxes[axis])) {
                 return list[axis];
             }
         }
@@ -188,7 +189,7 @@ void giveIdentity(DbObject& object, const PathTarget& target, const Database& da
 
 void addObject(Database& database, const PathTarget& target, const Steps& steps,
                const Value& table) {
-    if (target.kind == RecordKind::Entity && !sameName(target.name, "new")) {
+    if (target.kind == RecordKind::Entity && !equalNoCase(target.name, "new")) {
         failPath(steps, target.used - 1, "a new entity is added as \"entities.new\"");
     }
     std::unique_ptr<DbObject> object = makeRecord(target.kind);
@@ -286,7 +287,7 @@ Value getByPath(const Database& database, std::string_view path) {
     Value value;
     if (target.form == PathTarget::Form::Table) {
         value = tableValue(database, target);
-        if (used < steps.size() && sameName(steps[used], "count")) {
+        if (used < steps.size() && equalNoCase(steps[used], "count")) {
             value = countOf(value);
             ++used;
         }
@@ -302,7 +303,7 @@ Value getByPath(const Database& database, std::string_view path) {
         ++used;
     }
     for (; used < steps.size(); ++used) {
-        if (value.isList() && sameName(steps[used], "count")) {
+        if (value.isList() && equalNoCase(steps[used], "count")) {
             value = countOf(value);
         } else {
             value = Value(partOf(value, steps, used));
@@ -314,7 +315,7 @@ Value getByPath(const Database& database, std::string_view path) {
 void setByPath(Database& database, std::string_view path, const Value& value) {
     const Steps steps = parsePath(path);
     try {
-        if (sameName(steps.front(), "filters")) {
+        if (equalNoCase(steps.front(), "filters")) {
             setFilterPath(database, steps, value);
         } else {
             changeAny(database, steps, value);

@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 
+#include "workbench/base/text.h"
 #include "workbench/drawing/drawing_sections.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_text.h"
@@ -75,13 +76,13 @@ ObjectId entityOfNumber(const Database& database, int number) {
 /// A viewport of a layout or a tile, by the step behind "viewports".
 PathTarget viewportTarget(const Database& database, ObjectId layout,
                           const std::vector<std::string>& steps, std::size_t used) {
-    if (steps.size() == used || sameName(steps[used], "count")) {
+    if (steps.size() == used || equalNoCase(steps[used], "count")) {
         PathTarget target = tableTarget(RecordKind::Viewport, used);
         target.id = layout;
         return target;
     }
     const std::string& step = steps[used];
-    if (sameName(step, "current")) {
+    if (equalNoCase(step, "current")) {
         return objectTarget(RecordKind::Viewport, activeViewport(database), used + 1, step);
     }
     const int number = stepNumber(step);
@@ -101,21 +102,21 @@ PathTarget namedTarget(const Database& database, RecordKind kind,
     const std::string& step = steps[used];
     const ObjectId id =
         hasNames(kind) ? database.find(kind, step) : entityOfNumber(database, stepNumber(step));
-    if (id.isNull() && sameName(step, "count")) {
+    if (id.isNull() && equalNoCase(step, "count")) {
         return tableTarget(kind, used);
     }
     const bool hasViewports = kind == RecordKind::Layout && !id.isNull() &&
-                              steps.size() > used + 1 && sameName(steps[used + 1], "viewports");
+                              steps.size() > used + 1 && equalNoCase(steps[used + 1], "viewports");
     return hasViewports ? viewportTarget(database, id, steps, used + 2)
                         : objectTarget(kind, id, used + 1, step);
 }
 
 PathTarget renderTarget(const Database& database, const std::vector<std::string>& steps) {
-    if (steps.size() > 1 && sameName(steps[1], "active")) {
+    if (steps.size() > 1 && equalNoCase(steps[1], "active")) {
         return objectTarget(RecordKind::ActiveRenderSettings,
                             database.first(RecordKind::ActiveRenderSettings), 2, {});
     }
-    if (steps.size() > 1 && sameName(steps[1], "presets")) {
+    if (steps.size() > 1 && equalNoCase(steps[1], "presets")) {
         return namedTarget(database, RecordKind::RenderPreset, steps, 2);
     }
     return objectTarget(RecordKind::RenderGlobals, database.first(RecordKind::RenderGlobals), 1,
@@ -140,24 +141,24 @@ PathTarget activeTarget(const Database& database, RecordKind kind) {
 
 PathTarget resolvePath(const Database& database, const std::vector<std::string>& steps) {
     const std::string& first = steps.front();
-    if (sameName(first, "viewports")) {
+    if (equalNoCase(first, "viewports")) {
         return viewportTarget(database, activeLayout(database), steps, 1);
     }
-    if (sameName(first, "render")) {
+    if (equalNoCase(first, "render")) {
         return renderTarget(database, steps);
     }
     for (const Root& root : kTables) {
-        if (sameName(first, root.step)) {
+        if (equalNoCase(first, root.step)) {
             return namedTarget(database, root.kind, steps, 1);
         }
     }
     for (const Root& root : kSingles) {
-        if (sameName(first, root.step)) {
+        if (equalNoCase(first, root.step)) {
             return objectTarget(root.kind, database.first(root.kind), 1, {});
         }
     }
     for (const Root& root : kActives) {
-        if (sameName(first, root.step)) {
+        if (equalNoCase(first, root.step)) {
             return activeTarget(database, root.kind);
         }
     }

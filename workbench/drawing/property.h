@@ -5,7 +5,7 @@
 #include <type_traits>
 #include <utility>
 
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 #include "workbench/drawing/value_conversion.h"
 
 namespace workbench::drawing {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+#include "workbench/base/text.h"
 
 #include "workbench/drawing/db_object.h"
 #include "workbench/drawing/property.h"
@@ -43,7 +44,7 @@ public:
 
     std::string_view findProperty(std::string_view name) const override {
         for (const Property<Data>& property : Data::properties()) {
-            if (sameName(property.name, name)) {
+            if (equalNoCase(property.name, name)) {
                 return property.name;
             }
         }

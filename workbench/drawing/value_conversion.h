@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
+#include "workbench/base/value.h"
 #include "workbench/drawing/colour.h"
 #include "workbench/drawing/date_time.h"
 #include "workbench/drawing/geometry.h"
 #include "workbench/drawing/object_id.h"
 #include "workbench/drawing/record_kind.h"
-#include "workbench/drawing/value.h"
 
 namespace workbench::drawing {
 

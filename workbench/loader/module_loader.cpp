@@ -63,7 +63,12 @@ bool ModuleLoader::unloadModule(std::wstring_view fileName) {
         return fail(fileName, "it does not let itself be unloaded");
     if (std::find(m_entries.begin(), m_entries.end(), found->get()) != m_entries.end())
         return fail(fileName, "it is busy with a message");
+    const std::size_t pinned = m_libraries.stillMapped().size();
     unload(**found);
+    if (m_libraries.stillMapped().size() > pinned)
+        return fail(fileName,
+                    "it is unloaded, but stays in the process: its next load would find "
+                    "what this one left");
     return true;
 }
 

@@ -39,7 +39,7 @@ public:
     /// afterwards, which it also is if it was before; otherwise `failureText` tells why.
     bool loadModule(std::wstring_view fileName);
     /// Sends a module the unload message and closes its library. False, with `failureText`, if it
-    /// isn't loaded or has not let itself be unloaded.
+    /// isn't loaded, has not let itself be unloaded, or is unloaded but stays in the process.
     bool unloadModule(std::wstring_view fileName);
     /// Unloads all modules, the locked ones too, latest first.
     void unloadAll();

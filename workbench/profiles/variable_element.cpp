@@ -1,5 +1,7 @@
 #include "workbench/profiles/variable_element.h"
 
+#include "workbench/base/text.h"
+
 #include <array>
 #include <charconv>
 #include <string>
@@ -19,7 +21,7 @@ constexpr const char* kText = "text";
 pugi::xml_node findVariable(pugi::xml_node section, std::string_view name) {
     return section.find_child([name](pugi::xml_node element) {
         return std::string_view(element.name()) == kElement &&
-               drawing::sameName(element.attribute(kName).value(), name);
+               equalNoCase(element.attribute(kName).value(), name);
     });
 }
 

@@ -27,6 +27,9 @@ TEST(TextTest, NamesAreEqualWhateverTheirCase) {
     EXPECT_TRUE(equalNoCase(L"TileMode", L"TILEMODE"));
     EXPECT_FALSE(equalNoCase(L"TILEMODE", L"TILEMODE2"));
     EXPECT_FALSE(equalNoCase(L"\u00e9", L"\u00c9"));
+    EXPECT_TRUE(equalNoCase("Walls-Inner", "wALLS-iNNER"));
+    EXPECT_FALSE(equalNoCase("Walls", "Wall"));
+    EXPECT_TRUE(equalNoCase("", ""));
     EXPECT_EQ(toUpper(L"dash_1\u00e9"), L"DASH_1\u00e9");
 }
 

@@ -1,6 +1,6 @@
 #include "workbench/drawing/date_time.h"
 
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 
 #include <gtest/gtest.h>
 

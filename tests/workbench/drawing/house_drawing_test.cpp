@@ -31,8 +31,7 @@ TEST_F(HouseDrawing, HasSomethingOfEverything) {
 
 TEST_F(HouseDrawing, HasLayersInEveryState) {
     EXPECT_EQ(get("filters.Out of Reach.shows"),
-              Value(Value::List{"Floor", "Ground", "Survey", "Dimensions", "Notes",
-                                "Furniture"}));
+              Value(Value::List{"Floor", "Ground", "Survey", "Dimensions", "Notes", "Furniture"}));
     EXPECT_EQ(get("layers.Floor.locked"), Value(true));
     EXPECT_EQ(get("layers.Dimensions.on"), Value(false));
     EXPECT_EQ(get("layers.Notes.frozen"), Value(true));

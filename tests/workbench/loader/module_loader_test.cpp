@@ -42,6 +42,15 @@ TEST_F(ModuleLoaderTest, UnloadingTakesTheServiceBackAndClosesTheLibrary) {
     EXPECT_TRUE(failedBecauseOf("not loaded"));
 }
 
+TEST_F(ModuleLoaderTest, UnloadingAModuleThatSomebodyElseHoldsSaysThatItStays) {
+    LibraryTable somebody{WORKBENCH_BIN_DIR, bench.faults()};
+    modules().loadModule(kModule);
+    somebody.load(kModule);
+    EXPECT_FALSE(modules().unloadModule(kModule));
+    EXPECT_TRUE(failedBecauseOf("stays in the process"));
+    EXPECT_FALSE(modules().isLoaded(kModule));
+}
+
 TEST_F(ModuleLoaderTest, AModuleThatStaysLockedIsNotUnloaded) {
     faults().fail("VxRxDynamicLinker::unlockApplication");
     modules().loadModule(kModule);

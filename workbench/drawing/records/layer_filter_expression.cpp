@@ -1,5 +1,7 @@
 #include "workbench/drawing/records/layer_filter_expression.h"
 
+#include "workbench/base/text.h"
+
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -94,7 +96,7 @@ FieldText scanField(Scanner& scanner) {
     const Scanner before = scanner;
     const std::string_view word = scanner.word();
     for (const Field& field : kFields) {
-        if (sameName(field.name, word)) {
+        if (equalNoCase(field.name, word)) {
             return field.text;
         }
     }
@@ -135,9 +137,9 @@ LayerFilterExpression::LayerFilterExpression(std::string_view text) {
         }
         const Scanner before = scanner;
         const std::string_view joint = scanner.word();
-        if (sameName(joint, "OR")) {
+        if (equalNoCase(joint, "OR")) {
             m_alternatives.emplace_back();
-        } else if (!sameName(joint, "AND")) {
+        } else if (!equalNoCase(joint, "AND")) {
             before.fail("AND or OR");
         }
     }
@@ -169,7 +171,7 @@ bool matchesPattern(std::string_view pattern, std::string_view text) {
             star = p++;
             afterStar = t;
         } else if (p < pattern.size() &&
-                   (pattern[p] == '?' || sameName(pattern.substr(p, 1), text.substr(t, 1)))) {
+                   (pattern[p] == '?' || equalNoCase(pattern.substr(p, 1), text.substr(t, 1)))) {
             ++p;
             ++t;
         } else if (star != std::string_view::npos) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "workbench/base/text.h"
 #include "workbench/drawing/database.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
@@ -53,7 +54,7 @@ void setMember(LayerFilter& filter, const Value::Member& member, const Database&
 
 void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
     for (const std::string& name : names) {
-        if (sameName(name, filter.name)) {
+        if (equalNoCase(name, filter.name)) {
             throw ValueError("two layer filters are named \"" + filter.name + "\"");
         }
     }
@@ -84,7 +85,7 @@ const std::vector<Property<LayerFilters>>& LayerFilters::properties() {
 }
 
 const LayerFilter* findFilter(const LayerFilter& start, std::string_view name) {
-    if (sameName(start.name, name)) {
+    if (equalNoCase(start.name, name)) {
         return &start;
     }
     for (const LayerFilter& child : start.children) {
@@ -102,7 +103,7 @@ LayerFilter* findFilter(LayerFilter& start, std::string_view name) {
 
 const LayerFilter* findFilterParent(const LayerFilter& start, std::string_view name) {
     for (const LayerFilter& child : start.children) {
-        if (sameName(child.name, name)) {
+        if (equalNoCase(child.name, name)) {
             return &start;
         }
         const LayerFilter* found = findFilterParent(child, name);

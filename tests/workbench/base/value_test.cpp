@@ -1,8 +1,8 @@
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 
 #include <gtest/gtest.h>
 
-namespace workbench::drawing {
+namespace workbench {
 namespace {
 
 TEST(Value, NumbersAreEqualWhetherWholeOrReal) {
@@ -41,11 +41,5 @@ TEST(Value, MemberOfWhatIsNoTableIsNone) {
     EXPECT_EQ(table.member("X"), nullptr);
 }
 
-TEST(Value, NamesAreTheSameWhateverTheirCase) {
-    EXPECT_TRUE(sameName("A-Walls", "a-wALLS"));
-    EXPECT_FALSE(sameName("A-Walls", "A-Wall"));
-    EXPECT_TRUE(sameName("", ""));
-}
-
 }  // namespace
-}  // namespace workbench::drawing
+}  // namespace workbench

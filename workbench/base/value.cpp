@@ -1,10 +1,10 @@
-#include "workbench/drawing/value.h"
+#include "workbench/base/value.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 
-namespace workbench::drawing {
+namespace workbench {
 
 namespace {
 
@@ -24,10 +24,6 @@ bool sameTable(const Value::Table& left, const Value& right) {
                const Value* other = right.member(member.name);
                return other != nullptr && *other == member.value;
            });
-}
-
-char lowerLetter(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
 }
 
 }  // namespace
@@ -150,9 +146,4 @@ bool operator==(const Value& left, const Value& right) {
     return left.isNil() || sameTable(left.asTable(), right);
 }
 
-bool sameName(std::string_view left, std::string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char a, char b) { return lowerLetter(a) == lowerLetter(b); });
-}
-
-}  // namespace workbench::drawing
+}  // namespace workbench
