@@ -81,15 +81,19 @@ public:
           m_illumination(illumination) {}
 
     void run() override {
+        sendStatus();
+        activateMainWindow();
+    }
+
+private:
+    void sendStatus() const {
         const VxAxDocLock lock(workingDatabase(), kLockForWrite);
         if (!IsPerspectiveView() && m_requestedStatus == kSkyStatusOn) {
             writeVariableShort(L"PERSPECTIVE", 1);
         }
         sendNumber(L"_skystatus\n%d\n", commandNumber());
-        activateMainWindow();
     }
 
-private:
     int commandNumber() const {
         if (m_requestedStatus == kSkyStatusOff)
             return kSkyOff;

@@ -7,6 +7,7 @@
 #include <hostapi/qrui18/tool_panel_item.h>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -17,10 +18,16 @@ constexpr int kSmallPixels = 16;
 constexpr int kLargePixels = 32;
 constexpr int kToolkitChoice = -1;
 
-/// Appends a new item; the control takes it over.
-CQrUiToolPanelItem* appendItem(CQrUiToolPanel* control, int type) {
+using ItemPtr = std::unique_ptr<CQrUiToolPanelItem>;
+
+ItemPtr makeItem(CQrUiToolPanel* control, int type) {
     auto item = std::make_unique<CQrUiToolPanelItem>(control);
     item->SetType(type);
+    return item;
+}
+
+/// Appends an item, which the control takes over.
+CQrUiToolPanelItem* append(CQrUiToolPanel* control, ItemPtr item) {
     control->AddToolPanelItem(item.get());
     return item.release();
 }
@@ -37,23 +44,28 @@ HBITMAP loadPicture(const VxString& imageKey, int pixels) {
 BOOL addRowBreakItem(CQrUiToolPanel* control) {
     if (control == nullptr)
         return 0;
-    appendItem(control, kItemRowBreak)->SetID(kRowBreakId);
+    ItemPtr item = makeItem(control, kItemRowBreak);
+    item->SetID(kRowBreakId);
+    append(control, std::move(item));
     return 1;
 }
 
 BOOL addSeparatorItem(CQrUiToolPanel* control) {
     if (control == nullptr)
         return 0;
-    CQrUiToolPanelItem* item = appendItem(control, kItemSeparator);
+    ItemPtr item = makeItem(control, kItemSeparator);
     item->SetID(kSeparatorId);
     item->SetStyle(kGapStyle);
+    append(control, std::move(item));
     return 1;
 }
 
 BOOL addControlItem(CQrUiToolPanel* control, HWND window) {
     if (control == nullptr || window == nullptr)
         return 0;
-    appendItem(control, kItemControl)->SetControl(window);
+    ItemPtr item = makeItem(control, kItemControl);
+    item->SetControl(window);
+    append(control, std::move(item));
     return 1;
 }
 
@@ -61,10 +73,10 @@ CQrUiToolPanelItem* addIconItem(CQrUiToolPanel* control, const wchar_t* itemId,
                                 const wchar_t* imageKey) {
     if (control == nullptr)
         return nullptr;
-    CQrUiToolPanelItem* item = appendItem(control, kItemButton);
+    ItemPtr item = makeItem(control, kItemButton);
     item->SetID(itemId);
     setItemImages(*item, imageKey);
-    return item;
+    return append(control, std::move(item));
 }
 
 void setItemImages(CQrUiToolPanelItem& item, const VxString& imageKey) {

@@ -17,6 +17,7 @@
 #include <cstdlib>
 #include <cwctype>
 #include <iterator>
+#include <limits>
 #include <optional>
 #include <string_view>
 
@@ -63,11 +64,11 @@ VxString strippedNumber(VxString text) {
 
 /// A distance in the drawing's units, truncated to a whole number; nothing if the text is none.
 std::optional<int> convertToWhole(const VxString& text) {
-    constexpr double kFarOutside = 1e6;  // beyond any value that could be taken
+    constexpr double kLargest = std::numeric_limits<int>::max();
     double value = 0.0;
     if (vxdbDisToF(text.c_str(), kUnitsOfDrawing, &value) != kRtNorm)
         return {};
-    return static_cast<int>(std::clamp(value, -kFarOutside, kFarOutside));
+    return static_cast<int>(std::clamp(value, -kLargest, kLargest));
 }
 
 }  // namespace
