@@ -10,15 +10,33 @@
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>
 
+#include <malloc.h>
+
+#include <cstddef>
+
 namespace {
 
 constexpr int kItemsPerPanel = 20;
+
+/// Bytes of the heap in use, the host's objects behind the items too.
+std::size_t heapInUse() {
+    return mallinfo2().uordblks;
+}
+
+/// What the panels on show take, an item.
+double bytesPerItem(int items) {
+    dashboardManager()->notify(kDashboardUnload);
+    const std::size_t before = heapInUse();
+    dashboardManager()->notify(kDashboardReload);
+    return static_cast<double>(heapInUse() - before) / items;
+}
 
 /// Builds all panels anew, as at a show or a workspace switch.
 void showPanels(benchmark::State& state) {
     const int panels = static_cast<int>(state.range(0));
     bench::Session session(bench::menuOf(panels, kItemsPerPanel));
     session.showDashboard();
+    state.counters["bytes_per_item"] = bytesPerItem(panels * kItemsPerPanel);
     for (auto _ : state) {
         state.PauseTiming();
         dashboardManager()->notify(kDashboardUnload);
