@@ -63,11 +63,10 @@ Value SystemVariables::read(const VariableDefinition& variable) const {
     switch (variable.home) {
     case VariableHome::Session:
         return valueIn(m_session);
-    case VariableHome::Profile: {
-        const std::optional<Value> kept =
-            fitToType(variable.type, m_editor.profileValues().value(toUtf8(variable.name)));
-        return kept && isInRange(variable, *kept) ? *kept : variable.initial;
-    }
+    case VariableHome::Profile:
+        // A value out of range was put there by the host itself, and counts.
+        return fitToType(variable.type, m_editor.profileValues().value(toUtf8(variable.name)))
+            .value_or(variable.initial);
     case VariableHome::Document:
     case VariableHome::Drawing:
         return valueIn(now.document == nullptr ? m_session : now.document->variables());

@@ -56,6 +56,9 @@ TEST_F(SystemVariablesTest, OnlyTheHostWritesReadOnlyVariablesAndValuesOutOfRang
     EXPECT_FALSE(write(L"LIGHTINGUNITS", 3));
     EXPECT_TRUE(editor().set(L"LIGHTINGUNITS", 3));
     EXPECT_EQ(read(L"LIGHTINGUNITS"), Value(3));
+    EXPECT_FALSE(write(L"LAYLOCKFADECTL", 91));
+    EXPECT_TRUE(editor().set(L"LAYLOCKFADECTL", 91));
+    EXPECT_EQ(read(L"LAYLOCKFADECTL"), Value(91));
     EXPECT_FALSE(editor().set(L"CMDACTIVE", 1));
     EXPECT_FALSE(editor().set(L"LIGHTINGUNITS", "three"));
 }
