@@ -30,7 +30,8 @@ void VxDaTheme::release() {
     if (m_theme == nullptr)
         return;
     m_theme->UnregisterReactor(&m_reactor);
-    QrUiGetThemeManager()->ReleaseTheme(m_theme);
+    if (CQrUiThemeManager* manager = QrUiGetThemeManager())
+        manager->ReleaseTheme(m_theme);
     m_theme = nullptr;
 }
 
