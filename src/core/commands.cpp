@@ -9,6 +9,7 @@
 #include "core/text.h"
 
 #include <hostapi/zorq/commands.h>
+#include <hostapi/zorq/views.h>
 
 #include <cstdlib>
 

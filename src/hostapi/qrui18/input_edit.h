@@ -11,4 +11,6 @@ public:
     BOOL Create(DWORD style, const CRect& rect, CWnd* parent, UINT id, UINT toolkitStyle);
     /// The text shown while the mouse rests over the field.
     void SetToolTipText(const VxString& text);
+    /// The colour behind the text while the field is neither disabled nor in error.
+    void SetBkNorm(COLORREF colour);
 };

@@ -20,6 +20,11 @@ public:
     /// Moves the thumb; a position outside the range goes to its nearer end.
     void SetSliderPos(int position);
     int GetSliderPos() const;
+    /// The bits of how the slider looks.
+    UINT GetControlStyle() const;
+    void SetControlStyle(UINT style);
     /// The text shown while the mouse rests over the slider.
     void SetToolTipText(const VxString& text);
+    /// Shows that text now, during a gesture.
+    void ShowToolTip();
 };

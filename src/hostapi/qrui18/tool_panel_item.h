@@ -14,6 +14,7 @@ constexpr int kItemFlyout = 1;
 constexpr int kItemControl = 2;
 constexpr int kItemSeparator = 3;
 constexpr int kItemRowBreak = 4;
+constexpr int kItemIcon = 6;  ///< A picture that can't be clicked.
 
 /// State bits of an item.
 constexpr UINT kItemDisabled = 2;

@@ -50,8 +50,43 @@ public:
 /// A viewport of paper space.
 class VXHOST VxDbViewport : public VxDbObject {
 public:
+    /// Whether the view may not be changed.
+    virtual bool isLocked() const = 0;
     virtual VxDbObjectId background() const = 0;
     virtual VxDbObjectId sunId() const = 0;
+};
+
+/// A record of a symbol table: a thing with a name.
+class VXHOST VxDbSymbolTableRecord : public VxDbObject {
+public:
+    /// The name. Returns 0 on success.
+    virtual Zorq::ErrorStatus getName(VxString& name) const = 0;
+};
+
+/// A named view.
+class VXHOST VxDbViewTableRecord : public VxDbSymbolTableRecord {};
+
+/// Walks the records of the view table. Deleted by whoever asked for it.
+class VXHOST VxDbViewTableIterator {
+public:
+    virtual ~VxDbViewTableIterator() = default;
+    /// Whether the walk is over.
+    virtual bool done() const = 0;
+    /// Goes to the next record.
+    virtual void step() = 0;
+    /// The record's ID. Returns 0 on success.
+    virtual Zorq::ErrorStatus getRecordId(VxDbObjectId& id) const = 0;
+    /// The record, open, to be closed by the caller. Returns 0 on success.
+    virtual Zorq::ErrorStatus getRecord(VxDbViewTableRecord*& record, VxDbOpenMode mode) const = 0;
+};
+
+/// The table of the named views.
+class VXHOST VxDbViewTable : public VxDbObject {
+public:
+    /// A walk from the start, or from the end, with or without the erased records. Returns 0 on
+    /// success.
+    virtual Zorq::ErrorStatus newIterator(VxDbViewTableIterator*& iterator, bool atStart,
+                                          bool skipErased) const = 0;
 };
 
 /// A drawing's database.
@@ -60,6 +95,16 @@ public:
     virtual ~VxDbDatabase() = default;
     /// Whether model space is active.
     virtual bool tilemode() const = 0;
+    /// The viewport that is the sheet of the current layout, null for none.
+    virtual VxDbObjectId paperSpaceVportId() const = 0;
+    /// Length of a step of the navigation tools, in drawing units.
+    virtual double stepSize() const = 0;
+    /// Steps a second of the navigation tools.
+    virtual double stepsPerSec() const = 0;
+    /// Whether cameras are drawn.
+    virtual bool cameraDisplay() const = 0;
+    /// The table of the named views, open, to be closed by the caller. Returns 0 on success.
+    virtual Zorq::ErrorStatus getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) = 0;
 };
 
 /// Opens an object. On status 0 the object is handed out, to be closed by the caller.

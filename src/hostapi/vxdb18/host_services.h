@@ -22,3 +22,12 @@ VxDbHostApplicationServices* vxdbHostApplicationServices();
 /// Converts the text of a distance. `unit` is a unit mode, -1 for the drawing's own. Returns 5100
 /// on success; otherwise `value` is unchanged.
 int vxdbDisToF(const wchar_t* text, int unit, double* value);
+/// Converts the text of an angle to radians. `unit` is an angle mode (0 decimal degrees), -1 for the
+/// drawing's own. Returns 5100 on success; otherwise `value` is unchanged.
+int vxdbAngToF(const wchar_t* text, int unit, double* value);
+/// Writes a distance. `unit` is a unit mode (2 decimal) and `precision` the number of decimal
+/// places, -1 for the drawing's own. Returns 5100 on success.
+int vxdbRToS(double value, int unit, int precision, VxString& text);
+/// Writes an angle given in radians. `unit` is an angle mode and `precision` the number of decimal
+/// places, -1 for the drawing's own. Returns 5100 on success.
+int vxdbAngToS(double value, int unit, int precision, VxString& text);

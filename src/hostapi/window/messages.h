@@ -11,6 +11,7 @@ constexpr UINT WM_SIZE = 5;               ///< lParam: client width low, client 
 constexpr UINT WM_ACTIVATE = 6;           ///< wParam: 1 activated.
 constexpr UINT WM_SETFONT = 48;           ///< wParam: the font's handle; lParam: 1 to redraw.
 constexpr UINT WM_WINDOWPOSCHANGED = 71;  ///< lParam: `const WINDOWPOS*`.
+constexpr UINT WM_ERASEBKGND = 20;        ///< wParam: the device context (`HDC`).
 constexpr UINT WM_HELP = 77;              ///< The F1 key's message.
 constexpr UINT WM_SETICON = 128;          ///< wParam: 0 small, 1 large; lParam: the icon.
 constexpr UINT WM_KEYDOWN = 256;          ///< wParam: the key.
@@ -19,11 +20,20 @@ constexpr UINT WM_TIMER = 275;            ///< wParam: the timer's number.
 constexpr UINT WM_MOUSEMOVE = 512;        ///< lParam: client x low, client y high, both signed.
 constexpr UINT WM_IDLEUPDATECMDUI = 867;  ///< The framework's idle update of commands.
 
+constexpr int VK_SHIFT = 16;      ///< The Shift key.
 constexpr WPARAM VK_RETURN = 13;  ///< The Enter key.
 constexpr WPARAM VK_ESCAPE = 27;  ///< The Escape key.
 
 constexpr UINT EN_SETFOCUS = 256;   ///< An edit field got the focus.
 constexpr UINT EN_KILLFOCUS = 512;  ///< An edit field lost the focus.
+
+/// What a combo tells its parent.
+constexpr UINT CBN_DROPDOWN = 7;  ///< The list opens.
+constexpr UINT CBN_CLOSEUP = 8;   ///< The list closed.
+constexpr UINT CBN_SELENDOK = 9;  ///< An entry was chosen.
+
+constexpr UINT EM_SETSEL = 177;       ///< Selects from wParam to lParam; -1 is the end.
+constexpr UINT EM_SCROLLCARET = 183;  ///< Scrolls the caret into view.
 
 constexpr WPARAM ICON_SMALL = 0;
 constexpr WPARAM ICON_BIG = 1;

@@ -7,6 +7,7 @@
 #include <hostapi/window/message_map.h>
 #include <hostapi/window/messages.h>
 
+class CFont;
 class CFrameWnd;
 
 /// Root of the framework's objects.
@@ -74,6 +75,8 @@ public:
     /// Sets the window's text.
     void SetWindowText(const VxString& text);
 
+    /// Sets the font of the text, which the font's owner keeps; draws anew if `redraw`.
+    void SetFont(CFont* font, BOOL redraw = 1);
     /// The window with its borders, in screen coordinates; empty without a window.
     CRect GetWindowRect() const;
     /// The client area with its origin at (0, 0); empty without a window.
@@ -109,6 +112,8 @@ protected:
 BOOL IsWindow(HWND window);
 /// Sends a message to a window by its handle; 0 for a stale one.
 LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+/// The state of a key when the message being handled was sent; negative while it is down.
+short GetKeyState(int key);
 /// A measure of the window system in pixels (`SM_...`).
 int GetSystemMetrics(int index);
 /// Sets the standard arrow as the mouse cursor.

@@ -33,5 +33,5 @@ void vxedSendMenuStringToExecute(VxApDocument* document, const wchar_t* text, in
 int do_cmd(wchar_t* text, int flag, int unused, int echo);
 /// Shows a help topic; a null file is the host's own help.
 void vxedHelp(const wchar_t* file, const wchar_t* topic, int command);
-/// Steps the current viewport back by one zoom.
-void vxInternalZoomBack();
+/// Whether a command is running.
+bool vxedCommandActive();
