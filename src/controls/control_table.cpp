@@ -1,8 +1,14 @@
 #include "controls/control_table.h"
 
+#include "controls/toolbar_group_ctrl.h"
+
 #include "core/text.h"
 
 #include "layer/locked_layer_fade_slider.h"
+#include "nav3d/camera_point.h"
+#include "nav3d/step_slider.h"
+#include "nav3d/view_combo.h"
+#include "nav3d/zoom_slider.h"
 
 namespace {
 
@@ -18,10 +24,44 @@ std::unique_ptr<CWnd> makePanelControl(CWnd* parent, const CRect& rect, const wc
     return control;
 }
 
+std::unique_ptr<CWnd> makeToolbarGroup(CWnd* parent, const CRect& rect, const wchar_t* name,
+                                       CVxDaControlMgr* /*manager*/) {
+    constexpr UINT kWindowId = 701;
+    constexpr UINT kToolkitStyle = 0;
+    auto control = std::make_unique<CVxDaToolbarGroupCtrl>(name);
+    if (!control->Create(WS_CHILD | WS_VISIBLE, rect, parent, kWindowId, kToolkitStyle))
+        return nullptr;
+    return control;
+}
+
 /// In search order.
 constexpr ControlTableRow kControls[] = {
     {L"LayerLockTransparencySliderControl",
      makePanelControl<CVxDaLockedLayerTransparencySliderCtrl, 601>},
+    {L"3DNavZoomSliderControl", makePanelControl<CVxDa3DNavZoomSliderCtrl, 101>},
+    {L"3DNavStepSizeSliderControl", makePanelControl<CVxDa3DNavStepSizeSliderCtrl, 102>},
+    {L"3DNavStepsPerSecSliderControl", makePanelControl<CVxDa3DNavStepsPerSecSliderCtrl, 103>},
+    {L"3DNavViewComboCtrl", makePanelControl<CVxDa3DNavViewComboCtrl, 104>},
+    {L"3DNavPointTriplet1", makePanelControl<CVxDa3DNavCameraEyePointCtrl, 105>},
+    {L"3DNavPointTriplet2", makePanelControl<CVxDa3DNavCameraTargetPointCtrl, 106>},
+    {L"LayerControl", makeToolbarGroup},
+    {L"LineTypeControl", makeToolbarGroup},
+    {L"OPTColorControl", makeToolbarGroup},
+    {L"LineWeightControl", makeToolbarGroup},
+    {L"RefblknameControl", makeToolbarGroup},
+    {L"ViewControl", makeToolbarGroup},
+    {L"NamedViewControl", makeToolbarGroup},
+    {L"ViewportScaleControl", makeToolbarGroup},
+    {L"PlotStyleControl", makeToolbarGroup},
+    {L"UCSControl", makeToolbarGroup},
+    {L"DimStyleControl", makeToolbarGroup},
+    {L"TxtStyleControl", makeToolbarGroup},
+    {L"TblStyleControl", makeToolbarGroup},
+    {L"WorkspacesControl", makeToolbarGroup},
+    {L"UndoSkinnyButtonControl", makeToolbarGroup},
+    {L"RedoSkinnyButtonControl", makeToolbarGroup},
+    {L"MldStyleControl", makeToolbarGroup},
+    {L"FindTextControl", makeToolbarGroup},
 };
 
 }  // namespace

@@ -5,6 +5,9 @@
 /// Messages between a control and its parts. wParam: the edit field's control ID in the low 16
 /// bits; lParam: the field's window.
 
+/// A field of a strip lost or got the focus: wParam and lParam are those of the field's `WM_COMMAND`.
+constexpr UINT WM_DA_EDIT_KILLFOCUS = 1733;
+constexpr UINT WM_DA_EDIT_SETFOCUS = 1734;
 constexpr UINT WM_DA_EDIT_ENTER = 1735;   ///< Enter was pressed in an edit field.
 constexpr UINT WM_DA_EDIT_ESCAPE = 1738;  ///< Escape was pressed in an edit field.
 

@@ -4,12 +4,12 @@
 #include "controls/control_manager.h"
 #include "controls/variable_access.h"
 
+#include "core/host_objects.h"
 #include "core/text.h"
 
 #include "light/sky_state.h"
 #include "nav3d/view_state.h"
 
-#include <hostapi/vxdb18/host_services.h>
 #include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/variables.h>
 
@@ -27,11 +27,6 @@ constexpr int kLightingCommandFlag = 0;
 constexpr int kSkyOff = 0;
 constexpr int kSkyBackground = 1;
 constexpr int kSkyIllumination = 2;
-
-VxDbDatabase* workingDatabase() {
-    const VxDbHostApplicationServices* services = vxdbHostApplicationServices();
-    return services == nullptr ? nullptr : services->workingDatabase();
-}
 
 void sendNumber(const wchar_t* format, int number) {
     runHostCommand(formatText(format, number), kLightingCommandFlag);

@@ -4,6 +4,7 @@
 #include "controls/control_manager.h"
 #include "controls/lighting_tools.h"
 
+#include "core/constants.h"
 #include "core/host_objects.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
@@ -16,9 +17,6 @@
 #include <hostapi/zorq.h>
 
 namespace {
-
-constexpr const wchar_t* kNavigationService = L"ZorqVmTools";
-constexpr const wchar_t* kNavigationModule = L"VxVmTools.qlx";
 
 struct NavigationModeRow {
     const wchar_t* itemId;
@@ -61,7 +59,7 @@ const Row* findRow(const Row (&rows)[Count], const VxString& itemId) {
 
 template <class Function>
 Function findNavigationSymbol(const char* symbol) {
-    const HINSTANCE module = GetModuleHandle(kNavigationModule);
+    const HINSTANCE module = GetModuleHandle(kNavigationModuleFile);
     if (module == nullptr)
         return nullptr;
     return reinterpret_cast<Function>(GetProcAddress(module, symbol));
@@ -71,9 +69,9 @@ bool isNavigationModuleLoaded() {
     if (vxrxServiceIsRegistered(kNavigationService))
         return true;
     VxRxDynamicLinker* linker = dynamicLinker();
-    if (linker != nullptr && linker->loadModule(kNavigationModule, 1, 0))
+    if (linker != nullptr && linker->loadModule(kNavigationModuleFile, 1, 0))
         return true;
-    AfxMessageBox(formatText(loadDashboardString(kStrNavigationLoadFailed), kNavigationModule),
+    AfxMessageBox(formatText(loadDashboardString(kStrNavigationLoadFailed), kNavigationModuleFile),
                   MB_OK | MB_ICONWARNING);
     return false;
 }

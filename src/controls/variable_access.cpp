@@ -66,3 +66,10 @@ void writeVariableShort(const wchar_t* name, int value) {
     buffer.value.shortInt = static_cast<std::int16_t>(value);
     vxedSetVar(name, &buffer);
 }
+
+void writeVariableReal(const wchar_t* name, double value) {
+    VxResultBuffer buffer;
+    buffer.type = kRtReal;
+    buffer.value.real = value;
+    vxedSetVar(name, &buffer);
+}

@@ -18,3 +18,5 @@ int readVariableShort(const wchar_t* name);
 std::optional<VxString> readVariableText(const wchar_t* name);
 /// Writes a short. Whether the host took it isn't looked at.
 void writeVariableShort(const wchar_t* name, int value);
+/// Writes a real. Whether the host took it isn't looked at.
+void writeVariableReal(const wchar_t* name, double value);

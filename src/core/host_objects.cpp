@@ -46,3 +46,8 @@ VxEditor* hostEditor() {
 VxRxDictionary* serviceDictionary() {
     return dynamic_cast<VxRxDictionary*>(findEntry(L"ServiceDictionary"));
 }
+
+VxDbDatabase* workingDatabase() {
+    const VxDbHostApplicationServices* services = vxdbHostApplicationServices();
+    return services == nullptr ? nullptr : services->workingDatabase();
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+class VxDbDatabase;
 class VxEdCommandStack;
 class VxEditor;
 class VxRxDynamicLinker;
@@ -12,3 +13,6 @@ VxRxDynamicLinker* dynamicLinker();
 VxEdCommandStack* commandStack();
 VxEditor* hostEditor();
 VxRxDictionary* serviceDictionary();
+
+/// The database that work is done on; null for none.
+VxDbDatabase* workingDatabase();

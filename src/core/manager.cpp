@@ -183,15 +183,15 @@ void VxDaManager::hideBar() {
     }
 }
 
-bool VxDaManager::isBarOnScreen() const {
-    return m_pDashboard->IsWindowVisible() != 0;
+bool VxDaManager::isDashboardVisible() const {
+    return m_pDashboard != nullptr && m_pDashboard->IsWindowVisible() != 0;
 }
 
 void VxDaManager::onCleanScreenChanged() {
     if (m_pDashboard == nullptr)
         return;
     if (isCleanScreenOn()) {
-        m_bWasVisible = isBarOnScreen();
+        m_bWasVisible = isDashboardVisible();
         if (!m_bWasVisible || !m_bPanelsLoaded)
             return;
         hideBar();
@@ -214,7 +214,7 @@ void VxDaManager::onDocumentDestroyed(const wchar_t* fileName) {
     // The dying document still counts.
     if (!hasOneDocument())
         return;
-    m_bWasVisible = m_pDashboard != nullptr && isBarOnScreen();
+    m_bWasVisible = isDashboardVisible();
     if (m_bWasVisible && m_bPanelsLoaded) {
         hideBar();
         visibilityChanged(0);
@@ -259,7 +259,7 @@ int VxDaManager::unloadForReload() {
     if (m_pDashboard == nullptr)
         return 0;
     if (IsWindow(m_pDashboard->m_hWnd))
-        m_savedVisible = isBarOnScreen();
+        m_savedVisible = isDashboardVisible();
     unloadPanels();
     return 1;
 }

@@ -46,6 +46,8 @@ public:
     CVxDaDashboard* dashboard() const { return m_pDashboard.get(); }
     /// The panel set; null as soon as one link of the way to it is null.
     CVxDaPanelSet* panelSet() const;
+    /// Whether the palette set is on screen.
+    bool isDashboardVisible() const;
     /// Whether the panels were built and not taken down since.
     bool panelsLoaded() const { return m_bPanelsLoaded; }
     /// Sends a message to all custom controls; nothing without a panel set.
@@ -70,7 +72,6 @@ private:
     int releaseControls();
     int unloadForReload();
     int reload();
-    bool isBarOnScreen() const;
     template <class Call>
     void callListeners(Call call);
 

@@ -113,6 +113,10 @@ VxDaManager* dashboardManager() {
     return s_manager.get();
 }
 
+bool isDashboardVisible() {
+    return s_manager != nullptr && s_manager->isDashboardVisible();
+}
+
 CVxDaControlMgr* controlManager() {
     return s_controlManager.get();
 }

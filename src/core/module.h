@@ -12,6 +12,8 @@ void unloadModule();
 
 /// The dashboard manager; null while the module isn't loaded.
 VxDaManager* dashboardManager();
+/// Whether the dashboard is on screen.
+bool isDashboardVisible();
 /// The control manager; null while the module isn't loaded.
 CVxDaControlMgr* controlManager();
 /// The library of tool images; null if the host has none.

@@ -15,6 +15,7 @@ constexpr UINT kStrNoToolPalette = 209;
 constexpr UINT kStrLocalLockCommand = 220;
 constexpr UINT kStrUnofferedToolPalette = 257;
 constexpr UINT kStrNavigationLoadFailed = 1210;
+constexpr UINT kStrViewportLocked = 1231;
 constexpr UINT kStrCustomize = 1292;
 
 /// The icon of the palette set.

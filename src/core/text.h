@@ -8,6 +8,9 @@
 /// Whether two texts are equal without regard to case.
 bool equalNoCase(std::wstring_view left, std::wstring_view right);
 
+/// A text without the blanks around it.
+VxString trimmed(std::wstring_view text);
+
 /// A `printf` format filled in; wide strings go in with "%ls". Empty if the format can't be filled.
 template <class... Values>
 VxString formatText(const VxString& format, Values... values) {

@@ -48,3 +48,7 @@ VxDaTheme& dashboardThemeOwner() {
 CQrUiTheme* dashboardTheme() {
     return dashboardThemeOwner().theme();
 }
+
+CFont* dashboardFont() {
+    return dashboardThemeOwner().font();
+}

@@ -16,6 +16,8 @@ public:
     /// Stops following and gives the theme back.
     void release();
 
+    /// The font of the controls; null before the first build and after `deleteFont`.
+    CFont* font() const { return m_font.get(); }
     /// Null before `acquire`, after `release`, or if the host has no such theme.
     CQrUiTheme* theme() const { return m_theme; }
 
@@ -39,3 +41,5 @@ VxDaTheme& dashboardThemeOwner();
 
 /// The theme itself; null while there is none.
 CQrUiTheme* dashboardTheme();
+/// The font of the controls; null while there is none.
+CFont* dashboardFont();

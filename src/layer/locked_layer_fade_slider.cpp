@@ -4,6 +4,7 @@
 #include "controls/row_items.h"
 #include "controls/variable_access.h"
 #include "core/broadcast_messages.h"
+#include "core/host_objects.h"
 #include "core/resources.h"
 #include "core/text.h"
 
@@ -15,7 +16,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cwctype>
 #include <iterator>
 #include <limits>
 #include <optional>
@@ -46,20 +46,10 @@ constexpr int kUnitsOfDrawing = -1;
 constexpr UINT kSettleTimer = 1;
 constexpr UINT kSettleMs = 150;
 
-bool hasDatabase() {
-    const VxDbHostApplicationServices* services = vxdbHostApplicationServices();
-    return services != nullptr && services->workingDatabase() != nullptr;
-}
-
 /// The text of a number field without its percent signs and the blanks around it.
 VxString strippedNumber(VxString text) {
     text.erase(std::remove(text.begin(), text.end(), L'%'), text.end());
-    const auto isBlank = [](wchar_t letter) {
-        return std::iswspace(static_cast<std::wint_t>(letter)) != 0;
-    };
-    const auto first = std::find_if_not(text.begin(), text.end(), isBlank);
-    const auto last = std::find_if_not(text.rbegin(), text.rend(), isBlank).base();
-    return first < last ? VxString(first, last) : VxString();
+    return trimmed(text);
 }
 
 /// A distance in the drawing's units, truncated to a whole number; nothing if the text is none.
@@ -213,7 +203,7 @@ void CVxDaLockedLayerTransparencySliderCtrl::commitEdit() {
 
 int CVxDaLockedLayerTransparencySliderCtrl::parseFade() {
     const VxString text = strippedNumber(m_edit.GetWindowText());
-    if (text.empty() || !hasDatabase())
+    if (text.empty() || workingDatabase() == nullptr)
         return m_fade;
     const std::optional<int> number = convertToWhole(text);
     if (!number)
@@ -234,7 +224,8 @@ int CVxDaLockedLayerTransparencySliderCtrl::refuseEntry() {
 
 void CVxDaLockedLayerTransparencySliderCtrl::showFade() {
     // The width of the format pads the number with blanks.
-    m_edit.SetWindowText(hasDatabase() ? formatText(L"%8d", std::abs(m_fade)) + L"%" : VxString());
+    m_edit.SetWindowText(workingDatabase() != nullptr ? formatText(L"%8d", std::abs(m_fade)) + L"%"
+                                                      : VxString());
 }
 
 void CVxDaLockedLayerTransparencySliderCtrl::showThumb() {

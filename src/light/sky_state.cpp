@@ -1,5 +1,7 @@
 #include "light/sky_state.h"
 
+#include "core/opened_object.h"
+
 #include "render/scene_service.h"
 
 #include <hostapi/vxdb18/database.h>
@@ -9,29 +11,6 @@ namespace {
 
 constexpr int kSkyBackgroundType = 11;
 constexpr int kNoBackgroundType = 5;
-
-/// An object that is open for reading while this lives; null if it can't be opened.
-template <class Object>
-class Opened {
-public:
-    explicit Opened(VxDbObjectId id) {
-        if (vxdbOpenObject(m_object, id, VxDbOpenMode::kForRead) != Zorq::eOk)
-            m_object = nullptr;
-    }
-    Opened(const Opened&) = delete;
-    Opened& operator=(const Opened&) = delete;
-    ~Opened() {
-        if (m_object != nullptr)
-            m_object->close();
-    }
-
-    const Object* get() const { return dynamic_cast<const Object*>(m_object); }
-    bool isOpen() const { return m_object != nullptr; }
-    const VxDbObject* object() const { return m_object; }
-
-private:
-    VxDbObject* m_object = nullptr;  // the host's; ours to close
-};
 
 VxDbObjectId backgroundOf(const VxDbObject& view) {
     if (const auto* tile = dynamic_cast<const VxDbViewportTableRecord*>(&view)) {

@@ -1,18 +1,30 @@
 #include "nav3d/view_state.h"
 
+#include "nav3d/current_view.h"
+
 #include "controls/variable_access.h"
+
+#include "core/host_objects.h"
+#include "core/opened_object.h"
 
 #include <hostapi/zorq/variables.h>
 #include <hostapi/zorq/views.h>
-
-#include <optional>
 
 namespace {
 
 constexpr int kNoViewport = -1;
 
-/// Number of the current viewport; nothing if it can't be read.
-std::optional<int> readViewportNumber() {
+bool isShownViewPerspective() {
+    const std::optional<int> viewport = currentViewportNumber();
+    if (!viewport)
+        return false;
+    const CurrentView view(*viewport);
+    return view.get() != nullptr && view.get()->isPerspective();
+}
+
+}  // namespace
+
+std::optional<int> currentViewportNumber() {
     VxResultBuffer buffer;
     if (vxedGetVar(L"CVPORT", &buffer) != kRtNorm)
         return {};
@@ -22,33 +34,24 @@ std::optional<int> readViewportNumber() {
     return number;
 }
 
-bool isTemporaryViewPerspective(int viewportNumber) {
-    VxGsManager* graphics = vxgsGetGsManager(nullptr);
-    if (graphics == nullptr)
+bool IsPaperSpaceViewport() {
+    const VxDbDatabase* database = workingDatabase();
+    if (database == nullptr || database->tilemode())
         return false;
-    VxGsClassFactory* factory = graphics->classFactory();
-    if (factory == nullptr)
-        return false;
-    VxGsView* view = factory->createView({viewportNumber, vxedGetCurViewportObjectId()});
-    if (view == nullptr)
-        return false;
-    vxgsGetViewParameters(viewportNumber, view);
-    const bool perspective = view->isPerspective();
-    factory->deleteView(view);
-    return perspective;
+    const VxDbObjectId sheet = database->paperSpaceVportId();
+    const VxDbObjectId current = vxedGetCurViewportObjectId();
+    return sheet.isValid() && current.isValid() && sheet == current;
 }
 
-bool isShownViewPerspective() {
-    const std::optional<int> number = readViewportNumber();
-    if (!number)
+bool IsViewportLocked() {
+    if (!currentViewportNumber())
+        return true;
+    if (IsPaperSpaceViewport())
         return false;
-    // A live view belongs to the host and is never destroyed here.
-    if (const VxGsView* live = vxgsGetGsView(*number, false))
-        return live->isPerspective();
-    return isTemporaryViewPerspective(*number);
+    // A tile of model space is no such object.
+    const Opened<VxDbViewport> viewport(vxedGetCurViewportObjectId());
+    return viewport.get() != nullptr && viewport.get()->isLocked();
 }
-
-}  // namespace
 
 bool IsPerspectiveView() {
     CTool* tool = nullptr;

@@ -109,6 +109,11 @@ DWORD CWnd::GetStyle() const {
     return window == nullptr ? 0 : window->style;
 }
 
+BOOL CWnd::IsWindowEnabled() const {
+    const Window* const window = windowOf(this);
+    return window != nullptr && window->enabled ? 1 : 0;
+}
+
 BOOL CWnd::IsWindowVisible() const {
     return windows().isOnScreen(m_hWnd) ? 1 : 0;
 }

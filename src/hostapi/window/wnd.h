@@ -67,6 +67,8 @@ public:
 
     /// Shows (`SW_SHOW`) or hides (`SW_HIDE`); a change sends `WM_WINDOWPOSCHANGED`.
     void ShowWindow(int command);
+    /// Whether the window itself takes input; its parents aren't asked.
+    BOOL IsWindowEnabled() const;
     /// Enables or disables input.
     void EnableWindow(BOOL enable);
 

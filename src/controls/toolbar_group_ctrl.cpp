@@ -1,0 +1,135 @@
+#include "controls/toolbar_group_ctrl.h"
+
+#include "controls/edit_messages.h"
+#include "controls/row_items.h"
+
+#include "core/resources.h"
+#include "core/text.h"
+
+#include <hostapi/qrui18/image.h>
+#include <hostapi/qrui18/messages.h>
+#include <hostapi/qrui18/tool_panel_item.h>
+#include <hostapi/qrui18/toolbar_control.h>
+
+#include <iterator>
+#include <memory>
+
+namespace {
+
+struct HostControlRow {
+    const wchar_t* name;
+    UINT hostId;
+    const wchar_t* iconKey;  // null: no icon
+};
+/// In search order.
+constexpr HostControlRow kHostControls[] = {
+    {L"LayerControl", 1111, nullptr},
+    {L"LineTypeControl", 2222, L"RCDATA_OPLTYPE_ICON"},
+    {L"OPTColorControl", 3333, L"RCDATA_OPCOLOR_ICON"},
+    {L"LineWeightControl", 4444, L"RCDATA_OPLWEIGHT_ICON"},
+    {L"RefblknameControl", 5555, nullptr},
+    {L"ViewControl", 6666, nullptr},
+    {L"NamedViewControl", 6667, nullptr},
+    {L"ViewportScaleControl", 7777, nullptr},
+    {L"PlotStyleControl", 8888, L"RCDATA_OPPSTYLE_ICON"},
+    {L"UCSControl", 9999, nullptr},
+    {L"DimStyleControl", 11111, nullptr},
+    {L"TxtStyleControl", 11117, nullptr},
+    {L"TblStyleControl", 11118, nullptr},
+    {L"WorkspacesControl", 11119, nullptr},
+    {L"UndoSkinnyButtonControl", 44445, nullptr},
+    {L"RedoSkinnyButtonControl", 55556, nullptr},
+    {L"MldStyleControl", 11120, nullptr},
+    {L"FindTextControl", 11122, nullptr},
+};
+
+const HostControlRow* findHostControl(const VxString& name) {
+    for (const HostControlRow& row : kHostControls) {
+        if (equalNoCase(row.name, name))
+            return &row;
+    }
+    return nullptr;
+}
+
+/// Room for the control's list beyond the row.
+constexpr int kExtraWidth = 20;
+constexpr int kExtraHeight = 300;
+constexpr LRESULT kCreatedWithoutControl = 1;
+constexpr LRESULT kCreated = 1;
+constexpr int kSmallPixels = 16;
+constexpr int kToolkitChoice = -1;
+
+}  // namespace
+
+constexpr MessageEntry CVxDaToolbarGroupCtrl::kMessages[] = {
+    {WM_CREATE, to<&CVxDaToolbarGroupCtrl::onCreate>},
+    {WM_QRUI_KEEP_FOCUS, to<&CVxDaToolbarGroupCtrl::onKeepFocus>},
+    {WM_QRUI_HAS_ICON, to<&CVxDaToolbarGroupCtrl::onHasIcon>},
+    {WM_QRUI_LIST_DROPPED, to<&CVxDaToolbarGroupCtrl::onKeepFocus>},
+};
+const MessageMap CVxDaToolbarGroupCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
+                                                    kMessages, std::size(kMessages)};
+
+const MessageMap& CVxDaToolbarGroupCtrl::GetMessageMap() const {
+    static_assert(hostapi::isAscendingAndUnique(kMessages));
+    return kMessageMap;
+}
+
+LRESULT CVxDaToolbarGroupCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
+    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
+    if (OnCreate(creation) == -1)
+        return -1;
+    if (m_name.empty())
+        return -1;
+    const CRect rect{0, 0, creation->cx + kExtraWidth, creation->cy + kExtraHeight};
+    const HostControlRow* row = findHostControl(m_name);
+    if (row != nullptr)
+        m_pControl = getVxToolbarControl(this, rect, row->hostId);
+    if (m_pControl == nullptr)
+        return kCreatedWithoutControl;
+    if (row->iconKey != nullptr)
+        addIcon(row->name, row->iconKey);
+    addControlItem(this, m_pControl->m_hWnd);
+    return kCreated;
+}
+
+void CVxDaToolbarGroupCtrl::addIcon(const wchar_t* id, const wchar_t* imageKey) {
+    auto item = std::make_unique<CQrUiToolPanelItem>(this);
+    item->SetType(kItemIcon);
+    item->SetID(id);
+    if (HBITMAP picture = QrUiLoadImageFromResource(dashboardResources().library(), imageKey,
+                                                    kSmallPixels, kToolkitChoice))
+        item->SetImage(kItemSmallImage, picture);
+    AddToolPanelItem(item.release());
+    m_bHasIcon = true;
+}
+
+LRESULT CVxDaToolbarGroupCtrl::onKeepFocus(WPARAM /*unused*/, LPARAM /*unusedToo*/) {
+    return m_bDroppedDown ? 1 : 0;
+}
+
+LRESULT CVxDaToolbarGroupCtrl::onHasIcon(WPARAM /*unused*/, LPARAM /*unusedToo*/) {
+    return m_bHasIcon ? 1 : 0;
+}
+
+LRESULT CVxDaToolbarGroupCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const bool ofControl =
+        message == WM_COMMAND && LOWORD(static_cast<std::uintptr_t>(lParam)) != 0;
+    if (ofControl && handleControlCommand(wParam, lParam))
+        return 0;
+    return CVxDaPanelGroupCtrl::WindowProc(message, wParam, lParam);
+}
+
+/// Whether the command is finished with.
+bool CVxDaToolbarGroupCtrl::handleControlCommand(WPARAM wParam, LPARAM lParam) {
+    const ControlNotice notice = ControlNotice::from(wParam, lParam);
+    do {
+        if (notice.code == CBN_DROPDOWN)
+            m_bDroppedDown = true;
+        else if (notice.code == CBN_CLOSEUP)
+            m_bDroppedDown = false;
+        // Kept as it is: asked until the host takes it, without a bound, because a host that is busy
+        // with the list loses the notification otherwise.
+    } while (HandleToolbarComboMessage(notice.controlId, notice.code, wParam, lParam) == 0);
+    return notice.code == CBN_DROPDOWN || notice.code == CBN_CLOSEUP;
+}
