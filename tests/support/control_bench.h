@@ -1,0 +1,50 @@
+#pragma once
+
+#include "tests/support/bench.h"
+
+#include <string>
+#include <vector>
+
+namespace support {
+
+/// Test fixture: the dashboard on show, and a user's verbs for one custom control.
+class ControlBench : public Bench {
+protected:
+    /// Shows the dashboard with this control in view, and forgets what happened so far.
+    void showControl(const std::string& name);
+    HWND window() const { return m_control; }
+
+    HWND slider() { return part(m_control, "slider"); }
+    HWND field(const std::string& name = "edit") { return part(m_control, name); }
+
+    void drag(const std::vector<int>& positions);
+    void release();
+    void clickIcon();
+    void focusField(const std::string& name = "edit");
+    /// Focus and replace the text.
+    void put(const std::wstring& text, const std::string& name = "edit");
+    void press(const std::string& key);
+    /// Focus, replace the text, Enter.
+    void enter(const std::wstring& text, const std::string& name = "edit");
+    /// Clicks into the drawing.
+    void leave();
+    /// Raises a change of a variable, as the host does; the value stays.
+    void announce(const wchar_t* variable);
+    /// Sends the control a message.
+    LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+    int position();
+    std::wstring text(const std::string& name = "edit");
+    std::wstring tipOf(HWND part);
+    std::wstring stringOf(UINT number);
+    bool isEnabled(HWND part);
+    bool hasFocus(HWND part);
+    /// How often a host call was made since the last look at the journal.
+    std::size_t count(const std::string& call);
+
+private:
+    std::string m_name;
+    HWND m_control = nullptr;
+};
+
+}  // namespace support
