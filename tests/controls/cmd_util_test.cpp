@@ -1,10 +1,14 @@
 #include "controls/cmd_util.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "workbench/commands/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
 
 #include <hostapi/zorq.h>
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -112,6 +116,54 @@ TEST_F(CmdUtilTest, WholeCommandHasRunWhenTheCallReturns) {
     EXPECT_NE(call.find(",0,0,1]"), std::string::npos) << call;
 }
 
+// Which document is addressed
+
+/// "Drawing1" is the current document, "Front" the active one.
+class AddressedDocumentTest : public CmdUtilTest {
+protected:
+    void SetUp() override {
+        CmdUtilTest::SetUp();
+        workbench::DocumentList& documents = bench().editor().documents();
+        m_current = documents.current();
+        m_active = &documents.create(L"Front");
+        m_scope = std::make_unique<workbench::CurrentDocument>(documents, *m_current);
+        forget();
+    }
+    void TearDown() override {
+        m_scope.reset();
+        endCommands();
+        CmdUtilTest::TearDown();
+    }
+    bool currentWasSentTo() { return m_current->processor().hasQueued(); }
+    bool activeWasSentTo() { return m_active->processor().hasQueued(); }
+
+private:
+    workbench::Document* m_current = nullptr;  // not owned
+    workbench::Document* m_active = nullptr;   // not owned
+    std::unique_ptr<workbench::CurrentDocument> m_scope;
+};
+
+TEST_F(AddressedDocumentTest, OfAMacroIsTheActiveOne) {
+    sendMenuMacro(L"_regen\n");
+    EXPECT_TRUE(activeWasSentTo());
+    EXPECT_FALSE(currentWasSentTo());
+    const std::string call = lastCall("vxedSendMenuStringToExecute");
+    EXPECT_NE(call.find(",1]"), std::string::npos) << call;
+}
+
+TEST_F(AddressedDocumentTest, OfACommandForTheUserIsTheCurrentOne) {
+    sendHostCommand(L"_sunstatus");
+    EXPECT_TRUE(currentWasSentTo());
+    EXPECT_FALSE(activeWasSentTo());
+}
+
+TEST_F(AddressedDocumentTest, OfTheCancelIsTheCurrentOne) {
+    bench().editor().beginCommand(L"LINE");
+    EXPECT_TRUE(commandStopped());
+    EXPECT_TRUE(currentWasSentTo());
+    EXPECT_FALSE(activeWasSentTo());
+}
+
 // Where the user works
 
 struct SpaceCase {
@@ -153,6 +205,41 @@ TEST_F(CmdUtilTest, BlockEditorIsOpenAtOneAlone) {
 }
 
 // The main window
+
+/// Keeps the activations of a window, and answers them.
+class ActivationWidget final : public workbench::Widget {
+public:
+    struct Activation {
+        WPARAM wParam;
+        LPARAM lParam;
+        friend bool operator==(const Activation&, const Activation&) = default;
+    };
+    static constexpr LRESULT kAnswer = 41;
+
+    explicit ActivationWidget(std::vector<Activation>& got) : m_got(got) {}
+
+    bool handle(workbench::Window& /*window*/, UINT message, WPARAM wParam, LPARAM lParam,
+                LRESULT& answer) override {
+        if (message != WM_ACTIVATE)
+            return false;
+        m_got.push_back({wParam, lParam});
+        answer = kAnswer;
+        return true;
+    }
+
+private:
+    std::vector<Activation>& m_got;
+};
+
+TEST_F(CmdUtilTest, MainWindowIsToldOnceThatItIsActiveAndItsAnswerIsReturned) {
+    std::vector<ActivationWidget::Activation> got;
+    workbench::Window* frame = bench().windows().find(bench().toolkit().frame().frame().m_hWnd);
+    std::unique_ptr<workbench::Widget> widget = std::make_unique<ActivationWidget>(got);
+    frame->widget.swap(widget);
+    EXPECT_EQ(activateMainWindow(), ActivationWidget::kAnswer);
+    EXPECT_EQ(got, (std::vector<ActivationWidget::Activation>{{1, 0}}));
+    frame->widget.swap(widget);
+}
 
 TEST_F(CmdUtilTest, ActivationIsZeroWithoutAMainWindow) {
     bench().faults().fail("AfxGetMainWnd");

@@ -7,6 +7,7 @@
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/window/frame.h>
 
+#include <memory>
 #include <string>
 
 namespace {
@@ -170,6 +171,61 @@ TEST_F(ControlManagerTest, ActionBehindACommandThatNeverEndsIsDeletedUnrunWithIt
     EXPECT_EQ(runs, 0);
     EXPECT_EQ(ends, 1);
     editor.pump();
+}
+
+TEST_F(ControlManagerTest, ActionBehindACommandWithoutACurrentDocumentIsDeletedUnrun) {
+    int runs = 0;
+    int ends = 0;
+    workbench::Editor& editor = bench().editor();
+    editor.beginCommand(L"LINE");
+    bench().faults().fail("VxApDocManager::curDocument");
+    forget();
+    m_controls.runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
+    EXPECT_EQ(runs, 0);
+    EXPECT_EQ(ends, 1);
+    EXPECT_EQ(callCount("VxEdInputManager::addReactor"), 0);
+    bench().faults().unfail("VxApDocManager::curDocument");
+    editor.finishCommand(workbench::CommandState::Ended);
+    EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ControlManagerTest, EachDocumentGetsOneReactorForAllItsActions) {
+    int runs = 0;
+    int ends = 0;
+    workbench::Editor& editor = bench().editor();
+    const auto queueBehindALine = [&](int count) {
+        forget();
+        editor.beginCommand(L"LINE");
+        for (int i = 0; i < count; ++i)
+            m_controls.runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
+        return callCount("VxEdInputManager::addReactor");
+    };
+    EXPECT_EQ(queueBehindALine(2), 1);
+    editor.pump();
+    EXPECT_EQ(runs, 2);
+    EXPECT_EQ(queueBehindALine(1), 0) << "the reactor stays for the document's life";
+    editor.pump();
+    EXPECT_EQ(runs, 3);
+    editor.documents().create(L"B");
+    EXPECT_EQ(queueBehindALine(2), 1);
+    editor.pump();
+    EXPECT_EQ(runs, 5);
+    EXPECT_EQ(ends, 5);
+}
+
+TEST_F(ControlManagerTest, EndOfTheManagerTakesItsReactorsAwayAndDeletesWhatWaitsUnrun) {
+    int runs = 0;
+    int ends = 0;
+    workbench::Editor& editor = bench().editor();
+    auto controls = std::make_unique<CVxDaControlMgr>();
+    editor.beginCommand(L"LINE");
+    controls->runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
+    forget();
+    controls.reset();
+    EXPECT_EQ(callCount("VxEdInputManager::removeReactor"), 1);
+    EXPECT_EQ(ends, 1);
+    editor.pump();
+    EXPECT_EQ(runs, 0);
 }
 
 }  // namespace

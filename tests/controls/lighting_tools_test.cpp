@@ -191,10 +191,81 @@ TEST_F(LightingToolsTest, SkyOffLeavesAParallelViewAlone) {
     EXPECT_EQ(sent().size(), 1U);
 }
 
+TEST_F(LightingToolsTest, SkyDuringACommandCancelsItAndWaitsForTheQuietMoment) {
+    set(L"PERSPECTIVE", 1);
+    begin(L"LINE");
+    clickTool(L"ID_Skylight_Background");
+    EXPECT_EQ(sent(), (Texts{{"\x03\x03", "cancel"}}));
+    EXPECT_EQ(number(L"SKYSTATUS"), 0);
+    idle();
+    EXPECT_EQ(sent(), (Texts{{"_skystatus\n1\n", "do_cmd"}}));
+    EXPECT_EQ(number(L"SKYSTATUS"), 1);
+}
+
+TEST_F(LightingToolsTest, SkysLockEndsAfterTheCommandAndBeforeTheMainWindowIsActivated) {
+    journal();
+    clickTool(L"ID_Skylight_Background");
+    const std::vector<std::string> made = calls();
+    const auto command = std::find(made.begin(), made.end(), "do_cmd");
+    const auto unlock = std::find(command, made.end(), "VxAxDocLock::~VxAxDocLock");
+    ASSERT_NE(unlock, made.end());
+    EXPECT_EQ(std::find(made.begin(), unlock, "AfxGetMainWnd"), unlock);
+    EXPECT_NE(std::find(unlock, made.end(), "AfxGetMainWnd"), made.end());
+    sent();
+}
+
 TEST_F(LightingToolsTest, UnreadableSkySendsNothing) {
     fail("vxedActiveViewportId");
     clickTool(L"ID_Skylight_Background");
     EXPECT_TRUE(sent().empty());
 }
+
+// IDs in another case
+
+constexpr const char* kOtherCaseMenu = R"({
+  "menuGroups": [{"name": "MAIN"}],
+  "panels": [{"menuGroup": "MAIN", "id": "Lights", "title": "Lights", "toolPanels": ["Lights"]}],
+  "workspaces": [{"name": "Work", "panels": [{"panel": "Lights", "menuGroup": "MAIN"}]}],
+  "currentWorkspace": "Work",
+  "toolPanels": [{"menuGroup": "MAIN", "id": "Lights", "items": [
+    {"type": "button", "id": "ID_DEFAULTLIGHTING", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "id_sunstatus", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "id_light", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "ID_SKYLIGHT_OFF", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "id_skylight_background", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "id_skylight_ILLUMINATION", "module": "VxDashboard.qlx"}]}]
+})";
+
+struct OtherCase {
+    const wchar_t* id;
+    int sky;  // SKYSTATUS before
+    const char* text;
+};
+
+class OtherCaseLightTest : public LightingToolsTest, public testing::WithParamInterface<OtherCase> {
+protected:
+    void SetUp() override {
+        useMenu(kOtherCaseMenu);
+        LightingToolsTest::SetUp();
+    }
+};
+
+TEST_P(OtherCaseLightTest, ActsAsItsTool) {
+    for (const wchar_t* variable : {L"DEFAULTLIGHTING", L"SUNSTATUS", L"LIGHTGLYPHDISPLAY"})
+        set(variable, 0);
+    type(L"SKYSTATUS\n" + std::to_wstring(GetParam().sky) + L"\n");
+    sent();
+    clickTool(GetParam().id);
+    EXPECT_EQ(sent(), (Texts{{GetParam().text, "do_cmd"}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ids, OtherCaseLightTest,
+    testing::Values(OtherCase{L"ID_DEFAULTLIGHTING", 0, "_defaultlighting\n1\n"},
+                    OtherCase{L"id_sunstatus", 0, "_sunstatus\n1\n"},
+                    OtherCase{L"id_light", 0, "_lightglyphdisplay\n1\n"},
+                    OtherCase{L"ID_SKYLIGHT_OFF", 2, "_skystatus\n0\n"},
+                    OtherCase{L"id_skylight_background", 2, "_skystatus\n1\n"},
+                    OtherCase{L"id_skylight_ILLUMINATION", 1, "_skystatus\n2\n"}));
 
 }  // namespace

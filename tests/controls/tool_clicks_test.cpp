@@ -1,9 +1,14 @@
-#include "tests/support/bench.h"
+#include "controls/control_manager.h"
 
+#include "core/module.h"
+#include "tests/palette/palette_fixture.h"
+#include "tests/support/bench.h"
 #include "workbench/navigation/navigation_tool.h"
 
+#include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdb18.h>
 #include <hostapi/zorq.h>
+#include <hostapi/zorq/menu_data.h>
 
 #include <algorithm>
 #include <string>
@@ -31,6 +36,18 @@ protected:
     void loadNavigation() { ASSERT_TRUE(vxrxLoadModule(L"VxVmTools.qlx", false, true)); }
     /// Fields of the navigation records since the last look.
     std::vector<workbench::JournalRecord> navigation() { return journal("navigation"); }
+    /// Whether the module's function was looked up.
+    bool askedFor(const std::string& symbol) {
+        for (const auto& record : journal("call")) {
+            if (record.field("name") != workbench::Value("GetProcAddress"))
+                continue;
+            for (const workbench::Value& argument : record.field("args").asList()) {
+                if (argument == workbench::Value(symbol))
+                    return true;
+            }
+        }
+        return false;
+    }
 };
 
 struct ModeCase {
@@ -95,21 +112,7 @@ struct FunctionCase {
 };
 
 class NavigationFunctionTest : public ToolClicksTest,
-                               public testing::WithParamInterface<FunctionCase> {
-protected:
-    /// Whether the module's function was looked up.
-    bool askedFor(const std::string& symbol) {
-        for (const auto& record : journal("call")) {
-            if (record.field("name") != workbench::Value("GetProcAddress"))
-                continue;
-            for (const workbench::Value& argument : record.field("args").asList()) {
-                if (argument == workbench::Value(symbol))
-                    return true;
-            }
-        }
-        return false;
-    }
-};
+                               public testing::WithParamInterface<FunctionCase> {};
 
 TEST_P(NavigationFunctionTest, LoadsTheModuleAndCallsItsFunction) {
     click(item(GetParam().id));
@@ -155,6 +158,108 @@ TEST_F(ToolClicksTest, WalkSettingsCallTheModuleWhileANavigationToolRuns) {
     EXPECT_TRUE(sent().empty());
     EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVmTools"));
     type(L"\x1b");
+}
+
+// IDs in another case
+
+constexpr const char* kOtherCaseMenu = R"({
+  "menuGroups": [{"name": "MAIN"}],
+  "panels": [{"menuGroup": "MAIN", "id": "Tools", "title": "Tools", "toolPanels": ["Tools"]}],
+  "workspaces": [{"name": "Work", "panels": [{"panel": "Tools", "menuGroup": "MAIN"}]}],
+  "currentWorkspace": "Work",
+  "toolPanels": [{"menuGroup": "MAIN", "id": "Tools", "items": [
+    {"type": "button", "id": "id_3dwalk", "macro": "_walk\n", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "ID_3DWALK_SETTINGS", "module": "VxDashboard.qlx"},
+    {"type": "button", "id": "id_animation_play", "module": "VxDashboard.qlx"}]}]
+})";
+
+class OtherCaseToolTest : public ToolClicksTest {
+protected:
+    void SetUp() override {
+        useMenu(kOtherCaseMenu);
+        ToolClicksTest::SetUp();
+    }
+};
+
+TEST_F(OtherCaseToolTest, ModeToolSwitchesTheRunningTool) {
+    loadNavigation();
+    startOrbit();
+    click(item(L"id_3dwalk"));
+    EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(bench().navigation().mode(), 17);
+    type(L"\x1b");
+}
+
+TEST_F(OtherCaseToolTest, WalkSettingsCallTheModule) {
+    startOrbit();
+    click(item(L"ID_3DWALK_SETTINGS"));
+    EXPECT_TRUE(askedFor("navShowWalkSetting"));
+    type(L"\x1b");
+}
+
+TEST_F(OtherCaseToolTest, AnimationToolCallsItsFunction) {
+    click(item(L"id_animation_play"));
+    EXPECT_TRUE(askedFor("navPlayAnimation"));
+}
+
+// What a click answers
+
+class ClickAnswerTest : public PaletteTest {
+protected:
+    void SetUp() override {
+        load();
+        forget();
+    }
+    /// The answer to a click on an item with menu data, which has a macro or an empty one.
+    int click(const wchar_t* id, const wchar_t* macro = L"") {
+        VxToolPanelItemData data;
+        data.macro = macro;
+        CQrUiToolPanelItem item(nullptr);
+        item.SetID(id);
+        QrUiSetToolPanelItemData(&item, &data);
+        return controlManager()->handleToolClick(&item);
+    }
+    int clickWithoutData(const wchar_t* id) {
+        CQrUiToolPanelItem item(nullptr);
+        item.SetID(id);
+        return controlManager()->handleToolClick(&item);
+    }
+};
+
+class MacroAnswerTest : public ClickAnswerTest,
+                        public testing::WithParamInterface<const wchar_t*> {};
+
+TEST_P(MacroAnswerTest, IsOneForASentMacroAndZeroWithoutAMacroOrWithoutData) {
+    EXPECT_EQ(click(GetParam()), 0);
+    EXPECT_EQ(clickWithoutData(GetParam()), 0);
+    EXPECT_EQ(callCount("vxedSendMenuStringToExecute"), 0);
+    EXPECT_EQ(click(GetParam(), L"_walk\n"), 1);
+    EXPECT_EQ(callCount("vxedSendMenuStringToExecute"), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Tools, MacroAnswerTest,
+                         testing::Values(L"MM_1572", L"ID_3DWalk", L"ID_Perspective_Projection",
+                                         L"ID_3DWalk_Settings"));
+
+TEST_F(ClickAnswerTest, IsZeroForASkyThatIsSetAlready) {
+    EXPECT_EQ(click(L"ID_Skylight_Off"), 0);
+    EXPECT_EQ(callCount("do_cmd"), 0);
+    EXPECT_EQ(click(L"ID_Skylight_Background"), 1);
+    EXPECT_EQ(callCount("do_cmd"), 1);
+    EXPECT_EQ(click(L"ID_Skylight_Background"), 0);
+    EXPECT_EQ(callCount("do_cmd"), 1);
+}
+
+TEST_F(ClickAnswerTest, IsZeroForASkyThatCannotBeRead) {
+    bench().faults().fail("vxedActiveViewportId");
+    EXPECT_EQ(click(L"ID_Skylight_Background"), 0);
+    EXPECT_EQ(callCount("do_cmd"), 0);
+}
+
+TEST_F(ClickAnswerTest, IsOneForAnUnknownIdWhoseMacroIsNotSent) {
+    EXPECT_EQ(click(L"ID_Nothing", L"_line\n"), 1);
+    EXPECT_EQ(click(L"", L"_line\n"), 1);
+    EXPECT_TRUE(sent().empty());
 }
 
 }  // namespace

@@ -21,6 +21,8 @@ TEST_F(VariableAccessTest, StrictReadTakesEachTypeOfNumber) {
     EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), -30);
     set(L"STEPSIZE", 7.9);
     EXPECT_EQ(readVariableStrict(L"STEPSIZE"), 7) << "a real is truncated toward zero";
+    set(L"STEPSIZE", -7.9);
+    EXPECT_EQ(readVariableStrict(L"STEPSIZE"), -7) << "from below too";
 }
 
 TEST_F(VariableAccessTest, StrictReadOfATextOrOfNothingIsMinusOne) {

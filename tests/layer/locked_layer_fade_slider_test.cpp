@@ -1,13 +1,18 @@
+#include "tests/resources/loaded_module.h"
 #include "tests/support/bench.h"
 
 #include "workbench/base/text.h"
+#include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
+#include "workbench/resources/resource_library.h"
+#include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/windows/window_system.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -121,6 +126,23 @@ TEST_F(FadeSliderTest, ButtonHasItsPictureAndName) {
     EXPECT_FALSE(button.name.empty());
 }
 
+TEST_F(FadeSliderTest, ButtonSliderAndEditHaveATipEach) {
+    const LoadedModule module("VxDashboardRes.dll");
+    const workbench::ResourceLibrary library(module.directory());
+    const auto string = [&library](std::uint32_t number) {
+        return std::string(library.findString(number).value_or("missing"));
+    };
+    const auto tip = [this](HWND window) {
+        const auto* widget =
+            dynamic_cast<workbench::ControlWidget*>(bench().windows().find(window)->widget.get());
+        return workbench::toUtf8(widget->tip());
+    };
+    EXPECT_EQ(workbench::toUtf8(workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).name),
+              string(3995));
+    EXPECT_EQ(tip(slider()), string(3996));
+    EXPECT_EQ(tip(edit()), string(3997));
+}
+
 class FadeSliderCreationTest : public support::Bench {
 protected:
     bool hasControl() { return control(kControl) != nullptr; }
@@ -219,6 +241,20 @@ TEST_F(FadeSliderTest, ForeignSliderIsIgnored) {
     EXPECT_EQ(writes(), 0U);
 }
 
+TEST_F(FadeSliderTest, AnotherTimerNeitherWritesNorCountsAsRest) {
+    constexpr WPARAM kOtherTimer = 2;
+    drag({40});
+    wait(100);
+    bench().windows().send(m_control, WM_TIMER, kOtherTimer, 0);
+    wait(50);
+    bench().windows().send(m_control, WM_TIMER, kOtherTimer, 0);
+    wait(149);
+    EXPECT_EQ(writes(), 0U);
+    wait(1);
+    EXPECT_EQ(fade(), 40);
+    EXPECT_EQ(writes(), 1U);
+}
+
 TEST_F(FadeSliderTest, ClickAtNinetySwitchesOffAndBackOn) {
     set(kVariable, 90);
     clickButton();
@@ -255,6 +291,17 @@ TEST_F(FadeSliderTest, FollowsAChangeFromTheCommandLineWithoutWriting) {
     type(L"LAYLOCKFADECTL\n25\n");
     EXPECT_EQ(position(), 25);
     EXPECT_EQ(text(), L"      25%");
+    EXPECT_EQ(writes(), 0U);
+}
+
+TEST_F(FadeSliderTest, UnreadableVariableAtAChangeShowsAsOneAndOff) {
+    fail("vxedGetVar:LAYLOCKFADECTL");
+    bench().editor().reactors().sysVarChanged(kVariable, true);
+    EXPECT_EQ(text(), L"       1%");
+    EXPECT_EQ(position(), 1);
+    EXPECT_FALSE(isEnabled(slider()));
+    EXPECT_FALSE(isEnabled(edit()));
+    EXPECT_EQ(buttonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF");
     EXPECT_EQ(writes(), 0U);
 }
 
@@ -332,6 +379,14 @@ INSTANTIATE_TEST_SUITE_P(Entries, FadeEntryTest,
                                          EntryCase{L"1e9", 50, true}, EntryCase{L"-20", -20, false},
                                          EntryCase{L"50", 50, false}));
 
+TEST_F(FadeSliderTest, EntryBeyondAShortIsWrittenAsItsLowestSixteenBits) {
+    enter(L"-2097202");
+    EXPECT_EQ(fade(), -50);
+    EXPECT_EQ(text(), L"      50%");
+    EXPECT_FALSE(isEnabled(edit())) << "the event brought another value than the entered one";
+    EXPECT_TRUE(texts("balloon").empty());
+}
+
 TEST_F(FadeSliderTest, RefusedEntryRestoresTheTextAndWritesTheOldValueOnceMore) {
     enter(L"95");
     EXPECT_EQ(text(), L"      50%");
@@ -383,6 +438,33 @@ TEST_F(FadeSliderTest, NotificationHidesTheBalloon) {
     EXPECT_NE(std::find(after.begin(), after.end(), "QrUiHideBalloonTip"), after.end());
 }
 
+struct NoticeCase {
+    int controlId;
+    int code;
+};
+
+class OtherNoticeTest : public FadeSliderTest, public testing::WithParamInterface<NoticeCase> {};
+
+TEST_P(OtherNoticeTest, HidesTheBalloonAndCommitsNothing) {
+    enter(L"95");
+    EXPECT_EQ(texts("balloon").size(), 1U);
+    put(L"12");
+    calls();
+    bench().windows().send(
+        m_control, WM_COMMAND,
+        static_cast<WPARAM>(GetParam().code) << 16 | static_cast<WPARAM>(GetParam().controlId),
+        reinterpret_cast<LPARAM>(edit()));
+    const std::vector<std::string> after = calls();
+    EXPECT_EQ(std::count(after.begin(), after.end(), "QrUiHideBalloonTip"), 1);
+    EXPECT_EQ(std::count(after.begin(), after.end(), "vxedSetVar"), 0);
+    EXPECT_EQ(text(), L"12");
+    EXPECT_EQ(fade(), 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(Notices, OtherNoticeTest,
+                         testing::Values(NoticeCase{10001, 0x100}, NoticeCase{4711, 0x200},
+                                         NoticeCase{10001, 0x300}));
+
 TEST_F(FadeSliderTest, EntryDuringTheSettleTimeIsWrittenTwiceWithTheEnteredValue) {
     drag({70});
     release();
@@ -392,11 +474,24 @@ TEST_F(FadeSliderTest, EntryDuringTheSettleTimeIsWrittenTwiceWithTheEnteredValue
     EXPECT_EQ(writes(), 2U);
 }
 
-TEST_F(FadeSliderTest, WithoutADatabaseTheTextIsEmptyAndAnEntryChangesNothing) {
+TEST_F(FadeSliderTest, WithoutADocumentTheTextIsEmptyAndTheThumbFollows) {
     closeDocument(L"A");
     set(kVariable, 35);
     EXPECT_EQ(text(), L"");
     EXPECT_EQ(position(), 35);
+}
+
+TEST_F(FadeSliderTest, WithoutADatabaseAnEntryWritesTheOldValueOnceMore) {
+    set(kVariable, 35);
+    put(L"12");
+    fail("vxdbHostApplicationServices");
+    calls();
+    press("enter");
+    EXPECT_EQ(writes(), 1U);
+    EXPECT_EQ(fade(), 35);
+    EXPECT_EQ(position(), 35);
+    EXPECT_EQ(text(), L"");
+    EXPECT_TRUE(texts("balloon").empty());
 }
 
 // Failures and life

@@ -93,4 +93,16 @@ TEST_F(MaterialModeTest, FirstChangeAfterEachLoadReadsItOnceWhateverTheName) {
     }
 }
 
+TEST_F(MaterialModeTest, FirstCommandEndAfterALoadReadsItInPlaceOfAChange) {
+    ASSERT_TRUE(unload());
+    ASSERT_TRUE(load());
+    journal();
+    bench().editor().reactors().commandEnded(L"LINE");
+    EXPECT_EQ(reads(), 1);
+    bench().editor().reactors().commandEnded(L"LINE");
+    EXPECT_EQ(reads(), 0);
+    bench().editor().reactors().sysVarChanged(L"LTSCALE", true);
+    EXPECT_EQ(reads(), 0);
+}
+
 }  // namespace
