@@ -16,8 +16,12 @@ namespace {
 constexpr int kIconWidth = 22;      // pixels, the toolkit's at 16-pixel icons
 constexpr int kSeparatorWidth = 6;  // pixels
 
-/// What stands in the row.
-enum class Row { Whole, NoSeparator, OneItem };
+/// What stands in the row. In the last two the edit field is there, but is no item of it.
+enum class Row { Whole, NoSeparator, OneItem, OneItemAndField, TwoSeparatorsAndField };
+
+bool hasIcon(Row row) {
+    return row == Row::Whole || row == Row::NoSeparator;
+}
 
 /// A control of the test's own: its row, and a record of what its edit fields told it.
 template <class Base>
@@ -49,7 +53,7 @@ private:
         if (this->OnCreate(creation) == -1)
             return -1;
         this->m_slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 10, 10}, this, 10001, 2);
-        if (m_row != Row::OneItem)
+        if (hasIcon(m_row))
             addIconItem(this, L"TPB_TEST", L"RCDATA_NONE");
         addControlItem(this, this->m_slider.m_hWnd);
         if (m_row == Row::Whole)
@@ -57,6 +61,12 @@ private:
         if (m_row == Row::NoSeparator) {
             this->createEdit(this->m_edit, kFirstEditId);
             addControlItem(this, this->m_edit.m_hWnd);
+        }
+        if (m_row == Row::OneItemAndField || m_row == Row::TwoSeparatorsAndField)
+            this->createEdit(this->m_edit, kFirstEditId);
+        if (m_row == Row::TwoSeparatorsAndField) {
+            addSeparatorItem(this);
+            addSeparatorItem(this);
         }
         return 0;
     }
@@ -143,6 +153,28 @@ TEST_F(SliderEditTest, LayoutWithoutAFieldAnswersOneAndLeavesTheSlider) {
     control.DestroyWindow();
 }
 
+TEST_F(SliderEditTest, OneItemOnlyIsNotCountedSoTheFieldIsAsWideAsTheControl) {
+    constexpr int kWidth = 300;
+    OneField control(Row::OneItemAndField);
+    create(control, kWidth);
+    ASSERT_EQ(control.GetToolPanelItemCount(), 1);
+    EXPECT_EQ(widthOf(control.edit()), kWidth);
+    EXPECT_EQ(leftOf(control.edit()), widthOf(control.slider()));
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, LastItemIsNeitherMovedNorCountedEvenIfASeparator) {
+    constexpr int kWidth = 300;
+    OneField control(Row::TwoSeparatorsAndField);
+    create(control, kWidth);
+    const int sliderWidth = widthOf(control.slider());
+    EXPECT_EQ(control.GetToolPanelItem(1)->GetPosition().x, sliderWidth);
+    EXPECT_EQ(control.GetToolPanelItem(2)->GetPosition().x, kWidth - kSeparatorWidth);
+    EXPECT_EQ(leftOf(control.edit()), sliderWidth + kSeparatorWidth);
+    EXPECT_EQ(widthOf(control.edit()), kWidth - sliderWidth - kSeparatorWidth);
+    control.DestroyWindow();
+}
+
 TEST_F(SliderEditTest, NarrowRowGivesTheFieldNoWidthInsteadOfANegativeOne) {
     OneField control(Row::Whole);
     create(control, 20);
@@ -202,6 +234,27 @@ TEST_F(SliderEditTest, FailedFieldAnswersZero) {
     create(control, 300);
     workbench::Workbench::current().faults().fail("CQrUiInputEditCtrl::Create", {}, 1);
     EXPECT_EQ(control.CreateEditPart(), 0);
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, FailedFirstOfTwoFieldsEndsTheRowAfterItsBreak) {
+    TwoFields control(Row::OneItem);
+    create(control, 300);
+    fail("CQrUiInputEditCtrl::Create");
+    EXPECT_EQ(control.CreateEditPart(), 0);
+    ASSERT_EQ(control.GetToolPanelItemCount(), 2);
+    EXPECT_EQ(control.GetToolPanelItem(1)->GetType(), kItemRowBreak);
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, FailedSecondOfTwoFieldsLeavesTheFirstAndTheSeparator) {
+    TwoFields control(Row::OneItem);
+    create(control, 300);
+    failSecond("CQrUiInputEditCtrl::Create");
+    EXPECT_EQ(control.CreateEditPart(), 0);
+    ASSERT_EQ(control.GetToolPanelItemCount(), 4);
+    EXPECT_EQ(control.GetToolPanelItem(2)->GetControl(), control.edit().m_hWnd);
+    EXPECT_EQ(control.GetToolPanelItem(3)->GetType(), kItemSeparator);
     control.DestroyWindow();
 }
 

@@ -1,6 +1,7 @@
 #include "palette/no_panel_link.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "workbench/gestures/mouse_gestures.h"
 #include "workbench/windows/window_system.h"
 
 namespace {
@@ -56,6 +57,17 @@ TEST_F(NoPanelLinkTest, HasTheThemesFont) {
     show();
     hideAllPanels();
     EXPECT_NE(bench().windows().find(link()->m_hWnd)->font, 0U);
+}
+
+TEST_F(NoPanelLinkTest, AClickOnItOpensItsOwnTopic) {
+    show();
+    hideAllPanels();
+    forget();
+    ASSERT_NE(link(), nullptr);
+    workbench::gestures::clickAt(link()->m_hWnd, {5, 5});
+    settle();
+    EXPECT_EQ(callCount("vxedHelp"), 1);
+    EXPECT_NE(lastCall("vxedHelp").find("[null,\"LEARNDASHBOARD\",0]"), std::string::npos);
 }
 
 TEST_F(NoPanelLinkTest, AMouseMoveOutsideOfItSetsTheArrow) {

@@ -215,6 +215,16 @@ void PaletteTest::fail(std::string_view call, int count) {
     bench().faults().fail(call, std::nullopt, count);
 }
 
+void PaletteTest::failSecond(std::string_view call, std::optional<int> status) {
+    bench().journal().setListener(
+        [this, name = std::string(call), status](const workbench::JournalRecord& record) {
+            if (!isCall(record, name))
+                return;
+            bench().faults().fail(name, status, 1);
+            bench().journal().setListener(nullptr);
+        });
+}
+
 std::vector<std::string> labels(const std::vector<workbench::MenuLine>& lines) {
     std::vector<std::string> texts;
     for (const workbench::MenuLine& line : lines) {

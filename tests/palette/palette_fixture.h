@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,6 +66,8 @@ protected:
     /// The command texts sent since the journal was forgotten.
     std::vector<std::string> sent();
     void fail(std::string_view call, int count = 1);
+    /// Has the second call from now on fail, with a status or the usual way.
+    void failSecond(std::string_view call, std::optional<int> status = {});
     /// Writes a file into the test's own folder.
     std::filesystem::path writeFile(const std::string& name, const std::string& bytes) {
         return m_folder.write(name, bytes);

@@ -1,5 +1,7 @@
 #include "palette/panel_set.h"
 
+#include "palette/xml_node.h"
+
 #include "core/broadcast_messages.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/allocation_counter.h"
@@ -23,6 +25,20 @@ protected:
     void chooseGroup(const wchar_t* menuGroup, const wchar_t* id, int index) {
         menuOf(*panel(menuGroup, id));
         panel(menuGroup, id)->SendMessage(WM_COMMAND, static_cast<WPARAM>(53246 + index));
+    }
+    /// How many panels the saved tree holds; -1 without a tree.
+    static int savedPanels() {
+        const NodePtr node(
+            vxProfileManagerPtr()->profileStorage(L"Default", false)->openNode(L"Dashboard"));
+        const NodePtr set(VxUt::GetChildNode(node.get(), L"CVxDaPanelSet"));
+        if (set == nullptr)
+            return -1;
+        int count = 0;
+        for (IXMLDOMNode* child : VxUt::GetChildNodes(set.get())) {
+            const NodePtr panel(child);
+            ++count;
+        }
+        return count;
     }
 };
 
@@ -117,6 +133,38 @@ TEST_F(PanelSetTest, WithoutAProfilesNodeNothingIsSavedAndNothingFails) {
     EXPECT_EQ(panelSet().saveToProfile(), 0);
 }
 
+class ProfileReadFaultTest : public PanelSetTest,
+                             public testing::WithParamInterface<const char*> {};
+
+TEST_P(ProfileReadFaultTest, CountsAsNothingSaved) {
+    show();
+    chooseGroup(L"MAIN", L"Layers", 0);
+    ASSERT_EQ(panelSet().saveToProfile(), 1);
+    chooseGroup(L"MAIN", L"Layers", 2);
+    const VxString chosen = panel(L"MAIN", L"Layers")->toolPaletteGroup().text();
+    ASSERT_NE(chosen, L"Doors");
+    fail(GetParam());
+    EXPECT_EQ(panelSet().loadFromProfile(), 1);
+    EXPECT_EQ(panel(L"MAIN", L"Layers")->toolPaletteGroup().text(), chosen);
+    EXPECT_EQ(panelSet().loadFromProfile(), 1);
+    EXPECT_EQ(panel(L"MAIN", L"Layers")->toolPaletteGroup().text(), L"Doors");
+}
+
+INSTANTIATE_TEST_SUITE_P(HostCalls, ProfileReadFaultTest,
+                         testing::Values("VxApProfileManager::profileStorage",
+                                         "VxApProfileStorage::openNode"));
+
+TEST_F(PanelSetTest, ALoadWhoseSavedStateIsNoNodeStopsAndShowsNothing) {
+    show();
+    ASSERT_EQ(panelSet().saveToProfile(), 1);
+    dashboard().palette()->replacePanelSet();
+    fail("IXMLDOMNode::QueryInterface");
+    EXPECT_EQ(panelSet().load(), 0);
+    EXPECT_EQ(shown(), Names{});
+    EXPECT_EQ(panelSet().load(), 1);
+    EXPECT_EQ(shown().size(), 4U);
+}
+
 TEST_F(PanelSetTest, WithoutRecordsNothingIsSaved) {
     fail("vxedGetPanelSetData");
     show();
@@ -138,6 +186,7 @@ TEST_P(SaveFaultTest, EndsTheSaveWithZero) {
     SetLastError(0);
     fail(GetParam().call, 100);
     EXPECT_EQ(panelSet().saveToProfile(), 0);
+    EXPECT_TRUE(bench().faults().untaken().empty());
     bench().faults().unfail(GetParam().call);
     EXPECT_EQ(GetLastError() != 0, GetParam().raises);
 }
@@ -145,7 +194,33 @@ TEST_P(SaveFaultTest, EndsTheSaveWithZero) {
 INSTANTIATE_TEST_SUITE_P(HostCalls, SaveFaultTest,
                          testing::Values(SaveFault{"VxUt::RemoveChildren", true},
                                          SaveFault{"VxUt::SetAttributeValue", true},
-                                         SaveFault{"VxUtResString::Save", true}));
+                                         SaveFault{"VxUtResString::Save", true},
+                                         SaveFault{"VxUt::AddChildNode", false},
+                                         SaveFault{"VxApProfileManager::profileStorage", false},
+                                         SaveFault{"VxApProfileStorage::createNode", false}));
+
+TEST_F(PanelSetTest, ARefusedPanelElementEndsTheSaveWithZeroAndNoError) {
+    show();
+    SetLastError(0);
+    failSecond("VxUt::AddChildNode");
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+    EXPECT_EQ(GetLastError(), 0U);
+    EXPECT_EQ(savedPanels(), 0);
+}
+
+TEST_F(PanelSetTest, AnErrorRaisedByTheFirstOrTheSecondElementBecomesTheLastError) {
+    constexpr int kFirstFailure = -5;
+    constexpr int kSecondFailure = -6;
+    show();
+    bench().faults().fail("VxUt::AddChildNode", kFirstFailure, 1);
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(kFirstFailure));
+    EXPECT_EQ(savedPanels(), -1);
+    failSecond("VxUt::AddChildNode", kSecondFailure);
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(kSecondFailure));
+    EXPECT_EQ(savedPanels(), 0);
+}
 
 TEST_F(PanelSetTest, LoadAndSaveOfNoNodeAnswerZero) {
     show();
@@ -163,6 +238,14 @@ TEST_F(PanelSetTest, ThePanelsMenuNeedsAMenu) {
     EXPECT_EQ(menu.GetMenuItemCount(), 4);
     EXPECT_EQ(panelSet().buildPanelsMenu(&menu), 1);
     EXPECT_EQ(menu.GetMenuItemCount(), 4);
+}
+
+TEST_F(PanelSetTest, TheMenuOfPanelsGoesWithTheWindow) {
+    show();
+    ASSERT_EQ(panelSet().buildPanelsMenu(&panelSet().panelsMenu()), 1);
+    ASSERT_NE(panelSet().panelsMenu().IsMenu(), 0);
+    panelSet().DestroyWindow();
+    EXPECT_EQ(panelSet().panelsMenu().IsMenu(), 0);
 }
 
 TEST_F(PanelSetTest, ItemsOfOneIdOnTwoPanelsAreFoundTogether) {

@@ -111,6 +111,13 @@ TEST_F(PanelStorageTest, PanelsAreFoundByTheirExactNamesOnly) {
     EXPECT_EQ(readVisible(), (Flags{true, true, true}));
 }
 
+TEST_F(PanelStorageTest, OfTwoRecordsOfOneNameTheFirstTakesTheState) {
+    m_records.push_back(recordOf(L"MAIN", L"A"));
+    const NodePtr set = addSet();
+    addPanel(set, L"MAIN", L"A", L"0");
+    EXPECT_EQ(readVisible(), (Flags{false, true, true, true}));
+}
+
 TEST_F(PanelStorageTest, AGroupIsTakenOverAndAMissingOneEmptiesTheRecords) {
     const NodePtr set = addSet();
     const NodePtr panel = addPanel(set, L"MAIN", L"A", L"1");

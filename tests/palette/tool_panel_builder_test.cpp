@@ -13,6 +13,10 @@ protected:
     CQrUiToolPanel& toolPanel(CVxDaPanel* panel, std::size_t n) {
         return *bench().toolkit().panels().of(panel).toolPanels.at(n);
     }
+    /// Where the first item of a panel's first tool panel begins, in pixels.
+    int firstItemLeft(CVxDaPanel* panel) {
+        return toolPanel(panel, 0).GetToolPanelItem(0)->GetPosition().x;
+    }
     /// The IDs in a flyout, in order.
     static std::vector<VxString> tools(const CQrUiToolPanelItem* flyout) {
         std::vector<VxString> ids;
@@ -118,6 +122,28 @@ TEST_F(ToolPanelBuilderTest, AnIdHiddenBeforeThePanelIsBuiltIsHonoured) {
     EXPECT_NE(item(L"ID_Line", 0)->GetState() & 32U, 0U);
     EXPECT_NE(item(L"ID_Line", 1)->GetState() & 32U, 0U);
     EXPECT_EQ(item(L"ID_Idle")->GetState() & 32U, 0U);
+}
+
+TEST_F(ToolPanelBuilderTest, AHostsControlNameInsideAFlyoutStaysTheToolsId) {
+    itemData(L"MAIN", L"TPL_B", 0).id = L"LineTypeControl";
+    show();
+    EXPECT_EQ(tools(item(L"TPL_Own")), Ids{L"LineTypeControl"});
+    EXPECT_EQ(tools(item(L"TPL_Inner")), Ids{L"LineTypeControl"});
+}
+
+TEST_F(ToolPanelBuilderTest, AnIdHiddenBeforeThePanelIsBuiltHidesNoToolOfAFlyout) {
+    load();
+    EXPECT_EQ(setItemsHidden({L"ID_A1", L"TPL_A"}, true), 1);
+    showLoaded();
+    EXPECT_NE(item(L"TPL_A")->GetState() & 32U, 0U);
+    ASSERT_NE(item(L"ID_A1"), nullptr);
+    EXPECT_EQ(item(L"ID_A1")->GetState() & 32U, 0U);
+}
+
+TEST_F(ToolPanelBuilderTest, OnlyBelowAPanelImageAreTheItemsIndented) {
+    show();
+    EXPECT_GT(firstItemLeft(panel(L"MAIN", L"Draw")), 0);
+    EXPECT_EQ(firstItemLeft(panel(L"MAIN", L"Layers")), 0);
 }
 
 TEST_F(ToolPanelBuilderTest, AToolPanelThatCannotBeMadeIsLeftOut) {
