@@ -33,13 +33,14 @@ TEST_P(LensToSliderTest, GivesThePositionOfTheLens) {
     EXPECT_EQ(LensToSlider(GetParam().lens), GetParam().position);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Lenses, LensToSliderTest,
-    testing::Values(LensCase{100000.1, 2500}, LensCase{100000.0, 2500}, LensCase{0.7859, 0},
-                    LensCase{-3.0, 0}, LensCase{0.786, 8}, LensCase{14.90524, 157},
-                    LensCase{14.999, 158}, LensCase{15.0, 150}, LensCase{15.5, 150},
-                    LensCase{50.0, 500}, LensCase{199.99, 1990}, LensCase{200.0, 2000},
-                    LensCase{200.1, 2000}, LensCase{399.6, 2001}));
+INSTANTIATE_TEST_SUITE_P(Lenses, LensToSliderTest,
+                         testing::Values(LensCase{100000.1, 2500}, LensCase{100000.0, 2500},
+                                         LensCase{0.7859, 0}, LensCase{-3.0, 0}, LensCase{0.786, 8},
+                                         LensCase{14.90524, 157}, LensCase{14.999, 158},
+                                         LensCase{15.0, 150}, LensCase{15.5, 150},
+                                         LensCase{50.0, 500}, LensCase{199.99, 1990},
+                                         LensCase{200.0, 2000}, LensCase{200.1, 2000},
+                                         LensCase{399.6, 2001}));
 
 TEST(LensMapping, LongestLensIsExactlyAHundredThousand) {
     EXPECT_EQ(SliderToLens(2500), 100000.0);

@@ -17,9 +17,8 @@ TEST_P(StepSizeToSliderTest, GivesThePosition) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, StepSizeToSliderTest,
-                         testing::Values(SizeCase{0.0, 1}, SizeCase{1.0e-6, 1},
-                                         SizeCase{0.02, 4}, SizeCase{0.5, 76},
-                                         SizeCase{1.0, 150}, SizeCase{6.0, 154},
+                         testing::Values(SizeCase{0.0, 1}, SizeCase{1.0e-6, 1}, SizeCase{0.02, 4},
+                                         SizeCase{0.5, 76}, SizeCase{1.0, 150}, SizeCase{6.0, 154},
                                          SizeCase{1000.0, 880}, SizeCase{1000.1, 880},
                                          SizeCase{10000.0, 920}, SizeCase{100000.0, 960},
                                          SizeCase{1000000.0, 1000}));
@@ -69,8 +68,8 @@ TEST_P(StepsPerSecToSliderTest, GivesThePosition) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Rates, StepsPerSecToSliderTest,
-                         testing::Values(RateCase{1.0, 10}, RateCase{2.0, 20},
-                                         RateCase{15.5, 155}, RateCase{30.0, 300}));
+                         testing::Values(RateCase{1.0, 10}, RateCase{2.0, 20}, RateCase{15.5, 155},
+                                         RateCase{30.0, 300}));
 
 TEST(StepMapping, RateIsDividedFirst) {
     for (int position = 10; position <= 300; ++position)

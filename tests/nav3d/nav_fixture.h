@@ -1,0 +1,36 @@
+#pragma once
+
+#include "tests/support/control_bench.h"
+
+#include "workbench/base/text.h"
+#include "workbench/drawing/path_access.h"
+#include "workbench/editor/editor.h"
+#include "workbench/navigation/navigation_tool.h"
+
+#include <string>
+#include <vector>
+
+/// Test fixture: a navigation control and the drawing's views.
+class NavControlTest : public support::ControlBench {
+protected:
+    workbench::Value db(const std::string& path) {
+        return workbench::drawing::getByPath(bench().editor().documents().current()->data(), path);
+    }
+    void setDb(const std::string& path, const workbench::Value& value) {
+        workbench::drawing::setByPath(bench().editor().documents().current()->data(), path, value);
+    }
+    double number(const std::string& path) { return db(path).asReal(); }
+    /// A named view of the present view.
+    void addView(const std::string& name) { setDb("views." + name, workbench::Value::Table{}); }
+    void startTool() {
+        ASSERT_TRUE(bench().navigation().start(workbench::NavigationTool::kFreeOrbit));
+        journal();
+    }
+    void stopTool() { bench().navigation().stop(); }
+    /// The last balloon's text since the last look; empty for none.
+    std::string balloon() {
+        const std::vector<std::string> all = texts("balloon");
+        return all.empty() ? std::string() : all.back();
+    }
+    std::string string(UINT id) { return workbench::toUtf8(stringOf(id)); }
+};

@@ -1,0 +1,162 @@
+#include "tests/nav3d/nav_fixture.h"
+
+#include "workbench/toolkit/lookup.h"
+
+#include <hostapi/vxdashboard.h>
+
+namespace {
+
+constexpr const wchar_t* kPlay = L"ID_Animation_Play";
+constexpr const wchar_t* kRecord = L"ID_Animation_Record";
+constexpr const wchar_t* kPause = L"ID_Animation_Pause";
+constexpr const wchar_t* kSave = L"ID_Animation_Save";
+
+class ToolbarStateTest : public NavControlTest {
+protected:
+    void SetUp() override {
+        showControl("3DNavZoomSliderControl");
+        idle();
+        journal();
+    }
+    bool disabled(const wchar_t* id, std::size_t n = 1) {
+        return workbench::viewOf(*item(id, n)).disabled;
+    }
+    bool checked(const wchar_t* id, std::size_t n = 1) {
+        return workbench::viewOf(*item(id, n)).checked;
+    }
+    std::wstring name(const wchar_t* id) { return workbench::viewOf(*item(id)).name; }
+    void expectEnabled(bool play, bool record, bool pause, bool save) {
+        EXPECT_EQ(disabled(kPlay), !play);
+        EXPECT_EQ(disabled(kRecord), !record);
+        EXPECT_EQ(disabled(kPause), !pause);
+        EXPECT_EQ(disabled(kSave), !save);
+    }
+    workbench::NavigationTool& tool() { return bench().navigation(); }
+};
+
+// Animation
+
+TEST_F(ToolbarStateTest, WithoutAToolNothingCanBePressed) {
+    expectEnabled(false, false, false, false);
+}
+
+TEST_F(ToolbarStateTest, IdleToolLetsTheUserRecord) {
+    startTool();
+    idle();
+    expectEnabled(false, true, false, false);
+    EXPECT_EQ(name(kRecord), stringOf(1249));
+}
+
+TEST_F(ToolbarStateTest, RecordingToolCanBePaused) {
+    startTool();
+    tool().recordAnimation();
+    idle();
+    expectEnabled(true, false, true, true);
+    EXPECT_EQ(name(kRecord), stringOf(1249));
+}
+
+TEST_F(ToolbarStateTest, PausedToolGoesOnPlaysOrIsSaved) {
+    startTool();
+    tool().recordAnimation();
+    tool().pauseRecording();
+    idle();
+    expectEnabled(true, true, false, true);
+    EXPECT_EQ(name(kRecord), stringOf(1248));
+}
+
+TEST_F(ToolbarStateTest, LeavingTheToolDisablesAllFourAndLeavesRecordsName) {
+    startTool();
+    tool().recordAnimation();
+    tool().pauseRecording();
+    idle();
+    stopTool();
+    idle();
+    expectEnabled(false, false, false, false);
+    EXPECT_EQ(name(kRecord), stringOf(1248));
+}
+
+class MissingModuleTest : public ToolbarStateTest, public testing::WithParamInterface<bool> {};
+
+TEST_P(MissingModuleTest, CountsAsAnIdleTool) {
+    startTool();
+    tool().recordAnimation();
+    if (GetParam())
+        bench().faults().hide("VxVmTools.qlx");
+    else
+        bench().faults().hide("VxVmTools.qlx", "navIsActive");
+    idle();
+    expectEnabled(false, true, false, false);
+}
+
+INSTANTIATE_TEST_SUITE_P(WholeOrSymbol, MissingModuleTest, testing::Bool());
+
+// Camera
+
+TEST_F(ToolbarStateTest, PaperSpaceDisablesAndUnchecksTheCamera) {
+    openDrawing("examples/house.json");
+    item(L"ID_Camera")->SetState(kItemChecked);
+    set(L"TILEMODE", 0);
+    set(L"CVPORT", 1);
+    idle();
+    EXPECT_TRUE(disabled(L"ID_Camera"));
+    EXPECT_FALSE(checked(L"ID_Camera"));
+    set(L"CVPORT", 2);
+    idle();
+    EXPECT_FALSE(disabled(L"ID_Camera"));
+    EXPECT_FALSE(checked(L"ID_Camera")) << "only the host sets it";
+}
+
+TEST_F(ToolbarStateTest, CameraDisplayFollowsTheDrawing) {
+    set(L"CAMERADISPLAY", 1);
+    idle();
+    EXPECT_TRUE(checked(L"ID_CAMERAS_OnOf"));
+    set(L"CAMERADISPLAY", 0);
+    idle();
+    EXPECT_FALSE(checked(L"ID_CAMERAS_OnOf"));
+}
+
+// Projection
+
+TEST_F(ToolbarStateTest, ProjectionTogglesAreOpposites) {
+    set(L"PERSPECTIVE", 1);
+    idle();
+    EXPECT_TRUE(checked(L"ID_Perspective_Projection"));
+    EXPECT_FALSE(checked(L"ID_Parallel_Projection"));
+    set(L"PERSPECTIVE", 0);
+    idle();
+    EXPECT_FALSE(checked(L"ID_Perspective_Projection"));
+    EXPECT_TRUE(checked(L"ID_Parallel_Projection"));
+}
+
+// When it runs
+
+TEST_F(ToolbarStateTest, IdleTickThatChangesNothingTouchesNoItem) {
+    idle();
+    journal();
+    idle();
+    EXPECT_TRUE(journal("item").empty());
+}
+
+TEST_F(ToolbarStateTest, EndOfACommandRunsItToo) {
+    set(L"PERSPECTIVE", 1);
+    begin(L"LINE");
+    finish();
+    EXPECT_TRUE(checked(L"ID_Perspective_Projection"));
+}
+
+TEST_F(ToolbarStateTest, HiddenDashboardIsLeftAlone) {
+    paletteSet()->ShowWindow(SW_HIDE);
+    set(L"PERSPECTIVE", 1);
+    idle();
+    EXPECT_FALSE(checked(L"ID_Perspective_Projection"));
+}
+
+TEST_F(ToolbarStateTest, WithoutADatabaseTheEndOfACommandStillSetsTheProjection) {
+    set(L"PERSPECTIVE", 1);
+    bench().faults().fail("vxdbHostApplicationServices");
+    begin(L"LINE");
+    finish();
+    EXPECT_TRUE(checked(L"ID_Perspective_Projection"));
+}
+
+}  // namespace

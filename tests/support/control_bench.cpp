@@ -1,0 +1,114 @@
+#include "tests/support/control_bench.h"
+
+#include "tests/resources/loaded_module.h"
+#include "workbench/base/text.h"
+#include "workbench/editor/editor.h"
+#include "workbench/gestures/item_gestures.h"
+#include "workbench/gestures/key_gestures.h"
+#include "workbench/gestures/slider_gestures.h"
+#include "workbench/resources/resource_library.h"
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/slider_widget.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+
+namespace support {
+
+namespace gestures = workbench::gestures;
+
+void ControlBench::showControl(const std::string& name) {
+    showDashboard();
+    m_name = name;
+    m_control = control(name);
+    ASSERT_NE(m_control, nullptr) << name;
+    sent();
+    journal();
+}
+
+void ControlBench::drag(const std::vector<int>& positions) {
+    gestures::dragSlider(slider(), positions);
+    settle();
+}
+
+void ControlBench::release() {
+    gestures::releaseSlider(slider());
+    settle();
+}
+
+void ControlBench::clickIcon() {
+    gestures::clickIcon(m_control);
+    settle();
+}
+
+void ControlBench::focusField(const std::string& name) {
+    ASSERT_TRUE(gestures::focusField(field(name)));
+    settle();
+}
+
+void ControlBench::put(const std::wstring& text, const std::string& name) {
+    focusField(name);
+    gestures::replaceText(text);
+    settle();
+}
+
+void ControlBench::press(const std::string& key) {
+    gestures::pressKey(key);
+    settle();
+}
+
+void ControlBench::enter(const std::wstring& text, const std::string& name) {
+    put(text, name);
+    press("enter");
+}
+
+void ControlBench::leave() {
+    gestures::blur();
+    settle();
+}
+
+void ControlBench::announce(const wchar_t* variable) {
+    bench().editor().reactors().sysVarChanged(variable, true);
+}
+
+LRESULT ControlBench::send(UINT message, WPARAM wParam, LPARAM lParam) {
+    const LRESULT answer = bench().windows().send(m_control, message, wParam, lParam);
+    settle();
+    return answer;
+}
+
+int ControlBench::position() {
+    return dynamic_cast<workbench::SliderWidget*>(bench().windows().find(slider())->widget.get())
+        ->position();
+}
+
+std::wstring ControlBench::text(const std::string& name) {
+    return bench().windows().find(field(name))->text;
+}
+
+std::wstring ControlBench::tipOf(HWND part) {
+    const auto* widget =
+        dynamic_cast<workbench::ControlWidget*>(bench().windows().find(part)->widget.get());
+    return widget == nullptr ? std::wstring() : widget->tip();
+}
+
+std::wstring ControlBench::stringOf(UINT number) {
+    const LoadedModule module("VxDashboardRes.dll");
+    const workbench::ResourceLibrary library(module.directory());
+    return workbench::toWide(library.findString(number).value_or("missing"));
+}
+
+bool ControlBench::isEnabled(HWND part) {
+    return bench().windows().takesInput(part);
+}
+
+bool ControlBench::hasFocus(HWND part) {
+    return bench().windows().focus() == part;
+}
+
+std::size_t ControlBench::count(const std::string& call) {
+    const std::vector<std::string> made = calls();
+    return static_cast<std::size_t>(std::count(made.begin(), made.end(), call));
+}
+
+}  // namespace support
