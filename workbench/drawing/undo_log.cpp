@@ -10,6 +10,15 @@ void UndoLog::beginGroup(std::string name) {
     }
 }
 
+void UndoLog::joinLastTwo() {
+    if (m_done.size() < 2)
+        return;
+    Group last = std::move(m_done.back());
+    m_done.pop_back();
+    for (std::unique_ptr<UndoRecord>& record : last.records)
+        m_done.back().records.push_back(std::move(record));
+}
+
 void UndoLog::endGroup() {
     if (m_depth == 0 || --m_depth > 0) {
         return;

@@ -56,6 +56,11 @@ public:
     /// True while `undo` or `redo` runs.
     bool isRunning() const { return m_running != Running::None; }
 
+    /// How many groups `undo` could take back.
+    std::size_t doneCount() const { return m_done.size(); }
+    /// Makes one group of the last two; nothing if there are not two.
+    void joinLastTwo();
+
     /// Forgets everything, for instance after a drawing was read.
     void clear();
 

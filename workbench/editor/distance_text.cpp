@@ -1,5 +1,7 @@
 #include "workbench/editor/distance_text.h"
 
+#include "workbench/base/number_text.h"
+
 #include <cmath>
 #include <locale>
 #include <sstream>
@@ -146,7 +148,66 @@ std::optional<double> readMagnitude(DistanceReader& reader, LinearUnit unit) {
     return *first * kInchesInFoot + *inches;
 }
 
+/// A whole number and a fraction of halvings, the fraction left out when it is zero.
+std::wstring fractionText(double value, int halvings) {
+    const double parts = std::ldexp(1.0, halvings);
+    const double rounded = std::round(value * parts) / parts;
+    const double whole = std::floor(rounded);
+    auto numerator = static_cast<long>((rounded - whole) * parts);
+    long denominator = 1L << halvings;
+    while (numerator != 0 && numerator % 2 == 0) {
+        numerator /= 2;
+        denominator /= 2;
+    }
+    if (numerator == 0)
+        return fixedText(whole, 0);
+    const std::wstring fraction = std::to_wstring(numerator) + L"/" + std::to_wstring(denominator);
+    return whole == 0.0 ? fraction : fixedText(whole, 0) + L" " + fraction;
+}
+
+/// Rounded as it is shown, so that inches that round up to a foot carry.
+double roundedInches(double inches, LinearUnit unit, int precision) {
+    const double parts =
+        unit == LinearUnit::Architectural ? std::ldexp(1.0, precision) : std::pow(10.0, precision);
+    return std::round(inches * parts) / parts;
+}
+
+std::wstring feetText(double value, LinearUnit unit, int precision) {
+    const double rounded = roundedInches(value, unit, precision);
+    const double feet = std::floor(rounded / kInchesInFoot);
+    const double inches = rounded - feet * kInchesInFoot;
+    const std::wstring inchText =
+        (unit == LinearUnit::Architectural ? fractionText(inches, precision)
+                                           : fixedText(inches, precision)) +
+        L"\"";
+    if (feet == 0.0)
+        return inchText;
+    const std::wstring footText = fixedText(feet, 0) + L"'";
+    return inches == 0.0 ? footText : footText + L"-" + inchText;
+}
+
+std::wstring magnitudeText(double value, LinearUnit unit, int precision) {
+    switch (unit) {
+    case LinearUnit::Scientific:
+        return scientificText(value, precision);
+    case LinearUnit::Decimal:
+        return fixedText(value, precision);
+    case LinearUnit::Engineering:
+    case LinearUnit::Architectural:
+        return feetText(value, unit, precision);
+    case LinearUnit::Fractional:
+        return fractionText(value, precision);
+    }
+    return {};
+}
+
 }  // namespace
+
+std::wstring formatDistance(double value, LinearUnit unit, int precision) {
+    const std::wstring text = magnitudeText(std::fabs(value), unit, precision);
+    const bool isZero = text.find_first_of(L"123456789") == std::wstring::npos;
+    return value < 0.0 && !isZero ? L"-" + text : text;
+}
 
 std::optional<double> parseDistance(std::wstring_view text, LinearUnit unit) {
     DistanceReader reader(text);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace workbench {
@@ -21,5 +22,10 @@ enum class LinearUnit {
 /// architectural units only; the value is in inches then. A sign stands in front; blanks around the
 /// text don't count.
 std::optional<double> parseDistance(std::wstring_view text, LinearUnit unit);
+
+/// The text of a distance with so many decimal places, 0 to 8. In engineering and architectural units
+/// the value is in inches; feet and inches that are zero are left out. In architectural and fractional
+/// units the places are halvings: 4 stands for sixteenths.
+std::wstring formatDistance(double value, LinearUnit unit, int precision);
 
 }  // namespace workbench

@@ -30,7 +30,7 @@ Document::VariableValues readHeader(const drawing::Drawing& drawing) {
 Document::Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::Drawing> drawing)
     : m_name(std::move(name)),
       m_drawing(std::move(drawing)),
-      m_hostDatabase(std::make_unique<DatabaseAdapter>(m_drawing->db)),
+      m_hostDatabase(std::make_unique<DatabaseAdapter>(*this)),
       m_variables(readHeader(*m_drawing)),
       m_viewHistory(std::make_unique<ViewHistory>(m_drawing->db,
                                                   [this, &editor](drawing::ObjectId viewport) {

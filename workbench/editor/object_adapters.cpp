@@ -1,9 +1,10 @@
 #include "workbench/editor/object_adapters.h"
 
+#include "workbench/base/text.h"
 #include "workbench/core/host_call.h"
-#include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/background.h"
 #include "workbench/drawing/records/sun.h"
+#include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 
 #include <algorithm>
@@ -13,6 +14,42 @@ namespace workbench {
 namespace {
 
 constexpr unsigned kHandleBits = 32;
+
+/// A walk over the views as they were when it began; one that is erased meanwhile can't be opened.
+class ViewTableWalk final : public VxDbViewTableIterator {
+public:
+    ViewTableWalk(OpenObjects& objects, bool atStart) : m_objects(objects) {
+        m_ids = objects.database().ids(drawing::RecordKind::View);
+        if (!atStart)
+            std::reverse(m_ids.begin(), m_ids.end());
+    }
+
+    // VxDbViewTableIterator:
+    bool done() const override { return m_place >= m_ids.size(); }
+    void step() override { ++m_place; }
+    Zorq::ErrorStatus getRecordId(VxDbObjectId& id) const override {
+        HostCall call("VxDbViewTableIterator::getRecordId");
+        if (call.failed() || done())
+            return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        id = toHostId(m_ids[m_place]);
+        return call.returns(Zorq::eOk);
+    }
+    Zorq::ErrorStatus getRecord(VxDbViewTableRecord*& record, VxDbOpenMode mode) const override {
+        HostCall call("VxDbViewTableIterator::getRecord", {static_cast<int>(mode)});
+        record = nullptr;
+        if (call.failed() || done())
+            return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        VxDbObject* object = nullptr;
+        const drawing::Status status = m_objects.open(m_ids[m_place], openModeOf(mode), object);
+        record = static_cast<VxDbViewTableRecord*>(object);
+        return call.returns(toHostStatus(status));
+    }
+
+private:
+    OpenObjects& m_objects;
+    std::vector<drawing::ObjectId> m_ids;
+    std::size_t m_place = 0;
+};
 
 }  // namespace
 
@@ -25,18 +62,19 @@ drawing::ObjectId fromHostId(VxDbObjectId id) {
                              static_cast<std::uint32_t>(id.number));
 }
 
+drawing::OpenMode openModeOf(VxDbOpenMode mode) {
+    return mode == VxDbOpenMode::kForWrite ? drawing::OpenMode::Write : drawing::OpenMode::Read;
+}
+
 Zorq::ErrorStatus toHostStatus(drawing::Status status) {
     return static_cast<Zorq::ErrorStatus>(status);
 }
 
-/// An opening of a record as an object of the host's class `Host`.
-template <class Host, class Data>
-class OpenObjects::OpenedRecord : public Host {
+/// An opening as an object of the host's class `Host`.
+template <class Host>
+class OpenObjects::Opening : public Host {
 public:
-    OpenedRecord(OpenObjects& owner, drawing::DbObject& object)
-        : m_owner(owner),
-          m_object(object),
-          m_data(static_cast<drawing::Record<Data>&>(object).data()) {}
+    Opening(OpenObjects& owner, drawing::DbObject& object) : m_owner(owner), m_object(object) {}
 
     // VxDbObject:
     Zorq::ErrorStatus close() override {
@@ -47,28 +85,26 @@ public:
     }
 
 protected:
+    OpenObjects& owner() const { return m_owner; }
+
+private:
+    OpenObjects& m_owner;
+    drawing::DbObject& m_object;
+};
+
+/// The same of a record.
+template <class Host, class Data>
+class OpenObjects::OpenedRecord : public Opening<Host> {
+public:
+    OpenedRecord(OpenObjects& owner, drawing::DbObject& object)
+        : Opening<Host>(owner, object),
+          m_data(static_cast<drawing::Record<Data>&>(object).data()) {}
+
+protected:
     const Data& data() const { return m_data; }
 
 private:
-    OpenObjects& m_owner;
-    drawing::DbObject& m_object;
     const Data& m_data;
-};
-
-/// An object of a kind that modules only open and close.
-class OpenObjects::Opening final : public VxDbObject {
-public:
-    Opening(OpenObjects& owner, drawing::DbObject& object) : m_owner(owner), m_object(object) {}
-
-    // VxDbObject:
-    Zorq::ErrorStatus close() override {
-        HostCall call("VxDbObject::close");
-        return call.returns(toHostStatus(m_owner.close(this, m_object)));
-    }
-
-private:
-    OpenObjects& m_owner;
-    drawing::DbObject& m_object;
 };
 
 std::unique_ptr<VxDbObject> OpenObjects::wrap(drawing::DbObject& object) {
@@ -107,6 +143,10 @@ std::unique_ptr<VxDbObject> OpenObjects::wrap(drawing::DbObject& object) {
     class OpenLayoutViewport final : public OpenedRecord<VxDbViewport, Viewport> {
     public:
         using OpenedRecord::OpenedRecord;
+        bool isLocked() const override {
+            HostCall call("VxDbViewport::isLocked");
+            return call.returns(!call.failed() && data().locked);
+        }
         VxDbObjectId background() const override {
             HostCall call("VxDbViewport::background");
             return toHostId(data().background);
@@ -117,7 +157,36 @@ std::unique_ptr<VxDbObject> OpenObjects::wrap(drawing::DbObject& object) {
         }
     };
 
+    class OpenView final : public OpenedRecord<VxDbViewTableRecord, drawing::View> {
+    public:
+        using OpenedRecord::OpenedRecord;
+        Zorq::ErrorStatus getName(VxString& name) const override {
+            HostCall call("VxDbSymbolTableRecord::getName");
+            if (call.failed())
+                return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+            name = toWide(data().name);
+            return call.returns(Zorq::eOk);
+        }
+    };
+    class OpenViewTable final : public Opening<VxDbViewTable> {
+    public:
+        using Opening::Opening;
+        Zorq::ErrorStatus newIterator(VxDbViewTableIterator*& iterator, bool atStart,
+                                      bool skipErased) const override {
+            HostCall call("VxDbViewTable::newIterator", {atStart, skipErased});
+            iterator = nullptr;
+            if (call.failed())
+                return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+            iterator = new ViewTableWalk(owner(), atStart);
+            return call.returns(Zorq::eOk);
+        }
+    };
+
+    if (object.id() == m_database.table(drawing::RecordKind::View))
+        return std::make_unique<OpenViewTable>(*this, object);
     switch (object.kind()) {
+    case drawing::RecordKind::View:
+        return std::make_unique<OpenView>(*this, object);
     case drawing::RecordKind::Background:
         return std::make_unique<OpenBackground>(*this, object);
     case drawing::RecordKind::Sun:
@@ -127,7 +196,7 @@ std::unique_ptr<VxDbObject> OpenObjects::wrap(drawing::DbObject& object) {
             return std::make_unique<OpenTile>(*this, object);
         return std::make_unique<OpenLayoutViewport>(*this, object);
     default:
-        return std::make_unique<Opening>(*this, object);
+        return std::make_unique<Opening<VxDbObject>>(*this, object);
     }
 }
 
@@ -157,13 +226,6 @@ drawing::Status OpenObjects::close(const VxDbObject* adapter, drawing::DbObject&
     const Entry ending = std::move(*entry);
     m_open.erase(entry);
     return object.close();
-}
-
-bool DatabaseAdapter::tilemode() const {
-    HostCall call("VxDbDatabase::tilemode");
-    if (call.failed())
-        return call.returns(false);
-    return call.returns(drawing::activeLayout(m_database).isNull());
 }
 
 }  // namespace workbench

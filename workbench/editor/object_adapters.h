@@ -10,9 +10,12 @@
 
 namespace workbench {
 
+class Document;
+
 /// The ID by which modules know an object, and back.
 VxDbObjectId toHostId(drawing::ObjectId id);
 drawing::ObjectId fromHostId(VxDbObjectId id);
+drawing::OpenMode openModeOf(VxDbOpenMode mode);
 /// The status that modules get for one of the database's.
 Zorq::ErrorStatus toHostStatus(drawing::Status status);
 
@@ -28,10 +31,12 @@ public:
 
     /// Opens an object; null unless the status is ok.
     drawing::Status open(drawing::ObjectId id, drawing::OpenMode mode, VxDbObject*& object);
+    const drawing::Database& database() const { return m_database; }
     /// How many openings were not closed.
     std::size_t count() const { return m_open.size(); }
 
 private:
+    template <class Host>
     class Opening;
     template <class Host, class Data>
     class OpenedRecord;
@@ -51,15 +56,20 @@ private:
 /// The database of a document, as modules see it.
 class DatabaseAdapter final : public VxDbDatabase {
 public:
-    explicit DatabaseAdapter(const drawing::Database& database) : m_database(database) {}
+    explicit DatabaseAdapter(Document& document) : m_document(document) {}
 
-    const drawing::Database& database() const { return m_database; }
+    const drawing::Database& database() const;
 
     // VxDbDatabase:
     bool tilemode() const override;
+    VxDbObjectId paperSpaceVportId() const override;
+    double stepSize() const override;
+    double stepsPerSec() const override;
+    bool cameraDisplay() const override;
+    Zorq::ErrorStatus getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) override;
 
 private:
-    const drawing::Database& m_database;
+    Document& m_document;
 };
 
 }  // namespace workbench

@@ -59,7 +59,8 @@ void ViewHistory::objectModified(const drawing::DbObject& object) {
         if (history.earlier.size() > kMostViews)
             history.earlier.erase(history.earlier.begin());
     }
-    m_onViewChanged(object.id());
+    if (!m_quiet)
+        m_onViewChanged(object.id());
 }
 
 }  // namespace workbench

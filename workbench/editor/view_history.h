@@ -25,6 +25,9 @@ public:
     /// Gives a viewport its last view back. False if it has none or can't be changed now.
     bool stepBack(drawing::ObjectId viewport);
 
+    /// While quiet nobody is told of a view that changes: whoever changes it tells.
+    void setQuiet(bool quiet) { m_quiet = quiet; }
+
     // drawing::DatabaseReactor:
     void objectAppended(const drawing::DbObject& object) override;
     void objectModified(const drawing::DbObject& object) override;
@@ -40,6 +43,7 @@ private:
     drawing::Database& m_database;
     std::function<void(drawing::ObjectId)> m_onViewChanged;
     std::map<drawing::ObjectId, History> m_histories;
+    bool m_quiet = false;
     bool m_steppingBack = false;  // the view that is replaced by going back is not kept
 };
 

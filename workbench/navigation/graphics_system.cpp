@@ -20,6 +20,10 @@ const Viewport* lookAt(const DocumentList& documents, drawing::ObjectId viewport
     return document == nullptr ? nullptr : document->data().look<Viewport>(viewport);
 }
 
+VxGePoint3d toPoint(const drawing::Vec3& place) {
+    return {place.x, place.y, place.z};
+}
+
 /// Plain lines are drawn without the graphics system.
 bool isShownFlat(const Document& document, const Viewport& viewport) {
     const auto* style = document.data().look<VisualStyle>(viewport.visualStyle);
@@ -28,15 +32,65 @@ bool isShownFlat(const Document& document, const Viewport& viewport) {
 
 }  // namespace
 
-bool LiveView::isPerspective() const {
+bool ParameterView::isPerspective() const {
     HostCall call("VxGsView::isPerspective");
-    const Viewport* viewport = lookAt(m_documents, m_viewport);
-    return call.returns(!call.failed() && viewport != nullptr && viewport->view.perspective);
+    return call.returns(!call.failed() && parameters().perspective);
 }
 
-bool TemporaryView::isPerspective() const {
-    HostCall call("VxGsView::isPerspective");
-    return call.returns(!call.failed() && m_parameters.perspective);
+VxGePoint3d ParameterView::eyePosition() const {
+    HostCall call("VxGsView::eyePosition");
+    return toPoint(parameters().eye);
+}
+
+VxGePoint3d ParameterView::target() const {
+    HostCall call("VxGsView::target");
+    return toPoint(parameters().target);
+}
+
+VxGeVector3d ParameterView::upVector() const {
+    HostCall call("VxGsView::upVector");
+    const drawing::Vec3 up = parameters().up;
+    return {up.x, up.y, up.z};
+}
+
+double ParameterView::fieldWidth() const {
+    HostCall call("VxGsView::fieldWidth");
+    return call.returns(parameters().width);
+}
+
+double ParameterView::fieldHeight() const {
+    HostCall call("VxGsView::fieldHeight");
+    return call.returns(parameters().height);
+}
+
+void ParameterView::setView(const VxGePoint3d& eye, const VxGePoint3d& target,
+                            const VxGeVector3d& up, double fieldWidth, double fieldHeight,
+                            bool perspective) {
+    HostCall call("VxGsView::setView", {fieldWidth, fieldHeight, perspective});
+    if (call.failed())
+        return;
+    drawing::ViewParameters changed = parameters();
+    changed.eye = {eye.x, eye.y, eye.z};
+    changed.target = {target.x, target.y, target.z};
+    changed.up = {up.x, up.y, up.z};
+    changed.width = fieldWidth;
+    changed.height = fieldHeight;
+    changed.perspective = perspective;
+    setParameters(changed);
+}
+
+void ParameterView::update() {
+    // What is on screen is drawn from the drawing: the journal's record is all of it.
+    HostCall call("VxGsView::update");
+}
+
+drawing::ViewParameters LiveView::parameters() const {
+    const drawing::ViewParameters* view = m_graphics.viewOf(m_viewport);
+    return view == nullptr ? drawing::ViewParameters() : *view;
+}
+
+void LiveView::setParameters(const drawing::ViewParameters& parameters) {
+    m_graphics.changeView(m_viewport, parameters);
 }
 
 VxGsView* GraphicsSystem::liveView(int viewportNumber, bool create) {
@@ -50,7 +104,7 @@ VxGsView* GraphicsSystem::liveView(int viewportNumber, bool create) {
         return nullptr;
     std::unique_ptr<LiveView>& view = m_live[id];
     if (view == nullptr)
-        view = std::make_unique<LiveView>(m_documents, id);
+        view = std::make_unique<LiveView>(*this, id);
     return view.get();
 }
 
@@ -60,6 +114,63 @@ bool GraphicsSystem::copyParameters(int viewportNumber, VxGsView* view) {
     if (target == nullptr || viewport == nullptr)
         return false;
     target->setParameters(viewport->view);
+    return true;
+}
+
+bool GraphicsSystem::applyParameters(int viewportNumber, const VxGsView* view) {
+    const ParameterView* source = findOwn(view);
+    return source != nullptr && changeView(findViewport(viewportNumber), source->parameters());
+}
+
+std::optional<double> GraphicsSystem::lens(int viewportNumber) const {
+    const drawing::ViewParameters* view = viewOf(findViewport(viewportNumber));
+    return view == nullptr ? std::nullopt : std::optional(view->lens);
+}
+
+bool GraphicsSystem::setLens(int viewportNumber, double lens) {
+    const drawing::ObjectId viewport = findViewport(viewportNumber);
+    const drawing::ViewParameters* view = viewOf(viewport);
+    if (view == nullptr || !(lens > 0.0))
+        return false;
+    drawing::ViewParameters changed = *view;
+    changed.lens = lens;
+    // A temporary view made before has its own lens: it is the viewport's that counts.
+    for (const auto& temporary : m_temporary) {
+        drawing::ViewParameters parameters = temporary->parameters();
+        parameters.lens = lens;
+        temporary->setParameters(parameters);
+    }
+    return changeView(viewport, changed);
+}
+
+const drawing::ViewParameters* GraphicsSystem::viewOf(drawing::ObjectId viewport) const {
+    const Viewport* found = lookAt(m_documents, viewport);
+    return found == nullptr ? nullptr : &found->view;
+}
+
+bool GraphicsSystem::changeView(drawing::ObjectId viewport, const drawing::ViewParameters& view) {
+    const drawing::ViewParameters* present = viewOf(viewport);
+    if (present == nullptr)
+        return false;
+    if (*present == view)
+        return true;
+    Document& document = *m_documents.findBySerial(viewport.database());
+    drawing::Database& database = document.data();
+    drawing::UndoLog& log = database.undoLog();
+    const std::size_t before = log.doneCount();
+    document.viewHistory().setQuiet(true);
+    {
+        drawing::Writing<Viewport> writing(database, viewport);
+        if (writing) {
+            writing->view = view;
+            writing->appliedView = {};
+        }
+    }
+    document.viewHistory().setQuiet(false);
+    if (m_undoStepOpen && before == m_undoneGroups && log.doneCount() > before)
+        log.joinLastTwo();
+    m_undoStepOpen = true;
+    m_undoneGroups = log.doneCount();
     return true;
 }
 
@@ -92,6 +203,15 @@ drawing::ObjectId GraphicsSystem::findViewport(int number) const {
         return {};
     const drawing::Database& database = document->data();
     return drawing::findViewport(database, drawing::activeLayout(database), number);
+}
+
+const ParameterView* GraphicsSystem::findOwn(const VxGsView* view) const {
+    if (const TemporaryView* temporary = findTemporary(view))
+        return temporary;
+    const auto found = std::find_if(m_live.begin(), m_live.end(), [view](const auto& entry) {
+        return entry.second.get() == view;
+    });
+    return found == m_live.end() ? nullptr : found->second.get();
 }
 
 TemporaryView* GraphicsSystem::findTemporary(const VxGsView* view) const {

@@ -8,33 +8,57 @@
 #include <cstddef>
 #include <map>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace workbench {
 
 class Document;
 class DocumentList;
+class GraphicsSystem;
 
-/// A view that shows what its viewport shows, for as long as the drawing is open.
-class LiveView final : public VxGsView {
+/// A view as modules see it, wherever its parameters are kept.
+class ParameterView : public VxGsView {
 public:
-    LiveView(DocumentList& documents, drawing::ObjectId viewport)
-        : m_documents(documents),
-          m_viewport(viewport) {}
     // VxGsView:
     bool isPerspective() const override;
+    VxGePoint3d eyePosition() const override;
+    VxGePoint3d target() const override;
+    VxGeVector3d upVector() const override;
+    double fieldWidth() const override;
+    double fieldHeight() const override;
+    void setView(const VxGePoint3d& eye, const VxGePoint3d& target, const VxGeVector3d& up,
+                 double fieldWidth, double fieldHeight, bool perspective) override;
+    void update() override;
+
+    /// What the view shows; that of a new view if the viewport behind it is gone.
+    virtual drawing::ViewParameters parameters() const = 0;
+    virtual void setParameters(const drawing::ViewParameters& parameters) = 0;
+};
+
+/// A view that shows what its viewport shows, for as long as the drawing is open.
+class LiveView final : public ParameterView {
+public:
+    LiveView(GraphicsSystem& graphics, drawing::ObjectId viewport)
+        : m_graphics(graphics),
+          m_viewport(viewport) {}
+    // ParameterView:
+    drawing::ViewParameters parameters() const override;
+    void setParameters(const drawing::ViewParameters& parameters) override;
 
 private:
-    DocumentList& m_documents;
+    GraphicsSystem& m_graphics;
     drawing::ObjectId m_viewport;
 };
 
 /// A view with parameters of its own.
-class TemporaryView final : public VxGsView {
+class TemporaryView final : public ParameterView {
 public:
-    void setParameters(const drawing::ViewParameters& parameters) { m_parameters = parameters; }
-    // VxGsView:
-    bool isPerspective() const override;
+    // ParameterView:
+    drawing::ViewParameters parameters() const override { return m_parameters; }
+    void setParameters(const drawing::ViewParameters& parameters) override {
+        m_parameters = parameters;
+    }
 
 private:
     drawing::ViewParameters m_parameters;
@@ -54,6 +78,22 @@ public:
     /// Copies a viewport's parameters into a temporary view. False for another view, and without
     /// such a viewport.
     bool copyParameters(int viewportNumber, VxGsView* view);
+    /// Writes the parameters of one of the views to a viewport. False for another view, and without
+    /// such a viewport.
+    bool applyParameters(int viewportNumber, const VxGsView* view);
+    /// The lens of a viewport of the current document's space, in millimetres; nothing without such
+    /// a viewport.
+    std::optional<double> lens(int viewportNumber) const;
+    /// Sets it. False without such a viewport and for a lens that isn't above 0.
+    bool setLens(int viewportNumber, double lens);
+    /// What is changed of the views from now on is taken back by one undo.
+    void beginUndoStep() { m_undoStepOpen = false; }
+
+    /// What a viewport shows; null for none.
+    const drawing::ViewParameters* viewOf(drawing::ObjectId viewport) const;
+    /// Changes what a viewport shows, which then shows no named view any more. Nobody is told. False
+    /// without the viewport.
+    bool changeView(drawing::ObjectId viewport, const drawing::ViewParameters& view);
     /// How many temporary views were not deleted.
     std::size_t temporaryCount() const { return m_temporary.size(); }
 
@@ -66,10 +106,13 @@ public:
 private:
     drawing::ObjectId findViewport(int number) const;
     TemporaryView* findTemporary(const VxGsView* view) const;
+    const ParameterView* findOwn(const VxGsView* view) const;
 
     DocumentList& m_documents;
     std::map<drawing::ObjectId, std::unique_ptr<LiveView>> m_live;
     std::vector<std::unique_ptr<TemporaryView>> m_temporary;
+    bool m_undoStepOpen = false;     // the next change joins the last one's undo
+    std::size_t m_undoneGroups = 0;  // of the drawing's log, when the step's last change was made
 };
 
 }  // namespace workbench

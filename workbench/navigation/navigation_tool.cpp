@@ -1,5 +1,8 @@
 #include "workbench/navigation/navigation_tool.h"
 
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/view.h"
+#include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
 #include "workbench/navigation/navigation_commands.h"
 
@@ -70,6 +73,47 @@ void NavigationTool::switchMode(int mode) {
 
 void NavigationTool::showWalkSettings() {
     showDialog("Walk and Fly Settings");
+}
+
+template <class Change>
+void NavigationTool::changeView(Change change) {
+    Document* document = m_editor.documents().current();
+    if (document == nullptr)
+        return;
+    drawing::Writing<drawing::Viewport> writing(document->data(),
+                                                drawing::activeViewport(document->data()));
+    if (!writing)
+        return;
+    writing->appliedView = {};
+    change(*writing);
+}
+
+void NavigationTool::setLens(double lens) {
+    if (lens > 0.0)
+        changeView([lens](drawing::Viewport& viewport) { viewport.view.lens = lens; });
+}
+
+void NavigationTool::restorePreset(PresetView preset) {
+    changeView([preset](drawing::Viewport& viewport) { turnTo(viewport.view, preset); });
+}
+
+void NavigationTool::restoreNamed(drawing::ObjectId view) {
+    const Document* document = m_editor.documents().current();
+    const auto* named = document == nullptr ? nullptr : document->data().look<drawing::View>(view);
+    if (named == nullptr)
+        return;
+    changeView([named, view](drawing::Viewport& viewport) {
+        viewport.view = named->view;
+        viewport.appliedView.id = view;
+    });
+}
+
+void NavigationTool::moveCamera(const drawing::Vec3& eye) {
+    changeView([&eye](drawing::Viewport& viewport) { viewport.view.eye = eye; });
+}
+
+void NavigationTool::moveTarget(const drawing::Vec3& target) {
+    changeView([&target](drawing::Viewport& viewport) { viewport.view.target = target; });
 }
 
 void NavigationTool::recordAnimation() {

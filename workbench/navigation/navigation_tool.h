@@ -2,6 +2,7 @@
 
 #include "workbench/core/journal.h"
 #include "workbench/navigation/graphics_system.h"
+#include "workbench/navigation/preset_views.h"
 #include "workbench/navigation/tool.h"
 
 #include <optional>
@@ -54,6 +55,15 @@ public:
     /// Shows the settings of walking and flying.
     void showWalkSettings();
 
+    // What the running tool does with the current viewport's view; the host is told of the change.
+
+    void setLens(double lens);
+    void restorePreset(PresetView preset);
+    /// Takes the parameters of a named view; nothing for another object.
+    void restoreNamed(drawing::ObjectId view);
+    void moveCamera(const drawing::Vec3& eye);
+    void moveTarget(const drawing::Vec3& target);
+
     AnimationState animation() const { return m_animation; }
     /// Starts recording, or goes on with it.
     void recordAnimation();
@@ -68,6 +78,8 @@ public:
     GraphicsSystem& graphics() { return m_graphics; }
 
 private:
+    template <class Change>
+    void changeView(Change change);
     void setAnimation(AnimationState state);
     void showDialog(const char* name);
     void noteMode();

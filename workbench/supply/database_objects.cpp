@@ -32,7 +32,6 @@ Zorq::ErrorStatus vxdbOpenObject(VxDbObject*& object, VxDbObjectId id, VxDbOpenM
     Document* document = documentOf(id);
     if (document == nullptr)
         return call.returns(toHostStatus(drawing::Status::unknownId));
-    const drawing::OpenMode how =
-        mode == VxDbOpenMode::kForWrite ? drawing::OpenMode::Write : drawing::OpenMode::Read;
-    return call.returns(toHostStatus(document->openObjects().open(fromHostId(id), how, object)));
+    return call.returns(
+        toHostStatus(document->openObjects().open(fromHostId(id), openModeOf(mode), object)));
 }

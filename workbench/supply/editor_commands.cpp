@@ -1,7 +1,6 @@
 #include "workbench/commands/command_processor.h"
 #include "workbench/core/host_call.h"
 #include "workbench/core/workbench.h"
-#include "workbench/drawing/lookup.h"
 #include "workbench/editor/editor.h"
 
 #include <hostapi/zorq/commands.h>
@@ -41,9 +40,8 @@ void vxedHelp(const wchar_t* file, const wchar_t* topic, int command) {
     HostCall call("vxedHelp", {file, topic, command});
 }
 
-void vxInternalZoomBack() {
-    HostCall call("vxInternalZoomBack");
-    Document* document = documents().current();
-    if (!call.failed() && document != nullptr)
-        document->viewHistory().stepBack(workbench::drawing::activeViewport(document->data()));
+bool vxedCommandActive() {
+    HostCall call("vxedCommandActive");
+    const Document* document = documents().current();
+    return call.returns(!call.failed() && document != nullptr && document->processor().isActive());
 }

@@ -1,6 +1,8 @@
 #include "workbench/core/workbench.h"
+#include "workbench/editor/object_adapters.h"
 #include "workbench/modules/module_start.h"
 #include "workbench/navigation/navigation_tool.h"
+#include "workbench/navigation/preset_views.h"
 
 #include <hostapi/export.h>
 #include <hostapi/zorq/views.h>
@@ -18,6 +20,10 @@ workbench::NavigationTool& navigation() {
     return workbench::Workbench::current().navigation();
 }
 
+bool isRunning(const CTool* tool) {
+    return tool != nullptr && tool == navigation().tool();
+}
+
 }  // namespace
 
 VXDA_EXPORT int vxrxGetApiVersion() {
@@ -30,8 +36,38 @@ VXDA_EXPORT int vxrxEntryPoint(int message, void* appPacket) {
 
 /// Changes the mode of the running tool, or the projection of its view; another tool is left alone.
 VXDA_EXPORT void navSwitchNavMode(CTool* tool, int mode) {
-    if (tool != nullptr && tool == navigation().tool())
+    if (isRunning(tool))
         navigation().switchMode(mode);
+}
+
+/// Gives the view of the running tool a lens in millimetres; another tool is left alone.
+VXDA_EXPORT void navUpdateLensLength(CTool* tool, double lens) {
+    if (isRunning(tool))
+        navigation().setLens(lens);
+}
+
+/// Turns the view of the running tool to a preset by its number.
+VXDA_EXPORT void navRestorePresetView(CTool* tool, int preset) {
+    if (isRunning(tool) && preset >= 0 && preset < workbench::kPresetViewCount)
+        navigation().restorePreset(static_cast<workbench::PresetView>(preset));
+}
+
+/// Gives the view of the running tool the parameters of a named view.
+VXDA_EXPORT void navRestoreNamedView(CTool* tool, VxDbObjectId view) {
+    if (isRunning(tool))
+        navigation().restoreNamed(workbench::fromHostId(view));
+}
+
+/// Moves the camera of the running tool.
+VXDA_EXPORT void navUpdateCameraPosition(CTool* tool, double x, double y, double z) {
+    if (isRunning(tool))
+        navigation().moveCamera({x, y, z});
+}
+
+/// Moves what the camera of the running tool looks at.
+VXDA_EXPORT void navUpdateCameraTarget(CTool* tool, double x, double y, double z) {
+    if (isRunning(tool))
+        navigation().moveTarget({x, y, z});
 }
 
 /// Shows the settings of walking and flying.
