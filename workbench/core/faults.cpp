@@ -11,6 +11,12 @@ void Faults::unfail(std::string_view call) {
         m_faults.erase(found);
 }
 
+void Faults::endLasting(std::string_view call) {
+    const auto found = m_faults.find(call);
+    if (found != m_faults.end() && !found->second.left)
+        m_faults.erase(found);
+}
+
 void Faults::hide(std::string_view library, std::string_view symbol) {
     m_hidden.emplace(library, symbol);
 }

@@ -17,6 +17,8 @@ public:
     /// `unfail`. An earlier fault of the call is replaced.
     void fail(std::string_view call, std::optional<int> status = {}, std::optional<int> count = {});
     void unfail(std::string_view call);
+    /// Ends a fault that was given no count.
+    void endLasting(std::string_view call);
 
     /// Makes a library, or one symbol of it, impossible to find. Names are exact.
     void hide(std::string_view library, std::string_view symbol = {});

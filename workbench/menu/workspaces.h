@@ -18,6 +18,9 @@ public:
     /// The current workspace's name; empty if the menu has no workspaces.
     const std::string& current() const { return m_current; }
 
+    /// All of the menu's.
+    const std::vector<Workspace>& all() const { return m_workspaces; }
+
     /// Makes a workspace current and asks the panels to follow, also if it was current before.
     /// False, and nothing is changed, if there is none of this name (exact comparison).
     bool switchTo(std::string_view name);

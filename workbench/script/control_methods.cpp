@@ -1,10 +1,13 @@
 #include "workbench/base/text.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/key_gestures.h"
+#include "workbench/gestures/list_gestures.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
 #include "workbench/script/handles.h"
+#include "workbench/script/lua_values.h"
 #include "workbench/script/script_error.h"
+#include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/windows/window_parts.h"
@@ -18,6 +21,8 @@ namespace {
 
 constexpr const char* kSlider = "slider";
 constexpr const char* kEdit = "edit";
+constexpr const char* kCombo = "combo";
+constexpr const char* kSeparatorText = "-";
 
 WindowSystem& windows(Session& session) {
     return session.workbench().windows();
@@ -163,9 +168,92 @@ int wheel(Session& session, Arguments& arguments) {
     return pushTruth(arguments.lua(), taken);
 }
 
-/// The tooltip of the slider, or of a field.
+HWND listOf(Session& session, const Arguments& arguments) {
+    return partOf(session, arguments, kCombo);
+}
+
+const ComboWidget& comboOf(Session& session, const Arguments& arguments) {
+    const Window* window = windows(session).find(listOf(session, arguments));
+    return dynamic_cast<const ComboWidget&>(*window->widget);
+}
+
+std::string entryText(const ComboWidget& combo, int index) {
+    const QRUI_COMBO_CTRL_ITEM& entry = *combo.entry(index);
+    return entry.separator != 0 ? kSeparatorText : toUtf8(entry.text);
+}
+
+int items(Session& session, Arguments& arguments) {
+    const ComboWidget& combo = comboOf(session, arguments);
+    std::vector<std::string> texts;
+    for (int i = 0; i < combo.count(); ++i)
+        texts.push_back(entryText(combo, i));
+    push(arguments.lua(), texts);
+    return 1;
+}
+
+int selected(Session& session, Arguments& arguments) {
+    const int index = comboOf(session, arguments).selected();
+    if (index < 0)
+        lua_pushnil(arguments.lua());
+    else
+        lua_pushinteger(arguments.lua(), index);
+    return 1;
+}
+
+/// The index that an argument names: a number itself, a text that of the first entry of it.
+int indexArgument(const ComboWidget& combo, const Arguments& arguments) {
+    const Value wanted = arguments.value(1);
+    if (wanted.isInteger())
+        return arguments.int32(1);
+    const std::string text = arguments.text(1);
+    for (int i = 0; i < combo.count(); ++i) {
+        if (entryText(combo, i) == text)
+            return i;
+    }
+    throw ScriptError("the list has no entry \"" + text + "\"");
+}
+
+int pick(Session& session, Arguments& arguments) {
+    const HWND list = listOf(session, arguments);
+    bool taken = gestures::openList(list);
+    session.settle();
+    if (taken) {
+        int index = 0;
+        try {
+            index = indexArgument(comboOf(session, arguments), arguments);
+        } catch (const ScriptError&) {
+            gestures::closeList(list);
+            throw;
+        }
+        taken = gestures::chooseFromList(list, index);
+        session.settle();
+    }
+    return pushTruth(arguments.lua(), taken);
+}
+
+int open(Session& session, Arguments& arguments) {
+    const bool taken = gestures::openList(listOf(session, arguments));
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
+int close(Session& session, Arguments& arguments) {
+    const bool taken = gestures::closeList(listOf(session, arguments));
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
+/// The part that a control is known by where none is named: its slider, or its list.
+HWND mainPart(Session& session, const Arguments& arguments) {
+    const HWND control = controlOf(session, arguments);
+    const HWND main = findPart(windows(session), control, kSlider);
+    return main == nullptr ? partOf(session, arguments, kCombo) : main;
+}
+
+/// The tooltip of the slider or list, or of a field.
 int tip(Session& session, Arguments& arguments) {
-    const HWND part = partOf(session, arguments, arguments.optionalText(1).value_or(kSlider));
+    const HWND part = arguments.has(1) ? partOf(session, arguments, arguments.text(1))
+                                       : mainPart(session, arguments);
     const Window* window = windows(session).find(part);
     const auto* widget = dynamic_cast<const ControlWidget*>(window->widget.get());
     lua_pushstring(arguments.lua(), widget == nullptr ? "" : toUtf8(widget->tip()).c_str());
@@ -178,14 +266,19 @@ const std::vector<Call>& controlMethods() {
     static const std::vector<Call> calls{
         {"blur", blur, CallKind::Acts},
         {"click", click, CallKind::Acts},
+        {"close", close, CallKind::Acts},
         {"drag", drag, CallKind::Acts},
         {"enabled", enabled},
         {"enter", enter, CallKind::Acts},
         {"focus", focus, CallKind::Acts},
+        {"items", items},
         {"key", key, CallKind::Acts},
+        {"open", open, CallKind::Acts},
+        {"pick", pick, CallKind::Acts},
         {"put", put, CallKind::Acts},
         {"range", range},
         {"release", release, CallKind::Acts},
+        {"selected", selected},
         {"slider", slider},
         {"text", text},
         {"tip", tip},

@@ -22,3 +22,8 @@ void CQrUiInputEditCtrl::SetToolTipText(const VxString& text) {
     if (EditWidget* const edit = workbench::supply::windows().widgetOf<EditWidget>(this))
         edit->setTip(text);
 }
+
+void CQrUiInputEditCtrl::SetBkNorm(COLORREF colour) {
+    if (EditWidget* const edit = workbench::supply::windows().widgetOf<EditWidget>(this))
+        edit->setBackground(colour);
+}

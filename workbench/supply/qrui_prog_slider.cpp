@@ -1,6 +1,7 @@
 #include "workbench/core/host_call.h"
 #include "workbench/supply/qrui_window.h"
 #include "workbench/toolkit/slider_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/qrui18/prog_slider.h>
 
@@ -23,7 +24,9 @@ BOOL CQrUiProgSliderCtrl::Create(DWORD style, const CRect& rect, CWnd* parent, U
         return call.returns(0);
     using namespace workbench::supply;
     auto creation = creationOf("CQrUiProgSliderCtrl", style, rect, parent, id);
-    const bool made = createChild(*this, std::move(creation), std::make_unique<SliderWidget>());
+    auto widget = std::make_unique<SliderWidget>();
+    widget->setStyle(toolkitStyle);
+    const bool made = createChild(*this, std::move(creation), std::move(widget));
     return call.returns(made ? 1 : 0);
 }
 
@@ -43,6 +46,7 @@ void CQrUiProgSliderCtrl::SetSliderTick(int position) {
 }
 
 void CQrUiProgSliderCtrl::SetSliderPos(int position) {
+    const HostCall call("CQrUiProgSliderCtrl::SetSliderPos", {position});
     if (SliderWidget* const slider = widgetOf(*this))
         slider->setPosition(*windows().find(m_hWnd), position);
 }
@@ -55,4 +59,20 @@ int CQrUiProgSliderCtrl::GetSliderPos() const {
 void CQrUiProgSliderCtrl::SetToolTipText(const VxString& text) {
     if (SliderWidget* const slider = widgetOf(*this))
         slider->setTip(text);
+}
+
+UINT CQrUiProgSliderCtrl::GetControlStyle() const {
+    const SliderWidget* const slider = widgetOf(*this);
+    return slider == nullptr ? 0 : slider->style();
+}
+
+void CQrUiProgSliderCtrl::SetControlStyle(UINT style) {
+    if (SliderWidget* const slider = widgetOf(*this))
+        slider->setStyle(style);
+}
+
+void CQrUiProgSliderCtrl::ShowToolTip() {
+    const HostCall call("CQrUiProgSliderCtrl::ShowToolTip");
+    if (const SliderWidget* const slider = widgetOf(*this))
+        workbench::Workbench::current().toolkit().toolTips().show(m_hWnd, slider->tip());
 }

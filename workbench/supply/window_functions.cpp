@@ -35,6 +35,14 @@ LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return Workbench::current().windows().send(window, message, wParam, lParam);
 }
 
+short GetKeyState(int key) {
+    HostCall call("GetKeyState", {key});
+    constexpr short kDown = -128;
+    constexpr short kUp = 0;
+    const bool held = !call.failed() && Workbench::current().windows().isHeld(key);
+    return held ? kDown : kUp;
+}
+
 int GetSystemMetrics(int index) {
     HostCall call("GetSystemMetrics", {index});
     return call.returns(!call.failed() && index == SM_CXSIZEFRAME ? kSizeFrameWidth : 0);

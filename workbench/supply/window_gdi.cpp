@@ -30,6 +30,10 @@ BOOL CFont::CreateFontIndirect(const LOGFONT& font) {
     return call.returns(1);
 }
 
+CDC* CDC::FromHandle(HDC context) {
+    return gdi().findContext(context);
+}
+
 BOOL DestroyIcon(HICON icon) {
     HostCall call("DestroyIcon");
     if (call.failed())

@@ -109,6 +109,10 @@ DWORD CWnd::GetStyle() const {
     return window == nullptr ? 0 : window->style;
 }
 
+void CWnd::SetFont(CFont* font, BOOL redraw) {
+    SendMessage(WM_SETFONT, font == nullptr ? 0 : font->GetSafeHandle(), redraw);
+}
+
 BOOL CWnd::IsWindowEnabled() const {
     const Window* const window = windowOf(this);
     return window != nullptr && window->enabled ? 1 : 0;

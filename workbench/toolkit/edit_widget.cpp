@@ -34,6 +34,12 @@ bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPar
     case kLeftButtonDown:
         press(window, unpackPoint(lParam));
         return true;
+    case EM_SETSEL:
+        // The one selection that is asked for is that of all.
+        selectAll(window);
+        return true;
+    case EM_SCROLLCARET:
+        return true;
     case kCharMessage:
         character(window, static_cast<wchar_t>(wParam));
         return true;

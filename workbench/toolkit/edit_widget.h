@@ -14,6 +14,9 @@ public:
     /// The text with caret and selection, as they stand now.
     const LineEditor& editor(const Window& window);
     void selectAll(Window& window);
+    /// The colour behind the text.
+    COLORREF background() const { return m_background; }
+    void setBackground(COLORREF colour) { m_background = colour; }
 
     // ControlWidget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
@@ -28,6 +31,7 @@ private:
     void showText(Window& window);
 
     LineEditor m_editor;
+    COLORREF m_background = 0xffffff;
 };
 
 }  // namespace workbench

@@ -26,6 +26,9 @@ public:
 
     void setRange(Window& window, int lowest, int highest);
     void setLineSize(int positions) { m_lineSize = positions; }
+    /// The `SetControlStyle` bits.
+    UINT style() const { return m_style; }
+    void setStyle(UINT style) { m_style = style; }
     void addTick(int position) { m_ticks.push_back(position); }
     /// Moves the thumb without telling the parent.
     void setPosition(Window& window, int position);
@@ -55,6 +58,7 @@ private:
     int m_highest = 100;
     int m_position = 0;
     int m_lineSize = 1;
+    UINT m_style = 0;
     std::vector<int> m_ticks;
     std::optional<Drag> m_drag;  // nothing: no button is held
 };

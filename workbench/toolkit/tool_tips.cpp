@@ -50,6 +50,14 @@ void ToolTips::mouseOver(HWND window, const std::wstring& text) {
     m_windows.setTimer(m_clock.m_hWnd, kRestTimer, kRestMs);
 }
 
+void ToolTips::show(HWND window, const std::wstring& text) {
+    if (window == m_over && text == m_shown)
+        return;
+    m_over = window;
+    m_text = text;
+    showNow();
+}
+
 void ToolTips::hide() {
     m_windows.killTimer(m_clock.m_hWnd, kRestTimer);
     m_over = nullptr;

@@ -19,6 +19,8 @@ public:
     /// The mouse moved over a part of a window that has a text; an empty one has no tooltip. The
     /// wait begins anew if window or text differ from before.
     void mouseOver(HWND window, const std::wstring& text);
+    /// Shows a text of a window at once, in place of the one on show.
+    void show(HWND window, const std::wstring& text);
     /// The mouse went elsewhere, or a button was pressed.
     void hide();
     /// The text on show; empty for none.

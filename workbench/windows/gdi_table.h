@@ -28,9 +28,16 @@ public:
     /// How many icons live.
     std::size_t iconCount() const { return m_icons.count(); }
 
+    /// Gives a device context a handle for as long as it draws.
+    HDC addContext(CDC& context);
+    /// The context of a handle; null for a stale one.
+    CDC* findContext(HDC context) const;
+    void removeContext(HDC context) { m_contexts.take(context); }
+
 private:
     HandleTable<WPARAM, LOGFONT> m_fonts;
     HandleTable<HICON, PngPicture> m_icons;
+    HandleTable<HDC, CDC*> m_contexts;  // not owned
 };
 
 }  // namespace workbench

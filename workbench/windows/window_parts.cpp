@@ -2,6 +2,8 @@
 
 #include "workbench/windows/window_system.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace workbench {
@@ -14,6 +16,7 @@ struct PartWord {
 };
 
 constexpr PartWord kPartWords[] = {
+    {"CQrUiComboCtrl", "combo"},
     {"CQrUiProgSliderCtrl", "slider"},
     {"CQrUiInputEditCtrl", "edit"},
     {"CQrUiQuickStartLink", "link"},
@@ -28,12 +31,25 @@ std::string_view partWord(const Window& window) {
     return window.className;
 }
 
+/// The fields of a strip are called after coordinates, by their places in it; others by no such name.
+std::string_view coordinateName(const WindowSystem& windows, HWND field) {
+    constexpr std::string_view kNames[] = {"x", "y", "z"};
+    const Window* const strip = windows.find(windows.find(field)->parent);
+    if (strip == nullptr || strip->className != "CQrUiCtrlContainer")
+        return {};
+    const auto place = std::find(strip->children.begin(), strip->children.end(), field);
+    const auto index = static_cast<std::size_t>(place - strip->children.begin());
+    return index < std::size(kNames) ? kNames[index] : std::string_view();
+}
+
 }  // namespace
 
 std::string partName(const WindowSystem& windows, HWND window) {
     const HWND owner = windows.owner(window);
     if (owner == nullptr || owner == window)
         return {};
+    if (const std::string_view coordinate = coordinateName(windows, window); !coordinate.empty())
+        return std::string(coordinate);
     const std::string_view word = partWord(*windows.find(window));
     int number = 0;
     for (const HWND part : windows.descendants(owner)) {

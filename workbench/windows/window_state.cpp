@@ -30,6 +30,13 @@ void WindowSystem::sendPosChanged(HWND window, UINT flags) {
         dropFocusWithin(window);
 }
 
+void WindowSystem::hold(int key, bool down) {
+    if (down)
+        m_held.insert(key);
+    else
+        m_held.erase(key);
+}
+
 void WindowSystem::enable(HWND window, bool enabled) {
     Window* const found = find(window);
     if (found == nullptr || found->enabled == enabled)

@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -106,6 +107,9 @@ public:
     // State.
 
     HWND focus() const { return m_focus; }
+    /// The keys that the user holds down.
+    bool isHeld(int key) const { return m_held.contains(key); }
+    void hold(int key, bool down);
     /// Moves the focus; null takes it from all. The parents of windows that report it are told once
     /// it has moved, that of the old window first. False, and nothing happens, for a window that is
     /// stale, dying, not on screen or disabled.
@@ -203,6 +207,7 @@ private:
     std::deque<Posted> m_posted;
     HWND m_focus = nullptr;
     HWND m_reportedFocus = nullptr;  // whose parent got EN_SETFOCUS and not yet EN_KILLFOCUS
+    std::set<int> m_held;
     std::uint64_t m_focusMoves = 0;  // tells a handler's own move of the focus
     std::uint64_t m_timersStarted = 0;
     Observer m_observer;

@@ -3,11 +3,10 @@
 #include <hostapi/export.h>
 #include <hostapi/window.h>
 
-/// A strip of controls side by side that share its width evenly.
+/// A strip of controls side by side that share its width evenly. The controls end with its window.
 class VXHOST CQrUiCtrlContainer : public CWnd {
 public:
     CQrUiCtrlContainer() = default;
-    /// Ends the controls with it.
     ~CQrUiCtrlContainer() override;
 
     /// Creates the window. Returns 0 on failure.
@@ -19,9 +18,4 @@ public:
     CWnd* GetItem(int index) const;
     /// Pixels between two controls.
     void SetMargin(int pixels);
-
-    const MessageMap& GetMessageMap() const override;
-
-protected:
-    static const MessageMap& GetThisMessageMap();
 };

@@ -28,9 +28,10 @@ constexpr UINT EN_SETFOCUS = 256;   ///< An edit field got the focus.
 constexpr UINT EN_KILLFOCUS = 512;  ///< An edit field lost the focus.
 
 /// What a combo tells its parent.
-constexpr UINT CBN_DROPDOWN = 7;  ///< The list opens.
-constexpr UINT CBN_CLOSEUP = 8;   ///< The list closed.
-constexpr UINT CBN_SELENDOK = 9;  ///< An entry was chosen.
+constexpr UINT CBN_SELCHANGE = 1;  ///< Another entry is selected now.
+constexpr UINT CBN_DROPDOWN = 7;   ///< The list opens.
+constexpr UINT CBN_CLOSEUP = 8;    ///< The list closed.
+constexpr UINT CBN_SELENDOK = 9;   ///< An entry was chosen.
 
 constexpr UINT EM_SETSEL = 177;       ///< Selects from wParam to lParam; -1 is the end.
 constexpr UINT EM_SCROLLCARET = 183;  ///< Scrolls the caret into view.

@@ -23,6 +23,7 @@ const VariableTable& variableTable() {
         VariableTable table;
         addSessionVariables(table);
         addSpaceVariables(table);
+        addObjectVariables(table);
         addUnitVariables(table);
         addTextVariables(table);
         addLayerVariables(table);

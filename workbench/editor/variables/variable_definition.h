@@ -65,6 +65,7 @@ void addLightVariables(VariableTable& table);
 void addNavigationVariables(VariableTable& table);
 void addSpaceVariables(VariableTable& table);
 void addTextVariables(VariableTable& table);
+void addObjectVariables(VariableTable& table);
 void addUnitVariables(VariableTable& table);
 void addVisualStyleVariables(VariableTable& table);
 /// @}

@@ -1,0 +1,23 @@
+#include "workbench/core/host_call.h"
+#include "workbench/core/workbench.h"
+#include "workbench/toolbar/toolbar_window.h"
+
+#include <hostapi/qrui18/toolbar_control.h>
+
+CWnd* getVxToolbarControl(CWnd* parent, const CRect& rect, UINT id) {
+    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), id});
+    CWnd* control = call.failed() ? nullptr : workbench::makeToolbarWindow(parent, rect, id);
+    return call.returns(control);
+}
+
+int HandleToolbarComboMessage(UINT id, UINT notification, WPARAM wParam, LPARAM lParam) {
+    workbench::HostCall call("HandleToolbarComboMessage", {id, notification, wParam});
+    if (call.failed()) {
+        // Whoever asks goes on until it is taken: a refusal without a count would be one for ever.
+        workbench::Workbench::current().faults().endLasting("HandleToolbarComboMessage");
+        return call.returns(call.status(0));
+    }
+    // A command of no control of the host is taken too: nobody else waits for it.
+    workbench::handleToolbarNotice(reinterpret_cast<HWND>(lParam), id, notification);
+    return call.returns(1);
+}

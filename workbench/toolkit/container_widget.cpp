@@ -1,0 +1,64 @@
+#include "workbench/toolkit/container_widget.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/windows/window_system.h"
+
+#include <algorithm>
+
+namespace workbench {
+
+namespace {
+
+WindowSystem& windows() {
+    return Workbench::current().windows();
+}
+
+}  // namespace
+
+void ContainerWidget::add(Window& window, std::unique_ptr<CWnd> control) {
+    m_controls.push_back(std::move(control));
+    layOut(window);
+}
+
+void ContainerWidget::setMargin(Window& window, int pixels) {
+    m_margin = std::max(pixels, 0);
+    layOut(window);
+}
+
+CWnd* ContainerWidget::control(int index) const {
+    return index >= 0 && index < count() ? m_controls[static_cast<std::size_t>(index)].get()
+                                         : nullptr;
+}
+
+bool ContainerWidget::handle(Window& window, UINT message, WPARAM /*wParam*/, LPARAM /*lParam*/,
+                             LRESULT& /*answer*/) {
+    if (message != WM_SIZE)
+        return false;
+    layOut(window);
+    return true;
+}
+
+void ContainerWidget::layOut(const Window& window) {
+    if (m_controls.empty())
+        return;
+    const int width = window.rect.Width() - m_margin * (count() - 1);
+    for (int i = 0; i < count(); ++i) {
+        const Window* const control = windows().find(this->control(i)->m_hWnd);
+        if (control == nullptr)
+            continue;
+        const int left = width * i / count() + m_margin * i;
+        const int right = width * (i + 1) / count() + m_margin * i;
+        windows().place(control->handle, {left, 0, right, control->rect.Height()});
+    }
+}
+
+int ContainerWidget::naturalHeight(const Window& window, int /*width*/) const {
+    int height = window.rect.Height();
+    for (const auto& control : m_controls) {
+        if (const Window* const found = windows().find(control->m_hWnd))
+            height = std::max(height, found->rect.Height());
+    }
+    return height;
+}
+
+}  // namespace workbench
