@@ -52,8 +52,8 @@ void ContainerWidget::layOut(const Window& window) {
     }
 }
 
-int ContainerWidget::naturalHeight(const Window& window, int /*width*/) const {
-    int height = window.rect.Height();
+int ContainerWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
+    int height = 0;
     for (const auto& control : m_controls) {
         if (const Window* const found = windows().find(control->m_hWnd))
             height = std::max(height, found->rect.Height());
