@@ -79,6 +79,7 @@ TEST_P(NavigationModeTest, SwitchesTheRunningToolToItsMode) {
 }
 
 TEST_P(NavigationModeTest, DoesNothingWhileTheModuleIsAway) {
+    bench().faults().hide("VxVmTools.qlx");
     startOrbit();
     click(item(GetParam().id));
     EXPECT_TRUE(sent().empty());
@@ -112,10 +113,18 @@ struct FunctionCase {
 };
 
 class NavigationFunctionTest : public ToolClicksTest,
-                               public testing::WithParamInterface<FunctionCase> {};
+                               public testing::WithParamInterface<FunctionCase> {
+protected:
+    /// Clicks the tool, which only a running navigation tool enables.
+    void clickTool() {
+        CQrUiToolPanelItem* tool = item(GetParam().id);
+        tool->SetState(0);
+        click(tool);
+    }
+};
 
 TEST_P(NavigationFunctionTest, LoadsTheModuleAndCallsItsFunction) {
-    click(item(GetParam().id));
+    clickTool();
     EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVmTools"));
     EXPECT_TRUE(askedFor(GetParam().symbol));
     EXPECT_TRUE(sent().empty());
@@ -123,7 +132,7 @@ TEST_P(NavigationFunctionTest, LoadsTheModuleAndCallsItsFunction) {
 
 TEST_P(NavigationFunctionTest, ModuleThatIsAwayGivesTheOneBoxWithItsName) {
     bench().faults().hide("VxVmTools.qlx");
-    click(item(GetParam().id));
+    clickTool();
     const auto boxes = texts("box");
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_NE(boxes[0].find("VxVmTools.qlx"), std::string::npos);
@@ -131,7 +140,7 @@ TEST_P(NavigationFunctionTest, ModuleThatIsAwayGivesTheOneBoxWithItsName) {
 
 TEST_P(NavigationFunctionTest, MissingSymbolEndsTheClickSilently) {
     bench().faults().hide("VxVmTools.qlx", GetParam().symbol);
-    click(item(GetParam().id));
+    clickTool();
     EXPECT_TRUE(texts("box").empty());
     EXPECT_TRUE(sent().empty());
 }

@@ -19,6 +19,13 @@ protected:
     void setDb(const std::string& path, const workbench::Value& value) {
         workbench::drawing::setByPath(bench().editor().documents().current()->data(), path, value);
     }
+    /// The same, with nobody told of a view that changes.
+    void setDbQuietly(const std::string& path, const workbench::Value& value) {
+        workbench::ViewHistory& history = bench().editor().documents().current()->viewHistory();
+        history.setQuiet(true);
+        setDb(path, value);
+        history.setQuiet(false);
+    }
     double number(const std::string& path) { return db(path).asReal(); }
     /// A named view of the present view.
     void addView(const std::string& name) { setDb("views." + name, workbench::Value::Table{}); }

@@ -15,13 +15,22 @@ protected:
     void SetUp() override {
         showControl("3DNavZoomSliderControl");
         set(L"PERSPECTIVE", 1);
+        set(L"LUPREC", 2);
         setLens(50.0);
         announce(L"CVPORT");
         journal();
     }
 
-    void setLens(double lens) { setDb("viewports.current.lens", lens); }
+    void setLens(double lens) { setDbQuietly("viewports.current.lens", lens); }
     double lens() { return db("viewports.current.lens").asReal(); }
+    /// Goes to a locked viewport of a layout; a tile of model space has no lock.
+    void lockViewport() {
+        openDrawing("examples/house.json");
+        set(L"TILEMODE", 0);
+        set(L"CVPORT", 2);
+        set(L"PERSPECTIVE", 1);
+        setDb("viewports.current.locked", true);
+    }
     void endACommand() {
         begin(L"LINE");
         finish();
@@ -143,7 +152,7 @@ TEST_F(ZoomSliderTest, UnreadableLensLeavesTheControlsAsTheyAre) {
     fail("vxgsGetLensLength");
     announce(L"CVPORT");
     EXPECT_EQ(position(), 500);
-    EXPECT_EQ(text("edit"), L"50");
+    EXPECT_EQ(text("edit"), L"50.00");
 }
 
 TEST_F(ZoomSliderTest, SliderIsNotTouchedWhileItStandsRight) {
@@ -162,7 +171,7 @@ TEST_F(ZoomSliderTest, DragSetsTheLensRecordsEachStepAndTellsTheHost) {
     EXPECT_EQ(std::count(made.begin(), made.end(), "vxedSendViewChanged"), 2);
     EXPECT_EQ(std::count(made.begin(), made.end(), "VxViewMgrDlg::viewComboClear"), 2);
     EXPECT_DOUBLE_EQ(lens(), 70.0);
-    EXPECT_EQ(text("edit"), L"70");
+    EXPECT_EQ(text("edit"), L"70.00");
     release();
 }
 
@@ -182,7 +191,7 @@ TEST_F(ZoomSliderTest, PositionOfTheRightEndIsTheLongestLens) {
 }
 
 TEST_F(ZoomSliderTest, DragInALockedViewportStillChangesTheView) {
-    setDb("viewports.current.locked", true);
+    lockViewport();
     drag({850});
     EXPECT_DOUBLE_EQ(lens(), 85.0);
     release();
@@ -202,7 +211,7 @@ TEST_F(ZoomSliderTest, EnteredLensIsApplied) {
     enter(L"35");
     EXPECT_DOUBLE_EQ(lens(), 35.0);
     EXPECT_EQ(position(), 350);
-    EXPECT_EQ(text("edit"), L"35");
+    EXPECT_EQ(text("edit"), L"35.00");
     leave();
     EXPECT_EQ(lens(), 35.0);
 }
@@ -216,18 +225,19 @@ TEST_F(ZoomSliderTest, LeavingAfterEnterCommitsNothingMore) {
 
 TEST_F(ZoomSliderTest, EmptyEntryRestoresTheTextWithoutABalloon) {
     enter(L"   ");
-    EXPECT_EQ(text("edit"), L"50");
+    EXPECT_EQ(text("edit"), L"50.00");
     EXPECT_EQ(balloon(), "");
     leave();
 }
 
 TEST_F(ZoomSliderTest, LockedViewportIsToldAndTheTextRestored) {
-    focusField("edit");
-    setDb("viewports.current.locked", true);
-    enter(L"35");
-    EXPECT_EQ(text("edit"), L"50");
+    lockViewport();
+    const double before = lens();
+    const std::wstring shown = text("edit");
+    enter(L"77");
+    EXPECT_EQ(text("edit"), shown);
     EXPECT_EQ(balloon(), string(1231));
-    EXPECT_DOUBLE_EQ(lens(), 50.0);
+    EXPECT_DOUBLE_EQ(lens(), before);
     leave();
 }
 
@@ -236,14 +246,14 @@ TEST_F(ZoomSliderTest, UnreadableViewportCountsAsLocked) {
     fail("vxedGetVar:CVPORT");
     press("enter");
     EXPECT_NE(balloon(), "");
-    EXPECT_EQ(text("edit"), L"50");
+    EXPECT_EQ(text("edit"), L"50.00");
     leave();
 }
 
 TEST_F(ZoomSliderTest, TextThatIsNoNumberIsRefusedAndTheFieldKeepsTheFocus) {
     enter(L"wide");
     EXPECT_EQ(balloon(), string(1246));
-    EXPECT_EQ(text("edit"), L"50");
+    EXPECT_EQ(text("edit"), L"50.00");
     EXPECT_TRUE(hasFocus(field("edit")));
     leave();
 }
@@ -284,8 +294,9 @@ struct TakenCase {
 class TakenEntryTest : public ZoomSliderTest, public testing::WithParamInterface<TakenCase> {};
 
 TEST_P(TakenEntryTest, SetsTheLens) {
+    set(L"LUPREC", 4);
     enter(GetParam().text, GetParam().field);
-    EXPECT_NEAR(lens(), GetParam().lens, GetParam().lens * 1.0e-9);
+    EXPECT_NEAR(lens(), GetParam().lens, GetParam().lens * 1.0e-5);
     EXPECT_EQ(balloon(), "");
     leave();
 }
@@ -294,7 +305,7 @@ INSTANTIATE_TEST_SUITE_P(
     Entries, TakenEntryTest,
     testing::Values(TakenCase{"edit", L"0.786", 0.786}, TakenCase{"edit", L"100000", 100000.0},
                     TakenCase{"edit", L" 24 ", 24.0}, TakenCase{"edit", L"2.4e1", 24.0},
-                    TakenCase{"edit2", L"90", 18.0}, TakenCase{"edit2", L"175", 0.785889},
+                    TakenCase{"edit2", L"90", 18.0}, TakenCase{"edit2", L"175", 0.785897},
                     TakenCase{"edit2", L"0.005", 412529.6}));
 
 TEST_F(ZoomSliderTest, AngleIsReadInDegreesWhateverTheUnitItIsShownIn) {
@@ -321,7 +332,7 @@ TEST_F(ZoomSliderTest, EntryInAParallelViewIsTakenAndChangesNothing) {
 TEST_F(ZoomSliderTest, EscapeBringsTheLastAcceptedTextBackAndKeepsTheFocus) {
     put(L"35");
     press("escape");
-    EXPECT_EQ(text("edit"), L"50");
+    EXPECT_EQ(text("edit"), L"50.00");
     EXPECT_TRUE(hasFocus(field("edit")));
     leave();
     EXPECT_DOUBLE_EQ(lens(), 50.0);
@@ -336,7 +347,7 @@ TEST_F(ZoomSliderTest, IdleTicksDoNotOverwriteWhatTheUserTypes) {
     leave();
     setLens(28.0);
     idle();
-    EXPECT_EQ(text("edit"), L"28");
+    EXPECT_EQ(text("edit"), L"28.00");
 }
 
 TEST_F(ZoomSliderTest, BalloonGoesWithTheNextEntryThatCanBeRead) {

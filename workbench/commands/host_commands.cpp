@@ -9,6 +9,7 @@
 #include "workbench/commands/space_commands.h"
 #include "workbench/commands/undo_commands.h"
 #include "workbench/commands/variable_commands.h"
+#include "workbench/commands/view_commands.h"
 
 namespace workbench {
 
@@ -22,6 +23,7 @@ void addHostCommands(CommandRegistry& registry) {
     addDrawCommands(registry);
     addEraseCommands(registry);
     addDialogCommands(registry);
+    addViewCommands(registry);
 }
 
 }  // namespace workbench

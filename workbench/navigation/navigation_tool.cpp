@@ -1,9 +1,11 @@
 #include "workbench/navigation/navigation_tool.h"
 
+#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
+#include "workbench/loader/module_loader.h"
 #include "workbench/navigation/navigation_commands.h"
 
 namespace workbench {
@@ -46,6 +48,8 @@ int NavigationTool::activity() const {
 bool NavigationTool::start(int mode) {
     if (isRunning())
         return false;
+    // The host's module of the tools comes with the first of them; without it the tool runs bare.
+    Workbench::current().modules().loadModule(L"VxVmTools.qlx");
     m_tool.emplace(mode);
     noteMode();
     return true;

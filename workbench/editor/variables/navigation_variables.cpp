@@ -21,6 +21,9 @@ bool writePerspective(const VariableScope& scope, const Value& value) {
     });
 }
 
+/// 30, and what rounding may add to it.
+constexpr double kMostStepsPerSec = 30.0 + 1.0e-9;
+
 }  // namespace
 
 void addNavigationVariables(VariableTable& table) {
@@ -34,7 +37,10 @@ void addNavigationVariables(VariableTable& table) {
                       .get = readPerspective,
                       .set = writePerspective},
                      {.name = L"STEPSIZE", .type = Real, .initial = 6.0, .range = {{1e-6, 1e6}}},
-                     {.name = L"STEPSPERSEC", .type = Real, .initial = 2.0, .range = {{1.0, 30.0}}},
+                     {.name = L"STEPSPERSEC",
+                      .type = Real,
+                      .initial = 2.0,
+                      .range = {{1.0, kMostStepsPerSec}}},
                      {.name = L"CAMERADISPLAY", .initial = 0, .range = {{0, 1}}},
                  });
 }
