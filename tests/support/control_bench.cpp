@@ -26,6 +26,14 @@ void ControlBench::showControl(const std::string& name) {
     journal();
 }
 
+void ControlBench::rebuildControl() {
+    notify(kDashboardReleaseControls);
+    notify(kDashboardUnload);
+    notify(kDashboardReload);
+    m_control = control(m_name);
+    ASSERT_NE(m_control, nullptr) << m_name;
+}
+
 void ControlBench::drag(const std::vector<int>& positions) {
     gestures::dragSlider(slider(), positions);
     settle();

@@ -12,6 +12,8 @@ class ControlBench : public Bench {
 protected:
     /// Shows the dashboard with this control in view, and forgets what happened so far.
     void showControl(const std::string& name);
+    /// Takes the panels down and builds them again, the control anew.
+    void rebuildControl();
     HWND window() const { return m_control; }
 
     HWND slider() { return part(m_control, "slider"); }

@@ -3,6 +3,7 @@
 #include "workbench/drawing/records/viewport.h"
 
 #include <hostapi/zorq/commands.h>
+#include <hostapi/zorq/views.h>
 #include <hostapi/zorq/variables.h>
 
 namespace workbench {
