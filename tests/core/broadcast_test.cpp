@@ -2,6 +2,8 @@
 #include "workbench/editor/editor.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <string>
 #include <vector>
 

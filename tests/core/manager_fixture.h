@@ -6,6 +6,7 @@
 #include <hostapi/vxdashboard.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>

@@ -2,6 +2,7 @@
 #include "workbench/toolkit/lookup.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
