@@ -37,18 +37,24 @@ INSTANTIATE_TEST_SUITE_P(Values, CommandsTest,
 
 class RegisteredCommandsTest : public support::Bench {};
 
-TEST_F(RegisteredCommandsTest, ShowCommandIsRegisteredBeforeTheStepBack) {
+TEST_F(RegisteredCommandsTest, ShowCommandIsRegisteredBeforeTheStepBackEachWithItsFlags) {
+    using Arguments = workbench::Value::List;
     env("ENABLEDASHBOARD", "1");
     ASSERT_TRUE(load());
-    std::vector<std::string> names;
+    std::vector<Arguments> commands;
+    std::vector<Arguments> strings;
     for (const workbench::JournalRecord& record : journal("call")) {
-        if (record.field("name") != workbench::Value("VxEdCommandStack::addCommand"))
-            continue;
-        const auto& arguments = record.field("args").asList();
-        EXPECT_EQ(arguments.at(0), workbench::Value("ZorqVxDashboard"));
-        names.push_back(arguments.at(1).asString());
+        if (record.field("name") == workbench::Value("LoadString"))
+            strings.push_back(record.field("args").asList());
+        if (record.field("name") == workbench::Value("VxEdCommandStack::addCommand"))
+            commands.push_back(record.field("args").asList());
     }
-    EXPECT_EQ(names, (std::vector<std::string>{"DASHBOARDOLD", "VIEWBACK"}));
+    const workbench::Value nothing;
+    EXPECT_EQ(commands,
+              (std::vector<Arguments>{
+                  {"ZorqVxDashboard", "DASHBOARDOLD", "DASHBOARDOLD", 3, true, nothing, -1, false},
+                  {"ZorqVxDashboard", "VIEWBACK", "VIEWBACK", 1, true, nothing, -1, false}}));
+    EXPECT_EQ(strings, std::vector<Arguments>{Arguments{201}}) << "the local name of the first";
 }
 
 TEST_F(RegisteredCommandsTest, ControlsCanBeMadeWithoutTheCommands) {

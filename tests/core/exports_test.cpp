@@ -1,15 +1,14 @@
-#include "tests/support/bench.h"
-
+#include "tests/core/manager_fixture.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/palette_set_widget.h"
-#include "workbench/windows/window_system.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
 
-class ExportsTest : public support::Bench {
+class ExportsTest : public ManagerTest {
 protected:
     VxDaPanelList visiblePanels(int expectedAnswer = 1) {
         VxDaPanelList panels;
@@ -28,23 +27,10 @@ protected:
     int addOrRemove(VxDaDashboardReactor* listener, int add) {
         return exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(listener, add);
     }
-    bool isOnScreen() { return paletteSet()->IsWindowVisible() != 0; }
-};
-
-class CountingListener final : public VxDaDashboardReactor {
-public:
-    void panelsWillUnload() override { ++calls; }
-    void panelsUnloaded() override { ++calls; }
-    void panelsWillLoad() override { ++calls; }
-    void panelsLoaded() override { ++calls; }
-    void controlsWillBeReleased() override { ++releases; }
-    void visibilityChanged(BOOL visible) override {
-        ++calls;
-        lastVisible = visible;
+    void closeBar() {
+        workbench::closePaletteSet(*paletteSet());
+        settle();
     }
-    int calls = 0;
-    int releases = 0;
-    BOOL lastVisible = -1;
 };
 
 // Before the first show
@@ -79,70 +65,83 @@ INSTANTIATE_TEST_SUITE_P(Codes, CodeBeforeShowTest,
 // Codes
 
 TEST_F(ExportsTest, ReleaseEndsTheControlsAndKeepsThePanels) {
-    showDashboard();
-    CountingListener listener;
-    addOrRemove(&listener, 1);
+    showWithListener();
     EXPECT_EQ(notify(kDashboardReleaseControls), 1);
-    EXPECT_EQ(control("LayerLockTransparencySliderControl"), nullptr);
-    EXPECT_EQ(listener.releases, 1);
+    EXPECT_EQ(control(kControl), nullptr);
+    EXPECT_EQ(m_listener.take(), Heard{"release"});
     EXPECT_FALSE(panelsOnScreen().empty());
-    unload();
+}
+
+TEST_F(ExportsTest, ReleaseIsToldWhileTheControlsStillLive) {
+    showWithListener();
+    bool lives = false;
+    m_listener.act = [this, &lives](std::string_view) { lives = control(kControl) != nullptr; };
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(m_listener.take(), Heard{"release"});
+    EXPECT_TRUE(lives);
+    EXPECT_EQ(control(kControl), nullptr);
 }
 
 TEST_F(ExportsTest, ReleaseTwiceIsHarmlessAndIsToldTwice) {
-    showDashboard();
-    CountingListener listener;
-    addOrRemove(&listener, 1);
+    showWithListener();
     EXPECT_EQ(notify(kDashboardReleaseControls), 1);
     EXPECT_EQ(notify(kDashboardReleaseControls), 1);
-    EXPECT_EQ(listener.releases, 2);
+    EXPECT_EQ(m_listener.take(), (Heard{"release", "release"}));
     EXPECT_EQ(notify(kDashboardUnload), 1);
     EXPECT_EQ(notify(kDashboardReload), 1);
-    EXPECT_NE(control("LayerLockTransparencySliderControl"), nullptr);
-    unload();
+    EXPECT_NE(control(kControl), nullptr);
 }
 
 TEST_F(ExportsTest, ReleaseWithoutPanelsTellsNobody) {
-    showDashboard();
-    CountingListener listener;
-    addOrRemove(&listener, 1);
+    showWithListener();
     EXPECT_EQ(notify(kDashboardUnload), 1);
+    m_listener.take();
     EXPECT_EQ(notify(kDashboardReleaseControls), 1);
-    EXPECT_EQ(listener.releases, 0);
-    unload();
+    EXPECT_TRUE(m_listener.take().empty());
 }
 
 TEST_F(ExportsTest, UnloadTwiceAnswersOneAndLeavesTheSavedStateAlone) {
     showDashboard();
     EXPECT_EQ(notify(kDashboardUnload), 1);
-    workbench::closePaletteSet(*paletteSet());
-    settle();
+    closeBar();
     EXPECT_EQ(notify(kDashboardUnload), 1);
     EXPECT_EQ(notify(kDashboardReload), 1);
     EXPECT_TRUE(isOnScreen()) << "the first unload saw the bar on screen";
 }
 
-TEST_F(ExportsTest, ReloadRestoresAHiddenBarAsHidden) {
-    showDashboard();
-    workbench::closePaletteSet(*paletteSet());
-    settle();
+TEST_F(ExportsTest, ReloadTellsOfThePanelsAndThenThatTheBarIsOn) {
+    showWithListener();
     EXPECT_EQ(notify(kDashboardUnload), 1);
-    CountingListener listener;
-    addOrRemove(&listener, 1);
+    m_listener.take();
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_EQ(m_listener.take(), (Heard{"willLoad", "loaded", "on"}));
+    EXPECT_TRUE(isOnScreen());
+}
+
+TEST_F(ExportsTest, ReloadRestoresAHiddenBarAsHidden) {
+    showWithListener();
+    closeBar();
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    m_listener.take();
     EXPECT_EQ(notify(kDashboardReload), 1);
     EXPECT_FALSE(isOnScreen());
-    EXPECT_EQ(listener.lastVisible, 0);
-    EXPECT_NE(control("LayerLockTransparencySliderControl"), nullptr);
-    unload();
+    EXPECT_EQ(m_listener.take(), (Heard{"willLoad", "loaded", "off"}));
+    EXPECT_NE(control(kControl), nullptr);
+}
+
+TEST_F(ExportsTest, ReloadWithNoUnloadEverHidesTheBarBecauseNoneSawItOnScreen) {
+    showWithListener();
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_FALSE(isOnScreen());
+    EXPECT_EQ(m_listener.take(), (Heard{"off", "off"})) << "the toolkit tells, then the reload";
 }
 
 TEST_F(ExportsTest, ReloadWithoutAnUnloadBuildsNothing) {
     showDashboard();
-    const HWND before = control("LayerLockTransparencySliderControl");
-    workbench::closePaletteSet(*paletteSet());
-    settle();
+    const HWND before = control(kControl);
+    closeBar();
     EXPECT_EQ(notify(kDashboardReload), 1);
-    EXPECT_EQ(control("LayerLockTransparencySliderControl"), before);
+    EXPECT_EQ(control(kControl), before);
 }
 
 TEST_F(ExportsTest, SwitchOfWorkspaceShowsItsPanelsAfterUnloadAndReload) {
@@ -200,19 +199,31 @@ TEST_F(ExportsTest, InvalidateWorksWithoutPanels) {
 
 TEST_F(ExportsTest, ListenerEntersOnce) {
     showDashboard();
-    CountingListener listener;
-    EXPECT_EQ(addOrRemove(&listener, 1), 1);
-    EXPECT_EQ(addOrRemove(&listener, 1), 1);
-    EXPECT_EQ(addOrRemove(&listener, 0), 1);
-    const int before = listener.calls;
+    EXPECT_EQ(addOrRemove(&m_listener, 1), 1);
+    EXPECT_EQ(addOrRemove(&m_listener, 1), 1);
+    EXPECT_EQ(addOrRemove(&m_listener, 0), 1);
     EXPECT_EQ(notify(kDashboardUnload), 1);
-    EXPECT_EQ(listener.calls, before) << "one removal takes it off altogether";
+    EXPECT_TRUE(m_listener.take().empty()) << "one removal takes it off altogether";
+}
+
+TEST_F(ExportsTest, RemovalKeepsTheOrderOfTheOthers) {
+    showDashboard();
+    std::vector<int> order;
+    std::vector<DashboardListener> listeners(3);
+    for (int number = 1; DashboardListener & listener : listeners) {
+        listener.act = [&order, number](std::string_view) { order.push_back(number); };
+        addOrRemove(&listener, 1);
+        ++number;
+    }
+    EXPECT_EQ(addOrRemove(&listeners[1], 0), 1);
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(order, (std::vector<int>{1, 3}));
+    unload();
 }
 
 TEST_F(ExportsTest, UnknownListenerIsRemovedWithOneAndNullAnswersZero) {
     ASSERT_TRUE(load());
-    CountingListener listener;
-    EXPECT_EQ(addOrRemove(&listener, 0), 1);
+    EXPECT_EQ(addOrRemove(&m_listener, 0), 1);
     EXPECT_EQ(addOrRemove(nullptr, 1), 0);
     EXPECT_EQ(addOrRemove(nullptr, 0), 0);
 }

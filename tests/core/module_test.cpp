@@ -35,8 +35,19 @@ protected:
         ASSERT_TRUE(load());
         m_calls = calls();
     }
+    /// The arguments of each call of a name since the journal was taken.
+    std::vector<workbench::Value::List> argumentsOf(const std::string& call) {
+        std::vector<workbench::Value::List> found;
+        for (const workbench::JournalRecord& record : journal("call")) {
+            if (record.field("name") == workbench::Value(call))
+                found.push_back(record.field("args").asList());
+        }
+        return found;
+    }
     std::vector<std::string> m_calls;
 };
+
+using Arguments = workbench::Value::List;
 
 TEST_F(ModuleTest, LoadKeepsItsOrder) {
     env("ENABLEDASHBOARD", "1");
@@ -66,6 +77,33 @@ TEST_F(ModuleTest, ToolIsRegisteredAlsoWithoutCommands) {
     EXPECT_EQ(count("VxEdCommandStack::addCommand"), 0U);
 }
 
+TEST_F(ModuleTest, ToolIsRegisteredUnderThePaletteSetsIdWithTheCommandThatShowsIt) {
+    constexpr GUID kTool{
+        0x12F4DCC5, 0x8FDB, 0x4937, {0x83, 0x87, 0xE6, 0x28, 0xD5, 0xC2, 0xAB, 0xBF}};
+    ASSERT_TRUE(load());
+    EXPECT_EQ(argumentsOf("QrUiRegisterTool"),
+              (std::vector<Arguments>{{"VxDashboard.qlx", "DASHBOARDOLD"}}));
+    EXPECT_NE(bench().toolkit().tools().find(kTool), nullptr);
+}
+
+TEST_F(ModuleTest, SecondLoadMessageRegistersAndAttachesNothingTwice) {
+    env("ENABLEDASHBOARD", "1");
+    ASSERT_TRUE(load());
+    calls();
+    const auto entryPoint = exported<int (*)(int, void*)>("vxrxEntryPoint");
+    EXPECT_EQ(entryPoint(1, nullptr), 0);
+    m_calls = calls();
+    EXPECT_EQ(count("vxrxServiceIsRegistered"), 1U);
+    EXPECT_EQ(count("vxrxRegisterService"), 0U);
+    EXPECT_EQ(count("AfxInitExtensionModule"), 0U);
+    newDocument(L"A");
+    type(L"DASHBOARDOLD\n");
+    EXPECT_FALSE(panelsOnScreen().empty());
+    EXPECT_TRUE(unload());
+    EXPECT_EQ(paletteSet(), nullptr);
+    EXPECT_FALSE(vxrxServiceIsRegistered(L"ZorqVxDashboard"));
+}
+
 TEST_F(ModuleTest, ServiceThatIsThereIsNotRegisteredTwice) {
     bench();
     vxrxRegisterService(L"ZorqVxDashboard");
@@ -79,10 +117,11 @@ TEST_F(ModuleTest, UnloadKeepsItsOrder) {
     calls();
     ASSERT_TRUE(unload());
     EXPECT_TRUE(standInOrder(
-        calls(), {"VxEdCommandStack::removeGroup", "FreeLibrary", "AfxTermExtensionModule",
-                  "VxApProfileManager::removeReactor", "VxEditor::removeReactor",
-                  "VxApDocManager::removeReactor", "CQrUiTheme::UnregisterReactor",
-                  "CQrUiThemeManager::ReleaseTheme", "VxRxDictionary::remove"}));
+        calls(),
+        {"DestroyIcon", "VxEdCommandStack::removeGroup", "FreeLibrary", "AfxTermExtensionModule",
+         "VxApProfileManager::removeReactor", "VxEditor::removeReactor",
+         "VxApDocManager::removeReactor", "CQrUiTheme::UnregisterReactor",
+         "CQrUiThemeManager::ReleaseTheme", "VxRxDictionary::remove"}));
 }
 
 TEST_F(ModuleTest, UnloadRemovesTheCommandGroupAlsoWithoutCommands) {
@@ -108,7 +147,8 @@ TEST_F(ModuleTest, UnloadWithThePanelsDownDeletesThePaletteSetAfterTheCommandGro
     ASSERT_TRUE(unload());
     EXPECT_FALSE(bench().windows().find(bar) != nullptr);
     EXPECT_TRUE(
-        standInOrder(calls(), {"VxEdCommandStack::removeGroup", "VxApDocManager::removeReactor"}));
+        standInOrder(calls(), {"VxEdCommandStack::removeGroup", "VxApDocManager::removeReactor",
+                               "DestroyIcon", "CQrUiTheme::UnregisterReactor"}));
 }
 
 TEST_F(ModuleTest, MissingResourceLibraryGivesTheOneBox) {
@@ -119,6 +159,15 @@ TEST_F(ModuleTest, MissingResourceLibraryGivesTheOneBox) {
     EXPECT_EQ(boxes[0].find("FATAL ERROR: Unable to load file 'VxDashboardRes.dll'. "), 0U);
     EXPECT_NE(boxes[0].find(".\nPress OK to abort."), std::string::npos);
     EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVxDashboard"));
+}
+
+TEST_F(ModuleTest, BoxOfAMissingResourceLibraryHasTheStopIconAndOkAlone) {
+    bench().faults().hide("VxDashboardRes.dll");
+    EXPECT_TRUE(load());
+    EXPECT_EQ(texts("box").size(), 1U);
+    const std::vector<Arguments> boxes = argumentsOf("AfxMessageBox");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].at(1), workbench::Value(16));
 }
 
 TEST_F(ModuleTest, AfterAFailedLoadNothingElseIsThereAndUnloadStillRuns) {
@@ -149,6 +198,14 @@ TEST_F(ModuleTest, MissingIconLibraryIsNoMatter) {
     EXPECT_NE(item(L"ID_3DWalk"), nullptr);
 }
 
+TEST_F(ModuleTest, IconLibraryWithoutTheHostsServicesHasNoProgramInItsName) {
+    fail("vxdbHostApplicationServices");
+    ASSERT_TRUE(load());
+    const std::vector<Arguments> libraries = argumentsOf("LoadLibrary");
+    ASSERT_FALSE(libraries.empty());
+    EXPECT_EQ(libraries.back(), Arguments{"btn.xmx"});
+}
+
 TEST_F(ModuleTest, IconLibraryStaysLoadedAfterUnload) {
     ASSERT_TRUE(load());
     ASSERT_TRUE(unload());
@@ -161,6 +218,12 @@ TEST_F(ModuleTest, MissingThemeLeavesAPaletteSetWithoutAPalette) {
     EXPECT_TRUE(panelsOnScreen().empty());
     EXPECT_EQ(notify(kDashboardUnload), 1);
     EXPECT_EQ(notify(kDashboardReload), 1);
+    EXPECT_TRUE(unload());
+}
+
+TEST_F(ModuleTest, UnloadWithoutAThemeManagerIsNoMatter) {
+    ASSERT_TRUE(load());
+    fail("QrUiGetThemeManager");
     EXPECT_TRUE(unload());
 }
 

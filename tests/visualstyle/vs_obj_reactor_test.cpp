@@ -86,6 +86,26 @@ TEST_F(StyleLockTest, WatchersThatWereReleasedOftenerThanCountedStayAway) {
     EXPECT_FALSE(isDisabled(L"ID_VSFACEOPACITY")) << "the count came back to zero only";
 }
 
+TEST_F(StyleLockTest, RebuildCountsTheWatchersUpOnceMoreSoThatTwoReleasesOnlyEndThem) {
+    showDashboard();
+    rebuild();
+    ASSERT_EQ(notify(kDashboardReleaseControls), 1);
+    ASSERT_EQ(notify(kDashboardReleaseControls), 1);
+    set(L"TILEMODE", 0);
+    rebuild();
+    EXPECT_TRUE(isDisabled(L"ID_VSFACEOPACITY")) << "a count of zero lets them be made anew";
+}
+
+TEST_F(StyleLockTest, ReleasesWithoutPanelsDoNotCount) {
+    showDashboard();
+    set(L"TILEMODE", 0);
+    ASSERT_EQ(notify(kDashboardUnload), 1);
+    ASSERT_EQ(notify(kDashboardReleaseControls), 1);
+    ASSERT_EQ(notify(kDashboardReleaseControls), 1);
+    ASSERT_EQ(notify(kDashboardReload), 1);
+    EXPECT_TRUE(isDisabled(L"ID_VSFACEOPACITY")) << "a count below zero would make no watcher";
+}
+
 // A panel author's own settings
 
 constexpr const char* kMenu = R"({

@@ -1,0 +1,152 @@
+#include "tests/core/manager_fixture.h"
+#include "workbench/editor/editor.h"
+#include "workbench/toolkit/palette_set_widget.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+/// The bar leaves the screen by itself, and comes back.
+class BarReturnTest : public ManagerTest {};
+
+// Clean screen
+
+TEST_F(BarReturnTest, CleanScreenHidesTheBarAndBringsItBack) {
+    loadWithListener();
+    show();
+    m_listener.take();
+    set(L"CleanScreenState", 1);
+    EXPECT_FALSE(isOnScreen());
+    EXPECT_EQ(m_listener.take(), (Heard{"off", "off"}));
+    set(L"CleanScreenState", 0);
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_EQ(m_listener.take(), (Heard{"on", "on"}));
+}
+
+TEST_F(BarReturnTest, CleanScreenNameIsTakenWithoutRegardToCase) {
+    showDashboard();
+    set(L"CleanScreenState", 1);
+    set(L"CleanScreenState", 0);
+    EXPECT_TRUE(isOnScreen());
+    workbench::closePaletteSet(*paletteSet());
+    settle();
+    EXPECT_FALSE(isOnScreen());
+    bench().editor().reactors().sysVarChanged(L"CLEANSCREENSTATE", true);
+    EXPECT_TRUE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, CleanScreenEnteredWithTheBarHiddenDoesNotBringItUpLater) {
+    showDashboard();
+    set(L"CleanScreenState", 1);
+    set(L"CleanScreenState", 0);
+    workbench::closePaletteSet(*paletteSet());
+    settle();
+    set(L"CleanScreenState", 1);
+    set(L"CleanScreenState", 0);
+    EXPECT_FALSE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, CleanScreenWithoutAFrameLeavesTheBarAndIsStillTold) {
+    showWithListener();
+    fail("vxedGetZorqFrame");
+    set(L"CleanScreenState", 1);
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_EQ(m_listener.take(), Heard{"off"});
+}
+
+TEST_F(BarReturnTest, CleanScreenLeavesABarWithoutPanelsOnScreenAndTellsNobody) {
+    showWithListener();
+    ASSERT_EQ(notify(kDashboardUnload), 1);
+    m_listener.take();
+    set(L"CleanScreenState", 1);
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_TRUE(m_listener.take().empty());
+    set(L"CleanScreenState", 0);
+    EXPECT_FALSE(panelsOnScreen().empty()) << "that the bar was on screen is remembered";
+}
+
+TEST_F(BarReturnTest, PanelsThatWentInCleanScreenAreBuiltAgainAtItsEnd) {
+    showWithListener();
+    const std::vector<std::wstring> before = panelsOnScreen();
+    set(L"CleanScreenState", 1);
+    ASSERT_EQ(notify(kDashboardUnload), 1);
+    m_listener.take();
+    set(L"CleanScreenState", 0);
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_EQ(panelsOnScreen(), before);
+    EXPECT_EQ(m_listener.take(), (Heard{"on", "on", "willLoad", "loaded", "on"}));
+}
+
+// Documents
+
+TEST_F(BarReturnTest, LastDocumentTakesTheBarAlongAndTheNextBringsItBack) {
+    loadWithListener();
+    show();
+    closeDocument(L"A");
+    EXPECT_FALSE(isOnScreen());
+    newDocument(L"B");
+    EXPECT_TRUE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, BarStaysHiddenForTheNextDocumentInCleanScreen) {
+    showDashboard();
+    closeDocument(L"A");
+    set(L"CleanScreenState", 1);
+    newDocument(L"B");
+    EXPECT_FALSE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, ClosingOneOfTwoDocumentsChangesNothing) {
+    showDashboard();
+    newDocument(L"B");
+    journal();
+    closeDocument(L"A");
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_FALSE(got(1725));
+}
+
+TEST_F(BarReturnTest, LastDocumentDuringTheQuitLeavesTheBar) {
+    showDashboard();
+    bench().editor().quitBegin();
+    journal();
+    closeDocument(L"A");
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_FALSE(got(1725));
+}
+
+TEST_F(BarReturnTest, AbortedQuitIsForgotten) {
+    showDashboard();
+    bench().editor().quitBegin();
+    bench().editor().quitAbort();
+    closeDocument(L"A");
+    EXPECT_FALSE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, BarWithoutPanelsStaysAtTheLastDocumentAndTheNextBuildsThem) {
+    showWithListener();
+    const std::vector<std::wstring> before = panelsOnScreen();
+    ASSERT_EQ(notify(kDashboardUnload), 1);
+    m_listener.take();
+    closeDocument(L"A");
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_TRUE(m_listener.take().empty());
+    newDocument(L"B");
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_EQ(panelsOnScreen(), before);
+    EXPECT_EQ(m_listener.take(), (Heard{"on", "willLoad", "loaded", "on"}));
+}
+
+TEST_F(BarReturnTest, ReturnWithADocumentIsRememberedPastTheUsersClose) {
+    showWithListener();
+    closeDocument(L"A");
+    newDocument(L"B");
+    ASSERT_TRUE(isOnScreen());
+    workbench::closePaletteSet(*paletteSet());
+    settle();
+    ASSERT_FALSE(isOnScreen());
+    bench().editor().reactors().sysVarChanged(L"CleanScreenState", true);
+    EXPECT_TRUE(isOnScreen());
+}
+
+}  // namespace

@@ -1,0 +1,180 @@
+#include "tests/core/manager_fixture.h"
+#include "workbench/editor/editor.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace {
+
+/// Stands between a control and its window: notes each message and hands it on.
+class Tap final : public CWnd {
+public:
+    struct Message {
+        UINT number;
+        WPARAM wParam;
+        LPARAM lParam;
+        friend bool operator==(const Message&, const Message&) = default;
+    };
+
+    Tap(workbench::WindowSystem& windows, HWND window)
+        : m_windows(windows),
+          m_window(window),
+          m_control(windows.find(window)->object) {
+        m_windows.find(m_window)->object = this;
+    }
+    ~Tap() override {
+        if (workbench::Window* window = m_windows.find(m_window))
+            window->object = m_control;
+    }
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
+        m_messages.push_back({message, wParam, lParam});
+        return m_control->WindowProc(message, wParam, lParam);
+    }
+    /// The messages of a number.
+    std::vector<Message> of(UINT number) const {
+        std::vector<Message> found;
+        std::copy_if(m_messages.begin(), m_messages.end(), std::back_inserter(found),
+                     [number](const Message& message) { return message.number == number; });
+        return found;
+    }
+
+private:
+    workbench::WindowSystem& m_windows;
+    HWND m_window;
+    CWnd* m_control;  // not owned
+    std::vector<Message> m_messages;
+};
+
+class BroadcastTest : public ManagerTest {
+protected:
+    struct Parameters {
+        workbench::Value wParam;
+        workbench::Value lParam;
+        friend bool operator==(const Parameters&, const Parameters&) = default;
+    };
+    /// What came with the messages of a number that a control got since the journal was taken.
+    std::vector<Parameters> parametersOf(std::int64_t number) {
+        std::vector<Parameters> found;
+        for (const workbench::JournalRecord& record : journal("message")) {
+            if (record.field("control") == workbench::Value(kControl) &&
+                record.field("number") == workbench::Value(number))
+                found.push_back({record.field("wparam"), record.field("lparam")});
+        }
+        return found;
+    }
+    VxApDocument* document(const wchar_t* name) { return bench().editor().documents().find(name); }
+};
+
+// Every event
+
+struct EventCase {
+    const char* what;
+    std::int64_t number;
+    int wParam;
+    workbench::Value lParam;
+};
+
+class EventTest : public BroadcastTest, public testing::WithParamInterface<EventCase> {
+protected:
+    void raise(const std::string& what) {
+        workbench::EditorReactors& editor = bench().editor().reactors();
+        if (what == "command starts")
+            editor.commandWillStart(L"LINE");
+        if (what == "command ended")
+            editor.commandEnded(L"LINE");
+        if (what == "command cancelled")
+            editor.commandCancelled(L"LINE");
+        if (what == "command failed")
+            editor.commandFailed(L"LINE");
+        if (what == "variable changed")
+            editor.sysVarChanged(L"LTSCALE", true);
+        if (what == "variable not changed")
+            editor.sysVarChanged(L"LTSCALE", false);
+        if (what == "variable will change")
+            editor.sysVarWillChange(L"LTSCALE");
+        if (what == "view changed")
+            editor.viewChanged();
+        if (what.starts_with("document to be activated"))
+            newDocument(L"B");
+        if (what.starts_with("document became current"))
+            newDocument(L"B");
+        if (what.ends_with("destroyed"))
+            closeDocument(L"A");
+        settle();
+    }
+};
+
+TEST_P(EventTest, ReachesEveryControlOnceUnderItsNumberWithItsParameters) {
+    showDashboard();
+    journal();
+    raise(GetParam().what);
+    EXPECT_EQ(parametersOf(GetParam().number),
+              (std::vector<Parameters>{{GetParam().wParam, GetParam().lParam}}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, EventTest,
+                         testing::Values(EventCase{"document to be activated", 1724, 0, "object"},
+                                         EventCase{"last document destroyed", 1725, 0, "A"},
+                                         EventCase{"document became current", 1726, 0, "object"},
+                                         EventCase{"variable changed", 1727, 1, "LTSCALE"},
+                                         EventCase{"variable not changed", 1727, 0, "LTSCALE"},
+                                         EventCase{"variable will change", 1728, 0, "LTSCALE"},
+                                         EventCase{"command starts", 1729, 0, "LINE"},
+                                         EventCase{"command failed", 1729, 0, "LINE"},
+                                         EventCase{"command ended", 1730, 0, "LINE"},
+                                         EventCase{"command cancelled", 1731, 0, "LINE"},
+                                         EventCase{"view changed", 1736, 0, 0},
+                                         EventCase{"document to be destroyed", 1737, 0, "object"}));
+
+// Single ones
+
+TEST_F(BroadcastTest, DocumentEventsCarryTheDocumentItself) {
+    showDashboard();
+    const Tap tap(bench().windows(), control(kControl));
+    newDocument(L"B");
+    const auto carried = reinterpret_cast<LPARAM>(document(L"B"));
+    EXPECT_EQ(tap.of(1724), (std::vector<Tap::Message>{{1724, 0, carried}}));
+    EXPECT_EQ(tap.of(1726), (std::vector<Tap::Message>{{1726, 0, carried}}));
+    closeDocument(L"B");
+    EXPECT_EQ(tap.of(1737), (std::vector<Tap::Message>{{1737, 0, carried}}));
+}
+
+TEST_F(BroadcastTest, FailedCommandIsToldLikeAStartAndNotLikeAnEnd) {
+    showDashboard();
+    begin(L"LINE");
+    journal();
+    finish("failed");
+    const auto messages = messagesOf(kControl);
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), 1729), 1);
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), 1730), 0);
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), 1731), 0);
+}
+
+TEST_F(BroadcastTest, VariableChangeBeforeTheFirstShowReachesTheControlManagerAlone) {
+    env("ENABLEDASHBOARD", "1");
+    ASSERT_TRUE(load());
+    newDocument(L"A");
+    journal();
+    set(L"LTSCALE", 2.0);
+    const std::vector<std::string> made = calls();
+    EXPECT_NE(std::find(made.begin(), made.end(), "vxedGetVar"), made.end())
+        << "the first change of any variable reads the material mode";
+    EXPECT_TRUE(messagesOf(kControl).empty());
+}
+
+TEST_F(BroadcastTest, EventsAfterThePanelsWentAreHarmless) {
+    showDashboard();
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    journal();
+    set(L"LTSCALE", 2.0);
+    newDocument(L"B");
+    closeDocument(L"B");
+    bench().editor().viewChanged();
+    EXPECT_TRUE(messagesOf(kControl).empty());
+}
+
+}  // namespace
