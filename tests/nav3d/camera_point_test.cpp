@@ -2,6 +2,7 @@
 
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/windows/background_painter.h"
 #include "workbench/windows/window_system.h"
 
 #include <cmath>
@@ -183,7 +184,8 @@ TEST_P(CameraPointTest, ClickOnTheIconGoesToTheFirstField) {
 }
 
 TEST_P(CameraPointTest, BackgroundIsWhite) {
-    EXPECT_EQ(send(WM_ERASEBKGND, 0), 1);
+    EXPECT_EQ(workbench::paintBackground(bench().windows(), window()), 0xffffffU);
+    EXPECT_EQ(send(WM_ERASEBKGND, 0), 1) << "also without a context";
 }
 
 // While a navigation tool runs

@@ -3,8 +3,8 @@
 #include "workbench/drawing/records/viewport.h"
 
 #include <hostapi/zorq/commands.h>
-#include <hostapi/zorq/views.h>
 #include <hostapi/zorq/variables.h>
+#include <hostapi/zorq/views.h>
 
 namespace workbench {
 
