@@ -1,13 +1,10 @@
-#include "tests/resources/loaded_module.h"
-#include "tests/support/bench.h"
+#include "tests/support/control_bench.h"
 
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
-#include "workbench/resources/resource_library.h"
-#include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/windows/window_system.h"
@@ -27,72 +24,18 @@ constexpr const wchar_t* kVariable = L"LAYLOCKFADECTL";
 constexpr std::int64_t kSysVarChanged = 1727;
 constexpr std::int64_t kSliderMoved = 1534;
 
-class FadeSliderTest : public support::Bench {
+class FadeSliderTest : public support::ControlBench {
 protected:
-    void SetUp() override {
-        showDashboard();
-        m_control = control(kControl);
-        ASSERT_NE(m_control, nullptr);
-        journal();
-    }
+    void SetUp() override { showControl(kControl); }
 
-    HWND slider() { return part(m_control, "slider"); }
-    HWND edit() { return part(m_control, "edit"); }
-
-    void drag(std::vector<int> positions) {
-        workbench::gestures::dragSlider(slider(), positions);
-        settle();
-    }
-    void release() {
-        workbench::gestures::releaseSlider(slider());
-        settle();
-    }
-    void clickButton() {
-        workbench::gestures::clickIcon(m_control);
-        settle();
-    }
-    void focusEdit() {
-        ASSERT_TRUE(workbench::gestures::focusField(edit()));
-        settle();
-    }
-    void put(const std::wstring& text) {
-        focusEdit();
-        workbench::gestures::replaceText(text);
-        settle();
-    }
-    void press(const char* key) {
-        workbench::gestures::pressKey(key);
-        settle();
-    }
-    void enter(const std::wstring& text) {
-        put(text);
-        press("enter");
-    }
-    void leave() {
-        workbench::gestures::blur();
-        settle();
-    }
-
-    int position() {
-        return dynamic_cast<workbench::SliderWidget*>(
-                   bench().windows().find(slider())->widget.get())
-            ->position();
-    }
-    std::wstring text() { return bench().windows().find(edit())->text; }
-    bool isEnabled(HWND window) { return bench().windows().takesInput(window); }
+    HWND edit() { return field(); }
+    void clickButton() { clickIcon(); }
     std::string buttonImage() {
         return workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).image;
     }
     /// How often the variable was written by the module since the last look at the journal.
-    std::size_t writes() {
-        std::size_t count = 0;
-        for (const std::string& call : calls())
-            count += call == "vxedSetVar" ? 1 : 0;
-        return count;
-    }
+    std::size_t writes() { return count("vxedSetVar"); }
     int fade() { return static_cast<int>(var(kVariable).asInteger()); }
-
-    HWND m_control = nullptr;
 };
 
 // Creation
@@ -115,7 +58,7 @@ TEST_F(FadeSliderTest, RunsFromZeroToNinetyByOnes) {
 }
 
 TEST_F(FadeSliderTest, PartsBearTheirIds) {
-    EXPECT_EQ(bench().windows().find(m_control)->id, 601);
+    EXPECT_EQ(bench().windows().find(window())->id, 601);
     EXPECT_EQ(bench().windows().find(slider())->id, 10001);
     EXPECT_EQ(bench().windows().find(edit())->id, 10001);
 }
@@ -127,20 +70,9 @@ TEST_F(FadeSliderTest, ButtonHasItsPictureAndName) {
 }
 
 TEST_F(FadeSliderTest, ButtonSliderAndEditHaveATipEach) {
-    const LoadedModule module("VxDashboardRes.dll");
-    const workbench::ResourceLibrary library(module.directory());
-    const auto string = [&library](std::uint32_t number) {
-        return std::string(library.findString(number).value_or("missing"));
-    };
-    const auto tip = [this](HWND window) {
-        const auto* widget =
-            dynamic_cast<workbench::ControlWidget*>(bench().windows().find(window)->widget.get());
-        return workbench::toUtf8(widget->tip());
-    };
-    EXPECT_EQ(workbench::toUtf8(workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).name),
-              string(3995));
-    EXPECT_EQ(tip(slider()), string(3996));
-    EXPECT_EQ(tip(edit()), string(3997));
+    EXPECT_EQ(workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).name, stringOf(3995));
+    EXPECT_EQ(tipOf(slider()), stringOf(3996));
+    EXPECT_EQ(tipOf(edit()), stringOf(3997));
 }
 
 class FadeSliderCreationTest : public support::Bench {
@@ -234,8 +166,8 @@ TEST_F(FadeSliderTest, OwnWriteComesBackAndChangesNothing) {
 }
 
 TEST_F(FadeSliderTest, ForeignSliderIsIgnored) {
-    bench().windows().send(m_control, static_cast<UINT>(kSliderMoved), 20,
-                           reinterpret_cast<LPARAM>(m_control));
+    bench().windows().send(window(), static_cast<UINT>(kSliderMoved), 20,
+                           reinterpret_cast<LPARAM>(window()));
     EXPECT_EQ(text(), L"      50%");
     wait(400);
     EXPECT_EQ(writes(), 0U);
@@ -245,9 +177,9 @@ TEST_F(FadeSliderTest, AnotherTimerNeitherWritesNorCountsAsRest) {
     constexpr WPARAM kOtherTimer = 2;
     drag({40});
     wait(100);
-    bench().windows().send(m_control, WM_TIMER, kOtherTimer, 0);
+    bench().windows().send(window(), WM_TIMER, kOtherTimer, 0);
     wait(50);
-    bench().windows().send(m_control, WM_TIMER, kOtherTimer, 0);
+    bench().windows().send(window(), WM_TIMER, kOtherTimer, 0);
     wait(149);
     EXPECT_EQ(writes(), 0U);
     wait(1);
@@ -306,38 +238,38 @@ TEST_F(FadeSliderTest, UnreadableVariableAtAChangeShowsAsOneAndOff) {
 }
 
 TEST_F(FadeSliderTest, VariableNameIsExact) {
-    bench().windows().send(m_control, static_cast<UINT>(kSysVarChanged), 1,
+    bench().windows().send(window(), static_cast<UINT>(kSysVarChanged), 1,
                            reinterpret_cast<LPARAM>(L"laylockfadectl"));
     EXPECT_EQ(calls(), std::vector<std::string>{});
-    bench().windows().send(m_control, static_cast<UINT>(kSysVarChanged), 1,
+    bench().windows().send(window(), static_cast<UINT>(kSysVarChanged), 1,
                            reinterpret_cast<LPARAM>(L"LAYLOCKFADECTL"));
     EXPECT_EQ(calls(), std::vector<std::string>{"vxedGetVar"});
 }
 
 TEST_F(FadeSliderTest, IsDisabledWhileACommandRuns) {
     begin(L"LINE");
-    EXPECT_FALSE(isEnabled(m_control));
+    EXPECT_FALSE(isEnabled(window()));
     finish("ended");
-    EXPECT_TRUE(isEnabled(m_control));
+    EXPECT_TRUE(isEnabled(window()));
     begin(L"LINE");
     finish("cancelled");
-    EXPECT_TRUE(isEnabled(m_control));
+    EXPECT_TRUE(isEnabled(window()));
 }
 
 TEST_F(FadeSliderTest, StaysDisabledAfterAFailedCommandUntilTheNextEnds) {
     begin(L"LINE");
     finish("failed");
-    EXPECT_FALSE(isEnabled(m_control));
+    EXPECT_FALSE(isEnabled(window()));
     begin(L"LINE");
     finish("ended");
-    EXPECT_TRUE(isEnabled(m_control));
+    EXPECT_TRUE(isEnabled(window()));
 }
 
 TEST_F(FadeSliderTest, EndOfACommandBringsTheButtonUpToDate) {
     set(kVariable, -30);
     begin(L"LINE");
     finish("ended");
-    EXPECT_TRUE(isEnabled(m_control));
+    EXPECT_TRUE(isEnabled(window()));
     EXPECT_FALSE(isEnabled(slider()));
 }
 
@@ -451,7 +383,7 @@ TEST_P(OtherNoticeTest, HidesTheBalloonAndCommitsNothing) {
     put(L"12");
     calls();
     bench().windows().send(
-        m_control, WM_COMMAND,
+        window(), WM_COMMAND,
         static_cast<WPARAM>(GetParam().code) << 16 | static_cast<WPARAM>(GetParam().controlId),
         reinterpret_cast<LPARAM>(edit()));
     const std::vector<std::string> after = calls();
