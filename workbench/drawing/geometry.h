@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cmath>
+
 namespace workbench::drawing {
 
 /// A point or a direction in the drawing's units.
@@ -16,5 +18,9 @@ struct Vec3 {
         return {a.x - b.x, a.y - b.y, a.z - b.z};
     }
 };
+
+inline double distance(const Vec3& a, const Vec3& b) {
+    return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z);
+}
 
 }  // namespace workbench::drawing

@@ -233,8 +233,13 @@ void changeProperty(Database& database, const PathTarget& target, const Steps& s
     Change change(database, target.id, steps, target.used);
     DbObject& object = change.object();
     const std::string_view name = propertyOf(object, steps, target.used);
+    auto* const viewport = dynamic_cast<Record<Viewport>*>(&object);
+    const ViewParameters before = viewport == nullptr ? ViewParameters() : viewport->data().view;
     setProperty(object, name,
                 changedValue(object.property(name, database), steps, target.used, value), database);
+    // A view that moves is no longer the named one.
+    if (viewport != nullptr && viewport->data().view != before)
+        viewport->edit().appliedView = {};
     change.commit();
 }
 

@@ -6,7 +6,8 @@ namespace workbench::drawing {
 
 void UndoLog::beginGroup(std::string name) {
     if (m_depth++ == 0) {
-        m_open = Group{std::move(name), {}};
+        m_open = Group{};
+        m_open.name = std::move(name);
     }
 }
 
@@ -24,6 +25,7 @@ void UndoLog::endGroup() {
         return;
     }
     if (!m_open.records.empty()) {
+        m_open.number = ++m_groups;
         m_done.push_back(std::move(m_open));
     }
     m_open = Group{};

@@ -56,9 +56,10 @@ public:
     /// True while `undo` or `redo` runs.
     bool isRunning() const { return m_running != Running::None; }
 
-    /// How many groups `undo` could take back.
-    std::size_t doneCount() const { return m_done.size(); }
-    /// Makes one group of the last two; nothing if there are not two.
+    /// The number of the group that `undo` would take, different for each group of the log and kept
+    /// through undo and redo; 0 for none.
+    std::size_t lastGroup() const { return m_done.empty() ? 0 : m_done.back().number; }
+    /// Makes one group of the last two, under the earlier one's number; nothing if there are not two.
     void joinLastTwo();
 
     /// Forgets everything, for instance after a drawing was read.
@@ -70,12 +71,14 @@ private:
     struct Group {
         std::string name;
         std::vector<std::unique_ptr<UndoRecord>> records;
+        std::size_t number = 0;  // given when the group is closed
     };
 
     std::vector<Group> m_done;
     std::vector<Group> m_undone;
     Group m_open;  // the group being filled while m_depth > 0
     std::size_t m_depth = 0;
+    std::size_t m_groups = 0;  // that were ever closed
     Running m_running = Running::None;
 };
 

@@ -2,7 +2,7 @@
 
 #include "workbench/drawing/database.h"
 #include "workbench/drawing/reactors.h"
-#include "workbench/drawing/records/view_parameters.h"
+#include "workbench/drawing/records/viewport.h"
 
 #include <functional>
 #include <map>
@@ -22,21 +22,33 @@ public:
 
     /// How many earlier views a viewport has.
     std::size_t depth(drawing::ObjectId viewport) const;
-    /// Gives a viewport its last view back. False if it has none or can't be changed now.
+    /// Gives a viewport its last view back, as the named view that it was unless that one has gone or
+    /// become another. False if it has none or can't be changed now.
     bool stepBack(drawing::ObjectId viewport);
 
-    /// While quiet nobody is told of a view that changes: whoever changes it tells.
+    /// While quiet nobody is told of a view that changes, until `tell`. What the view was before the
+    /// first such change goes on the stack, not what it was between them.
     void setQuiet(bool quiet) { m_quiet = quiet; }
+    /// Tells of a viewport whose view changed while quiet; nothing if it did not.
+    void tell(drawing::ObjectId viewport);
 
     // drawing::DatabaseReactor:
     void objectAppended(const drawing::DbObject& object) override;
     void objectModified(const drawing::DbObject& object) override;
 
 private:
-    struct History {
-        drawing::ViewParameters shown;
-        std::vector<drawing::ViewParameters> earlier;  // the last one was shown last
+    struct Shown {
+        drawing::ViewParameters view;
+        drawing::ObjectId named;  // the named view that it is; null for none
     };
+    struct History {
+        Shown shown;
+        std::vector<Shown> earlier;  // the last one was shown last
+        bool untold = false;         // changed while quiet
+    };
+
+    static Shown shownIn(const drawing::Viewport& viewport);
+    bool isStill(const Shown& shown) const;
 
     static constexpr std::size_t kMostViews = 100;  // of a viewport; the oldest go
 

@@ -61,6 +61,12 @@ void pressKey(std::string_view name, HWND window) {
     Workbench::current().windows().input(window, key->message, key->key, 0);
 }
 
+void holdKey(std::string_view name, bool down) {
+    if (name != "shift")
+        throw GestureError("there is no key \"" + std::string(name) + "\" to hold");
+    Workbench::current().windows().hold(VK_SHIFT, down);
+}
+
 std::vector<std::string> keyNames() {
     std::vector<std::string> names;
     for (const NamedKey& key : kKeys)

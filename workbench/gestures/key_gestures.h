@@ -21,6 +21,9 @@ void replaceText(std::wstring_view text);
 void pressKey(std::string_view name, HWND window = nullptr);
 /// The names that `pressKey` takes.
 std::vector<std::string> keyNames();
+/// Holds a key down during the gestures to come, or lets it go: "shift". Raises `GestureError` for
+/// another name.
+void holdKey(std::string_view name, bool down);
 /// Clicks into the drawing view, so that the dashboard loses the focus.
 void blur();
 

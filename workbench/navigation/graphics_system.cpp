@@ -119,7 +119,15 @@ bool GraphicsSystem::copyParameters(int viewportNumber, VxGsView* view) {
 
 bool GraphicsSystem::applyParameters(int viewportNumber, const VxGsView* view) {
     const ParameterView* source = findOwn(view);
-    return source != nullptr && changeView(findViewport(viewportNumber), source->parameters());
+    const drawing::ObjectId viewport = findViewport(viewportNumber);
+    const drawing::ViewParameters* present = viewOf(viewport);
+    if (source == nullptr || present == nullptr)
+        return false;
+    drawing::ViewParameters changed = source->parameters();
+    changed.lens = present->lens;
+    const bool isChanged = changeView(viewport, changed);
+    m_documents.findBySerial(viewport.database())->viewHistory().tell(viewport);
+    return isChanged;
 }
 
 std::optional<double> GraphicsSystem::lens(int viewportNumber) const {
@@ -134,13 +142,11 @@ bool GraphicsSystem::setLens(int viewportNumber, double lens) {
         return false;
     drawing::ViewParameters changed = *view;
     changed.lens = lens;
-    // A temporary view made before has its own lens: it is the viewport's that counts.
-    for (const auto& temporary : m_temporary) {
-        drawing::ViewParameters parameters = temporary->parameters();
-        parameters.lens = lens;
-        temporary->setParameters(parameters);
-    }
     return changeView(viewport, changed);
+}
+
+void GraphicsSystem::beginUndoStep(int viewportNumber) {
+    m_undoStep = UndoStep{findViewport(viewportNumber)};
 }
 
 const drawing::ViewParameters* GraphicsSystem::viewOf(drawing::ObjectId viewport) const {
@@ -157,21 +163,28 @@ bool GraphicsSystem::changeView(drawing::ObjectId viewport, const drawing::ViewP
     Document& document = *m_documents.findBySerial(viewport.database());
     drawing::Database& database = document.data();
     drawing::UndoLog& log = database.undoLog();
-    const std::size_t before = log.doneCount();
-    document.viewHistory().setQuiet(true);
+    const std::size_t groupBefore = log.lastGroup();
     {
         drawing::Writing<Viewport> writing(database, viewport);
-        if (writing) {
-            writing->view = view;
-            writing->appliedView = {};
-        }
+        if (!writing)
+            return false;
+        writing->view = view;
+        writing->appliedView = {};
+        document.viewHistory().setQuiet(true);
     }
     document.viewHistory().setQuiet(false);
-    if (m_undoStepOpen && before == m_undoneGroups && log.doneCount() > before)
-        log.joinLastTwo();
-    m_undoStepOpen = true;
-    m_undoneGroups = log.doneCount();
+    joinUndoStep(viewport, log, groupBefore);
     return true;
+}
+
+void GraphicsSystem::joinUndoStep(drawing::ObjectId viewport, drawing::UndoLog& log,
+                                  std::size_t groupBefore) {
+    // Without a group of its own the change belongs to the command that is running.
+    if (!m_undoStep || m_undoStep->viewport != viewport || log.lastGroup() == groupBefore)
+        return;
+    if (m_undoStep->group != 0 && m_undoStep->group == groupBefore)
+        log.joinLastTwo();
+    m_undoStep->group = log.lastGroup();
 }
 
 VxGsClassFactory* GraphicsSystem::classFactory() {

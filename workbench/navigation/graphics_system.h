@@ -2,6 +2,7 @@
 
 #include "workbench/drawing/object_id.h"
 #include "workbench/drawing/records/view_parameters.h"
+#include "workbench/drawing/undo_log.h"
 
 #include <hostapi/zorq/views.h>
 
@@ -78,21 +79,22 @@ public:
     /// Copies a viewport's parameters into a temporary view. False for another view, and without
     /// such a viewport.
     bool copyParameters(int viewportNumber, VxGsView* view);
-    /// Writes the parameters of one of the views to a viewport. False for another view, and without
-    /// such a viewport.
+    /// Writes the parameters of one of the views to a viewport, which keeps its lens, and tells of
+    /// the view that changed. False for another view, and without such a viewport.
     bool applyParameters(int viewportNumber, const VxGsView* view);
     /// The lens of a viewport of the current document's space, in millimetres; nothing without such
     /// a viewport.
     std::optional<double> lens(int viewportNumber) const;
-    /// Sets it. False without such a viewport and for a lens that isn't above 0.
+    /// Sets it; nobody is told. False without such a viewport and for a lens that isn't above 0.
     bool setLens(int viewportNumber, double lens);
-    /// What is changed of the views from now on is taken back by one undo.
-    void beginUndoStep() { m_undoStepOpen = false; }
+    /// What is changed of a viewport's view from now on, up to the next call, is taken back by one
+    /// undo, unless something else is changed in between.
+    void beginUndoStep(int viewportNumber);
 
     /// What a viewport shows; null for none.
     const drawing::ViewParameters* viewOf(drawing::ObjectId viewport) const;
     /// Changes what a viewport shows, which then shows no named view any more. Nobody is told. False
-    /// without the viewport.
+    /// without the viewport and while it can't be changed.
     bool changeView(drawing::ObjectId viewport, const drawing::ViewParameters& view);
     /// How many temporary views were not deleted.
     std::size_t temporaryCount() const { return m_temporary.size(); }
@@ -104,15 +106,21 @@ public:
     void deleteView(VxGsView* view) override;
 
 private:
+    /// The changes of one view that one undo takes back.
+    struct UndoStep {
+        drawing::ObjectId viewport;
+        std::size_t group = 0;  // of the drawing's undo log; 0: nothing has changed yet
+    };
+
     drawing::ObjectId findViewport(int number) const;
+    void joinUndoStep(drawing::ObjectId viewport, drawing::UndoLog& log, std::size_t groupBefore);
     TemporaryView* findTemporary(const VxGsView* view) const;
     const ParameterView* findOwn(const VxGsView* view) const;
 
     DocumentList& m_documents;
     std::map<drawing::ObjectId, std::unique_ptr<LiveView>> m_live;
     std::vector<std::unique_ptr<TemporaryView>> m_temporary;
-    bool m_undoStepOpen = false;     // the next change joins the last one's undo
-    std::size_t m_undoneGroups = 0;  // of the drawing's log, when the step's last change was made
+    std::optional<UndoStep> m_undoStep;
 };
 
 }  // namespace workbench

@@ -12,6 +12,8 @@ namespace workbench {
 
 namespace {
 
+using drawing::Viewport;
+
 const char* nameOf(AnimationState state) {
     switch (state) {
     case AnimationState::None:
@@ -79,45 +81,73 @@ void NavigationTool::showWalkSettings() {
     showDialog("Walk and Fly Settings");
 }
 
-template <class Change>
-void NavigationTool::changeView(Change change) {
-    Document* document = m_editor.documents().current();
+std::optional<drawing::ViewParameters> NavigationTool::shown() const {
+    const Document* document = m_editor.documents().current();
     if (document == nullptr)
-        return;
-    drawing::Writing<drawing::Viewport> writing(document->data(),
-                                                drawing::activeViewport(document->data()));
+        return {};
+    const auto* viewport =
+        document->data().look<Viewport>(drawing::activeViewport(document->data()));
+    return viewport == nullptr ? std::nullopt : std::optional(viewport->view);
+}
+
+void NavigationTool::show(const drawing::ViewParameters& view, drawing::ObjectId named) {
+    drawing::Database& database = m_editor.documents().current()->data();
+    drawing::Writing<Viewport> writing(database, drawing::activeViewport(database));
     if (!writing)
         return;
-    writing->appliedView = {};
-    change(*writing);
+    writing->view = view;
+    writing->appliedView.id = named;
 }
 
 void NavigationTool::setLens(double lens) {
-    if (lens > 0.0)
-        changeView([lens](drawing::Viewport& viewport) { viewport.view.lens = lens; });
+    std::optional<drawing::ViewParameters> view = shown();
+    if (!view || !(lens > 0.0))
+        return;
+    const double ratio = view->lens / lens;
+    view->width *= ratio;
+    view->height *= ratio;
+    view->lens = lens;
+    show(*view);
 }
 
 void NavigationTool::restorePreset(PresetView preset) {
-    changeView([preset](drawing::Viewport& viewport) { turnTo(viewport.view, preset); });
+    std::optional<drawing::ViewParameters> view = shown();
+    if (!view)
+        return;
+    turnTo(*view, preset);
+    show(*view);
 }
 
 void NavigationTool::restoreNamed(drawing::ObjectId view) {
     const Document* document = m_editor.documents().current();
     const auto* named = document == nullptr ? nullptr : document->data().look<drawing::View>(view);
-    if (named == nullptr)
-        return;
-    changeView([named, view](drawing::Viewport& viewport) {
-        viewport.view = named->view;
-        viewport.appliedView.id = view;
-    });
+    if (named != nullptr)
+        show(named->view, view);
 }
 
 void NavigationTool::moveCamera(const drawing::Vec3& eye) {
-    changeView([&eye](drawing::Viewport& viewport) { viewport.view.eye = eye; });
+    if (const std::optional<drawing::ViewParameters> view = shown())
+        aim(eye, view->target);
 }
 
 void NavigationTool::moveTarget(const drawing::Vec3& target) {
-    changeView([&target](drawing::Viewport& viewport) { viewport.view.target = target; });
+    if (const std::optional<drawing::ViewParameters> view = shown())
+        aim(view->eye, target);
+}
+
+void NavigationTool::aim(const drawing::Vec3& eye, const drawing::Vec3& target) {
+    drawing::ViewParameters view = *shown();
+    const double before = drawing::distance(view.eye, view.target);
+    const double after = drawing::distance(eye, target);
+    if (after == 0.0)
+        return;
+    view.eye = eye;
+    view.target = target;
+    if (before > 0.0) {
+        view.width *= after / before;
+        view.height *= after / before;
+    }
+    show(view);
 }
 
 void NavigationTool::recordAnimation() {

@@ -57,10 +57,12 @@ public:
 
     // What the running tool does with the current viewport's view; the host is told of the change.
 
+    /// Millimetres; nothing for a lens that isn't above 0.
     void setLens(double lens);
     void restorePreset(PresetView preset);
     /// Takes the parameters of a named view; nothing for another object.
     void restoreNamed(drawing::ObjectId view);
+    /// Moves one end of the line of sight, at the same angle of view; nothing if it met the other.
     void moveCamera(const drawing::Vec3& eye);
     void moveTarget(const drawing::Vec3& target);
 
@@ -78,8 +80,11 @@ public:
     GraphicsSystem& graphics() { return m_graphics; }
 
 private:
-    template <class Change>
-    void changeView(Change change);
+    /// What the current viewport shows; nothing without one.
+    std::optional<drawing::ViewParameters> shown() const;
+    /// Has it show something else, a named view or, for null, none.
+    void show(const drawing::ViewParameters& view, drawing::ObjectId named = {});
+    void aim(const drawing::Vec3& eye, const drawing::Vec3& target);
     void setAnimation(AnimationState state);
     void showDialog(const char* name);
     void noteMode();

@@ -1,6 +1,5 @@
 #include "workbench/navigation/preset_views.h"
 
-#include <cmath>
 #include <cstddef>
 
 namespace workbench {
@@ -31,17 +30,13 @@ constexpr Preset kPresets[kPresetViewCount] = {
     {{-kThird, kThird, kThird}, {kSixth, -kSixth, 2 * kSixth}},
 };
 
-double lengthOf(const Vec3& way) {
-    return std::hypot(way.x, way.y, way.z);
-}
-
 }  // namespace
 
 void turnTo(drawing::ViewParameters& view, PresetView preset) {
     const Preset& turned = kPresets[static_cast<std::size_t>(preset)];
-    const double distance = lengthOf(view.eye - view.target);
-    view.eye = view.target + Vec3{turned.direction.x * distance, turned.direction.y * distance,
-                                  turned.direction.z * distance};
+    const double away = drawing::distance(view.eye, view.target);
+    view.eye = view.target + Vec3{turned.direction.x * away, turned.direction.y * away,
+                                  turned.direction.z * away};
     view.up = turned.up;
     view.perspective = false;
 }

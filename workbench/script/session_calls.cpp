@@ -1,5 +1,6 @@
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
+#include "workbench/gestures/key_gestures.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/script/calls.h"
@@ -44,6 +45,11 @@ int answer(Session& session, Arguments& arguments) {
         throw ScriptError("there is no question of the kind \"" + kind + "\"");
     }
     session.workbench().answers().queue(kind, arguments.value(2));
+    return 0;
+}
+
+int hold(Session& /*session*/, Arguments& arguments) {
+    gestures::holdKey(arguments.text(1), arguments.truth(2));
     return 0;
 }
 
@@ -105,6 +111,7 @@ const std::vector<Call>& sessionCalls() {
         {"answer", answer, CallKind::Acts},
         {"fail", fail, CallKind::Acts},
         {"hide", hide, CallKind::Acts},
+        {"hold", hold, CallKind::Acts},
         {"idle", idle, CallKind::Acts},
         {"profile", profile, CallKind::Acts},
         {"quit_abort", quitAbort, CallKind::Acts},

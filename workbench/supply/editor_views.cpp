@@ -102,7 +102,7 @@ BOOL vxgsSetLensLength(int viewportNumber, double lens) {
 void vxgsWriteViewToUndoController(int viewportNumber) {
     HostCall call("vxgsWriteViewToUndoController", {viewportNumber});
     if (!call.failed())
-        graphics().beginUndoStep();
+        graphics().beginUndoStep(viewportNumber);
 }
 
 void vxedSendViewChanged() {

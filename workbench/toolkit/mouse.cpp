@@ -27,23 +27,24 @@ HWND Mouse::windowAt(HWND window, CPoint& point) const {
 
 bool Mouse::move(HWND window, CPoint point, WPARAM held) {
     noteOver(window, point);
-    return send(window, WM_MOUSEMOVE, held, point);
+    return send(window, WM_MOUSEMOVE, held | heldKeys(), point);
 }
 
 bool Mouse::press(HWND window, CPoint point) {
     noteOver(window, point);
     Workbench::current().toolkit().toolTips().hide();
     giveFocusBackOnPress(window);
-    return send(window, kLeftButtonDown, kLeftButtonHeld, point);
+    return send(window, kLeftButtonDown, kLeftButtonHeld | heldKeys(), point);
 }
 
 bool Mouse::release(HWND window, CPoint point) {
-    return send(window, kLeftButtonUp, 0, point);
+    return send(window, kLeftButtonUp, heldKeys(), point);
 }
 
 bool Mouse::doubleClick(HWND window, CPoint point) {
     return press(window, point) && release(window, point) &&
-           send(window, kLeftButtonDoubleClick, kLeftButtonHeld, point) && release(window, point);
+           send(window, kLeftButtonDoubleClick, kLeftButtonHeld | heldKeys(), point) &&
+           release(window, point);
 }
 
 bool Mouse::contextMenu(HWND window, CPoint point) {
@@ -65,6 +66,10 @@ void Mouse::leave() {
     send(left, kMouseLeave, 0, {});
     if (set != nullptr)
         giveFocusBackOnLeave(set->m_hWnd);
+}
+
+WPARAM Mouse::heldKeys() const {
+    return m_windows.isHeld(VK_SHIFT) ? kShiftHeld : 0;
 }
 
 bool Mouse::send(HWND window, UINT message, WPARAM wParam, CPoint point) {

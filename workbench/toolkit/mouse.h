@@ -32,6 +32,8 @@ public:
     HWND captured() const { return m_captured; }
 
 private:
+    /// As the wParam of a mouse message tells them.
+    WPARAM heldKeys() const;
     bool send(HWND window, UINT message, WPARAM wParam, CPoint point);
     void noteOver(HWND window, CPoint point);
 

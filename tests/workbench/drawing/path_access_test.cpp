@@ -115,6 +115,17 @@ TEST_F(PathAccessTest, PartOfAPointIsReadAndChanged) {
     EXPECT_EQ(get("viewports.2.eye.z"), Value(9.5));
 }
 
+TEST_F(PathAccessTest, ViewThatMovesIsNoNamedOneAnyMore) {
+    set("views.Garden", Value::Table{});
+    set("viewports.2.appliedView", "Garden");
+    set("viewports.2.locked", true);
+    EXPECT_EQ(get("viewports.2.appliedView"), Value("Garden"));
+    set("viewports.2.eye.x", 12);
+    EXPECT_EQ(get("viewports.2.appliedView"), Value());
+    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::ok);
+    EXPECT_EQ(get("viewports.2.appliedView"), Value("Garden"));
+}
+
 TEST_F(PathAccessTest, SunIsTheOneOfTheActiveViewport) {
     set("sun.hour", 7);
     EXPECT_EQ(get("sun.date"), Value("2026-06-21T07:00:00"));

@@ -71,6 +71,40 @@ TEST_F(UndoLogTest, EmptyGroupLeavesNoTrace) {
     EXPECT_TRUE(m_log.canRedo());
 }
 
+TEST_F(UndoLogTest, GroupKeepsItsNumberThroughUndoAndRedo) {
+    EXPECT_EQ(m_log.lastGroup(), 0U);
+    write(1);
+    const std::size_t first = m_log.lastGroup();
+    EXPECT_NE(first, 0U);
+    write(2);
+    const std::size_t second = m_log.lastGroup();
+    EXPECT_NE(second, first);
+    m_log.undo();
+    EXPECT_EQ(m_log.lastGroup(), first);
+    m_log.redo();
+    EXPECT_EQ(m_log.lastGroup(), second);
+    m_log.undo();
+    write(3);
+    EXPECT_NE(m_log.lastGroup(), second);
+}
+
+TEST_F(UndoLogTest, JoinedGroupsAreTakenBackAsOneUnderTheEarlierNumber) {
+    m_log.joinLastTwo();
+    write(1);
+    m_log.joinLastTwo();
+    EXPECT_EQ(m_log.undo(), Status::ok);
+    write(1);
+    write(2);
+    const std::size_t second = m_log.lastGroup();
+    write(3);
+    m_log.joinLastTwo();
+    EXPECT_EQ(m_log.lastGroup(), second);
+    EXPECT_EQ(m_log.undo(), Status::ok);
+    EXPECT_EQ(m_value, 1);
+    EXPECT_EQ(m_log.redo(), Status::ok);
+    EXPECT_EQ(m_value, 3);
+}
+
 TEST_F(UndoLogTest, InTheMiddleOfAGroupNothingIsUndone) {
     write(1);
     const UndoGroup group(m_log, "LINE");

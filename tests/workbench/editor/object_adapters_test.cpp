@@ -4,6 +4,7 @@
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/background.h"
 #include "workbench/drawing/records/sun.h"
+#include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 
 namespace workbench {
@@ -17,6 +18,31 @@ protected:
         VxDbObject* object = nullptr;
         m_document.openObjects().open(id, drawing::OpenMode::Read, object);
         return object;
+    }
+
+    drawing::ObjectId addView(const char* name) {
+        drawing::View view;
+        view.name = name;
+        return data().add(view).id;
+    }
+    std::unique_ptr<VxDbViewTableIterator> walk(bool atStart) {
+        VxDbViewTable* table = nullptr;
+        m_document.database()->getSymbolTable(table, VxDbOpenMode::kForRead);
+        VxDbViewTableIterator* iterator = nullptr;
+        EXPECT_EQ(table->newIterator(iterator, atStart, true), Zorq::eOk);
+        table->close();
+        return std::unique_ptr<VxDbViewTableIterator>(iterator);
+    }
+    /// The names of the views, in the order of a walk.
+    std::vector<VxString> viewNames(bool atStart) {
+        std::vector<VxString> names;
+        for (const auto each = walk(atStart); !each->done(); each->step()) {
+            VxDbViewTableRecord* record = nullptr;
+            EXPECT_EQ(each->getRecord(record, VxDbOpenMode::kForRead), Zorq::eOk);
+            EXPECT_EQ(record->getName(names.emplace_back()), Zorq::eOk);
+            record->close();
+        }
+        return names;
     }
 
     Document& m_document;
@@ -68,6 +94,80 @@ TEST_F(ObjectAdaptersTest, TilesAndLayoutViewportsTellWhatTheyShow) {
     inLayout->close();
 }
 
+TEST_F(ObjectAdaptersTest, OnlyTheViewportOfALayoutTellsWhetherItIsLocked) {
+    drawing::Viewport port;
+    port.number = 7;
+    port.locked = true;
+    VxDbObject* tile = open(data().add(port).id);
+    EXPECT_EQ(dynamic_cast<VxDbViewport*>(tile), nullptr);
+    tile->close();
+    port.layout = data().first(drawing::RecordKind::Layout);
+    auto* inLayout = dynamic_cast<VxDbViewport*>(open(data().add(port).id));
+    EXPECT_TRUE(inLayout->isLocked());
+    m_bench.faults().fail("VxDbViewport::isLocked");
+    EXPECT_FALSE(inLayout->isLocked());
+    inLayout->close();
+}
+
+TEST_F(ObjectAdaptersTest, AWalkGoesOverTheLivingViewsFromEitherEnd) {
+    EXPECT_TRUE(viewNames(true).empty());
+    addView("Attic");
+    const drawing::ObjectId cellar = addView("Cellar");
+    addView("J\u00e4gerzimmer");
+    EXPECT_EQ(viewNames(true), (std::vector<VxString>{L"Attic", L"Cellar", L"J\u00e4gerzimmer"}));
+    EXPECT_EQ(viewNames(false), (std::vector<VxString>{L"J\u00e4gerzimmer", L"Cellar", L"Attic"}));
+    drawing::Writing<drawing::View>(data(), cellar).erase();
+    EXPECT_EQ(viewNames(true).size(), 2U);
+    EXPECT_EQ(m_document.openObjects().count(), 0U);
+}
+
+TEST_F(ObjectAdaptersTest, AWalkTellsTheIdOfEachViewAndNothingPastTheEnd) {
+    const drawing::ObjectId attic = addView("Attic");
+    const auto each = walk(true);
+    VxDbObjectId id;
+    EXPECT_EQ(each->getRecordId(id), Zorq::eOk);
+    EXPECT_EQ(id, toHostId(attic));
+    each->step();
+    VxDbViewTableRecord* record = nullptr;
+    EXPECT_NE(each->getRecordId(id), Zorq::eOk);
+    EXPECT_NE(each->getRecord(record, VxDbOpenMode::kForRead), Zorq::eOk);
+    EXPECT_EQ(record, nullptr);
+}
+
+TEST_F(ObjectAdaptersTest, AViewThatIsErasedDuringTheWalkCannotBeOpened) {
+    const drawing::ObjectId attic = addView("Attic");
+    const auto each = walk(true);
+    drawing::Writing<drawing::View>(data(), attic).erase();
+    VxDbViewTableRecord* record = nullptr;
+    EXPECT_NE(each->getRecord(record, VxDbOpenMode::kForRead), Zorq::eOk);
+    EXPECT_EQ(record, nullptr);
+}
+
+TEST_F(ObjectAdaptersTest, FaultsGiveNoWalkNoViewAndNoName) {
+    const drawing::ObjectId attic = addView("Attic");
+    const auto each = walk(true);
+    VxDbViewTableRecord* record = nullptr;
+    VxDbObjectId id;
+    m_bench.faults().fail("VxDbViewTableIterator::getRecord", 11);
+    m_bench.faults().fail("VxDbViewTableIterator::getRecordId", 12);
+    EXPECT_EQ(each->getRecord(record, VxDbOpenMode::kForRead), 11);
+    EXPECT_EQ(each->getRecordId(id), 12);
+    auto* view = dynamic_cast<VxDbViewTableRecord*>(open(attic));
+    ASSERT_NE(view, nullptr);
+    VxString name = L"unread";
+    m_bench.faults().fail("VxDbSymbolTableRecord::getName", 13);
+    EXPECT_EQ(view->getName(name), 13);
+    EXPECT_EQ(name, L"unread");
+    view->close();
+    auto* table = dynamic_cast<VxDbViewTable*>(open(data().table(drawing::RecordKind::View)));
+    ASSERT_NE(table, nullptr);
+    VxDbViewTableIterator* iterator = nullptr;
+    m_bench.faults().fail("VxDbViewTable::newIterator", 14);
+    EXPECT_EQ(table->newIterator(iterator, true, true), 14);
+    EXPECT_EQ(iterator, nullptr);
+    table->close();
+}
+
 TEST_F(ObjectAdaptersTest, AnOpeningIsCountedUntilItIsClosed) {
     const drawing::ObjectId layer = data().find(drawing::RecordKind::Layer, "0");
     VxDbObject* first = open(layer);
@@ -96,12 +196,6 @@ TEST_F(ObjectAdaptersTest, AFaultInCloseStillEndsTheOpening) {
     m_bench.faults().fail("VxDbObject::close", 9);
     EXPECT_EQ(sun->close(), 9);
     EXPECT_EQ(m_document.openObjects().count(), 0U);
-}
-
-TEST_F(ObjectAdaptersTest, TheDatabaseTellsWhetherModelSpaceIsActive) {
-    EXPECT_TRUE(m_document.database()->tilemode());
-    editor().set(L"TILEMODE", 0);
-    EXPECT_FALSE(m_document.database()->tilemode());
 }
 
 }  // namespace workbench

@@ -2,6 +2,7 @@
 
 #include "workbench/drawing/drawing.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 
 #include <gtest/gtest.h>
@@ -18,6 +19,18 @@ protected:
     drawing::Database& data() { return m_drawing->db; }
     drawing::ObjectId port() { return drawing::activeViewport(data()); }
     void setWidth(double width) { Writing<Viewport>(data(), port())->view.width = width; }
+    /// A named view, which the viewport then shows.
+    drawing::ObjectId restoreNamed(double width) {
+        drawing::View view;
+        view.name = "Wide";
+        view.view.width = width;
+        const drawing::ObjectId id = data().add(view).id;
+        Writing<Viewport> writing(data(), port());
+        writing->view = view.view;
+        writing->appliedView.id = id;
+        return id;
+    }
+    drawing::ObjectId named() { return data().look<Viewport>(port())->appliedView.id; }
     double width() { return data().look<Viewport>(port())->view.width; }
 
     std::unique_ptr<drawing::Drawing> m_drawing = drawing::makeNewDrawing();
@@ -42,6 +55,58 @@ TEST_F(ViewHistoryTest, StepsBackThroughTheViewsOneByOne) {
     EXPECT_EQ(width(), first);
     EXPECT_FALSE(m_history.stepBack(port()));
     EXPECT_EQ(m_changes, 4);
+}
+
+TEST_F(ViewHistoryTest, WhatChangedWhileQuietIsToldOnceAndIsOneStep) {
+    const double first = width();
+    m_history.setQuiet(true);
+    setWidth(10);
+    setWidth(20);
+    m_history.setQuiet(false);
+    EXPECT_EQ(m_changes, 0);
+    m_history.tell(port());
+    m_history.tell(port());
+    m_history.tell({});
+    EXPECT_EQ(m_changes, 1);
+    EXPECT_EQ(m_history.depth(port()), 1U);
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_EQ(width(), first);
+}
+
+TEST_F(ViewHistoryTest, ANamedViewComesBackUnderItsName) {
+    const drawing::ObjectId view = restoreNamed(10);
+    {
+        Writing<Viewport> writing(data(), port());
+        writing->view.width = 20;
+        writing->appliedView = {};
+    }
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_EQ(named(), view);
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_TRUE(named().isNull());
+}
+
+TEST_F(ViewHistoryTest, ANamedViewThatChangedOrIsGoneComesBackWithoutItsName) {
+    const drawing::ObjectId view = restoreNamed(10);
+    setWidth(20);
+    Writing<drawing::View>(data(), view)->view.width = 11;
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_EQ(width(), 10);
+    EXPECT_TRUE(named().isNull());
+
+    Writing<drawing::View>(data(), view)->view.width = 10;
+    Writing<Viewport>(data(), port())->appliedView.id = view;
+    setWidth(20);
+    Writing<drawing::View>(data(), view).erase();
+    EXPECT_TRUE(m_history.stepBack(port()));
+    EXPECT_TRUE(named().isNull());
+}
+
+TEST_F(ViewHistoryTest, AfterAStepBackTheNextChangeCountsAgain) {
+    setWidth(10);
+    m_history.stepBack(port());
+    setWidth(30);
+    EXPECT_EQ(m_history.depth(port()), 1U);
 }
 
 TEST_F(ViewHistoryTest, AChangeThatLeavesTheViewIsNone) {

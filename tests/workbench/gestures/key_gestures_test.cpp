@@ -46,6 +46,16 @@ TEST_F(KeyGesturesTest, AConsumedKeyDoesNotArrive) {
     EXPECT_THAT(m_control.seen, ElementsAre(std::pair(kCharMessage, WPARAM{L'5'})));
 }
 
+TEST_F(KeyGesturesTest, ShiftIsHeldUntilItIsLetGo) {
+    EXPECT_GE(GetKeyState(VK_SHIFT), 0);
+    holdKey("shift", true);
+    holdKey("shift", true);
+    EXPECT_LT(GetKeyState(VK_SHIFT), 0);
+    holdKey("shift", false);
+    EXPECT_GE(GetKeyState(VK_SHIFT), 0);
+    EXPECT_THROW(holdKey("enter", true), GestureError);
+}
+
 TEST_F(KeyGesturesTest, AKeyCanBeSentToAnotherWindow) {
     pressKey("f1", m_toolPanel->m_hWnd);
     EXPECT_EQ(m_toolPanel->of(WM_HELP).size(), 1U);

@@ -1,12 +1,28 @@
 #include "workbench/navigation/navigation_tool.h"
 
 #include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/view.h"
+#include "workbench/drawing/records/viewport.h"
 
 namespace workbench {
 
 class NavigationToolTest : public EditorTest {
 protected:
     NavigationTool& tool() { return m_bench.navigation(); }
+    drawing::Database& data() { return editor().documents().current()->data(); }
+    const drawing::Viewport& viewport() {
+        return *data().look<drawing::Viewport>(drawing::activeViewport(data()));
+    }
+    const drawing::ViewParameters& shown() { return viewport().view; }
+    /// Looks from (0, 0, 10) at the origin, at a field of 8 by 4.
+    void lookDown() {
+        drawing::Writing<drawing::Viewport> writing(data(), drawing::activeViewport(data()));
+        writing->view.eye = {0, 0, 10};
+        writing->view.target = {};
+        writing->view.width = 8;
+        writing->view.height = 4;
+    }
 };
 
 TEST_F(NavigationToolTest, RunsFromStartToStopInOneModeAtATime) {
@@ -42,6 +58,86 @@ TEST_F(NavigationToolTest, AProjectionChangesTheViewAndNotTheMode) {
     EXPECT_EQ(tool().mode(), NavigationTool::kPan);
     tool().switchMode(NavigationTool::kParallelProjection);
     EXPECT_EQ(read(L"PERSPECTIVE"), Value(0));
+}
+
+TEST_F(NavigationToolTest, AnotherLensNarrowsTheFieldAndTells) {
+    newDocument();
+    lookDown();
+    events();
+    tool().setLens(100);
+    EXPECT_EQ(shown().lens, 100);
+    EXPECT_EQ(shown().width, 4);
+    EXPECT_EQ(shown().height, 2);
+    EXPECT_EQ(events(), Lines{"view changed"});
+    tool().setLens(0);
+    tool().setLens(-1);
+    EXPECT_EQ(shown().lens, 100);
+}
+
+TEST_F(NavigationToolTest, APresetTurnsTheCameraAtTheSameDistance) {
+    newDocument();
+    lookDown();
+    events();
+    tool().restorePreset(PresetView::Left);
+    EXPECT_EQ(shown().eye, (drawing::Vec3{-10, 0, 0}));
+    EXPECT_EQ(shown().up, (drawing::Vec3{0, 0, 1}));
+    EXPECT_EQ(events(), Lines{"view changed"});
+}
+
+TEST_F(NavigationToolTest, ANamedViewIsAppliedAndAnotherObjectIsNot) {
+    newDocument();
+    drawing::View view;
+    view.name = "Pond";
+    view.view.eye = {3, 2, 1};
+    view.view.lens = 35;
+    const drawing::ObjectId id = data().add(view).id;
+    tool().restoreNamed(id);
+    EXPECT_EQ(shown(), view.view);
+    EXPECT_EQ(viewport().appliedView.id, id);
+    tool().restoreNamed(data().find(drawing::RecordKind::Layer, "0"));
+    tool().restoreNamed({});
+    EXPECT_EQ(viewport().appliedView.id, id);
+    tool().setLens(40);
+    EXPECT_TRUE(viewport().appliedView.id.isNull());
+}
+
+TEST_F(NavigationToolTest, TheCameraMovesAtTheSameAngleOfView) {
+    newDocument();
+    lookDown();
+    tool().moveCamera({0, 0, 20});
+    EXPECT_EQ(shown().eye, (drawing::Vec3{0, 0, 20}));
+    EXPECT_EQ(shown().target, drawing::Vec3());
+    EXPECT_EQ(shown().width, 16);
+    EXPECT_EQ(shown().height, 8);
+    tool().moveTarget({0, 0, 15});
+    EXPECT_EQ(shown().eye, (drawing::Vec3{0, 0, 20}));
+    EXPECT_EQ(shown().target, (drawing::Vec3{0, 0, 15}));
+    EXPECT_EQ(shown().width, 4);
+}
+
+TEST_F(NavigationToolTest, EyeAndTargetNeverMeet) {
+    newDocument();
+    lookDown();
+    tool().moveCamera({});
+    tool().moveTarget({0, 0, 10});
+    EXPECT_EQ(shown().eye, (drawing::Vec3{0, 0, 10}));
+    EXPECT_EQ(shown().target, drawing::Vec3());
+}
+
+TEST_F(NavigationToolTest, WithoutADocumentOrAViewportNoViewMoves) {
+    const auto moveAll = [this] {
+        tool().setLens(20);
+        tool().restorePreset(PresetView::Top);
+        tool().restoreNamed({});
+        tool().moveCamera({1, 1, 1});
+        tool().moveTarget({2, 2, 2});
+    };
+    moveAll();
+    newDocument();
+    editor().set(L"CVPORT", 99);
+    events();
+    moveAll();
+    EXPECT_TRUE(events().empty());
 }
 
 TEST_F(NavigationToolTest, AnAnimationIsRecordedPausedAndPlayed) {

@@ -52,6 +52,27 @@ TEST_F(SessionCallsTest, AnswerMustFitAQuestion) {
     EXPECT_EQ(workbench().answers().take("select"), Value(Value::List{1, 2}));
 }
 
+TEST_F(SessionCallsTest, ShiftIsHeldDuringTheClicksToCome) {
+    runOnDashboard(R"(
+        local views = wb.control("3DNavViewComboCtrl")
+        local function stepsBack()
+            wb.journal()
+            views:click()
+            for _, record in ipairs(wb.journal("call")) do
+                if record.name:find("^vxInternalZoom") then return record.name end
+            end
+        end
+        wb.set("PERSPECTIVE", 1)
+        wb.set("PERSPECTIVE", 0)
+        wb.hold("shift", true)
+        assert(stepsBack() == "vxInternalZoomBack")
+        wb.hold("shift", false)
+        assert(stepsBack() == "vxInternalZoomPrevious")
+        assert(stepsBack() == nil)
+    )");
+    EXPECT_EQ(complaintOf("wb.hold('hyper', true)"), "wb.hold: there is no key \"hyper\" to hold");
+}
+
 TEST_F(SessionCallsTest, ClockMovesOnlyForwardAndOnlyWhenAsked) {
     run("wb.new('A') wb.idle(3)");
     EXPECT_EQ(workbench().clock().now(), 0);

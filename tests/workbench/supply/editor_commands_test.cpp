@@ -1,6 +1,4 @@
 #include "tests/workbench/editor/editor_fixture.h"
-#include "workbench/drawing/lookup.h"
-#include "workbench/drawing/records/viewport.h"
 
 #include <hostapi/zorq/commands.h>
 #include <hostapi/zorq/variables.h>
@@ -46,15 +44,17 @@ TEST_F(CommandFunctionsTest, HelpIsInTheJournal) {
     EXPECT_EQ(records[0].field("args"), Value(Value::List{Value(), "DASHBOARD", 0}));
 }
 
-TEST_F(CommandFunctionsTest, ZoomBackGivesTheLastViewBack) {
-    vxInternalZoomBack();
-    Document& document = newDocument();
-    write(L"PERSPECTIVE", 1);
-    vxInternalZoomBack();
-    EXPECT_EQ(read(L"PERSPECTIVE"), Value(0));
-    EXPECT_EQ(document.viewHistory().depth(drawing::activeViewport(document.data())), 0U);
-    vxInternalZoomBack();
-    EXPECT_EQ(read(L"PERSPECTIVE"), Value(0));
+TEST_F(CommandFunctionsTest, ACommandIsActiveWhileItWaits) {
+    EXPECT_FALSE(vxedCommandActive());
+    newDocument();
+    EXPECT_FALSE(vxedCommandActive());
+    editor().type(L"line\n");
+    EXPECT_TRUE(vxedCommandActive());
+    m_bench.faults().fail("vxedCommandActive");
+    EXPECT_FALSE(vxedCommandActive());
+    m_bench.faults().unfail("vxedCommandActive");
+    newDocument(L"B");
+    EXPECT_FALSE(vxedCommandActive());
 }
 
 }  // namespace workbench

@@ -29,6 +29,15 @@ TEST_F(WindowFunctionsTest, OnlyTheSizeFrameHasAMeasure) {
     EXPECT_EQ(GetSystemMetrics(SM_CXSIZEFRAME + 1), 0);
 }
 
+TEST_F(WindowFunctionsTest, AKeyIsDownWhileItIsHeld) {
+    EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
+    windows().hold(VK_SHIFT, true);
+    EXPECT_LT(GetKeyState(VK_SHIFT), 0);
+    EXPECT_EQ(GetKeyState(VK_RETURN), 0);
+    m_workbench.faults().fail("GetKeyState");
+    EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
+}
+
 TEST_F(WindowFunctionsTest, TheCursorIsNotedInTheJournal) {
     journal().take();
     SetArrowCursor();

@@ -37,6 +37,21 @@ TEST_F(MouseTest, PointsTravelSigned) {
     EXPECT_EQ(unpackPoint(m_inner.of(WM_MOUSEMOVE)[0].lParam), (CPoint{-3, 7}));
 }
 
+TEST_F(MouseTest, AHeldShiftComesWithTheButtonsAndMoves) {
+    mouse().press(m_inner.m_hWnd, {1, 1});
+    EXPECT_EQ(m_inner.of(kLeftButtonDown)[0].wParam, kLeftButtonHeld);
+    windows().hold(VK_SHIFT, true);
+    mouse().release(m_inner.m_hWnd, {1, 1});
+    mouse().move(m_inner.m_hWnd, {2, 1});
+    mouse().press(m_inner.m_hWnd, {2, 1});
+    windows().hold(VK_SHIFT, false);
+    mouse().release(m_inner.m_hWnd, {2, 1});
+    EXPECT_EQ(m_inner.of(kLeftButtonUp)[0].wParam, kShiftHeld);
+    EXPECT_EQ(m_inner.of(WM_MOUSEMOVE)[0].wParam, kShiftHeld);
+    EXPECT_EQ(m_inner.of(kLeftButtonDown)[1].wParam, kLeftButtonHeld | kShiftHeld);
+    EXPECT_EQ(m_inner.of(kLeftButtonUp)[1].wParam, WPARAM{0});
+}
+
 TEST_F(MouseTest, DisabledAndEndedWindowsGetNothing) {
     m_panel.EnableWindow(0);
     m_inner.received.clear();

@@ -17,7 +17,10 @@ Value readPerspective(const VariableScope& scope) {
 bool writePerspective(const VariableScope& scope, const Value& value) {
     const bool perspective = value.asInteger() != 0;
     return writeRecord<Viewport>(scope, drawing::activeViewport, [perspective](Viewport& viewport) {
+        if (viewport.view.perspective == perspective)
+            return;
         viewport.view.perspective = perspective;
+        viewport.appliedView = {};
     });
 }
 

@@ -1,5 +1,6 @@
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 
 namespace workbench {
@@ -10,6 +11,18 @@ TEST_F(EditorTest, PerspectiveIsTheActiveViewports) {
     const drawing::Database& data = document.data();
     EXPECT_TRUE(data.look<drawing::Viewport>(drawing::activeViewport(data))->view.perspective);
     EXPECT_EQ(events(), (Lines{"will change PERSPECTIVE", "view changed", "changed PERSPECTIVE"}));
+}
+
+TEST_F(EditorTest, AnotherProjectionIsNoLongerTheNamedView) {
+    drawing::Database& data = newDocument().data();
+    const drawing::ObjectId port = drawing::activeViewport(data);
+    drawing::View named;
+    named.name = "Garden";
+    drawing::Writing<drawing::Viewport>(data, port)->appliedView.id = data.add(named).id;
+    write(L"PERSPECTIVE", 0);
+    EXPECT_FALSE(data.look<drawing::Viewport>(port)->appliedView.id.isNull());
+    write(L"PERSPECTIVE", 1);
+    EXPECT_TRUE(data.look<drawing::Viewport>(port)->appliedView.id.isNull());
 }
 
 TEST_F(EditorTest, WithoutAnActiveViewportPerspectiveIsNil) {
@@ -24,7 +37,9 @@ TEST_F(EditorTest, StepsAreRealsInTheirRanges) {
     EXPECT_TRUE(write(L"STEPSIZE", 0.5));
     EXPECT_FALSE(write(L"STEPSIZE", 0));
     EXPECT_TRUE(write(L"STEPSPERSEC", 30));
-    EXPECT_FALSE(write(L"STEPSPERSEC", 31));
+    EXPECT_TRUE(write(L"STEPSPERSEC", 300 / 290.0 * 29.0)) << "30 and what rounding adds to it";
+    EXPECT_FALSE(write(L"STEPSPERSEC", 30.1));
+    EXPECT_FALSE(write(L"STEPSPERSEC", 0.9));
     EXPECT_TRUE(write(L"CAMERADISPLAY", 1));
 }
 

@@ -1,6 +1,10 @@
 #include "tests/workbench/loader/test_options.h"
 
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/view.h"
+#include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
+#include "workbench/editor/object_adapters.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/navigation/navigation_tool.h"
 
@@ -34,6 +38,22 @@ protected:
     void switchMode(CTool* tool, int mode) {
         exported<void (*)(CTool*, int)>("navSwitchNavMode")(tool, mode);
     }
+    void point(const char* name, CTool* tool, drawing::Vec3 to) {
+        exported<void (*)(CTool*, double, double, double)>(name)(tool, to.x, to.y, to.z);
+    }
+    void setLens(CTool* tool, double lens) {
+        exported<void (*)(CTool*, double)>("navUpdateLensLength")(tool, lens);
+    }
+    void restorePreset(CTool* tool, int preset) {
+        exported<void (*)(CTool*, int)>("navRestorePresetView")(tool, preset);
+    }
+    void restoreNamed(CTool* tool, VxDbObjectId view) {
+        exported<void (*)(CTool*, VxDbObjectId)>("navRestoreNamedView")(tool, view);
+    }
+    drawing::Database& data() { return bench.editor().documents().current()->data(); }
+    const drawing::ViewParameters& shown() {
+        return data().look<drawing::Viewport>(drawing::activeViewport(data()))->view;
+    }
     int isActive() { return exported<int (*)()>("navIsActive")(); }
     std::vector<std::string> dialogs() {
         std::vector<std::string> names;
@@ -55,6 +75,48 @@ TEST_F(NavigationModuleTest, NoToolAndAnotherToolChangeNothing) {
     switchMode(nullptr, NavigationTool::kWalk);
     switchMode(&other, NavigationTool::kWalk);
     EXPECT_EQ(navigation().mode(), NavigationTool::kFreeOrbit);
+}
+
+TEST_F(NavigationModuleTest, TheRunningToolTurnsTheViewOfTheViewport) {
+    CTool* tool = navigation().tool();
+    setLens(tool, 24);
+    EXPECT_EQ(shown().lens, 24);
+    point("navUpdateCameraPosition", tool, {10, 0, 0});
+    EXPECT_EQ(shown().eye, (drawing::Vec3{10, 0, 0}));
+    point("navUpdateCameraTarget", tool, {4, 0, 0});
+    EXPECT_EQ(shown().target, (drawing::Vec3{4, 0, 0}));
+    restorePreset(tool, 0);
+    EXPECT_EQ(shown().eye, (drawing::Vec3{4, 0, 6}));
+    restorePreset(tool, 5);
+    EXPECT_EQ(shown().eye, (drawing::Vec3{10, 0, 0}));
+}
+
+TEST_F(NavigationModuleTest, ANamedViewIsRestoredByItsId) {
+    drawing::View view;
+    view.name = "Pond";
+    view.view.eye = {3, 2, 1};
+    restoreNamed(navigation().tool(), toHostId(data().add(view).id));
+    EXPECT_EQ(shown(), view.view);
+}
+
+TEST_F(NavigationModuleTest, NumbersThatAreNoPresetChangeNothing) {
+    const drawing::ViewParameters before = shown();
+    for (const int preset : {-1, 10, 11})
+        restorePreset(navigation().tool(), preset);
+    restoreNamed(navigation().tool(), {});
+    EXPECT_EQ(shown(), before);
+}
+
+TEST_F(NavigationModuleTest, OnlyTheRunningToolsViewTurns) {
+    const drawing::ViewParameters before = shown();
+    CTool other(NavigationTool::kPan);
+    for (CTool* tool : {static_cast<CTool*>(nullptr), &other}) {
+        setLens(tool, 24);
+        point("navUpdateCameraPosition", tool, {10, 0, 0});
+        point("navUpdateCameraTarget", tool, {4, 0, 0});
+        restorePreset(tool, 4);
+    }
+    EXPECT_EQ(shown(), before);
 }
 
 TEST_F(NavigationModuleTest, RecordingGoesFromIdleToPaused) {
