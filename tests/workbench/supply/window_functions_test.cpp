@@ -34,7 +34,7 @@ TEST_F(WindowFunctionsTest, AKeyIsDownWhileItIsHeld) {
     windows().hold(VK_SHIFT, true);
     EXPECT_LT(GetKeyState(VK_SHIFT), 0);
     EXPECT_EQ(GetKeyState(VK_RETURN), 0);
-    m_workbench.faults().fail("GetKeyState");
+    Workbench::current().faults().fail("GetKeyState");
     EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
 }
 
