@@ -23,5 +23,6 @@ endfunction()
 
 vx_headers_alone(headers_alone_product src "")
 if(TARGET vxworkbench)
-  vx_headers_alone(headers_alone_workbench workbench "workbench/" vxworkbench)
+  vx_headers_alone(headers_alone_workbench workbench "workbench/" vxworkbench
+    $<TARGET_NAME_IF_EXISTS:vxdesktop>)
 endif()

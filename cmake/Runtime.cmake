@@ -8,7 +8,7 @@ if(EXISTS "${PROJECT_SOURCE_DIR}/resources/CMakeLists.txt")
   get_property(resource_modules DIRECTORY "${PROJECT_SOURCE_DIR}/resources"
     PROPERTY BUILDSYSTEM_TARGETS)
 endif()
-foreach(target IN ITEMS VxDashboard workbench ${host_modules} ${resource_modules})
+foreach(target IN ITEMS VxDashboard workbench workbench-desktop ${host_modules} ${resource_modules})
   if(TARGET ${target})
     add_dependencies(runtime ${target})
   endif()
