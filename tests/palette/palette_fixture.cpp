@@ -216,12 +216,12 @@ void PaletteTest::fail(std::string_view call, int count) {
 }
 
 void PaletteTest::failSecond(std::string_view call, std::optional<int> status) {
-    bench().journal().setListener(
+    m_failing = bench().journal().addListener(
         [this, name = std::string(call), status](const workbench::JournalRecord& record) {
             if (!isCall(record, name))
                 return;
             bench().faults().fail(name, status, 1);
-            bench().journal().setListener(nullptr);
+            m_failing = {};
         });
 }
 

@@ -91,6 +91,7 @@ private:
     Folder m_folder;
     std::unique_ptr<workbench::Workbench> m_workbench;
     bool m_loaded = false;
+    workbench::Journal::Listening m_failing;  // of `failSecond`
 };
 
 /// The texts of lines; "-" for a separator, "*" before a checked one.

@@ -90,7 +90,7 @@ void Bench::start() {
     }
     m_bench = std::make_unique<workbench::Workbench>(options);
     m_bench->modules().environment().set("ENABLEDASHBOARD", std::nullopt);
-    m_bench->journal().setListener([this](const workbench::JournalRecord& record) {
+    m_listening = m_bench->journal().addListener([this](const workbench::JournalRecord& record) {
         if (record.kind != "command" || record.field("way").isNil())
             return;
         m_sent.push_back({record.field("text").asString(), record.field("way").asString()});

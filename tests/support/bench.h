@@ -112,6 +112,7 @@ private:
     bool m_noMenu = false;
     std::unique_ptr<workbench::Workbench> m_bench;  // null until it is used first
     std::vector<Sent> m_sent;
+    workbench::Journal::Listening m_listening;
 };
 
 }  // namespace support

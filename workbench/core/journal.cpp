@@ -16,9 +16,28 @@ std::uint64_t Journal::add(std::string_view kind, std::vector<JournalRecord::Fie
     if (!m_recording)
         return 0;
     m_records.push_back({++m_lastNumber, m_clock.now(), std::string(kind), std::move(fields)});
-    if (m_listener)
-        m_listener(m_records.back());
-    return m_lastNumber;
+    const std::uint64_t number = m_lastNumber;
+    tellListeners();
+    return number;
+}
+
+Journal::Listening Journal::addListener(Listener listener) {
+    auto owned = std::make_shared<const Listener>(std::move(listener));
+    m_listeners.push_back(owned);
+    return Listening(std::move(owned));
+}
+
+void Journal::tellListeners() {
+    std::erase_if(m_listeners, [](const auto& listener) { return listener.expired(); });
+    if (m_listeners.empty())
+        return;
+    // Copies, because a listener may add records and listeners and take records.
+    const JournalRecord record = m_records.back();
+    const std::vector<std::weak_ptr<const Listener>> listeners = m_listeners;
+    for (const std::weak_ptr<const Listener>& listener : listeners) {
+        if (const auto living = listener.lock())
+            (*living)(record);
+    }
 }
 
 void Journal::complete(std::uint64_t number, std::string_view field, Value value) {

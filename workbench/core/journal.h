@@ -7,6 +7,7 @@
 #include <functional>
 #include <initializer_list>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,22 @@ class Journal {
 public:
     using Listener = std::function<void(const JournalRecord&)>;
 
+    /// Owns a listener, which ends with it; an empty one owns none. May outlive the journal.
+    class Listening {
+    public:
+        Listening() = default;
+        Listening(Listening&&) noexcept = default;
+        Listening& operator=(Listening&&) noexcept = default;
+        ~Listening() = default;
+
+    private:
+        friend class Journal;
+        explicit Listening(std::shared_ptr<const Listener> listener)
+            : m_listener(std::move(listener)) {}
+
+        std::shared_ptr<const Listener> m_listener;  // the journal's own pointer to it is weak
+    };
+
     explicit Journal(const Clock& clock) : m_clock(clock) {}
 
     /// Switches recording on (the state at start) or off; off, `add` costs nothing.
@@ -58,17 +75,20 @@ public:
     /// Writes what has not been written yet.
     void flush();
 
-    /// Is told each new record, at once. Null ends it.
-    void setListener(Listener listener) { m_listener = std::move(listener); }
+    /// Tells a listener each new record, at once, behind the listeners that are older. A listener
+    /// may add records and listeners, and end any listener, itself too, while it is told.
+    [[nodiscard]] Listening addListener(Listener listener);
 
 private:
+    void tellListeners();
+
     const Clock& m_clock;
     bool m_recording = true;
     std::uint64_t m_lastNumber = 0;
     std::uint64_t m_lastWritten = 0;  // number of the last record written to the stream
     std::vector<JournalRecord> m_records;
-    std::ostream* m_stream = nullptr;  // not owned; null: nothing is written
-    Listener m_listener;
+    std::ostream* m_stream = nullptr;                        // not owned; null: nothing is written
+    std::vector<std::weak_ptr<const Listener>> m_listeners;  // oldest first
 };
 
 /// A record as one line of JSON, without the line end: {"t":…,"kind":…,fields…}.

@@ -15,14 +15,10 @@ constexpr const wchar_t* kFirstDocument = L"Drawing1";
 }  // namespace
 
 Session::Session(Workbench& workbench) : m_workbench(workbench) {
-    m_workbench.journal().setListener([this](const JournalRecord& record) {
+    m_listening = m_workbench.journal().addListener([this](const JournalRecord& record) {
         if (record.kind == "command" && !record.field("way").isNil())
             m_sent.push_back(record);
     });
-}
-
-Session::~Session() {
-    m_workbench.journal().setListener(nullptr);
 }
 
 void Session::settle() {

@@ -13,7 +13,7 @@ public:
     explicit Session(Workbench& workbench);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
-    ~Session();
+    ~Session() = default;
 
     Workbench& workbench() { return m_workbench; }
 
@@ -45,6 +45,7 @@ private:
     bool m_documentsMade = false;
     std::vector<JournalRecord> m_sent;
     std::string m_listenerError;  // empty: none
+    Journal::Listening m_listening;
 };
 
 }  // namespace workbench::script

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <vector>
 
 namespace workbench {
 
@@ -60,15 +61,95 @@ TEST_F(JournalTest, NothingIsKeptWhileRecordingIsOff) {
     EXPECT_TRUE(journal.records().empty());
 }
 
-TEST_F(JournalTest, TheListenerHearsEachRecordAtOnce) {
+TEST_F(JournalTest, AListenerHearsEachRecordAtOnceUntilItEnds) {
     std::string heard;
-    journal.setListener([&heard](const JournalRecord& record) { heard += record.kind + ";"; });
+    Journal::Listening listening =
+        journal.addListener([&heard](const JournalRecord& record) { heard += record.kind + ";"; });
     journal.add("call", {});
     journal.add("var", {});
     EXPECT_EQ(heard, "call;var;");
-    journal.setListener(nullptr);
+    listening = {};
     journal.add("item", {});
     EXPECT_EQ(heard, "call;var;");
+}
+
+TEST_F(JournalTest, ListenersHearARecordInTheirOrder) {
+    std::string heard;
+    const auto first = journal.addListener([&heard](const JournalRecord&) { heard += "1"; });
+    const auto second = journal.addListener([&heard](const JournalRecord&) { heard += "2"; });
+    journal.add("call", {});
+    EXPECT_EQ(heard, "12");
+}
+
+TEST_F(JournalTest, NoListenerHearsWhileRecordingIsOff) {
+    int heard = 0;
+    const auto listening = journal.addListener([&heard](const JournalRecord&) { ++heard; });
+    journal.setRecording(false);
+    journal.add("call", {});
+    EXPECT_EQ(heard, 0);
+}
+
+TEST_F(JournalTest, AListenerMayEndItselfWhileItIsTold) {
+    std::string heard;
+    Journal::Listening listening;
+    listening = journal.addListener(
+        [&listening, &heard, word = std::string("once;")](const JournalRecord&) {
+            listening = {};
+            heard += word;
+        });
+    const auto other = journal.addListener([&heard](const JournalRecord&) { heard += "other;"; });
+    journal.add("call", {});
+    journal.add("call", {});
+    EXPECT_EQ(heard, "once;other;other;");
+}
+
+TEST_F(JournalTest, AListenerThatAnotherOneEndsHearsNoMore) {
+    std::string heard;
+    Journal::Listening second;
+    const auto first = journal.addListener([&second](const JournalRecord&) { second = {}; });
+    second = journal.addListener([&heard](const JournalRecord&) { heard += "2"; });
+    journal.add("call", {});
+    EXPECT_EQ(heard, "");
+}
+
+TEST_F(JournalTest, AListenerThatIsAddedWhileOneIsToldHearsTheNextRecord) {
+    std::string heard;
+    std::vector<Journal::Listening> later;
+    const auto first = journal.addListener([&](const JournalRecord&) {
+        later.push_back(journal.addListener(
+            [&heard](const JournalRecord& record) { heard += record.kind + ";"; }));
+    });
+    journal.add("call", {});
+    EXPECT_EQ(heard, "");
+    journal.add("var", {});
+    EXPECT_EQ(heard, "var;");
+}
+
+TEST_F(JournalTest, AListenerMayAddAndTakeRecords) {
+    std::string heard;
+    const auto first = journal.addListener([this](const JournalRecord& record) {
+        if (record.kind != "call")
+            return;
+        journal.add("note", {});
+        journal.take();
+    });
+    const auto second =
+        journal.addListener([&heard](const JournalRecord& record) { heard += record.kind + ";"; });
+    EXPECT_EQ(journal.add("call", {}), 1U);
+    EXPECT_EQ(heard, "note;call;");
+    EXPECT_TRUE(journal.records().empty());
+}
+
+TEST_F(JournalTest, AListenerMayOutliveTheJournal) {
+    Journal::Listening listening;
+    {
+        Journal shortLived(clock);
+        listening = shortLived.addListener([](const JournalRecord&) {});
+        shortLived.add("call", {});
+    }
+    listening = {};
+    journal.add("call", {});
+    EXPECT_EQ(journal.records().size(), 1U);
 }
 
 TEST_F(JournalTest, EachRecordIsWrittenOnce) {
