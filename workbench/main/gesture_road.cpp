@@ -2,10 +2,10 @@
 
 #include "workbench/base/input_error.h"
 #include "workbench/base/text.h"
+#include "workbench/core/step_text.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/slider_gestures.h"
 #include "workbench/loader/module_loader.h"
-#include "workbench/main/step_text.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 

@@ -1,4 +1,4 @@
-#include "workbench/main/step_text.h"
+#include "workbench/core/step_text.h"
 
 #include <algorithm>
 #include <array>
@@ -67,20 +67,25 @@ std::string describeOther(const JournalRecord& record) {
     return line;
 }
 
+/// Fills a column up with blanks, of which there is one at least.
 std::string padded(std::string text, std::size_t width) {
-    text.resize(std::max(width, text.size()), ' ');
+    text.resize(std::max(width, text.size() + 1), ' ');
     return text;
 }
 
 }  // namespace
 
 std::string describeStep(const JournalRecord& record) {
-    std::string line = padded(std::to_string(record.time) + " ms", 8) + padded(record.kind, 9);
+    return padded(std::to_string(record.time) + " ms", 8) + padded(record.kind, 9) +
+           describeEvent(record);
+}
+
+std::string describeEvent(const JournalRecord& record) {
     for (const KindText& row : kKinds) {
         if (record.kind == row.kind)
-            return line + row.describe(record);
+            return row.describe(record);
     }
-    return line + describeOther(record);
+    return describeOther(record);
 }
 
 }  // namespace workbench
