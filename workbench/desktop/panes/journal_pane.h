@@ -1,0 +1,66 @@
+#pragma once
+
+#include "workbench/core/journal.h"
+#include "workbench/desktop/panes/journal_filter.h"
+#include "workbench/desktop/panes/journal_model.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <functional>
+#include <vector>
+
+class QHBoxLayout;
+class QTableView;
+class QToolButton;
+
+namespace workbench::desktop {
+
+/// Shows the journal as it grows, with the newest record below. It can be filtered, held, copied and
+/// saved. While it is hidden, records are only kept.
+class JournalPane final : public QWidget {
+public:
+    /// The journal must outlive the pane.
+    explicit JournalPane(Journal& journal);
+
+    /// Takes over now what has come; otherwise that is done when the event loop comes round.
+    void takeOver();
+    /// Holds the pane, or lets it go on with what has come meanwhile.
+    void setPaused(bool paused);
+    /// The selected rows, or all on show, as lines of text.
+    QString copiedText() const;
+    /// Writes the rows on show as JSON lines. False, with a message in `error`, if the file can't be
+    /// written.
+    bool saveTo(const QString& path, QString& error) const;
+
+    /// Told in one message what could not be done.
+    void setOnFailure(std::function<void(const QString&)> told) { m_onFailure = std::move(told); }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QHBoxLayout* makeControls();
+    QTableView* makeTable();
+    QToolButton* makeKindMenu();
+    void note(const JournalRecord& record);
+    void showWaiting();
+    void save();
+    /// The records of the selected rows, or of all on show, in their order.
+    std::vector<const JournalRecord*> chosenRecords(bool onlySelected) const;
+
+    Journal& m_journal;
+    JournalModel m_model;
+    JournalFilter m_filter{m_model};
+    QToolButton* m_pause = nullptr;
+    QTableView* m_table;
+    QTimer m_batch;                        // so that a burst of records is one change of the table
+    std::vector<JournalRecord> m_fresh;    // since the event loop came round
+    std::vector<JournalRecord> m_waiting;  // to be shown once the pane is on show and not held
+    bool m_paused = false;
+    bool m_follows = true;  // the end stays in view; until the user scrolls up
+    std::function<void(const QString&)> m_onFailure;
+    Journal::Listening m_listening;
+};
+
+}  // namespace workbench::desktop

@@ -1,0 +1,155 @@
+#include "workbench/desktop/panes/panel_search.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/desktop/look/text.h"
+#include "workbench/menu/menu_host.h"
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/windows/window_system.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace workbench::desktop {
+
+namespace {
+
+/// How well something fits, the best first.
+enum class Rank { NameBegins, NameHasAll, HasAll };
+
+struct Ranked {
+    Rank rank;
+    SearchHit hit;
+};
+
+/// What was typed.
+struct Query {
+    QString text;
+    QStringList words;
+
+    bool isIn(const QString& place) const {
+        return std::all_of(words.begin(), words.end(), [&place](const QString& word) {
+            return place.contains(word, Qt::CaseInsensitive);
+        });
+    }
+    /// Nothing for what doesn't fit.
+    std::optional<Rank> rank(const QString& name, const QString& everything) const {
+        if (name.startsWith(text, Qt::CaseInsensitive))
+            return Rank::NameBegins;
+        if (isIn(name))
+            return Rank::NameHasAll;
+        return isIn(everything) ? std::optional(Rank::HasAll) : std::nullopt;
+    }
+};
+
+bool isHidden(const CQrUiToolPanelItem& item) {
+    const CQrUiToolPanelItem* each = &item;
+    for (; each != nullptr; each = each->m_record->flyout) {
+        if ((each->GetState() & kItemHidden) != 0)
+            return true;
+    }
+    return false;
+}
+
+/// The panel that an item stands on directly, or in a flyout; null for an item of a control.
+const CQrUiPanel* panelOf(const WindowSystem& windows, const CQrUiToolPanelItem& item) {
+    const CQrUiToolPanel* const toolPanel = toolPanelOf(item);
+    const Window* const window = toolPanel == nullptr ? nullptr : windows.find(toolPanel->m_hWnd);
+    const CQrUiPanel* const panel = window == nullptr ? nullptr : panelAbove(window->handle);
+    return panel != nullptr && panel->m_hWnd == window->parent ? panel : nullptr;
+}
+
+/// The names of the items that a custom control has, such as its icon.
+QStringList itemNames(const Window& control) {
+    QStringList names;
+    const auto* panel = dynamic_cast<const CQrUiToolPanel*>(control.object);
+    for (int index = 0; panel != nullptr && index < panel->GetToolPanelItemCount(); ++index)
+        names.append(toQt(panel->GetToolPanelItem(index)->GetName()));
+    names.removeAll(QString());
+    return names;
+}
+
+/// The tooltips of a window and all below it.
+QStringList tipsWithin(const WindowSystem& windows, HWND root) {
+    QStringList tips;
+    std::vector<HWND> all = windows.descendants(root);
+    all.push_back(root);
+    for (const HWND each : all) {
+        const auto* widget = dynamic_cast<const ControlWidget*>(windows.find(each)->widget.get());
+        if (widget != nullptr && !widget->tip().empty())
+            tips.append(toQt(widget->tip()));
+    }
+    return tips;
+}
+
+/// What a tooltip names, without the value or the advice that follows.
+QString headOf(const QString& tip) {
+    return tip.section(QLatin1Char(':'), 0, 0).section(QLatin1String(" ("), 0, 0);
+}
+
+QStringList describeTool(const CQrUiToolPanelItem& item, SearchHit& hit) {
+    hit.item = knownId(item);
+    // Most items bear no name of their own; the menu's label is shown for them.
+    const std::wstring label = Workbench::current().menu().labelOf(QrUiGetToolPanelItemData(&item));
+    const QStringList names{toQt(item.GetName()), toQt(label), toQt(hit.item), toQt(item.GetID())};
+    hit.label = *std::find_if_not(names.begin(), names.end() - 1,
+                                  [](const QString& name) { return name.isEmpty(); });
+    return names;
+}
+
+/// Fills in what is known of an item, and gathers all that it can be found by.
+QStringList describeItem(const WindowSystem& windows, const CQrUiToolPanelItem& item,
+                         SearchHit& hit) {
+    const Window* const control =
+        item.GetType() == kItemControl ? windows.find(item.GetControl()) : nullptr;
+    if (control == nullptr)
+        return describeTool(item, hit);
+    hit.control = control->name;
+    QStringList places = itemNames(*control) + tipsWithin(windows, control->handle);
+    const QString name = toQt(std::string_view(control->name));
+    hit.label = places.isEmpty() ? name : headOf(places.front());
+    places.append(name);
+    return places;
+}
+
+bool canBeFound(const CQrUiToolPanelItem& item) {
+    const int type = item.GetType();
+    return type == kItemButton || type == kItemFlyout ||
+           (type == kItemControl && item.GetControl() != nullptr);
+}
+
+}  // namespace
+
+std::vector<SearchHit> searchPanels(Workbench& workbench, const QString& text) {
+    const QString simple = text.simplified();
+    const Query query{simple, simple.split(QLatin1Char(' '), Qt::SkipEmptyParts)};
+    std::vector<Ranked> found;
+    for (const CQrUiToolPanelItem* item :
+         query.words.isEmpty() ? std::vector<CQrUiToolPanelItem*>() : allItems()) {
+        const CQrUiPanel* const panel = panelOf(workbench.windows(), *item);
+        if (panel == nullptr || !canBeFound(*item) || isHidden(*item))
+            continue;
+        SearchHit hit;
+        hit.panel = panel->GetID();
+        hit.panelTitle = toQt(panel->GetWindowText());
+        QStringList places = describeItem(workbench.windows(), *item, hit);
+        places.append(hit.panelTitle);
+        // A line end between them, so that no word is found across two.
+        const auto rank = query.rank(hit.label, places.join(QLatin1Char('\n')));
+        if (rank.has_value())
+            found.push_back({*rank, std::move(hit)});
+    }
+    std::stable_sort(found.begin(), found.end(), [](const Ranked& left, const Ranked& right) {
+        return left.rank < right.rank;
+    });
+    std::vector<SearchHit> hits;
+    for (Ranked& each : found)
+        hits.push_back(std::move(each.hit));
+    return hits;
+}
+
+}  // namespace workbench::desktop
