@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QScrollBar>
 #include <QTableView>
@@ -48,7 +49,8 @@ void dropOldest(std::vector<JournalRecord>& records) {
     records.erase(records.begin(), records.begin() + static_cast<std::ptrdiff_t>(surplus));
 }
 
-/// A call's result comes behind its record: renews records from the journal, if it still has them.
+/// A call's result comes behind its record: renews records, which ascend, from the journal, if it
+/// still has them.
 void complete(std::vector<JournalRecord>& records, const Journal& journal) {
     const std::vector<JournalRecord>& present = journal.records();
     auto from = present.begin();
@@ -91,7 +93,7 @@ QHBoxLayout* JournalPane::makeControls() {
     connect(addButton(*row, QStringLiteral("Clear")), &QToolButton::clicked, this,
             [this] { m_model.clear(); });
     connect(addButton(*row, QStringLiteral("Copy")), &QToolButton::clicked, this,
-            [this] { QApplication::clipboard()->setText(copiedText()); });
+            [this] { QApplication::clipboard()->setText(copied()); });
     connect(addButton(*row, QStringLiteral("Save...")), &QToolButton::clicked, this,
             [this] { save(); });
     return row;
@@ -109,6 +111,7 @@ QTableView* JournalPane::makeTable() {
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     table->horizontalHeader()->setStretchLastSection(true);
+    table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table->setColumnWidth(JournalModel::kTime, kTimeWidth);
     table->setColumnWidth(JournalModel::kKind, kKindWidth);
     QScrollBar* const bar = table->verticalScrollBar();
@@ -121,12 +124,9 @@ QTableView* JournalPane::makeTable() {
     return table;
 }
 
-QToolButton* JournalPane::makeKindMenu() {
-    auto* button = new QToolButton;
-    button->setText(QStringLiteral("Kinds"));
+QPushButton* JournalPane::makeKindMenu() {
+    auto* button = new QPushButton(QStringLiteral("Kinds"));
     button->setAccessibleName(QStringLiteral("Kinds of records on show"));
-    button->setPopupMode(QToolButton::InstantPopup);
-    button->setFocusPolicy(Qt::TabFocus);
     auto* menu = new QMenu(button);
     for (const char* kind : kKinds) {
         QAction* action = menu->addAction(QString::fromLatin1(kind));
@@ -150,6 +150,9 @@ void JournalPane::note(const JournalRecord& record) {
 
 void JournalPane::takeOver() {
     m_batch.stop();
+    // A record that an older listener added while it was told another one has come before that one.
+    std::sort(m_fresh.begin(), m_fresh.end(),
+              [](const auto& left, const auto& right) { return left.number < right.number; });
     complete(m_fresh, m_journal);
     std::move(m_fresh.begin(), m_fresh.end(), std::back_inserter(m_waiting));
     m_fresh.clear();
@@ -191,7 +194,7 @@ std::vector<const JournalRecord*> JournalPane::chosenRecords(bool onlySelected) 
     return records;
 }
 
-QString JournalPane::copiedText() const {
+QString JournalPane::copied() const {
     std::string text;
     for (const JournalRecord* record : chosenRecords(true))
         text += describeStep(*record) + '\n';

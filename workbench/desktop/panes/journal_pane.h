@@ -11,6 +11,7 @@
 #include <vector>
 
 class QHBoxLayout;
+class QPushButton;
 class QTableView;
 class QToolButton;
 
@@ -27,8 +28,10 @@ public:
     void takeOver();
     /// Holds the pane, or lets it go on with what has come meanwhile.
     void setPaused(bool paused);
+    /// Which rows are on show.
+    JournalFilter& filter() { return m_filter; }
     /// The selected rows, or all on show, as lines of text.
-    QString copiedText() const;
+    QString copied() const;
     /// Writes the rows on show as JSON lines. False, with a message in `error`, if the file can't be
     /// written.
     bool saveTo(const QString& path, QString& error) const;
@@ -42,7 +45,7 @@ protected:
 private:
     QHBoxLayout* makeControls();
     QTableView* makeTable();
-    QToolButton* makeKindMenu();
+    QPushButton* makeKindMenu();
     void note(const JournalRecord& record);
     void showWaiting();
     void save();

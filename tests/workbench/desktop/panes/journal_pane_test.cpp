@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -95,6 +96,22 @@ TEST_F(JournalPaneTest, RecordsThatOthersHaveTakenAreShown) {
     journal.take();
     pane.takeOver();
     EXPECT_EQ(rows(), 1);
+}
+
+TEST_F(JournalPaneTest, RecordsOfAnOlderListenerStandInTheirOrder) {
+    Journal later(clock);
+    const auto older = later.addListener([&later](const JournalRecord& record) {
+        if (record.kind == "call")
+            later.add("dialog", {});
+    });
+    JournalPane listening(later);
+    listening.show();
+    later.add("call", {{"name", "f"}});
+    listening.takeOver();
+    const QAbstractItemModel& model = *listening.findChild<QTableView*>()->model();
+    ASSERT_EQ(model.rowCount(), 2);
+    EXPECT_EQ(model.index(0, JournalModel::kKind).data(), QStringLiteral("call"));
+    EXPECT_EQ(model.index(1, JournalModel::kKind).data(), QStringLiteral("dialog"));
 }
 
 TEST_F(JournalPaneTest, TheNewestRowStaysInView) {
@@ -211,7 +228,7 @@ TEST_F(JournalPaneTest, CopyTakesTheSelectedRowsInTheirOrder) {
         table().selectionModel()->select(table().model()->index(row, 0),
                                          QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
-    EXPECT_EQ(pane.copiedText(),
+    EXPECT_EQ(pane.copied(),
               QStringLiteral("0 ms    dialog   name \"a\"\n0 ms    dialog   name \"c\"\n"));
 }
 
@@ -247,6 +264,7 @@ TEST_F(JournalPaneTest, EachPartHasAName) {
             EXPECT_FALSE(part->accessibleName().isEmpty());
         }
     }
+    EXPECT_FALSE(pane.findChild<QPushButton*>()->accessibleName().isEmpty());
     EXPECT_FALSE(table().accessibleName().isEmpty());
     EXPECT_FALSE(pane.findChild<QLineEdit*>()->accessibleName().isEmpty());
 }
