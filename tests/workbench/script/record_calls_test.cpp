@@ -46,6 +46,19 @@ TEST_F(RecordCallsTest, PictureNeedsAWindow) {
               "workbench has no window");
 }
 
+TEST_F(RecordCallsTest, PictureIsTakenByTheWindow) {
+    std::vector<std::string> taken;
+    workbench().setPhotographer(
+        [&taken](const std::filesystem::path& file) { taken.push_back(file.string()); });
+    run("wb.snapshot('a.png')");
+    EXPECT_EQ(taken, std::vector<std::string>{"a.png"});
+    workbench().setPhotographer([](const std::filesystem::path& file) {
+        throw InputError(file.string(), "no picture can be written there");
+    });
+    EXPECT_EQ(complaintOf("wb.snapshot('/no/a.png')"),
+              "wb.snapshot: /no/a.png: no picture can be written there");
+}
+
 }  // namespace
 
 }  // namespace workbench::script
