@@ -1,4 +1,5 @@
 #include "tests/workbench/script/script_fixture.h"
+#include "workbench/base/input_error.h"
 #include "workbench/script/calls.h"
 
 namespace workbench::script {
