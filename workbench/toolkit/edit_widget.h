@@ -11,7 +11,7 @@ class EditWidget final : public ControlWidget {
 public:
     static constexpr int kHeight = 20;         ///< Pixels.
     static constexpr int kTextMargin = 3;      ///< Pixels left and right of the text.
-    static constexpr int kCharacterWidth = 7;  ///< Pixels: each character has the same room.
+    static constexpr int kCharacterWidth = 6;  ///< Pixels: each character has the same room.
 
     /// The text with caret and selection, as they stand now.
     const LineEditor& editor(const Window& window);

@@ -10,6 +10,7 @@
 #include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -97,6 +98,25 @@ void resetLayout(Workbench& workbench) {
         toolkit.frame().put(*set, place);
     }
     workbench.editor().type(L"DASHBOARDOLD\n");
+}
+
+void toggleDashboard(Workbench& workbench) {
+    for (CQrUiPaletteSet* set : workbench.toolkit().frame().bars()) {
+        if (workbench.windows().isOnScreen(set->m_hWnd)) {
+            closePaletteSet(*set);
+            return;
+        }
+    }
+    workbench.editor().type(L"DASHBOARDOLD\n");
+}
+
+void setIconSize(Workbench& workbench, int pixels) {
+    workbench.toolkit().setIconSize(pixels);
+    for (CQrUiPanel* panel : allPanels()) {
+        if (const Window* const parent = workbench.windows().find(panel->m_hWnd))
+            static_cast<CQrUiPanelSet*>(workbench.windows().find(parent->parent)->object)
+                ->UpdateLayout();
+    }
 }
 
 }  // namespace workbench::desktop

@@ -22,4 +22,9 @@ void reloadMenu(Workbench& workbench);
 /// Shows the dashboard if it is hidden, docked at its edge with all panels rolled down.
 void resetLayout(Workbench& workbench);
 
+/// Shows the dashboard, or hides it if it is on show.
+void toggleDashboard(Workbench& workbench);
+/// Shows tools 16 or 32 pixels large.
+void setIconSize(Workbench& workbench, int pixels);
+
 }  // namespace workbench::desktop

@@ -28,6 +28,7 @@ public:
     void resume();
     /// Holds real time, as while a script has the clock. `resume` ends it.
     void hold() { m_held = true; }
+    bool isHeld() const { return m_held; }
 
     /// Told of each failure, in words.
     void setOnFailure(std::function<void(const QString&)> told) { m_onFailure = std::move(told); }

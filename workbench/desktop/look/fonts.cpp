@@ -29,7 +29,7 @@ QFont fontOf(const LOGFONT* font) {
 }
 
 QFont fieldFont() {
-    return pixelFont(QString::fromLatin1(kFieldFontFamily), kTextHeight);
+    return pixelFont(QString::fromLatin1(kFieldFontFamily), kFieldHeight);
 }
 
 }  // namespace workbench::desktop

@@ -112,14 +112,14 @@ MirrorWidget* WindowMirror::showTree(HWND window) {
     if (shown == nullptr || !shown->hasVisibleStyle())
         return nullptr;
     MirrorWidget* mirror = widgetOf(window);
+    const bool appears = mirror == nullptr || mirror->isHidden();
     if (mirror == nullptr)
         mirror = make(window);
     QWidget* const parent = parentFor(window);
     if (mirror->parentWidget() != parent && !mirror->isWindow())
         mirror->setParent(parent);
-    const bool wasHidden = mirror->isHidden();
     mirror->refresh();
-    if (wasHidden) {
+    if (appears) {
         const std::vector<HWND> children = shown->children;
         for (const HWND child : children)
             showTree(child);

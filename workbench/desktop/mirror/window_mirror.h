@@ -34,6 +34,8 @@ public:
     MirrorWidget* widgetOf(HWND window) const;
     /// Has a widget fill a window of the host's own, such as the drawing view.
     void fill(HWND window, QWidget& content);
+    /// Scrolls the panels so far that a window on them can be seen.
+    void scrollIntoView(HWND window);
     /// Takes over all changes now.
     void sync();
     /// Draws everything anew, as after a change of the colours.
@@ -49,7 +51,6 @@ private:
     MirrorWidget* make(HWND window);
     QWidget* parentFor(HWND window) const;
     void followKeyboard();
-    void scrollIntoView(HWND window);
 
     Stage& m_stage;
     QWidget& m_home;

@@ -114,7 +114,8 @@ void paintWindow(QPainter& painter, Stage& stage, Window& window) {
         paintLink(painter, stage, window);
     else if (isFloatingFrame(stage.toolkit.frame(), window))
         paintFloatingFrame(painter, stage, window, titleOfFloatingFrame(stage.toolkit, window));
-    else if (!paintControl(painter, stage, window) && window.className == "CQrUiPanelSet")
+    else if (!paintControl(painter, stage, window) &&
+             (window.className == "CQrUiPanelSet" || window.className == "CDockBar"))
         fill(painter, window, stage.look->frame);
 }
 

@@ -1,4 +1,4 @@
-#include "workbench/main/step_text.h"
+#include "workbench/core/step_text.h"
 
 #include <algorithm>
 #include <array>
