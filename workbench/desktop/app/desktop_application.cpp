@@ -100,6 +100,7 @@ int run(int count, char** arguments) {
     qputenv("QT_SCALE_FACTOR", QByteArray::number(options->scale));
     installComplaints();
     const QApplication application(count, arguments);
+    noteStarted();
     dressApplication();
     return runWindow(*options);
 }

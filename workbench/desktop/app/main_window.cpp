@@ -37,6 +37,7 @@ namespace workbench::desktop {
 namespace {
 
 constexpr int kTellMs = 8000;
+constexpr int kSearchWidth = 320;  // pixels
 
 /// The names that can be typed at the command line.
 QStringList namesToType(Workbench& workbench) {
@@ -108,6 +109,7 @@ void MainWindow::buildPanes() {
     addDockWidget(Qt::BottomDockWidgetArea, m_journalDock);
     auto* bar = addToolBar(QStringLiteral("Find"));
     bar->setMovable(false);
+    m_search->setMaximumWidth(kSearchWidth);
     bar->addWidget(m_search);
     statusBar()->addPermanentWidget(m_status);
 }

@@ -179,7 +179,7 @@ bool DrawingView::canMove() const {
 }
 
 /// Writes the view once: it is one step of undo and of the viewport's history.
-void DrawingView::show(const ViewParameters& view) {
+void DrawingView::write(const ViewParameters& view) {
     m_pump.act([this, &view] {
         drawing::Database& database = m_document->data();
         const drawing::UndoGroup group(database.undoLog(), "VIEW");
@@ -215,7 +215,7 @@ void DrawingView::mouseReleaseEvent(QMouseEvent* /*event*/) {
     const Drag drag = *m_drag;
     m_drag.reset();
     if (drag.now != drag.before)
-        show(drag.now);
+        write(drag.now);
 }
 
 void DrawingView::wheelEvent(QWheelEvent* event) {
@@ -224,7 +224,7 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
     const int notches = m_wheelRest / kWheelNotch;
     m_wheelRest -= notches * kWheelNotch;
     if (notches != 0 && canMove() && !m_drag)
-        show(zoomed(activePort(*m_document)->view, notches));
+        write(zoomed(activePort(*m_document)->view, notches));
 }
 
 }  // namespace workbench::desktop

@@ -58,7 +58,7 @@ private:
     /// What the current viewport shows, or would at the end of the drag; nothing without one.
     std::optional<drawing::ViewParameters> shown() const;
     bool canMove() const;
-    void show(const drawing::ViewParameters& view);
+    void write(const drawing::ViewParameters& view);
     void paintModel(QPainter& painter, const drawing::ViewParameters& view, const QRect& place);
     void paintSheet(QPainter& painter);
     const Scene& scene();

@@ -13,9 +13,11 @@ namespace {
 constexpr double kAmbient = 0.45;  // of the light that reaches every face
 constexpr double kOutline = 0.7;   // brightness of an outline to that of its face
 
+/// A face or a line, whichever is not null.
 struct Placed {
     double depth = 0.0;
     const SceneFace* face = nullptr;
+    const SceneLine* line = nullptr;
 };
 
 QColor lit(const QColor& colour, double brightness) {
@@ -34,9 +36,12 @@ double middleDepth(const SceneFace& face, const Camera& camera) {
 
 std::vector<Placed> farthestFirst(const Scene& scene, const Camera& camera) {
     std::vector<Placed> placed;
-    placed.reserve(scene.faces.size());
+    placed.reserve(scene.faces.size() + scene.lines.size());
     for (const SceneFace& face : scene.faces)
-        placed.push_back({middleDepth(face, camera), &face});
+        placed.push_back({middleDepth(face, camera), &face, nullptr});
+    for (const SceneLine& line : scene.lines)
+        placed.push_back(
+            {(camera.depthOf(line.from) + camera.depthOf(line.to)) / 2.0, nullptr, &line});
     std::stable_sort(placed.begin(), placed.end(),
                      [](const Placed& a, const Placed& b) { return a.depth > b.depth; });
     return placed;
@@ -48,32 +53,39 @@ Vec3 lightOf(const Camera& camera) {
     return unit(scaled(axes.right, 0.4) + scaled(axes.up, 0.6) + scaled(axes.forward, -0.7));
 }
 
+void paintFace(QPainter& painter, const SceneFace& face, const Camera& camera, const Vec3& light) {
+    const std::vector<Vec3> corners = camera.beforeEye(face.corners);
+    if (corners.size() < 3)
+        return;
+    QPolygonF outline;
+    outline.reserve(static_cast<qsizetype>(corners.size()));
+    for (const Vec3& corner : corners)
+        outline.append(camera.place(corner));
+    // Both sides of a face are lit.
+    const double brightness = kAmbient + (1.0 - kAmbient) * std::abs(dot(face.normal, light));
+    const QColor colour = lit(face.colour, brightness);
+    painter.setPen(lit(colour, kOutline));
+    painter.setBrush(colour);
+    painter.drawPolygon(outline);
+}
+
+void paintLine(QPainter& painter, const SceneLine& line, const Camera& camera) {
+    const std::vector<Vec3> ends = camera.lineBeforeEye(line.from, line.to);
+    if (ends.empty())
+        return;
+    painter.setPen(line.colour);
+    painter.drawLine(camera.place(ends[0]), camera.place(ends[1]));
+}
+
 }  // namespace
 
 void paintScene(QPainter& painter, const Scene& scene, const Camera& camera) {
     const Vec3 light = lightOf(camera);
-    QPolygonF outline;
     for (const Placed& each : farthestFirst(scene, camera)) {
-        const std::vector<Vec3> corners = camera.beforeEye(each.face->corners);
-        if (corners.size() < 3)
-            continue;
-        outline.clear();
-        for (const Vec3& corner : corners)
-            outline.append(camera.place(corner));
-        // Both sides of a face are lit.
-        const double brightness =
-            kAmbient + (1.0 - kAmbient) * std::abs(dot(each.face->normal, light));
-        const QColor colour = lit(each.face->colour, brightness);
-        painter.setPen(lit(colour, kOutline));
-        painter.setBrush(colour);
-        painter.drawPolygon(outline);
-    }
-    for (const SceneLine& line : scene.lines) {
-        const std::vector<Vec3> ends = camera.lineBeforeEye(line.from, line.to);
-        if (ends.empty())
-            continue;
-        painter.setPen(line.colour);
-        painter.drawLine(camera.place(ends[0]), camera.place(ends[1]));
+        if (each.face != nullptr)
+            paintFace(painter, *each.face, camera, light);
+        else
+            paintLine(painter, *each.line, camera);
     }
 }
 

@@ -7,8 +7,8 @@ class QPainter;
 
 namespace workbench::desktop {
 
-/// Draws a scene: faces flat-shaded by a light over the viewer's shoulder, the far ones first, with
-/// their outlines; then the lines.
+/// Draws a scene: lines, and faces flat-shaded by a light over the viewer's shoulder with their
+/// outlines, the far ones first.
 void paintScene(QPainter& painter, const Scene& scene, const Camera& camera);
 
 }  // namespace workbench::desktop

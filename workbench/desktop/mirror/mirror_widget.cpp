@@ -31,6 +31,15 @@ WPARAM heldWith(const QMouseEvent& event) {
     return held;
 }
 
+/// White is what a dashboard fills the room of fields with: it becomes the colour that fields have.
+QColor inLook(const Look& look, COLORREF colour) {
+    constexpr COLORREF kWhite = 0xffffff;
+    if (colour == kWhite)
+        return look.field;
+    return {static_cast<int>(colour & 0xff), static_cast<int>(colour >> 8 & 0xff),
+            static_cast<int>(colour >> 16 & 0xff)};
+}
+
 }  // namespace
 
 MirrorWidget::MirrorWidget(Stage& stage, HWND window, QWidget* parent)
@@ -88,7 +97,7 @@ std::optional<QColor> MirrorWidget::background() {
         const std::optional<COLORREF> colour = paintBackground(m_stage.windows, m_handle);
         m_background.reset();
         if (colour)
-            m_background = QColor(*colour & 0xff, *colour >> 8 & 0xff, *colour >> 16 & 0xff);
+            m_background = inLook(*m_stage.look, *colour);
     }
     return m_background;
 }
