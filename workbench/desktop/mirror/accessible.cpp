@@ -8,8 +8,10 @@
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/link_widget.h"
+#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/slider_widget.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -126,6 +128,15 @@ class AccessibleItem final : public QAccessibleWidget {
 public:
     explicit AccessibleItem(ItemWidget& item) : QAccessibleWidget(&item, roleOf(item.item())) {}
 
+    /// An item may be renamed without being drawn again.
+    QString text(QAccessible::Text kind) const override {
+        const CQrUiToolPanelItem* const shown = item().item();
+        if (kind == QAccessible::Name && shown != nullptr) {
+            const std::wstring name = shownName(*shown);
+            return toQt(name.empty() ? knownId(*shown) : name);
+        }
+        return QAccessibleWidget::text(kind);
+    }
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         const CQrUiToolPanelItem* const shown = item().item();

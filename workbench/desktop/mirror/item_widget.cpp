@@ -4,6 +4,7 @@
 #include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/row_layout.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
@@ -45,7 +46,7 @@ void paintPicture(QPainter& painter, Stage& stage, const CQrUiToolPanelItem& ite
     }
     painter.setFont(fontOf(nullptr));
     painter.setPen(stage.look->text);
-    painter.drawText(place, Qt::AlignCenter, toQt(item.GetName()).left(kLettersOfAName));
+    painter.drawText(place, Qt::AlignCenter, toQt(shownName(item)).left(kLettersOfAName));
 }
 
 }  // namespace
@@ -72,7 +73,6 @@ void ItemWidget::refresh() {
         return;
     }
     setGeometry(toQt(shown->m_record->rect));
-    setAccessibleName(toQt(shown->GetName()));
     show();
     update();
 }

@@ -40,7 +40,8 @@ EditWidget* editWithKeyboard(Stage& stage) {
 
 QString selectionOf(Stage& stage, EditWidget& edit) {
     const LineEditor& line = edit.editor(*stage.windows.find(stage.windows.focus()));
-    const auto [from, to] = std::minmax(line.caret(), line.anchor());
+    const std::size_t from = std::min(line.caret(), line.anchor());
+    const std::size_t to = std::max(line.caret(), line.anchor());
     return toQt(std::wstring_view(line.text()).substr(from, to - from));
 }
 

@@ -3,6 +3,7 @@
 #include "workbench/desktop/look/text.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/edit_widget.h"
+#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -33,8 +34,9 @@ QString nameOfItem(const Window& window) {
         return {};
     for (int i = 0; i < panel->GetToolPanelItemCount(); ++i) {
         const CQrUiToolPanelItem& item = *panel->GetToolPanelItem(i);
-        if (item.GetType() != kItemControl && !item.GetName().empty())
-            return toQt(item.GetName());
+        const std::wstring name = shownName(item);
+        if (item.GetType() != kItemControl && !name.empty())
+            return toQt(name);
     }
     return {};
 }

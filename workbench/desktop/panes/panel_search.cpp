@@ -55,7 +55,7 @@ private:
         if (!isTool || panel == nullptr || place == nullptr || place->parent != panel->m_hWnd)
             return;
         Candidate candidate;
-        candidate.name = toQt(item.GetName());
+        candidate.name = toQt(shownName(item));
         candidate.words = candidate.name + QLatin1Char(' ') + toQt(knownId(item));
         candidate.hit.item = knownId(item);
         take(std::move(candidate), *panel);
@@ -80,7 +80,7 @@ private:
     static QString headOf(const Window& window) {
         const auto* control = dynamic_cast<const CQrUiToolPanel*>(window.object);
         for (int i = 0; control != nullptr && i < control->GetToolPanelItemCount(); ++i) {
-            const QString name = toQt(control->GetToolPanelItem(i)->GetName());
+            const QString name = toQt(shownName(*control->GetToolPanelItem(i)));
             if (!name.isEmpty())
                 return name.section(QLatin1Char(':'), 0, 0);
         }
