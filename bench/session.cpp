@@ -39,18 +39,16 @@ workbench::WorkbenchOptions optionsFor(const std::filesystem::path& menuFile) {
     return options;
 }
 
-}  // namespace
-
-std::string menuOf(int panels, int items, int controls) {
+/// A menu that shows a panel for each of the tool panels.
+std::string menuOfPanels(const Json& toolPanels) {
     Json menu{{"menuGroups", Json::array({{{"name", kMenuGroup}}})},
-              {"toolPanels", Json::array()},
+              {"toolPanels", toolPanels},
               {"panels", Json::array()}};
     Json visible = Json::array();
-    for (int i = 0; i < panels; ++i) {
-        const std::string id = "PANEL" + std::to_string(i);
-        menu["toolPanels"].push_back(toolPanelOf(id, items, controls));
+    for (const Json& toolPanel : toolPanels) {
+        const Json& id = toolPanel["id"];
         menu["panels"].push_back({{"id", id},
-                                  {"title", "Panel " + std::to_string(i)},
+                                  {"title", id},
                                   {"menuGroup", kMenuGroup},
                                   {"toolPanels", Json::array({id})}});
         visible.push_back({{"panel", id}, {"menuGroup", kMenuGroup}});
@@ -58,6 +56,26 @@ std::string menuOf(int panels, int items, int controls) {
     menu["workspaces"] = Json::array({{{"name", "All"}, {"panels", visible}}});
     menu["currentWorkspace"] = "All";
     return menu.dump();
+}
+
+}  // namespace
+
+std::string menuOf(int panels, int items, int controls) {
+    Json toolPanels = Json::array();
+    for (int i = 0; i < panels; ++i)
+        toolPanels.push_back(toolPanelOf("PANEL" + std::to_string(i), items, controls));
+    return menuOfPanels(toolPanels);
+}
+
+std::string menuWith(const std::vector<std::string>& tools,
+                     const std::vector<std::string>& controls) {
+    Json items = Json::array();
+    for (const std::string& tool : tools)
+        items.push_back({{"type", "button"}, {"id", tool}, {"name", tool}, {"macro", "_line\n"}});
+    for (const std::string& control : controls)
+        items.push_back({{"type", "control"}, {"control", control}});
+    return menuOfPanels(
+        Json::array({{{"id", "PANEL"}, {"menuGroup", kMenuGroup}, {"items", items}}}));
 }
 
 Session::MenuFile::MenuFile(const std::string& text) {

@@ -4,12 +4,16 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace bench {
 
 /// Menu data with `panels` panels, each with one tool panel of `items` plain buttons and with
 /// `controls` fade sliders, all of them in the one workspace. As a menu file's text.
 std::string menuOf(int panels, int items, int controls = 0);
+/// Menu data with one panel of certain tools and custom controls, by their IDs and names.
+std::string menuWith(const std::vector<std::string>& tools,
+                     const std::vector<std::string>& controls);
 
 /// A workbench with a document in which the dashboard, linked into this program, is loaded. Nothing
 /// is recorded in the journal.

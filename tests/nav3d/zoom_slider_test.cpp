@@ -309,6 +309,24 @@ INSTANTIATE_TEST_SUITE_P(
                     TakenCase{"edit2", L"90", 18.0}, TakenCase{"edit2", L"175", 0.785897},
                     TakenCase{"edit2", L"0.005", 412529.6}));
 
+class NoNumberTest : public ZoomSliderTest, public testing::WithParamInterface<std::wstring> {};
+
+TEST_P(NoNumberTest, IsToldAndChangesNothingInEitherField) {
+    for (const char* part : {"edit", "edit2"}) {
+        const std::wstring before = text(part);
+        enter(GetParam(), part);
+        EXPECT_EQ(balloon(), string(1246)) << part;
+        EXPECT_EQ(text(part), before);
+        leave();
+    }
+    EXPECT_DOUBLE_EQ(lens(), 50.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Entries, NoNumberTest,
+                         testing::Values(L"1,5", L"1.5mm", L"3 5", L"--5", L"1e999",
+                                         L"\u0663\u0665", L"\uff13\uff15",
+                                         std::wstring(10000, L'x')));
+
 TEST_F(ZoomSliderTest, AngleIsReadInDegreesWhateverTheUnitItIsShownIn) {
     constexpr int kRadians = 3;
     set(L"AUNITS", kRadians);

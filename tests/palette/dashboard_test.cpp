@@ -4,6 +4,7 @@
 #include "core/module.h"
 #include "palette/xml_node.h"
 #include "tests/palette/palette_fixture.h"
+#include "workbench/editor/editor.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -12,9 +13,17 @@
 #include <hostapi/zorq/frame_windows.h>
 #include <hostapi/zorq/profiles.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <map>
+
 namespace {
 
 using Names = std::vector<std::string>;
+
+/// The tool ID of the bar.
+constexpr GUID kBarTool{
+    0x12F4DCC5, 0x8FDB, 0x4937, {0x83, 0x87, 0xE6, 0x28, 0xD5, 0xC2, 0xAB, 0xBF}};
 
 /// Notes what the bar's listeners are told.
 class Listener final : public VxDaDashboardReactor {
@@ -34,6 +43,17 @@ protected:
     workbench::MainFrame& frame() { return bench().toolkit().frame(); }
     NodePtr makeNode() {
         return NodePtr(vxProfileManagerPtr()->profileStorage(L"Default", true)->createNode(L"Bar"));
+    }
+    bool hasVisibleStyle() { return (dashboard().GetStyle() & WS_VISIBLE) != 0; }
+    /// Of the named host calls those that were made since the journal was forgotten, in order.
+    Names callsAmong(const Names& names) {
+        Names made;
+        for (const auto& record : bench().journal().take("call")) {
+            const std::string& name = record.field("name").asString();
+            if (std::find(names.begin(), names.end(), name) != names.end())
+                made.push_back(name);
+        }
+        return made;
     }
     Names menuBehind(const std::vector<UINT>& begun) {
         CMenu menu;
@@ -62,6 +82,62 @@ TEST_F(DashboardTest, DocksAtTheLeftAndRightEdgesOnly) {
     EXPECT_NE(lastCall("CQrUiDockControlBar::RestoreControlBar").find("59421"), std::string::npos);
     EXPECT_NE(lastCall("CQrUiPaletteSet::Create").find("4194304"), std::string::npos);
     EXPECT_NE(lastCall("CQrUiPaletteSet::Create").find("46"), std::string::npos);
+}
+
+TEST_F(DashboardTest, TakesTheWidthOfItsFirstRectangleAndHasItRemembered) {
+    constexpr CRect kFirst{50, 50, 285, 350};
+    show();
+    EXPECT_EQ(dashboard().GetWindowRect().Width(), 235);
+    EXPECT_EQ(frame().placeOf(dashboard()).rect, kFirst);
+    const auto remembered = bench().toolkit().tools().placeOf(kBarTool);
+    ASSERT_TRUE(remembered.has_value());
+    EXPECT_EQ(remembered->rect, kFirst);
+}
+
+TEST_F(DashboardTest, IsCreatedDockedPlacedAndThemedInThisOrder) {
+    const Names steps{"CQrUiPaletteSet::Create",
+                      "CQrUiPaletteSet::AddPalette",
+                      "CQrUiDockControlBar::EnableDocking",
+                      "CQrUiDockControlBar::RestoreControlBar",
+                      "CWnd::SetFocus",
+                      "CQrUiPaletteSet::SetTheme",
+                      "CFrameWnd::ShowControlBar"};
+    load();
+    forget();
+    dashboardManager()->showDashboard();
+    // The theme comes twice: the palette inside the window is created with it already.
+    EXPECT_EQ(callsAmong(steps),
+              (Names{"CQrUiPaletteSet::Create", "CQrUiPaletteSet::SetTheme",
+                     "CQrUiPaletteSet::AddPalette", "CQrUiDockControlBar::EnableDocking",
+                     "CQrUiDockControlBar::RestoreControlBar", "CWnd::SetFocus",
+                     "CQrUiPaletteSet::SetTheme", "CFrameWnd::ShowControlBar"}));
+}
+
+TEST_F(DashboardTest, GivesTheFrameTheFocus) {
+    load();
+    ASSERT_NE(bench().windows().focus(), frame().frame().m_hWnd);
+    showLoaded();
+    EXPECT_EQ(bench().windows().focus(), frame().frame().m_hWnd);
+}
+
+TEST_F(DashboardTest, ItsIconIsTheLargeAndTheSmallOneOfItsWindow) {
+    load();
+    forget();
+    // Messages of a window are kept in the journal once it has a name.
+    auto naming = bench().journal().addListener([this](const workbench::JournalRecord& record) {
+        if (record.kind == "call" && record.field("name").asString() == "LoadIcon")
+            bench().windows().setName(dashboard().m_hWnd, "Bar");
+    });
+    dashboardManager()->showDashboard();
+    naming = {};
+    std::map<std::int64_t, std::int64_t> iconBySize;
+    for (const auto& record : bench().journal().take("message")) {
+        if (record.field("control") == "Bar" && record.field("number").asInteger() == WM_SETICON)
+            iconBySize[record.field("wparam").asInteger()] = record.field("lparam").asInteger();
+    }
+    ASSERT_EQ(iconBySize.size(), 2U);
+    EXPECT_NE(iconBySize[ICON_SMALL], 0);
+    EXPECT_EQ(iconBySize[ICON_SMALL], iconBySize[ICON_BIG]);
 }
 
 TEST_F(DashboardTest, AMissingIconLeavesTheDefault) {
@@ -117,6 +193,58 @@ TEST_F(DashboardTest, ShowsAndHidesThroughTheFrame) {
     EXPECT_EQ(dashboard().show(1), 1);
     EXPECT_NE(dashboard().GetStyle() & WS_VISIBLE, 0U);
     EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 2);
+}
+
+TEST_F(DashboardTest, WithoutAFrameShowsAndHidesNothing) {
+    show();
+    fail("vxedGetZorqFrame", 2);
+    EXPECT_EQ(dashboard().show(0), 0);
+    EXPECT_EQ(dashboard().show(1), 0);
+    EXPECT_TRUE(hasVisibleStyle());
+    EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 0);
+}
+
+/// A bar that floats without a frame around it, because the toolkit never placed it.
+class FramelessBarTest : public DashboardTest {
+protected:
+    void showFrameless() {
+        load();
+        fail("CQrUiDockControlBar::RestoreControlBar");
+        showLoaded();
+        bench().toolkit().paletteSets().of(&dashboard()).place.floating = true;
+        ASSERT_TRUE(dashboard().IsFloating());
+        ASSERT_EQ(dashboard().GetDockingFrame(), nullptr);
+        ASSERT_EQ(dynamic_cast<CDockBar*>(dashboard().GetParent()), nullptr);
+    }
+};
+
+TEST_F(FramelessBarTest, IsLeftHiddenByTheShowStep) {
+    showFrameless();
+    dashboard().ShowWindow(SW_HIDE);
+    dashboardManager()->onShowCommand();
+    EXPECT_FALSE(hasVisibleStyle());
+    EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 0);
+}
+
+TEST_F(FramelessBarTest, IsLeftOnShowByTheHideStep) {
+    showFrameless();
+    ASSERT_TRUE(bench().editor().set(L"CleanScreenState", 1));
+    EXPECT_TRUE(hasVisibleStyle());
+    EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 0);
+}
+
+TEST_F(FramelessBarTest, AnswersZeroToShowAndHide) {
+    showFrameless();
+    EXPECT_EQ(dashboard().show(1), 0);
+    EXPECT_EQ(dashboard().show(0), 0);
+    EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 0);
+}
+
+TEST_F(FramelessBarTest, AsksForTheContentsHeightPlusThirteenAsItStandsInNoDockBar) {
+    showFrameless();
+    dashboard().resizeToContent({200, 120});
+    EXPECT_NE(lastCall("QrUiResizeControlBarVerticalSize").find("[133]"), std::string::npos);
+    EXPECT_EQ(callCount("CWnd::SetWindowPos"), 0);
 }
 
 TEST_F(DashboardTest, F1AnywhereInsideOpensTheTopicAndIsNotPassedOn) {
@@ -211,6 +339,26 @@ TEST_F(DashboardTest, ItsPlaceIsKeptInTheToolkitsStore) {
     EXPECT_EQ(dashboard().Load(node.get()), 1);
     EXPECT_EQ(dashboard().Load(nullptr), 0);
     EXPECT_EQ(dashboard().Save(nullptr), 0);
+}
+
+TEST_F(DashboardTest, AStoreThatIsNoNodeIsRefusedBeforeTheToolkitSeesIt) {
+    show();
+    Stranger stranger;
+    EXPECT_EQ(dashboard().Load(&stranger), 0);
+    EXPECT_EQ(dashboard().Save(&stranger), 0);
+    EXPECT_EQ(callCount("CQrUiPaletteSet::Load"), 0);
+    EXPECT_EQ(callCount("CQrUiPaletteSet::Save"), 0);
+}
+
+TEST_F(DashboardTest, ARefusalOfTheToolkitIsItsAnswer) {
+    show();
+    const NodePtr node = makeNode();
+    fail("CQrUiPaletteSet::Save");
+    EXPECT_EQ(dashboard().Save(node.get()), 0);
+    ASSERT_EQ(dashboard().Save(node.get()), 1);
+    fail("CQrUiPaletteSet::Load");
+    EXPECT_EQ(dashboard().Load(node.get()), 0);
+    EXPECT_EQ(dashboard().Load(node.get()), 1);
 }
 
 TEST_F(DashboardTest, AnErrorOfTheStoreBecomesTheLastError) {

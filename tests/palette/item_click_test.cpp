@@ -45,6 +45,15 @@ TEST_F(ItemClickTest, AMacroIsSentAfterTheDrawingViewGotTheFocus) {
     EXPECT_EQ(bench().windows().focus(), bench().toolkit().frame().drawingView().m_hWnd);
 }
 
+TEST_F(ItemClickTest, WithoutADrawingViewTheMacroIsSentAllTheSame) {
+    show();
+    const HWND focus = bench().windows().focus();
+    fail("vxedGetZorqDwgView");
+    EXPECT_EQ(click(item(L"ID_Line")), 1);
+    EXPECT_NE(onlySent().find("\"_line\\n\""), std::string::npos);
+    EXPECT_EQ(bench().windows().focus(), focus);
+}
+
 TEST_F(ItemClickTest, AFlyoutActsAsItsCurrentTool) {
     show();
     CQrUiToolPanelItem* flyout = item(L"TPL_A");

@@ -258,3 +258,8 @@ LRESULT ProbeWindow::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     got.push_back({message, wParam, lParam});
     return answer;
 }
+
+HRESULT Stranger::QueryInterface(const GUID& /*interfaceId*/, void** object) {
+    *object = nullptr;
+    return E_NOINTERFACE;
+}

@@ -7,6 +7,7 @@
 #include "workbench/core/workbench.h"
 #include "workbench/windows/menu_table.h"
 
+#include <hostapi/xmldom.h>
 #include <hostapi/zorq/menu_data.h>
 
 #include <gtest/gtest.h>
@@ -117,4 +118,12 @@ public:
 
     std::vector<Message> got;  ///< those of the dashboard and the toolkit, by their numbers
     LRESULT answer = 0;        ///< to those
+};
+
+/// A counted object that is no node.
+class Stranger final : public IUnknown {
+public:
+    HRESULT QueryInterface(const GUID& interfaceId, void** object) override;
+    UINT AddRef() override { return 2; }
+    UINT Release() override { return 1; }
 };

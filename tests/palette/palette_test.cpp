@@ -1,5 +1,7 @@
 #include "palette/palette.h"
 
+#include "core/manager.h"
+#include "core/module.h"
 #include "tests/palette/palette_fixture.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -26,6 +28,8 @@ protected:
     void hideAllPanels() { panelSet().refreshPanels(0); }
     void floatBar() { bench().toolkit().frame().floatAt(dashboard(), {100, 100, 340, 500}); }
     int contentHeight() { return panelSet().GetWindowRect().Height(); }
+    /// The panels that the panel set knows, as its menu lists them.
+    std::vector<std::string> panelLines() { return labels(popup(menuOfDashboard(), L"Panels")); }
     int leastWidth() {
         CSize least{panelSet().GetWindowRect().Width(), contentHeight()};
         panelSet().GetMinimumSize(least);
@@ -128,6 +132,17 @@ TEST_F(PaletteWindowTest, AReplacedPanelSetIsEmptyAndTheOldOnesWindowsAreGone) {
     EXPECT_EQ(panelSet().findToolPanelItems(L"ID_Line"), nullptr);
     EXPECT_EQ(panelSet().GetTheme(), dashboard().GetTheme());
     EXPECT_EQ(bench().toolkit().panels().size(), 0U);
+}
+
+TEST_F(PaletteWindowTest, WithoutAWindowTheReplacedPanelSetHasNoneEither) {
+    fail("QrUiGetThemeManager", 100);
+    load();
+    dashboardManager()->showDashboard();
+    ASSERT_EQ(palette().m_hWnd, nullptr);
+    ASSERT_FALSE(panelLines().empty());
+    palette().replacePanelSet();
+    EXPECT_EQ(panelSet().m_hWnd, nullptr);
+    EXPECT_EQ(panelLines(), std::vector<std::string>{});
 }
 
 }  // namespace

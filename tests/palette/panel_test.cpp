@@ -14,6 +14,7 @@ using Names = std::vector<std::string>;
 
 class PanelTest : public PaletteTest {
 protected:
+    using PaletteTest::PaletteTest;
     CVxDaPanel& layers() { return *panel(L"MAIN", L"Layers"); }
     void command(UINT number) { layers().SendMessage(WM_COMMAND, number); }
     Names groups() { return labels(popup(menuOf(layers()), L"Tool Palette Group")); }
@@ -84,6 +85,22 @@ TEST_F(PanelTest, AGroupIsComparedExactly) {
     EXPECT_EQ(groups(), (Names{"Doors", "Windows", "*doors", "None"}));
 }
 
+TEST_F(PanelTest, TheNumberOfTheGroupThatIsNeverOfferedChoosesItAllTheSame) {
+    show();
+    menuOf(layers());
+    command(53247);
+    EXPECT_EQ(layers().toolPaletteGroup().text(), L"ALL palettes");
+    EXPECT_EQ(groups(), (Names{"Doors", "Windows", "*ALL palettes", "None"}));
+}
+
+TEST_F(PanelTest, WithoutTheSchemeThereIsOnlyTheEntryForNoGroup) {
+    show();
+    fail("VxTcUiGetToolPaletteGroups");
+    const auto lines = popup(menuOf(layers()), L"Tool Palette Group");
+    EXPECT_EQ(labels(lines), Names{"*None"});
+    EXPECT_EQ(lines.at(0).command, 53246U);
+}
+
 TEST_F(PanelTest, AChoiceOutsideOfTheListIsAnInvalidArgument) {
     show();
     menuOf(layers());
@@ -94,6 +111,95 @@ TEST_F(PanelTest, AChoiceOutsideOfTheListIsAnInvalidArgument) {
 TEST_F(PanelTest, AChoiceBeforeTheFirstMenuIsAnInvalidArgument) {
     show();
     EXPECT_THROW(command(53246), std::invalid_argument);
+}
+
+/// Groups whose names are those of the group that is never offered and of the entry for no group,
+/// and one that the scheme has twice.
+const char* const kGroupsMenu = R"({
+  "menuGroups": [{"name": "MAIN"}],
+  "panels": [{"menuGroup": "MAIN", "id": "Layers", "title": "Layers", "toolPanels": []}],
+  "toolPaletteGroups": {"ToolPaletteScheme":
+    ["ALL palettes", "all PALETTES", "Doors", "None", "none", "Doors"]},
+  "toolPanels": []
+})";
+
+class GroupNameTest : public PanelTest {
+protected:
+    GroupNameTest() : PanelTest(kGroupsMenu) {}
+    void showWithGroup(const wchar_t* group) {
+        show();
+        layers().setToolPaletteGroup(textOf(group));
+    }
+};
+
+TEST_F(GroupNameTest, OnlyTheFirstGroupThatIsNeverOfferedIsPassedOver) {
+    show();
+    const auto lines = popup(menuOf(layers()), L"Tool Palette Group");
+    EXPECT_EQ(labels(lines), (Names{"all PALETTES", "Doors", "None", "none", "Doors", "*None"}));
+    EXPECT_EQ(lines.at(0).command, 53247U);
+    EXPECT_EQ(lines.at(5).command, 53252U);
+}
+
+TEST_F(GroupNameTest, AnOwnGroupThatIsNeverOfferedIsACheckedExtraLine) {
+    showWithGroup(L"ALL palettes");
+    const auto lines = popup(menuOf(layers()), L"Tool Palette Group");
+    EXPECT_EQ(labels(lines),
+              (Names{"all PALETTES", "Doors", "None", "none", "Doors", "*ALL palettes", "None"}));
+    EXPECT_EQ(lines.at(5).command, 53252U);
+}
+
+TEST_F(GroupNameTest, AnOwnGroupThatTheSchemeHasTwiceIsCheckedTwice) {
+    showWithGroup(L"Doors");
+    EXPECT_EQ(groups(), (Names{"all PALETTES", "*Doors", "None", "none", "*Doors", "None"}));
+}
+
+TEST_F(GroupNameTest, AGroupNamedAsTheEntryForNoGroupEmptiesIt) {
+    showWithGroup(L"Doors");
+    menuOf(layers());
+    command(53249);
+    EXPECT_TRUE(layers().toolPaletteGroup().isEmpty());
+}
+
+TEST_F(GroupNameTest, AGroupNamedAsThatEntryButForTheCaseIsAGroup) {
+    showWithGroup(L"Doors");
+    menuOf(layers());
+    command(53250);
+    EXPECT_EQ(layers().toolPaletteGroup().text(), L"none");
+}
+
+/// A panel on a panel set of the toolkit's own.
+struct LonePanel {
+    explicit LonePanel(CWnd& parent) {
+        EXPECT_NE(set.Create(WS_CHILD | WS_VISIBLE, {0, 0, 200, 300}, &parent, 2), 0);
+        EXPECT_NE(panel.Create(WS_CHILD | WS_VISIBLE, L"Lone", &set), 0);
+    }
+    CQrUiPanelSet set;
+    CVxDaPanel panel;
+};
+
+TEST_F(PanelTest, OnAPlainPanelSetTheMenuHasNoPanels) {
+    show();
+    LonePanel lone(dashboard());
+    EXPECT_EQ(labels(menuOf(lone.panel)),
+              (Names{"Tool Palette Group", "Hide", "Help", "-", "Customize..."}));
+}
+
+TEST_F(PanelTest, OnAPlainPanelSetHideHidesTheWindow) {
+    show();
+    const Names before = shown();
+    LonePanel lone(dashboard());
+    lone.panel.SendMessage(WM_COMMAND, 37331);
+    EXPECT_EQ(lone.panel.GetStyle() & WS_VISIBLE, 0U);
+    EXPECT_EQ(shown(), before);
+}
+
+TEST_F(PanelTest, OnAPlainPanelSetAPanelCommandTogglesNothing) {
+    show();
+    const Names before = shown();
+    LonePanel lone(dashboard());
+    lone.panel.SendMessage(WM_COMMAND, 53500);
+    EXPECT_EQ(shown(), before);
+    EXPECT_NE(lone.panel.GetStyle() & WS_VISIBLE, 0U);
 }
 
 TEST_F(PanelTest, WithoutAPanelsMenuTheMenuIsRefused) {

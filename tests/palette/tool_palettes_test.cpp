@@ -53,6 +53,16 @@ TEST_F(ToolPalettesTest, WithoutTheExportAreNotShown) {
     EXPECT_EQ(showToolPalettes(), 0);
 }
 
+TEST_F(ToolPalettesTest, ThatStayHiddenTurnToAGroupAllTheSame) {
+    showToolPalettes();
+    bench().toolPalettes().window()->show(false);
+    bench().faults().hide("VxTp.qlx", "VxTpShowScheme");
+    ASSERT_EQ(showToolPalettes(), 0);
+    EXPECT_EQ(openToolPaletteGroup(L"Windows"), 1);
+    EXPECT_EQ(bench().toolPalettes().window()->activeGroup(), L"Windows");
+    EXPECT_FALSE(isOnScreen());
+}
+
 TEST_F(ToolPalettesTest, TurnToAGroupAndAnswerOneForAnUnknownOneToo) {
     EXPECT_EQ(openToolPaletteGroup(L"Windows"), 1);
     EXPECT_EQ(bench().toolPalettes().window()->activeGroup(), L"Windows");

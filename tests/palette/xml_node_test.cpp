@@ -15,17 +15,6 @@ protected:
     }
 };
 
-/// A counted object that is no node.
-class Stranger final : public IUnknown {
-public:
-    HRESULT QueryInterface(const GUID& /*interfaceId*/, void** object) override {
-        *object = nullptr;
-        return E_NOINTERFACE;
-    }
-    UINT AddRef() override { return 2; }
-    UINT Release() override { return 1; }
-};
-
 TEST_F(XmlNodeTest, QueriesANodeBehindItsBase) {
     const NodePtr node = makeNode();
     const NodePtr queried = queryNode(node.get());

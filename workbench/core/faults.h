@@ -31,6 +31,8 @@ public:
     };
     /// The fault of a call that is being made now, counted down; nothing if it is not to fail.
     std::optional<Fault> take(std::string_view call);
+    /// Whether any call is told to fail.
+    bool isAnyPending() const { return !m_faults.empty(); }
     /// The calls that are told to fail and have not been made since.
     std::vector<std::string> untaken() const;
 

@@ -6,6 +6,7 @@
 #include "workbench/core/journal.h"
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -50,6 +51,14 @@ public:
     static Workbench* living();
 
     const WorkbenchOptions& options() const { return m_options; }
+    /// The user's language and formats from now on, such as "de_DE".
+    void setLocale(std::string locale) { m_options.locale = std::move(locale); }
+
+    /// Writes a picture of the dashboard to a PNG file; throws InputError. Null: there is no screen
+    /// to take one from.
+    using Photographer = std::function<void(const std::filesystem::path& file)>;
+    void setPhotographer(Photographer photographer) { m_photographer = std::move(photographer); }
+    const Photographer& photographer() const { return m_photographer; }
     Clock& clock() { return m_clock; }
     Journal& journal() { return m_journal; }
     Faults& faults() { return m_faults; }
@@ -68,6 +77,7 @@ private:
     void endUnits();
 
     WorkbenchOptions m_options;
+    Photographer m_photographer;
     Clock m_clock;
     Journal m_journal{m_clock};
     Faults m_faults;

@@ -83,8 +83,8 @@ const DbObject* Database::peek(ObjectId id) const {
 
 std::vector<ObjectId> Database::ids(RecordKind kind) const {
     std::vector<ObjectId> found;
-    for (const auto& object : m_objects) {
-        if (object->kind() == kind && !object->isErased()) {
+    for (const DbObject* object : ofKind(kind)) {
+        if (!object->isErased()) {
             found.push_back(object->id());
         }
     }
@@ -92,8 +92,8 @@ std::vector<ObjectId> Database::ids(RecordKind kind) const {
 }
 
 ObjectId Database::find(RecordKind kind, std::string_view name) const {
-    for (const auto& object : m_objects) {
-        if (object->kind() == kind && !object->isErased() && equalNoCase(object->name(), name)) {
+    for (const DbObject* object : ofKind(kind)) {
+        if (!object->isErased() && equalNoCase(object->name(), name)) {
             return object->id();
         }
     }
@@ -101,8 +101,8 @@ ObjectId Database::find(RecordKind kind, std::string_view name) const {
 }
 
 ObjectId Database::first(RecordKind kind) const {
-    for (const auto& object : m_objects) {
-        if (object->kind() == kind && !object->isErased()) {
+    for (const DbObject* object : ofKind(kind)) {
+        if (!object->isErased()) {
             return object->id();
         }
     }
@@ -121,6 +121,7 @@ DbObject* Database::find(ObjectId id) const {
 void Database::adopt(std::unique_ptr<DbObject> object) {
     object->m_database = this;
     object->m_id = ObjectId(m_serial, static_cast<std::uint32_t>(m_objects.size() + 1));
+    m_kinds[static_cast<std::size_t>(object->kind())].push_back(object.get());
     m_objects.push_back(std::move(object));
 }
 

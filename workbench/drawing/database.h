@@ -74,6 +74,17 @@ public:
     /// one at most.
     ObjectId first(RecordKind kind) const;
 
+    /// The first living object of a kind whose record meets a condition; null for none.
+    template <class Data, class Condition>
+    ObjectId firstWhere(Condition condition) const {
+        for (const DbObject* object : ofKind(Data::kKind)) {
+            const auto* record = dynamic_cast<const Record<Data>*>(object);
+            if (record != nullptr && !record->isErased() && condition(record->data()))
+                return record->id();
+        }
+        return {};
+    }
+
     /// The table of a kind, itself an object: it is modified whenever one of the kind is added,
     /// erased or brought back.
     ObjectId table(RecordKind kind) const;
@@ -88,12 +99,17 @@ public:
 private:
     friend class DbObject;
 
+    using Objects = std::vector<DbObject*>;
+
+    /// All of a kind, erased ones too, in the order of their table.
+    const Objects& ofKind(RecordKind kind) const { return m_kinds[static_cast<std::size_t>(kind)]; }
     DbObject* find(ObjectId id) const;
     void adopt(std::unique_ptr<DbObject> object);
 
     std::uint32_t m_serial;
     ReactorList<DatabaseReactor> m_reactors;
-    std::vector<std::unique_ptr<DbObject>> m_objects;  // by handle - 1
+    std::vector<std::unique_ptr<DbObject>> m_objects;   // by handle - 1
+    std::array<Objects, kRecordKindCount + 1> m_kinds;  // the tables' own kind is the last
     std::array<ObjectId, kRecordKindCount> m_tables;
     UndoLog m_undo;
 };

@@ -33,12 +33,9 @@ std::vector<ObjectId> viewportsOf(const Database& database, ObjectId layout) {
 }
 
 ObjectId findViewport(const Database& database, ObjectId layout, int number) {
-    for (const ObjectId id : viewportsOf(database, layout)) {
-        if (database.look<Viewport>(id)->number == number) {
-            return id;
-        }
-    }
-    return {};
+    return database.firstWhere<Viewport>([&](const Viewport& viewport) {
+        return viewport.layout.id == layout && viewport.number == number;
+    });
 }
 
 ObjectId activeLayout(const Database& database) {

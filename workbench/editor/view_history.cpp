@@ -63,7 +63,7 @@ void ViewHistory::objectModified(const drawing::DbObject& object) {
     const Shown before = std::exchange(history.shown, shownIn(*viewport));
     if (before.view == viewport->view)
         return;
-    if (!m_steppingBack && !history.untold) {
+    if (!m_steppingBack && !(m_quiet && history.untold)) {
         history.earlier.push_back(before);
         if (history.earlier.size() > kMostViews)
             history.earlier.erase(history.earlier.begin());

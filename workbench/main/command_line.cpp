@@ -3,17 +3,17 @@
 #include "workbench/base/input_error.h"
 #include "workbench/base/json_parser.h"
 #include "workbench/drawing/drawing_reader.h"
-#include "workbench/main/default_paths.h"
 #include "workbench/main/gesture_road.h"
 #include "workbench/menu/menu_reader.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/script/script_engine.h"
+#include "workbench/startup/journal_file.h"
+#include "workbench/startup/start_options.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <memory>
 #include <string>
@@ -26,35 +26,10 @@ namespace {
 
 /// What the command line asks for.
 struct Request {
-    WorkbenchOptions options;
-    std::filesystem::path journalFile;  // empty: none
+    StartOptions start;
     std::string script;
     std::vector<std::string> scriptArguments;
-    std::string drawing;
     std::vector<std::string> files;  // to check
-};
-
-/// The journal's file, open while the workbench lives.
-class JournalFile {
-public:
-    JournalFile(Journal& journal, const std::filesystem::path& file) : m_journal(journal) {
-        if (file.empty())
-            return;
-        m_stream.open(file, std::ios::binary | std::ios::trunc);
-        if (!m_stream)
-            throw InputError(file.string(), "the journal can't be written there");
-        m_journal.writeTo(&m_stream);
-    }
-    JournalFile(const JournalFile&) = delete;
-    JournalFile& operator=(const JournalFile&) = delete;
-    ~JournalFile() {
-        m_journal.flush();
-        m_journal.writeTo(nullptr);
-    }
-
-private:
-    Journal& m_journal;
-    std::ofstream m_stream;
 };
 
 void reportComplaints(Workbench& workbench) {
@@ -64,9 +39,9 @@ void reportComplaints(Workbench& workbench) {
 }
 
 int runScript(const Request& request) {
-    Workbench workbench(request.options);
+    Workbench workbench(request.start.workbench);
     reportComplaints(workbench);
-    const JournalFile journal(workbench.journal(), request.journalFile);
+    const JournalFile journal(workbench.journal(), request.start.journalFile);
     const ScriptResult result = runScriptFile(workbench, request.script, request.scriptArguments);
     if (!result.passed)
         std::cerr << result.complaint << '\n';
@@ -74,10 +49,10 @@ int runScript(const Request& request) {
 }
 
 int showDashboard(const Request& request) {
-    Workbench workbench(request.options);
+    Workbench workbench(request.start.workbench);
     reportComplaints(workbench);
-    const JournalFile journal(workbench.journal(), request.journalFile);
-    showGestureRoad(workbench, request.drawing, std::cout);
+    const JournalFile journal(workbench.journal(), request.start.journalFile);
+    showGestureRoad(workbench, request.start.drawing, std::cout);
     return kExitPassed;
 }
 
@@ -109,33 +84,22 @@ int checkFiles(const Request& request) {
     return code;
 }
 
-void addCommonOptions(CLI::App& command, Request& request) {
-    command.add_option("--journal", request.journalFile, "Write the journal to a file, JSON lines");
-    command.add_option("--panels", request.options.panelFile, "Menu data (JSON)");
-    command.add_option("--profile-dir", request.options.profileDir, "Folder of the profiles");
-    command.add_option("--locale", request.options.locale, "Language and formats, such as en_US");
-    command.add_option("--lib-dir", request.options.libraryDir, "Folder of modules and libraries");
-}
-
 int run(int count, char** arguments) {
     // What follows "--" is the script's, options too.
     char** const end = arguments + count;
     char** const cut = std::find(arguments, end, std::string_view("--"));
     Request request;
-    request.options.libraryDir = defaultLibraryDir();
-    request.options.panelFile = defaultPanelFile();
-    request.drawing = defaultDrawing().string();
 
     CLI::App program("A stand-in host for the dashboard");
     program.require_subcommand(0, 1);
     CLI::App* runCommand = program.add_subcommand("run", "Run a script against a fresh workbench");
     runCommand->add_option("script", request.script, "The script (Lua 5.4)")->required();
     runCommand->add_option("arguments", request.scriptArguments, "Arguments of the script");
-    addCommonOptions(*runCommand, request);
+    addStartOptions(*runCommand, request.start);
     CLI::App* showCommand =
         program.add_subcommand("show", "Print the dashboard and the road of one gesture");
-    showCommand->add_option("drawing", request.drawing, "The drawing to open (JSON)");
-    addCommonOptions(*showCommand, request);
+    showCommand->add_option("drawing", request.start.drawing, "The drawing to open (JSON)");
+    addStartOptions(*showCommand, request.start);
     CLI::App* checkCommand = program.add_subcommand("check", "Check drawings and menu data");
     checkCommand->add_option("files", request.files, "The files (JSON)")->required();
 

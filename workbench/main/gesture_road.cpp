@@ -1,11 +1,8 @@
 #include "workbench/main/gesture_road.h"
 
-#include "workbench/base/input_error.h"
-#include "workbench/base/text.h"
-#include "workbench/core/step_text.h"
-#include "workbench/editor/editor.h"
 #include "workbench/gestures/slider_gestures.h"
-#include "workbench/loader/module_loader.h"
+#include "workbench/core/step_text.h"
+#include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
@@ -15,28 +12,9 @@ namespace workbench {
 
 namespace {
 
-constexpr const wchar_t* kModule = L"VxDashboard.qlx";
 constexpr const char* kControl = "LayerLockTransparencySliderControl";
 constexpr int kFade = 40;            // percent
 constexpr std::int64_t kRest = 400;  // milliseconds, longer than the slider needs to settle
-
-void settle(Workbench& workbench) {
-    do {
-        workbench.windows().runPosted();
-        workbench.editor().pump();
-    } while (workbench.windows().hasPosted());
-}
-
-void openDashboard(Workbench& workbench, const std::string& drawing) {
-    workbench.modules().environment().set("ENABLEDASHBOARD", "1");
-    if (!workbench.modules().loadModule(kModule)) {
-        throw InputError(toUtf8(kModule), workbench.modules().failureText());
-    }
-    workbench.editor().documents().open(drawing);
-    settle(workbench);
-    workbench.editor().type(L"DASHBOARDOLD\n");
-    settle(workbench);
-}
 
 /// The slider of the control; null if no panel holds it.
 HWND findSlider(WindowSystem& windows) {
@@ -63,9 +41,9 @@ void showGestureRoad(Workbench& workbench, const std::string& drawing, std::ostr
     out << "The road of one gesture: " << kControl << " is dragged to " << kFade << " and rests.\n";
     gestures::dragSlider(slider, {kFade});
     gestures::releaseSlider(slider);
-    settle(workbench);
+    letHostRun(workbench);
     workbench.windows().advance(kRest);
-    settle(workbench);
+    letHostRun(workbench);
     printSteps(workbench, out);
 }
 

@@ -38,9 +38,14 @@ int journal(Session& session, Arguments& arguments) {
     return 1;
 }
 
-int snapshot(Session& /*session*/, Arguments& arguments) {
-    throw ScriptError("no picture of \"" + arguments.text(1) +
-                      "\": pictures need the desktop, and this workbench has no window");
+int snapshot(Session& session, Arguments& arguments) {
+    const std::string file = arguments.text(1);
+    const Workbench::Photographer& photographer = session.workbench().photographer();
+    if (!photographer)
+        throw ScriptError("no picture of \"" + file +
+                          "\": pictures need the desktop, and this workbench has no window");
+    photographer(file);
+    return 0;
 }
 
 }  // namespace

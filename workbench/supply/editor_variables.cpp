@@ -19,8 +19,10 @@ using workbench::Workbench;
 /// A fault that was asked for one variable only, as "vxedGetVar:LAYLOCKFADECTL".
 std::optional<workbench::Faults::Fault> takeFaultOf(const char* call,
                                                     const VariableDefinition& variable) {
-    return Workbench::current().faults().take(std::string(call) + ":" +
-                                              workbench::toUtf8(variable.name));
+    workbench::Faults& faults = Workbench::current().faults();
+    if (!faults.isAnyPending())
+        return {};
+    return faults.take(std::string(call) + ":" + workbench::toUtf8(variable.name));
 }
 
 }  // namespace

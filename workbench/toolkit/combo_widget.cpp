@@ -80,6 +80,7 @@ bool ComboWidget::open(Window& window) {
     windows().setFocus(combo);
     tellParent(combo, CBN_DROPDOWN);
     m_highlighted = m_selected;
+    windows().invalidate(combo);
     return true;
 }
 
@@ -107,6 +108,7 @@ bool ComboWidget::close(Window& window) {
         return false;
     const HWND combo = window.handle;
     m_open = false;
+    windows().invalidate(combo);
     tellParent(combo, CBN_CLOSEUP);
     giveFocusBack(combo, std::exchange(m_focusBefore, nullptr));
     return true;
@@ -154,6 +156,7 @@ bool ComboWidget::key(Window& window, WPARAM key) {
         next = nextFrom(count() - 1, -1);
     else
         return false;
+    windows().invalidate(window.handle);
     if (next && m_open)
         m_highlighted = *next;
     else if (next)

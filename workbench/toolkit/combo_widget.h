@@ -32,6 +32,8 @@ public:
     void select(Window& window, int index);
 
     bool isOpen() const { return m_open; }
+    /// The entry of the open list that Enter would choose; -1 for none.
+    int highlighted() const { return m_highlighted; }
     /// What a user does. Each gives false where it can't be done: a list that is open or not,
     /// an entry that is none or a separator.
     bool open(Window& window);
@@ -41,6 +43,7 @@ public:
     // ControlWidget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                 LRESULT& answer) override;
+    bool takesTab() const override { return true; }
     std::string describe(const Window& window) const override;
     int naturalHeight(const Window& window, int width) const override;
 

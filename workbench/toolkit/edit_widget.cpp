@@ -11,8 +11,6 @@ namespace workbench {
 
 namespace {
 
-constexpr int kTextMargin = 3;      // pixels left of the text
-constexpr int kCharacterWidth = 7;  // pixels, of the control font on average
 constexpr wchar_t kFirstPrintable = L' ';
 
 }  // namespace
@@ -26,6 +24,7 @@ const LineEditor& EditWidget::editor(const Window& window) {
 void EditWidget::selectAll(Window& window) {
     editor(window);
     m_editor.selectAll();
+    Workbench::current().windows().invalidate(window.handle);
 }
 
 bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
@@ -33,6 +32,9 @@ bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPar
     switch (message) {
     case kLeftButtonDown:
         press(window, unpackPoint(lParam));
+        return true;
+    case kLeftButtonDoubleClick:
+        selectAll(window);
         return true;
     case EM_SETSEL:
         // The one selection that is asked for is that of all.
@@ -56,18 +58,27 @@ int EditWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
     return kHeight;
 }
 
+std::size_t EditWidget::scrolled(const Window& window) {
+    const int room = std::max(1, (window.rect.Width() - 2 * kTextMargin) / kCharacterWidth);
+    const std::size_t caret = editor(window).caret();
+    const bool isTyping = Workbench::current().windows().focus() == window.handle;
+    const auto shown = static_cast<std::size_t>(room);
+    return isTyping && caret > shown ? caret - shown : 0;
+}
+
 void EditWidget::press(Window& window, CPoint point) {
-    editor(window);
+    const std::size_t first = scrolled(window);
     const int along = std::max(0, point.x - kTextMargin);
     const int place = (along + kCharacterWidth / 2) / kCharacterWidth;
-    m_editor.moveTo(static_cast<std::size_t>(place), false);
+    m_editor.moveTo(first + static_cast<std::size_t>(place), false);
+    Workbench::current().windows().invalidate(window.handle);
     Workbench::current().windows().setFocus(window.handle);
 }
 
 void EditWidget::character(Window& window, wchar_t character) {
     editor(window);
     if (character == kCharSelectAll)
-        m_editor.selectAll();
+        selectAll(window);
     else if (character == kCharBackspace)
         m_editor.backspace();
     else if (character >= kFirstPrintable)
@@ -77,19 +88,22 @@ void EditWidget::character(Window& window, wchar_t character) {
 
 /// Edits by a key. False for a key that means nothing here.
 bool EditWidget::key(Window& window, WPARAM key) {
+    WindowSystem& windows = Workbench::current().windows();
+    const bool extend = windows.isHeld(VK_SHIFT);
     editor(window);
+    windows.invalidate(window.handle);
     switch (key) {
     case kKeyLeft:
-        m_editor.moveLeft(false);
+        m_editor.moveLeft(extend);
         return true;
     case kKeyRight:
-        m_editor.moveRight(false);
+        m_editor.moveRight(extend);
         return true;
     case kKeyHome:
-        m_editor.moveTo(0, false);
+        m_editor.moveTo(0, extend);
         return true;
     case kKeyEnd:
-        m_editor.moveTo(window.text.size(), false);
+        m_editor.moveTo(window.text.size(), extend);
         return true;
     case kKeyDelete:
         m_editor.erase();

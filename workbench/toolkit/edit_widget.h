@@ -9,11 +9,15 @@ namespace workbench {
 /// its parent.
 class EditWidget final : public ControlWidget {
 public:
-    static constexpr int kHeight = 20;  ///< Pixels.
+    static constexpr int kHeight = 20;         ///< Pixels.
+    static constexpr int kTextMargin = 3;      ///< Pixels left and right of the text.
+    static constexpr int kCharacterWidth = 6;  ///< Pixels: each character has the same room.
 
     /// The text with caret and selection, as they stand now.
     const LineEditor& editor(const Window& window);
     void selectAll(Window& window);
+    /// How many characters of the text stand left of the field, so that its caret can be seen.
+    std::size_t scrolled(const Window& window);
     /// The colour behind the text.
     COLORREF background() const { return m_background; }
     void setBackground(COLORREF colour) { m_background = colour; }

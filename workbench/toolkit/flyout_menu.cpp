@@ -1,6 +1,7 @@
 #include "workbench/toolkit/flyout_menu.h"
 
 #include "workbench/core/workbench.h"
+#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
 
@@ -20,7 +21,9 @@ std::vector<MenuLine> linesOf(const CQrUiToolPanelItem& flyout,
         if ((record.state & kItemHidden) != 0)
             continue;
         MenuLine line;
-        line.text = record.name.empty() ? knownId(*tool) : record.name;
+        line.text = shownName(*tool);
+        if (line.text.empty())
+            line.text = knownId(*tool);
         line.separator = record.type == kItemSeparator || record.type == kItemRowBreak;
         line.checked = flyout.m_record->currentTool == tool;
         line.disabled = (record.state & kItemDisabled) != 0;

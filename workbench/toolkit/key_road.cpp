@@ -7,13 +7,16 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace workbench {
 
 namespace {
 
 void moveToNextField() {
     WindowSystem& windows = Workbench::current().windows();
-    const HWND next = nextField(windows.focus());
+    const HWND next = nextField(windows.focus(), windows.isHeld(VK_SHIFT));
     if (next == nullptr || !windows.setFocus(next))
         return;
     Window& window = *windows.find(next);
@@ -33,26 +36,24 @@ void passKeyOn(WPARAM key, LPARAM details) {
                              details);
 }
 
-HWND nextField(HWND from) {
+HWND nextField(HWND from, bool backwards) {
     WindowSystem& windows = Workbench::current().windows();
     const CQrUiPaletteSet* const set = paletteSetAbove(from);
     if (set == nullptr)
         return nullptr;
-    HWND first = nullptr;
-    bool isBehind = false;
-    for (const HWND window : windows.descendants(set->m_hWnd)) {
+    std::vector<HWND> all = windows.descendants(set->m_hWnd);
+    if (backwards)
+        std::reverse(all.begin(), all.end());
+    // Those behind the window come first.
+    const auto here = std::find(all.begin(), all.end(), from);
+    if (here != all.end())
+        std::rotate(all.begin(), here + 1, all.end());
+    const auto next = std::find_if(all.begin(), all.end(), [&](HWND window) {
         const Window* const found = windows.find(window);
-        const bool isField = found->widget != nullptr && found->widget->reportsFocus() &&
-                             windows.isOnScreen(window) && windows.takesInput(window);
-        if (isField && window != from) {
-            if (isBehind)
-                return window;
-            if (first == nullptr)
-                first = window;
-        }
-        isBehind = isBehind || window == from;
-    }
-    return first;
+        return window != from && found->widget != nullptr && found->widget->takesTab() &&
+               windows.isOnScreen(window) && windows.takesInput(window);
+    });
+    return next == all.end() ? nullptr : *next;
 }
 
 }  // namespace workbench

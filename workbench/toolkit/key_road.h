@@ -4,12 +4,13 @@
 
 namespace workbench {
 
-/// Hands a key that means nothing to a control on. Tab goes to the next edit field of the palette
-/// set; all others go to the command line.
+/// Hands a key that means nothing to a control on. Tab goes to the next field, slider or list of the
+/// palette set, with shift held to the one before; all others go to the command line.
 void passKeyOn(WPARAM key, LPARAM details);
 
-/// The edit field behind a window in the order of the window tree, the first again behind the last,
-/// among those of its palette set that take input; null for none.
-HWND nextField(HWND from);
+/// Where Tab goes from a window: to the field, slider or list behind it in the order of the window
+/// tree, the first again behind the last, or the other way round, among those of its palette set that
+/// take input; null for none.
+HWND nextField(HWND from, bool backwards = false);
 
 }  // namespace workbench

@@ -1,6 +1,7 @@
 #include "workbench/toolkit/lookup.h"
 
 #include "workbench/core/workbench.h"
+#include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -89,6 +90,13 @@ CQrUiToolPanel* toolPanelOf(const CQrUiToolPanelItem& item) {
     while (outermost->m_record->flyout != nullptr)
         outermost = outermost->m_record->flyout;
     return outermost->m_record->toolPanel;
+}
+
+std::wstring shownName(const CQrUiToolPanelItem& item) {
+    const VxString& name = item.GetName();
+    if (!name.empty())
+        return name;
+    return Workbench::current().menu().labelOf(QrUiGetToolPanelItemData(&item));
 }
 
 ItemView viewOf(const CQrUiToolPanelItem& item) {

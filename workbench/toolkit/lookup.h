@@ -29,13 +29,16 @@ std::vector<CQrUiToolPanelItem*> allItems();
 /// The tool panel that an item, or the outermost flyout around it, stands on; null for none.
 CQrUiToolPanel* toolPanelOf(const CQrUiToolPanelItem& item);
 
+/// The name that a user knows an item by: its own, or else its label in the menu data; empty for none.
+std::wstring shownName(const CQrUiToolPanelItem& item);
+
 /// What a user sees of an item.
 struct ItemView {
     std::wstring id;
     bool checked = false;
     bool disabled = false;
     bool hidden = false;
-    std::wstring name;
+    std::wstring name;  ///< Its own; empty if it has none.
     std::string image;  ///< Resource key or file name of the small picture; empty for none.
     std::wstring tool;  ///< ID of a flyout's current tool; empty for none.
 };

@@ -92,6 +92,7 @@ void Mouse::noteOver(HWND window, CPoint point) {
     if (before != nullptr && before != paletteSetAbove(window))
         leave();
     m_over = window;
+    m_point = point;
     const Window* const found = m_windows.find(window);
     if (found == nullptr)
         return;

@@ -29,6 +29,8 @@ public:
 
     /// Has a window hold the mouse; null lets it go.
     void capture(HWND window) { m_captured = window; }
+    /// Where it was last over a window, in that window's client area.
+    CPoint point() const { return m_point; }
     HWND captured() const { return m_captured; }
 
 private:
@@ -39,6 +41,7 @@ private:
 
     WindowSystem& m_windows;
     HWND m_over = nullptr;      // null: over none of ours
+    CPoint m_point;             // in its client area
     HWND m_captured = nullptr;  // null: no window holds the mouse
 };
 

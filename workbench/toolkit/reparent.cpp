@@ -12,6 +12,7 @@ void reparent(WindowSystem& windows, HWND window, HWND parent) {
     after->children.push_back(window);
     moved->parent = parent;
     windows.invalidate(parent);
+    windows.invalidate(window);
 }
 
 }  // namespace workbench

@@ -38,6 +38,7 @@ public:
     // ControlWidget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                 LRESULT& answer) override;
+    bool takesTab() const override { return true; }
     std::string describe(const Window& window) const override;
     int naturalHeight(const Window& window, int width) const override;
 

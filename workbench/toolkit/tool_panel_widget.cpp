@@ -5,6 +5,7 @@
 #include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/tool_panel_layout.h"
@@ -118,7 +119,7 @@ int ToolPanelWidget::naturalHeight(const Window& window, int width) const {
 
 std::wstring ToolPanelWidget::tipAt(const Window& window, CPoint point) const {
     const CQrUiToolPanelItem* const item = itemAt(panelOf(window), point);
-    return item == nullptr ? std::wstring() : item->GetName();
+    return item == nullptr ? std::wstring() : shownName(*item);
 }
 
 void ToolPanelWidget::press(const Window& window, CPoint point) {

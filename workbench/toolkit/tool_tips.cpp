@@ -60,6 +60,8 @@ void ToolTips::show(HWND window, const std::wstring& text) {
 
 void ToolTips::hide() {
     m_windows.killTimer(m_clock.m_hWnd, kRestTimer);
+    if (m_presenter && !m_shown.empty())
+        m_presenter(m_over, {});
     m_over = nullptr;
     m_text.clear();
     m_shown.clear();
@@ -71,6 +73,8 @@ void ToolTips::showNow() {
         return;
     m_shown = m_text;
     noteText(m_journal, "tip", m_shown, m_windows.ownerName(m_over));
+    if (m_presenter)
+        m_presenter(m_over, m_shown);
 }
 
 }  // namespace workbench

@@ -4,6 +4,7 @@
 
 #include <hostapi/window.h>
 
+#include <functional>
 #include <string>
 
 namespace workbench {
@@ -26,6 +27,10 @@ public:
     /// The text on show; empty for none.
     const std::wstring& shown() const { return m_shown; }
 
+    /// Shows a text over a window to a user; an empty one ends what is on show. Null shows none.
+    using Presenter = std::function<void(HWND window, const std::wstring& text)>;
+    void setPresenter(Presenter presenter) { m_presenter = std::move(presenter); }
+
 private:
     class RestWidget;
     void showNow();
@@ -36,6 +41,7 @@ private:
     HWND m_over = nullptr;  // null: over nothing with a text
     std::wstring m_text;
     std::wstring m_shown;
+    Presenter m_presenter;
 };
 
 }  // namespace workbench

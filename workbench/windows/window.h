@@ -22,6 +22,8 @@ public:
                         LRESULT& answer);
     /// Whether the parent is told of the focus coming and going (`EN_SETFOCUS`, `EN_KILLFOCUS`).
     virtual bool reportsFocus() const { return false; }
+    /// Whether the Tab key brings the keyboard here.
+    virtual bool takesTab() const { return reportsFocus(); }
     /// Words for the window tree behind class and ID, such as the slider's position; may be empty.
     virtual std::string describe(const Window& window) const;
 };

@@ -85,6 +85,15 @@ void WindowSystem::advance(std::int64_t milliseconds) {
     m_clock.advanceTo(end);
 }
 
+std::optional<std::int64_t> WindowSystem::nextTimerDue() {
+    std::optional<std::int64_t> next;
+    m_windows.forEach([&next](const Window& window) {
+        for (const WindowTimer& timer : window.timers)
+            next = next ? std::min(*next, timer.due) : timer.due;
+    });
+    return next;
+}
+
 /// The timer that fires first until a time, set to its next period; nothing if none does.
 std::optional<WindowSystem::DueTimer> WindowSystem::takeDueTimer(std::int64_t end) {
     WindowTimer* first = nullptr;

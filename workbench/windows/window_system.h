@@ -101,6 +101,9 @@ public:
     /// Advances the clock by milliseconds; posted messages and timers run at their times, in order.
     void advance(std::int64_t milliseconds);
 
+    /// When the next timer fires, on the clock; nothing while none runs.
+    std::optional<std::int64_t> nextTimerDue();
+
     /// More messages than this in one run mean that a window answers its own message without end.
     static constexpr int kMostPostedMessages = 100000;
 

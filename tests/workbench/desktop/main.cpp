@@ -1,3 +1,5 @@
+#include "workbench/desktop/mirror/accessible.h"
+
 #include <QApplication>
 #include <QFont>
 
@@ -11,6 +13,7 @@ int main(int count, char** arguments) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(count, arguments);
     QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+    workbench::desktop::installAccessibility();
     std::setlocale(LC_NUMERIC, "C");
     return RUN_ALL_TESTS();
 }

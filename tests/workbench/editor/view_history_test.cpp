@@ -73,6 +73,15 @@ TEST_F(ViewHistoryTest, WhatChangedWhileQuietIsToldOnceAndIsOneStep) {
     EXPECT_EQ(width(), first);
 }
 
+TEST_F(ViewHistoryTest, ALoudChangeAfterAQuietOneIsAStepOfItsOwn) {
+    m_history.setQuiet(true);
+    setWidth(10);
+    m_history.setQuiet(false);
+    setWidth(20);
+    EXPECT_EQ(m_changes, 1);
+    EXPECT_EQ(m_history.depth(port()), 2U);
+}
+
 TEST_F(ViewHistoryTest, ANamedViewComesBackUnderItsName) {
     const drawing::ObjectId view = restoreNamed(10);
     {

@@ -1,4 +1,5 @@
 #include "tests/workbench/script/script_fixture.h"
+#include "workbench/base/input_error.h"
 #include "workbench/script/calls.h"
 
 namespace workbench::script {
@@ -44,6 +45,19 @@ TEST_F(RecordCallsTest, PictureNeedsAWindow) {
     EXPECT_EQ(complaintOf("wb.snapshot('a.png')"),
               "wb.snapshot: no picture of \"a.png\": pictures need the desktop, and this "
               "workbench has no window");
+}
+
+TEST_F(RecordCallsTest, PictureIsTakenByTheWindow) {
+    std::vector<std::string> taken;
+    workbench().setPhotographer(
+        [&taken](const std::filesystem::path& file) { taken.push_back(file.string()); });
+    run("wb.snapshot('a.png')");
+    EXPECT_EQ(taken, std::vector<std::string>{"a.png"});
+    workbench().setPhotographer([](const std::filesystem::path& file) {
+        throw InputError(file.string(), "no picture can be written there");
+    });
+    EXPECT_EQ(complaintOf("wb.snapshot('/no/a.png')"),
+              "wb.snapshot: /no/a.png: no picture can be written there");
 }
 
 }  // namespace

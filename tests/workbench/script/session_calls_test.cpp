@@ -64,6 +64,8 @@ TEST_F(SessionCallsTest, ShiftIsHeldDuringTheClicksToCome) {
         end
         wb.set("PERSPECTIVE", 1)
         wb.set("PERSPECTIVE", 0)
+        views:open()
+        views:close()
         wb.hold("shift", true)
         assert(stepsBack() == "vxInternalZoomBack")
         wb.hold("shift", false)

@@ -42,6 +42,26 @@ TEST_F(KeyRoadTest, TabSelectsTheWholeText) {
     EXPECT_EQ(m_second.GetWindowText(), L"n");
 }
 
+TEST_F(KeyRoadTest, WithShiftHeldTabGoesBack) {
+    gestures::focusField(m_first.m_hWnd);
+    gestures::holdKey("shift", true);
+    gestures::pressKey("tab");
+    EXPECT_EQ(windows().focus(), m_third.m_hWnd);
+    gestures::pressKey("tab");
+    gestures::holdKey("shift", false);
+    EXPECT_EQ(windows().focus(), m_second.m_hWnd);
+}
+
+TEST_F(KeyRoadTest, TabStopsAtSlidersAndListsToo) {
+    CQrUiProgSliderCtrl slider;
+    slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 16}, m_toolPanel, 8, 0);
+    CQrUiComboCtrl combo;
+    combo.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 100}, m_toolPanel, 9);
+    EXPECT_EQ(nextField(m_third.m_hWnd), slider.m_hWnd);
+    EXPECT_EQ(nextField(slider.m_hWnd), combo.m_hWnd);
+    EXPECT_EQ(nextField(combo.m_hWnd), m_first.m_hWnd);
+}
+
 TEST_F(KeyRoadTest, OutsideASetThereIsNoNextField) {
     EXPECT_EQ(nextField(frame().drawingView().m_hWnd), nullptr);
     EXPECT_EQ(nextField(nullptr), nullptr);

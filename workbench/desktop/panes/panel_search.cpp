@@ -2,7 +2,6 @@
 
 #include "workbench/core/workbench.h"
 #include "workbench/desktop/look/text.h"
-#include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -68,7 +67,7 @@ QStringList itemNames(const Window& control) {
     QStringList names;
     const auto* panel = dynamic_cast<const CQrUiToolPanel*>(control.object);
     for (int index = 0; panel != nullptr && index < panel->GetToolPanelItemCount(); ++index)
-        names.append(toQt(panel->GetToolPanelItem(index)->GetName()));
+        names.append(toQt(shownName(*panel->GetToolPanelItem(index))));
     names.removeAll(QString());
     return names;
 }
@@ -93,12 +92,10 @@ QString headOf(const QString& tip) {
 
 QStringList describeTool(const CQrUiToolPanelItem& item, SearchHit& hit) {
     hit.item = knownId(item);
-    // Most items bear no name of their own; the menu's label is shown for them.
-    const std::wstring label = Workbench::current().menu().labelOf(QrUiGetToolPanelItemData(&item));
-    const QStringList names{toQt(item.GetName()), toQt(label), toQt(hit.item), toQt(item.GetID())};
-    hit.label = *std::find_if_not(names.begin(), names.end() - 1,
-                                  [](const QString& name) { return name.isEmpty(); });
-    return names;
+    const QString name = toQt(shownName(item));
+    const QString id = toQt(hit.item);
+    hit.label = name.isEmpty() ? id : name;
+    return {name, id, toQt(item.GetID())};
 }
 
 /// Fills in what is known of an item, and gathers all that it can be found by.

@@ -23,6 +23,8 @@ public:
     }
     /// Told that the search was given up with Escape: the focus is to go elsewhere.
     void setOnLeft(std::function<void()> left) { m_onLeft = std::move(left); }
+    /// What is on the list, the best first.
+    const std::vector<SearchHit>& hits() const { return m_hits; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,4 +1,4 @@
-#include "workbench/main/default_paths.h"
+#include "workbench/startup/default_paths.h"
 
 #include <initializer_list>
 

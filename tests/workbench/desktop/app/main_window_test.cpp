@@ -1,0 +1,228 @@
+#include "workbench/desktop/app/main_window.h"
+
+#include "tests/workbench/desktop/events.h"
+#include "tests/workbench/loader/test_options.h"
+#include "workbench/base/input_error.h"
+#include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/host_actions.h"
+#include "workbench/desktop/drawing_view/drawing_view.h"
+#include "workbench/desktop/look/shade_names.h"
+#include "workbench/desktop/mirror/mirror_widget.h"
+#include "workbench/desktop/mirror/window_mirror.h"
+#include "workbench/desktop/panes/command_line.h"
+#include "workbench/desktop/panes/journal_pane.h"
+#include "workbench/desktop/panes/search_box.h"
+#include "workbench/editor/editor.h"
+#include "workbench/startup/open_dashboard.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_parts.h"
+#include "workbench/windows/window_system.h"
+
+#include <QDockWidget>
+#include <QImage>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace workbench::desktop {
+namespace {
+
+class MainWindowTest : public testing::Test {
+protected:
+    MainWindowTest() {
+        m_window.resize(1000, 800);
+        m_window.show();
+        openDashboard(m_workbench, PROJECT_SOURCE_ROOT "/examples/house.json");
+        rest();
+    }
+
+    Editor& editor() { return m_workbench.editor(); }
+    WindowSystem& windows() { return m_workbench.windows(); }
+    void rest() {
+        m_window.stage().pump.act([] {});
+        m_window.mirror().sync();
+    }
+    MirrorWidget* edit() {
+        const HWND control = windows().findByName("LayerLockTransparencySliderControl");
+        return m_window.mirror().widgetOf(findPart(windows(), control, "edit"));
+    }
+    void enter(const char* text) {
+        m_window.commandLine().input().setText(QString::fromLatin1(text));
+        pressKey(m_window.commandLine().input(), Qt::Key_Return);
+    }
+    /// The menu of a title, as it opens; and one of its lines.
+    QMenu& menu(const char* title) {
+        for (QAction* action : m_window.menuBar()->actions()) {
+            if (action->text() == QLatin1String(title)) {
+                Q_EMIT action->menu()->aboutToShow();
+                return *action->menu();
+            }
+        }
+        throw std::logic_error(title);
+    }
+    QAction& line(QMenu& menu, const QString& text) {
+        for (QAction* action : menu.actions()) {
+            if (action->text() == text)
+                return *action;
+        }
+        throw std::logic_error(text.toStdString());
+    }
+    QStringList lines(QMenu& menu) {
+        QStringList texts;
+        for (QAction* action : menu.actions())
+            texts.append(action->text());
+        return texts;
+    }
+
+    Workbench m_workbench{testOptions(PROJECT_SOURCE_ROOT "/examples/panels.json")};
+    MainWindow m_window{m_workbench, Shade::light};
+};
+
+TEST_F(MainWindowTest, TheHostsFrameIsAsLargeAsItsPlace) {
+    const CRect before = windows().clientRect(m_workbench.toolkit().frame().frame().m_hWnd);
+    m_window.resize(1200, 900);
+    QApplication::processEvents();
+    rest();
+    const CRect after = windows().clientRect(m_workbench.toolkit().frame().frame().m_hWnd);
+    EXPECT_EQ(after.Width() - before.Width(), 200);
+    EXPECT_EQ(after.Height() - before.Height(), 100);
+}
+
+TEST_F(MainWindowTest, LinesOfTheCommandLineAreRun) {
+    enter("LUPREC");
+    enter("5");
+    EXPECT_EQ(editor().read(L"LUPREC"), Value(5));
+    enter("LINE");
+    EXPECT_NE(editor().read(L"CMDACTIVE"), Value(0));
+    pressKey(m_window.commandLine().input(), Qt::Key_Escape);
+    EXPECT_EQ(editor().read(L"CMDACTIVE"), Value(0));
+}
+
+TEST_F(MainWindowTest, EachDocumentHasATab) {
+    m_window.stage().pump.act([this] { editor().documents().create(L"Plan"); });
+    DocumentTabs& tabs = m_window.documentTabs();
+    ASSERT_EQ(tabs.count(), 2);
+    EXPECT_EQ(tabs.tabText(1), QStringLiteral("Plan"));
+    EXPECT_EQ(tabs.currentIndex(), 1);
+    tabs.setCurrentIndex(0);
+    EXPECT_EQ(editor().documents().active()->name(), L"house.json");
+    Q_EMIT tabs.tabCloseRequested(1);
+    EXPECT_EQ(tabs.count(), 1);
+    EXPECT_EQ(editor().documents().count(), 1);
+}
+
+TEST_F(MainWindowTest, AFieldLosesTheKeyboardToAPane) {
+    click(*edit());
+    rest();
+    EXPECT_EQ(windows().focus(), edit()->handle());
+    Q_EMIT qApp->focusChanged(edit(), &m_window.searchBox());
+    EXPECT_EQ(windows().focus(), m_workbench.toolkit().frame().drawingView().m_hWnd);
+}
+
+TEST_F(MainWindowTest, ThemesAreSwitchedWhileItRuns) {
+    const QColor light = m_window.grab().toImage().pixelColor(m_window.width() - 100, 120);
+    m_window.setShade(Shade::dark);
+    const QColor dark = m_window.grab().toImage().pixelColor(m_window.width() - 100, 120);
+    EXPECT_GT(light.lightness(), dark.lightness());
+    m_window.setShade(Shade::light);
+    EXPECT_EQ(m_window.grab().toImage().pixelColor(m_window.width() - 100, 120), light);
+}
+
+TEST_F(MainWindowTest, ASearchShowsAndMarksWhatItFound) {
+    const HWND layers = findPanels(L"Layers").at(0)->m_hWnd;
+    m_window.stage().pump.act([&] {
+        const CQrUiPaletteSet* set = m_workbench.toolkit().frame().bars().front();
+        m_workbench.answers().queue("menu", "Panels/Layers");
+        m_workbench.toolkit().mouse().contextMenu(set->m_hWnd, {5, 5});
+    });
+    EXPECT_FALSE(windows().isOnScreen(layers));
+    typeText(m_window.searchBox(), QStringLiteral("locked layer"));
+    ASSERT_FALSE(m_window.searchBox().hits().empty());
+    pressKey(m_window.searchBox(), Qt::Key_Return);
+    EXPECT_TRUE(windows().isOnScreen(layers));
+}
+
+TEST_F(MainWindowTest, MenusListAndSwitchWorkspacesProfilesAndDocuments) {
+    QMenu& workspaces = menu("&Workspace");
+    EXPECT_TRUE(line(workspaces, QStringLiteral("3D Modeling")).isChecked());
+    line(workspaces, QStringLiteral("Drafting")).trigger();
+    EXPECT_TRUE(windows().isOnScreen(findPanels(L"HouseTools").at(0)->m_hWnd));
+    EXPECT_FALSE(windows().isOnScreen(findPanels(L"Light").at(0)->m_hWnd));
+    EXPECT_TRUE(lines(menu("&Profile")).contains(QStringLiteral("Default")));
+    line(menu("&Document"), QStringLiteral("&New")).trigger();
+    EXPECT_EQ(editor().documents().active()->name(), L"Drawing1");
+    line(menu("&Document"), QStringLiteral("house.json")).trigger();
+    EXPECT_EQ(editor().documents().active()->name(), L"house.json");
+    line(menu("&Document"), QStringLiteral("&Close")).trigger();
+    EXPECT_EQ(editor().documents().active()->name(), L"Drawing1");
+}
+
+TEST_F(MainWindowTest, TheViewMenuHidesShowsAndResetsTheDashboard) {
+    CQrUiPaletteSet& set = *m_workbench.toolkit().frame().bars().front();
+    line(menu("&View"), QStringLiteral("Show or hide the &dashboard")).trigger();
+    EXPECT_FALSE(windows().isOnScreen(set.m_hWnd));
+    line(menu("&View"), QStringLiteral("Show or hide the &dashboard")).trigger();
+    EXPECT_TRUE(windows().isOnScreen(set.m_hWnd));
+    m_workbench.toolkit().frame().floatAt(set, {100, 100, 340, 500});
+    line(menu("&View"), QStringLiteral("&Reset the layout")).trigger();
+    EXPECT_FALSE(set.IsFloating());
+}
+
+TEST_F(MainWindowTest, ToolsCanBeLarge) {
+    const CRect before =
+        windows().screenRect(toolPanelOf(*findItems(L"ID_Free_Orbit").at(0))->m_hWnd);
+    m_window.stage().pump.act([this] { setIconSize(m_workbench, 32); });
+    const CRect after =
+        windows().screenRect(toolPanelOf(*findItems(L"ID_Free_Orbit").at(0))->m_hWnd);
+    EXPECT_GT(after.Height(), before.Height());
+}
+
+TEST_F(MainWindowTest, TheLanguageChangesNumbersFromThenOn) {
+    m_window.setLocale("de_DE");
+    EXPECT_EQ(m_workbench.options().locale, "de_DE");
+}
+
+TEST_F(MainWindowTest, AFailureIsToldInTheStatusBar) {
+    m_window.stage().pump.act([this] { editor().documents().open("/no/such.json"); });
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().startsWith(QLatin1String("/no/such.json")));
+}
+
+TEST_F(MainWindowTest, PicturesShowTheDashboardOrTheWholeWindow) {
+    const QTemporaryDir folder;
+    const std::string file = folder.filePath(QStringLiteral("a.png")).toStdString();
+    m_window.takePicture(file, false);
+    const QImage dashboard(QString::fromStdString(file));
+    EXPECT_EQ(dashboard.width(), 235);
+    m_window.takePicture(file, true);
+    EXPECT_EQ(QImage(QString::fromStdString(file)).size(), m_window.size());
+    EXPECT_THROW(m_window.takePicture("/no/such/folder/a.png", false), InputError);
+    m_window.stage().pump.act([this] { toggleDashboard(m_workbench); });
+    EXPECT_THROW(m_window.takePicture(file, false), InputError);
+}
+
+TEST_F(MainWindowTest, AFloatingDashboardIsPicturedToo) {
+    const QTemporaryDir folder;
+    const std::string file = folder.filePath(QStringLiteral("a.png")).toStdString();
+    CQrUiPaletteSet& set = *m_workbench.toolkit().frame().bars().front();
+    m_window.stage().pump.act([&] {
+        m_workbench.toolkit().frame().floatAt(set, {100, 100, 400, 600});
+    });
+    m_window.takePicture(file, false);
+    EXPECT_EQ(QImage(QString::fromStdString(file)).width(), 300);
+}
+
+TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {
+    enter("LUPREC");
+    enter("6");
+    EXPECT_TRUE(m_workbench.journal().records().empty());
+    EXPECT_EQ(m_window.journalPane().copied(), QString());
+    m_window.journalPane().parentWidget()->show();
+    m_window.journalPane().filter().setText(QStringLiteral("LUPREC: "));
+    EXPECT_TRUE(m_window.journalPane().copied().contains(QLatin1String("-> 6")));
+}
+
+}  // namespace
+}  // namespace workbench::desktop

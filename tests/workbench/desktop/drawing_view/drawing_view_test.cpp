@@ -1,0 +1,147 @@
+#include "workbench/desktop/drawing_view/drawing_view.h"
+
+#include "tests/workbench/desktop/events.h"
+#include "tests/workbench/loader/test_options.h"
+#include "workbench/desktop/app/pump.h"
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/path_access.h"
+#include "workbench/drawing/records/viewport.h"
+#include "workbench/editor/editor.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace workbench::desktop {
+namespace {
+
+class DrawingViewTest : public testing::Test {
+protected:
+    DrawingViewTest() {
+        m_view.resize(400, 300);
+        m_view.show();
+    }
+
+    drawing::Database& data() { return m_document.data(); }
+    const drawing::Viewport& port() {
+        return *data().look<drawing::Viewport>(drawing::activeViewport(data()));
+    }
+    std::size_t history() {
+        return m_document.viewHistory().depth(drawing::activeViewport(data()));
+    }
+    QImage picture() { return m_view.grab().toImage(); }
+    void drag(QPoint by) {
+        press(m_view, {200, 150});
+        moveHeld(m_view, QPoint(200, 150) + by / 2);
+        moveHeld(m_view, QPoint(200, 150) + by);
+        release(m_view, QPoint(200, 150) + by);
+    }
+
+    Workbench m_workbench{testOptions()};
+    Pump m_pump{m_workbench};
+    Document& m_document =
+        m_workbench.editor().documents().open(PROJECT_SOURCE_ROOT "/examples/house.json");
+    DrawingView m_view{m_pump, m_document, lookOf(Shade::light)};
+};
+
+TEST_F(DrawingViewTest, ShowsTheDrawing) {
+    const QImage image = picture();
+    EXPECT_NE(image.pixelColor(200, 150), lookOf(Shade::light).drawing);
+    EXPECT_EQ(image.pixelColor(2, 2), lookOf(Shade::light).drawing);
+}
+
+TEST_F(DrawingViewTest, FollowsChangesOfTheDrawingAtOnce) {
+    const QImage before = picture();
+    drawing::setByPath(data(), "layers.Roof.on", false);
+    const QImage withoutRoof = picture();
+    EXPECT_NE(withoutRoof, before);
+    drawing::setByPath(data(), "viewports.current.eye.x", port().view.eye.x + 5);
+    EXPECT_NE(picture(), withoutRoof);
+}
+
+TEST_F(DrawingViewTest, FadingAndColoursAreTakenOver) {
+    drawing::setByPath(data(), "layers.Walls.locked", true);
+    const QImage before = picture();
+    m_view.setFading(90);
+    const QImage faded = picture();
+    EXPECT_NE(faded, before);
+    m_view.setLook(lookOf(Shade::dark));
+    EXPECT_EQ(picture().pixelColor(2, 2), lookOf(Shade::dark).drawing);
+}
+
+TEST_F(DrawingViewTest, ADragOrbitsInOneStepOfTheViewsHistory) {
+    const drawing::ViewParameters before = port().view;
+    const std::size_t depth = history();
+    drag({60, -20});
+    EXPECT_EQ(port().view.target, before.target);
+    EXPECT_NE(port().view.eye, before.eye);
+    EXPECT_EQ(history(), depth + 1);
+    EXPECT_TRUE(m_workbench.editor().undo());
+    EXPECT_EQ(port().view, before);
+}
+
+TEST_F(DrawingViewTest, ADragShowsItselfBeforeItIsWritten) {
+    const drawing::ViewParameters before = port().view;
+    const QImage still = picture();
+    press(m_view, {200, 150});
+    moveHeld(m_view, {260, 150});
+    EXPECT_NE(picture(), still);
+    EXPECT_EQ(port().view, before);
+    release(m_view, {260, 150});
+    EXPECT_NE(port().view, before);
+}
+
+TEST_F(DrawingViewTest, WithShiftOrTheMiddleButtonItPans) {
+    drawing::ViewParameters before = port().view;
+    sendMouse(m_view, QEvent::MouseButtonPress, {200, 150}, Qt::LeftButton, Qt::LeftButton,
+              Qt::ShiftModifier);
+    moveHeld(m_view, {220, 150});
+    release(m_view, {220, 150});
+    EXPECT_NE(port().view.target, before.target);
+    before = port().view;
+    sendMouse(m_view, QEvent::MouseButtonPress, {200, 150}, Qt::MiddleButton, Qt::MiddleButton);
+    moveHeld(m_view, {220, 150});
+    release(m_view, {220, 150});
+    EXPECT_NE(port().view.target, before.target);
+}
+
+TEST_F(DrawingViewTest, TheWheelZooms) {
+    const double before = port().view.width;
+    turnWheel(m_view, 1);
+    EXPECT_LT(port().view.width, before);
+    turnWheel(m_view, -2);
+    EXPECT_GT(port().view.width, before);
+}
+
+TEST_F(DrawingViewTest, AMovedViewIsNoNamedOneAnyMore) {
+    EXPECT_FALSE(port().appliedView.id.isNull());
+    turnWheel(m_view, 1);
+    EXPECT_TRUE(port().appliedView.id.isNull());
+}
+
+TEST_F(DrawingViewTest, ALockedViewportAndTheSheetStay) {
+    m_workbench.editor().set(L"TILEMODE", 0);
+    const QImage sheet = picture();
+    EXPECT_EQ(port().isPaper(), true);
+    turnWheel(m_view, 1);
+    drag({40, 0});
+    EXPECT_EQ(picture(), sheet);
+    m_workbench.editor().set(L"CVPORT", 2);
+    ASSERT_FALSE(port().isPaper());
+    drawing::setByPath(data(), "viewports.current.locked", true);
+    const drawing::ViewParameters before = port().view;
+    turnWheel(m_view, 1);
+    drag({40, 0});
+    EXPECT_EQ(port().view, before);
+}
+
+TEST_F(DrawingViewTest, OutlivesItsDocument) {
+    m_workbench.editor().documents().close(m_document);
+    EXPECT_EQ(m_view.document(), nullptr);
+    EXPECT_EQ(picture().pixelColor(200, 150), lookOf(Shade::light).drawing);
+    turnWheel(m_view, 1);
+    drag({10, 10});
+}
+
+}  // namespace
+}  // namespace workbench::desktop

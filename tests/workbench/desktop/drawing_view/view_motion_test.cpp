@@ -1,0 +1,101 @@
+#include "workbench/desktop/drawing_view/view_motion.h"
+
+#include "workbench/desktop/drawing_view/camera.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace workbench::desktop {
+namespace {
+
+using drawing::ViewParameters;
+
+constexpr QSizeF kPicture{400, 200};
+
+ViewParameters slanting(bool perspective = true) {
+    ViewParameters view;
+    view.eye = {10, -20, 15};
+    view.target = {1, 2, 3};
+    view.up = {0, 0, 1};
+    view.width = 40;
+    view.height = 20;
+    view.perspective = perspective;
+    return view;
+}
+
+TEST(ViewMotionTest, AnOrbitKeepsTargetDistanceAndField) {
+    const ViewParameters before = slanting();
+    const ViewParameters after = orbited(before, {37, -12}, kPicture);
+    EXPECT_EQ(after.target, before.target);
+    EXPECT_NEAR(drawing::distance(after.eye, after.target),
+                drawing::distance(before.eye, before.target), 1e-9);
+    EXPECT_EQ(after.width, before.width);
+    EXPECT_NE(after.eye, before.eye);
+    EXPECT_NEAR(axesOf(after).right.z, 0.0, 1e-9) << "the horizon is level";
+}
+
+TEST(ViewMotionTest, ADragOverTheWholeWidthIsAFullTurn) {
+    const ViewParameters before = slanting();
+    const ViewParameters after = orbited(before, {kPicture.width(), 0}, kPicture);
+    EXPECT_NEAR(drawing::distance(after.eye, before.eye), 0.0, 1e-9);
+}
+
+TEST(ViewMotionTest, AnOrbitStopsShortOfThePoles) {
+    for (const double way : {5000.0, -5000.0}) {
+        const ViewParameters after = orbited(slanting(), {0, way}, kPicture);
+        const Vec3 away = after.eye - after.target;
+        EXPECT_GT(std::hypot(away.x, away.y), 0.0);
+        EXPECT_EQ(away.z > 0, way > 0);
+        EXPECT_NEAR(lengthOf(axesOf(after).right), 1.0, 1e-9);
+    }
+}
+
+TEST(ViewMotionTest, AnOrbitFromStraightAboveKeepsThePicturesUp) {
+    ViewParameters plan;
+    plan.eye = {0, 0, 10};
+    plan.target = {0, 0, 0};
+    plan.up = {0, 1, 0};
+    const ViewParameters after = orbited(plan, {0, -20}, kPicture);
+    EXPECT_LT(after.eye.y, 0.0) << "the lower edge comes nearer";
+    EXPECT_NEAR(after.eye.x, 0.0, 1e-9);
+}
+
+TEST(ViewMotionTest, APanKeepsWhatIsUnderTheMouseThere) {
+    for (const bool perspective : {false, true}) {
+        const ViewParameters before = slanting(perspective);
+        const ViewParameters after = panned(before, {30, -20}, kPicture);
+        const QPointF was = Camera(before, kPicture).place(before.target);
+        const QPointF is = Camera(after, kPicture).place(before.target);
+        EXPECT_NEAR(is.x() - was.x(), 30, 1e-9);
+        EXPECT_NEAR(is.y() - was.y(), -20, 1e-9);
+        EXPECT_NEAR(lengthOf((after.eye - after.target) - (before.eye - before.target)), 0, 1e-9);
+    }
+}
+
+TEST(ViewMotionTest, AZoomScalesTheFieldAndBringsTheEyeCloserInPerspective) {
+    const ViewParameters before = slanting();
+    const ViewParameters closer = zoomed(before, 2);
+    EXPECT_LT(closer.width, before.width);
+    EXPECT_NEAR(closer.width / closer.height, before.width / before.height, 1e-12);
+    EXPECT_NEAR(
+        drawing::distance(closer.eye, closer.target) / drawing::distance(before.eye, before.target),
+        closer.width / before.width, 1e-12);
+    EXPECT_EQ(zoomed(slanting(false), 1).eye, before.eye);
+    EXPECT_GT(zoomed(before, -1).width, before.width);
+}
+
+TEST(ViewMotionTest, AZoomNeverReachesTheTarget) {
+    ViewParameters view = slanting();
+    for (int i = 0; i < 1000; ++i)
+        view = zoomed(view, 5);
+    EXPECT_GT(view.width, 0.0);
+    EXPECT_NE(view.eye, view.target);
+    for (int i = 0; i < 1000; ++i)
+        view = zoomed(view, -5);
+    EXPECT_TRUE(std::isfinite(view.width));
+    EXPECT_TRUE(std::isfinite(view.eye.x));
+}
+
+}  // namespace
+}  // namespace workbench::desktop

@@ -1,0 +1,91 @@
+#include "workbench/desktop/mirror/accessible.h"
+
+#include "tests/workbench/desktop/mirror/mirror_fixture.h"
+#include "workbench/toolkit/slider_widget.h"
+
+#include <QAccessible>
+
+namespace workbench::desktop {
+
+class AccessibleTest : public MirrorTest {
+protected:
+    QAccessibleInterface& of(QWidget* widget) {
+        return *QAccessible::queryAccessibleInterface(widget);
+    }
+    static void collect(QAccessibleInterface& node, std::vector<QAccessibleInterface*>& all) {
+        all.push_back(&node);
+        for (int i = 0; i < node.childCount(); ++i) {
+            if (node.child(i) != nullptr)
+                collect(*node.child(i), all);
+        }
+    }
+};
+
+TEST_F(AccessibleTest, NothingOnTheScreenIsWithoutAName) {
+    std::vector<QAccessibleInterface*> all;
+    collect(of(widget(m_stage.toolkit.frame().bars().front()->m_hWnd)), all);
+    EXPECT_GT(all.size(), 100U);
+    for (QAccessibleInterface* node : all) {
+        const bool isSeparator = node->role() == QAccessible::Separator;
+        EXPECT_TRUE(isSeparator || !node->text(QAccessible::Name).isEmpty())
+            << "role " << node->role() << " at " << node->rect().x() << ", " << node->rect().y();
+    }
+}
+
+TEST_F(AccessibleTest, ASliderTellsNameValueAndRangeAndTakesAValue) {
+    QAccessibleInterface& slider = of(widget(kFade, "slider"));
+    EXPECT_EQ(slider.role(), QAccessible::Slider);
+    EXPECT_FALSE(slider.text(QAccessible::Name).isEmpty());
+    QAccessibleValueInterface* value = slider.valueInterface();
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->minimumValue().toInt(), 0);
+    EXPECT_EQ(value->maximumValue().toInt(), 90);
+    value->setCurrentValue(30);
+    EXPECT_EQ(value->currentValue().toInt(), 30);
+    EXPECT_EQ(slider.text(QAccessible::Value), QStringLiteral("30"));
+    windows().advance(500);
+    EXPECT_EQ(editor().read(L"LAYLOCKFADECTL"), Value(30));
+}
+
+TEST_F(AccessibleTest, FieldsAndListsTellTheirTexts) {
+    QAccessibleInterface& edit = of(widget("3DNavPointTriplet1", "x"));
+    EXPECT_EQ(edit.role(), QAccessible::EditableText);
+    EXPECT_EQ(edit.text(QAccessible::Value), QStringLiteral("24.000"));
+    EXPECT_TRUE(edit.state().editable);
+    EXPECT_TRUE(edit.state().focusable);
+    EXPECT_EQ(edit.valueInterface(), nullptr);
+    QAccessibleInterface& combo = of(widget(kViews, "combo"));
+    EXPECT_EQ(combo.role(), QAccessible::ComboBox);
+    EXPECT_EQ(combo.text(QAccessible::Value), QStringLiteral("Garden"));
+}
+
+TEST_F(AccessibleTest, ButtonsTellTheirStateAndCanBePressed) {
+    QAccessibleInterface& checked = of(item(L"ID_Perspective_Projection"));
+    EXPECT_EQ(checked.role(), QAccessible::Button);
+    EXPECT_EQ(checked.text(QAccessible::Name), QStringLiteral("Perspective projection"));
+    EXPECT_TRUE(checked.state().checked);
+    EXPECT_TRUE(of(item(L"ID_Animation_Play")).state().disabled);
+    QAccessibleInterface& button = of(item(L"ID_Parallel_Projection"));
+    ASSERT_NE(button.actionInterface(), nullptr);
+    button.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(sent(), std::vector<std::string>{"_perspective\n0\n"});
+}
+
+TEST_F(AccessibleTest, DisabledPartsSaySo) {
+    editor().set(L"PERSPECTIVE", 0);
+    rest();
+    EXPECT_TRUE(of(widget("3DNavZoomSliderControl", "slider")).state().disabled);
+    EXPECT_TRUE(of(widget("3DNavZoomSliderControl", "edit")).state().disabled);
+    EXPECT_FALSE(of(widget(kFade, "slider")).state().disabled);
+}
+
+TEST_F(AccessibleTest, PanelsTellWhetherTheyAreRolledUp) {
+    MirrorWidget* panel = widget(findPanels(L"Layers").at(0)->m_hWnd);
+    EXPECT_EQ(of(panel).text(QAccessible::Name), QStringLiteral("Layers"));
+    EXPECT_TRUE(of(panel).state().expanded);
+    click(*panel, {100, 10});
+    rest();
+    EXPECT_FALSE(of(panel).state().expanded);
+}
+
+}  // namespace workbench::desktop

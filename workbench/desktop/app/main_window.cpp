@@ -1,0 +1,196 @@
+#include "workbench/desktop/app/main_window.h"
+
+#include "workbench/base/input_error.h"
+#include "workbench/commands/command_processor.h"
+#include "workbench/core/workbench.h"
+#include "workbench/desktop/app/desktop_menus.h"
+#include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/frame_home.h"
+#include "workbench/desktop/app/palette_colours.h"
+#include "workbench/desktop/app/reveal.h"
+#include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/mirror_widget.h"
+#include "workbench/desktop/mirror/questions.h"
+#include "workbench/desktop/mirror/window_mirror.h"
+#include "workbench/desktop/panes/command_line.h"
+#include "workbench/desktop/panes/journal_pane.h"
+#include "workbench/desktop/panes/search_box.h"
+#include "workbench/desktop/panes/status_fields.h"
+#include "workbench/editor/editor.h"
+#include "workbench/editor/variables/variable_definition.h"
+#include "workbench/profiles/profile_store.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolTip>
+
+namespace workbench::desktop {
+
+namespace {
+
+constexpr int kTellMs = 8000;
+constexpr int kSearchWidth = 320;  // pixels
+
+/// The names that can be typed at the command line.
+QStringList namesToType(Workbench& workbench) {
+    QStringList names;
+    for (const auto& command : workbench.editor().commands().all())
+        names.append(toQt(command->globalName));
+    for (const VariableDefinition& variable : variableTable())
+        names.append(toQt(variable.name));
+    names.removeDuplicates();
+    names.sort();
+    return names;
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Workbench& workbench, Shade shade)
+    : m_workbench(workbench),
+      m_pump(workbench),
+      m_stage(workbench, m_pump, shade),
+      m_shade(shade),
+      m_home(new FrameHome(this)),
+      m_tabs(new DocumentTabs(m_stage)),
+      m_commandLine(new CommandLine),
+      m_status(new StatusFields),
+      m_journal(new JournalPane(workbench.journal())),
+      m_search(new SearchBox(workbench)),
+      m_journalDock(new QDockWidget(QStringLiteral("Journal"), this)) {
+    setWindowTitle(QStringLiteral("Workbench"));
+    setCentralWidget(m_home);
+    m_mirror = std::make_unique<WindowMirror>(m_stage, *m_home);
+    m_questions = std::make_unique<Questions>(m_stage, *this);
+    m_home->attach(m_stage);
+    buildPanes();
+    m_menus = std::make_unique<DesktopMenus>(*this, *m_journalDock);
+    setShade(shade);
+    m_pump.setOnFailure([this](const QString& text) { tell(text); });
+    m_pump.setOnRest([this] { onRest(); });
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*before*/, QWidget* now) { leaveDashboard(now); });
+    onRest();
+}
+
+MainWindow::~MainWindow() {
+    m_pump.setOnRest(nullptr);
+    m_pump.setOnFailure(nullptr);
+}
+
+void MainWindow::buildPanes() {
+    MainFrame& frame = m_stage.toolkit.frame();
+    m_mirror->fill(frame.drawingView().m_hWnd, *m_tabs);
+    m_mirror->fill(frame.commandLine().m_hWnd, *m_commandLine);
+    m_mirror->setOnKeyboardToDrawing([this] { m_commandLine->input().setFocus(); });
+    m_stage.typed = [this](const QString& text) { m_commandLine->begin(text); };
+    m_stage.whyDisabled = [this] {
+        return m_workbench.editor().documents().active() == nullptr
+                   ? QStringLiteral("No drawing is open.")
+                   : QString();
+    };
+    m_commandLine->setOnEnter(
+        [this](const QString& text) { runCommand(text + QLatin1Char('\n')); });
+    m_commandLine->setOnCancel([this] { runCommand(QStringLiteral("\x1b")); });
+    m_commandLine->setNames([this] { return namesToType(m_workbench); });
+    m_journal->setOnFailure([this](const QString& text) { tell(text); });
+    m_search->setOnChosen([this](const SearchHit& hit) { reveal(m_stage, *m_mirror, hit); });
+    m_search->setOnLeft([this] { m_commandLine->input().setFocus(); });
+
+    m_journalDock->setWidget(m_journal);
+    m_journalDock->hide();
+    addDockWidget(Qt::BottomDockWidgetArea, m_journalDock);
+    auto* bar = addToolBar(QStringLiteral("Find"));
+    bar->setMovable(false);
+    m_search->setMaximumWidth(kSearchWidth);
+    bar->addWidget(m_search);
+    statusBar()->addPermanentWidget(m_status);
+}
+
+void MainWindow::runCommand(const QString& text) {
+    m_pump.act([this, &text] {
+        if (!m_workbench.editor().type(toHost(text)))
+            tell(QStringLiteral("No drawing is open."));
+    });
+}
+
+/// Whatever was done, the panes take it over here; the mirrored windows have their own notices.
+void MainWindow::onRest() {
+    m_tabs->refresh();
+    m_status->refresh(m_workbench);
+    const Document* const document = m_workbench.editor().documents().active();
+    m_commandLine->setPrompt(document == nullptr ? QString()
+                                                 : toQt(document->processor().prompt()));
+    m_journal->takeOver();
+    // Nobody asks for the records of a session by hand: they would only pile up.
+    if (!m_pump.isHeld())
+        m_workbench.journal().take();
+}
+
+/// A pane that takes the keyboard takes it from the dashboard, as the drawing would.
+void MainWindow::leaveDashboard(const QWidget* now) {
+    const bool isPane = now != nullptr && dynamic_cast<const MirrorWidget*>(now) == nullptr &&
+                        now->window() == this;
+    if (!isPane || paletteSetAbove(m_stage.windows.focus()) == nullptr)
+        return;
+    m_pump.act([this] { m_stage.windows.setFocus(m_stage.toolkit.frame().drawingView().m_hWnd); });
+}
+
+void MainWindow::setShade(Shade shade) {
+    m_shade = shade;
+    m_stage.look = &lookOf(shade);
+    QApplication::setPalette(paletteOf(*m_stage.look));
+    QToolTip::setPalette(paletteOf(*m_stage.look));
+    m_tabs->setLook(*m_stage.look);
+    m_pump.act([this] { tellThemeChanged(m_stage); });
+    m_mirror->redrawAll();
+}
+
+void MainWindow::setLocale(const std::string& locale) {
+    m_workbench.setLocale(locale);
+    m_pump.act([] {});
+}
+
+void MainWindow::tell(const QString& text) {
+    statusBar()->showMessage(text, kTellMs);
+}
+
+QRect MainWindow::dashboardPlace() {
+    for (const CQrUiPaletteSet* set : m_stage.toolkit.frame().bars()) {
+        const MirrorWidget* const bar = m_mirror->widgetOf(set->m_hWnd);
+        if (bar != nullptr && bar->isVisible() && bar->window() == this)
+            return {bar->mapTo(this, QPoint(0, 0)), bar->size()};
+    }
+    return {};
+}
+
+void MainWindow::takePicture(const std::filesystem::path& file, bool wholeWindow) {
+    m_mirror->sync();
+    onRest();
+    QApplication::processEvents();
+    QPixmap picture;
+    if (const QRect place = dashboardPlace(); wholeWindow)
+        picture = grab();
+    else if (!place.isEmpty())
+        picture = grab(place);
+    else if (QWidget* floating = floatingDashboard(m_stage, *m_mirror))
+        picture = floating->grab();
+    else
+        throw InputError(file.string(), "there is no dashboard on show to take a picture of");
+    if (!picture.save(toQt(std::string_view(file.string())), "PNG"))
+        throw InputError(file.string(), "no picture can be written there");
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    m_pump.act([this] { m_workbench.profiles().save(); });
+    QMainWindow::closeEvent(event);
+}
+
+}  // namespace workbench::desktop

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "workbench/desktop/app/pump.h"
+#include "workbench/desktop/look/look.h"
+#include "workbench/desktop/mirror/stage.h"
+
+#include <QMainWindow>
+
+#include <filesystem>
+#include <memory>
+
+class QDockWidget;
+
+namespace workbench::desktop {
+
+class CommandLine;
+class DesktopMenus;
+class DocumentTabs;
+class FrameHome;
+class JournalPane;
+class Questions;
+class SearchBox;
+class StatusFields;
+class WindowMirror;
+
+/// The workbench's window: the host's main frame with the drawing and the dashboard in it, the
+/// command line, the journal, and menus for what a host's user does beside drawing.
+class MainWindow final : public QMainWindow {
+public:
+    /// The workbench must outlive the window.
+    MainWindow(Workbench& workbench, Shade shade);
+    ~MainWindow() override;
+
+    Stage& stage() { return m_stage; }
+    WindowMirror& mirror() { return *m_mirror; }
+    Workbench& workbench() { return m_workbench; }
+    JournalPane& journalPane() { return *m_journal; }
+    CommandLine& commandLine() { return *m_commandLine; }
+    SearchBox& searchBox() { return *m_search; }
+    DocumentTabs& documentTabs() { return *m_tabs; }
+
+    Shade shade() const { return m_shade; }
+    /// Changes all colours, those of the dashboard too.
+    void setShade(Shade shade);
+    /// The user's language and formats from now on.
+    void setLocale(const std::string& locale);
+    /// Writes a picture of the dashboard, or of the whole window, to a PNG file. Throws `InputError`
+    /// if it can't be written there, and if no dashboard is on show.
+    void takePicture(const std::filesystem::path& file, bool wholeWindow);
+    /// Says something in the status bar.
+    void tell(const QString& text);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildPanes();
+    void onRest();
+    void runCommand(const QString& text);
+    void leaveDashboard(const QWidget* now);
+    QRect dashboardPlace();
+
+    Workbench& m_workbench;
+    Pump m_pump;
+    Stage m_stage;
+    Shade m_shade;
+    FrameHome* m_home;
+    DocumentTabs* m_tabs;
+    CommandLine* m_commandLine;
+    StatusFields* m_status;
+    JournalPane* m_journal;
+    SearchBox* m_search;
+    QDockWidget* m_journalDock;
+    std::unique_ptr<WindowMirror> m_mirror;
+    std::unique_ptr<Questions> m_questions;
+    std::unique_ptr<DesktopMenus> m_menus;
+};
+
+}  // namespace workbench::desktop

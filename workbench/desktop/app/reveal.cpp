@@ -1,0 +1,102 @@
+#include "workbench/desktop/app/reveal.h"
+
+#include "workbench/core/workbench.h"
+#include "workbench/desktop/mirror/item_widget.h"
+#include "workbench/desktop/mirror/mirror_widget.h"
+#include "workbench/desktop/mirror/stage.h"
+#include "workbench/desktop/mirror/window_mirror.h"
+#include "workbench/desktop/panes/panel_search.h"
+#include "workbench/editor/editor.h"
+#include "workbench/gestures/menu_gestures.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/panel_widget.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+namespace workbench::desktop {
+
+namespace {
+
+/// Elements of the toolkit's theme: titles, links, controls.
+constexpr int kThemeElements[] = {1, 2, 3};
+
+void showDashboard(Stage& stage) {
+    for (const CQrUiPaletteSet* set : stage.toolkit.frame().bars()) {
+        if (stage.windows.isOnScreen(set->m_hWnd))
+            return;
+    }
+    stage.workbench.editor().type(L"DASHBOARDOLD\n");
+}
+
+/// By the menu, as a user does.
+void showPanel(Stage& stage, const CQrUiPanel& panel) {
+    const CQrUiPaletteSet* const set = paletteSetAbove(panel.m_hWnd);
+    if (set != nullptr && !stage.windows.isOnScreen(panel.m_hWnd))
+        gestures::chooseFromContextMenu(set->m_hWnd, L"Panels/" + panel.GetWindowText());
+    Window* const window = stage.windows.find(panel.m_hWnd);
+    if (window != nullptr)
+        static_cast<PanelWidget&>(*window->widget).collapse(*window, false);
+}
+
+/// The item to mark: the tool, or the flyout around it, or the head of the control.
+const CQrUiToolPanelItem* itemOf(const Stage& stage, const SearchHit& hit) {
+    if (!hit.item.empty()) {
+        const auto found = findItems(hit.item);
+        const CQrUiToolPanelItem* item = found.empty() ? nullptr : found.front();
+        while (item != nullptr && item->m_record->flyout != nullptr)
+            item = item->m_record->flyout;
+        return item;
+    }
+    const Window* const control = stage.windows.find(stage.windows.findByName(hit.control));
+    const auto* panel =
+        control == nullptr ? nullptr : dynamic_cast<const CQrUiToolPanel*>(control->object);
+    return panel == nullptr ? nullptr : panel->GetToolPanelItem(0);
+}
+
+void mark(const WindowMirror& mirror, const CQrUiToolPanelItem& item) {
+    const CQrUiToolPanel* const panel = toolPanelOf(item);
+    const MirrorWidget* const widget = panel == nullptr ? nullptr : mirror.widgetOf(panel->m_hWnd);
+    if (widget == nullptr)
+        return;
+    for (ItemWidget* each : widget->items()) {
+        if (each->item() == &item)
+            each->flash();
+    }
+}
+
+}  // namespace
+
+void reveal(Stage& stage, WindowMirror& mirror, const SearchHit& hit) {
+    stage.pump.act([&] {
+        showDashboard(stage);
+        for (const CQrUiPanel* panel : findPanels(hit.panel))
+            showPanel(stage, *panel);
+    });
+    const CQrUiToolPanelItem* const item = itemOf(stage, hit);
+    if (item == nullptr)
+        return;
+    const CQrUiToolPanel* const panel = toolPanelOf(*item);
+    stage.pump.act([&] { mirror.scrollIntoView(panel->m_hWnd); });
+    mirror.sync();
+    mark(mirror, *item);
+}
+
+void tellThemeChanged(Stage& stage) {
+    if (Theme* theme = stage.toolkit.themes().find(L"ToolPanel")) {
+        for (const int element : kThemeElements)
+            theme->changeElement(element);
+    }
+}
+
+QWidget* floatingDashboard(Stage& stage, WindowMirror& mirror) {
+    for (CQrUiPaletteSet* set : stage.toolkit.frame().bars()) {
+        const CFrameWnd* const frame = stage.toolkit.frame().frameOf(*set);
+        QWidget* const widget = frame == nullptr ? nullptr : mirror.widgetOf(frame->m_hWnd);
+        if (widget != nullptr && widget->isWindow() && widget->isVisible())
+            return widget;
+    }
+    return nullptr;
+}
+
+}  // namespace workbench::desktop

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "workbench/desktop/drawing_view/scene.h"
+#include "workbench/desktop/look/look.h"
+#include "workbench/drawing/reactors.h"
+#include "workbench/drawing/records/view_parameters.h"
+
+#include <QWidget>
+
+#include <optional>
+
+namespace workbench {
+class Document;
+}
+
+namespace workbench::desktop {
+
+class Pump;
+
+/// The drawing of a document as its current viewport shows it. A drag orbits, with shift or the
+/// middle button it pans, the wheel zooms; each gesture is one view of the viewport's history, and a
+/// locked viewport stays as it is.
+class DrawingView final : public QWidget, private drawing::DatabaseReactor {
+public:
+    DrawingView(Pump& pump, Document& document, const Look& look);
+    DrawingView(const DrawingView&) = delete;
+    DrawingView& operator=(const DrawingView&) = delete;
+    ~DrawingView() override;
+
+    /// Whose drawing it is; null once the document has been closed.
+    Document* document() const { return m_document; }
+    /// LAYLOCKFADECTL has changed, or the colours have.
+    void setFading(int percent);
+    void setLook(const Look& look);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    struct Drag {
+        bool pans;
+        QPointF from;
+        drawing::ViewParameters before;
+        drawing::ViewParameters now;
+    };
+
+    // drawing::DatabaseReactor:
+    void objectAppended(const drawing::DbObject& object) override;
+    void objectModified(const drawing::DbObject& object) override;
+    void objectErased(const drawing::DbObject& object, bool erasing) override;
+    void databaseGoodbye(const drawing::Database& database) override;
+
+    void changed();
+    /// What the current viewport shows, or would at the end of the drag; nothing without one.
+    std::optional<drawing::ViewParameters> shown() const;
+    bool canMove() const;
+    void write(const drawing::ViewParameters& view);
+    void paintModel(QPainter& painter, const drawing::ViewParameters& view, const QRect& place);
+    void paintSheet(QPainter& painter);
+    const Scene& scene();
+
+    Pump& m_pump;
+    Document* m_document;
+    const Look* m_look;
+    int m_fading = 50;
+    std::optional<Scene> m_scene;  // nothing: to be made anew
+    std::optional<Drag> m_drag;
+    int m_wheelRest = 0;
+};
+
+}  // namespace workbench::desktop

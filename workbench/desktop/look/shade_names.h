@@ -1,0 +1,24 @@
+#pragma once
+
+#include "workbench/desktop/look/look.h"
+
+#include <optional>
+#include <string_view>
+
+namespace workbench::desktop {
+
+/// The shade of a name, "light" or "dark"; nothing for another name.
+constexpr std::optional<Shade> shadeOf(std::string_view name) {
+    if (name == "light")
+        return Shade::light;
+    if (name == "dark")
+        return Shade::dark;
+    return {};
+}
+
+/// The name of a shade.
+constexpr const char* nameOf(Shade shade) {
+    return shade == Shade::dark ? "dark" : "light";
+}
+
+}  // namespace workbench::desktop

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <hostapi/window/geometry.h>
+
+#include <QColor>
+#include <QPainter>
+#include <QRect>
+
+namespace workbench::desktop {
+
+inline QRect toQt(const CRect& rect) {
+    return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+inline CPoint toHost(const QPoint& point) {
+    return {point.x(), point.y()};
+}
+
+/// A small triangle that points down, around a middle.
+void paintArrowDown(QPainter& painter, QPointF middle, double size, const QColor& colour);
+/// The same, pointing to the right.
+void paintArrowRight(QPainter& painter, QPointF middle, double size, const QColor& colour);
+/// A small cross, around a middle.
+void paintCross(QPainter& painter, QPointF middle, double size, const QColor& colour);
+
+}  // namespace workbench::desktop

@@ -1,0 +1,184 @@
+#include "workbench/desktop/mirror/accessible.h"
+
+#include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/item_widget.h"
+#include "workbench/desktop/mirror/mirror_widget.h"
+#include "workbench/desktop/mirror/stage.h"
+#include "workbench/gestures/slider_gestures.h"
+#include "workbench/toolkit/combo_widget.h"
+#include "workbench/toolkit/edit_widget.h"
+#include "workbench/toolkit/link_widget.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/panel_widget.h"
+#include "workbench/toolkit/slider_widget.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/qrui18/tool_panel_item.h>
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+
+namespace workbench::desktop {
+
+namespace {
+
+template <class Type>
+Type* widgetOf(const MirrorWidget& mirror) {
+    const Window* const window = mirror.host();
+    return window == nullptr ? nullptr : dynamic_cast<Type*>(window->widget.get());
+}
+
+QAccessible::Role roleOf(const MirrorWidget& mirror) {
+    if (widgetOf<SliderWidget>(mirror) != nullptr)
+        return QAccessible::Slider;
+    if (widgetOf<EditWidget>(mirror) != nullptr)
+        return QAccessible::EditableText;
+    if (widgetOf<ComboWidget>(mirror) != nullptr)
+        return QAccessible::ComboBox;
+    if (widgetOf<LinkWidget>(mirror) != nullptr)
+        return QAccessible::Link;
+    const Window* const window = mirror.host();
+    if (window != nullptr && window->className == "ToolbarButton")
+        return QAccessible::Button;
+    return QAccessible::Grouping;
+}
+
+/// A mirrored window.
+class AccessibleWindow final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit AccessibleWindow(MirrorWidget& mirror) : QAccessibleWidget(&mirror, roleOf(mirror)) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? value() : QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override;
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface && slider() != nullptr)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    // QAccessibleValueInterface, for sliders:
+    QVariant currentValue() const override { return slider()->position(); }
+    QVariant minimumValue() const override { return slider()->lowest(); }
+    QVariant maximumValue() const override { return slider()->highest(); }
+    QVariant minimumStepSize() const override { return slider()->lineSize(); }
+    void setCurrentValue(const QVariant& value) override {
+        mirror().stage().pump.act([this, position = value.toInt()] {
+            if (gestures::dragSlider(mirror().handle(), {position}))
+                gestures::releaseSlider(mirror().handle());
+        });
+    }
+
+private:
+    MirrorWidget& mirror() const { return *static_cast<MirrorWidget*>(widget()); }
+    SliderWidget* slider() const { return widgetOf<SliderWidget>(mirror()); }
+    QString value() const;
+};
+
+QString AccessibleWindow::value() const {
+    const Window* const window = mirror().host();
+    if (slider() != nullptr)
+        return QString::number(slider()->position());
+    if (const auto* combo = widgetOf<ComboWidget>(mirror())) {
+        const QRUI_COMBO_CTRL_ITEM* const shown = combo->entry(combo->selected());
+        return shown == nullptr ? QString() : toQt(shown->text);
+    }
+    return widgetOf<EditWidget>(mirror()) == nullptr ? QString() : toQt(window->text);
+}
+
+QAccessible::State AccessibleWindow::state() const {
+    QAccessible::State state = QAccessibleWidget::state();
+    const Window* const window = mirror().host();
+    if (window == nullptr)
+        return state;
+    const WindowSystem& windows = mirror().stage().windows;
+    state.disabled = !windows.takesInput(window->handle);
+    state.focusable = window->widget != nullptr && window->widget->takesTab();
+    state.focused = windows.focus() == window->handle;
+    state.editable = widgetOf<EditWidget>(mirror()) != nullptr;
+    if (const auto* combo = widgetOf<ComboWidget>(mirror())) {
+        state.expandable = true;
+        state.expanded = combo->isOpen();
+    } else if (widgetOf<PanelWidget>(mirror()) != nullptr) {
+        auto& panels = mirror().stage().toolkit.panels();
+        state.expandable = true;
+        state.expanded = !panels.of(static_cast<const CQrUiPanel*>(window->object)).collapsed;
+    }
+    return state;
+}
+
+QAccessible::Role roleOf(const CQrUiToolPanelItem* item) {
+    switch (item == nullptr ? kItemSeparator : item->GetType()) {
+    case kItemButton:
+        return QAccessible::Button;
+    case kItemFlyout:
+        return QAccessible::ButtonMenu;
+    case kItemIcon:
+        return QAccessible::Graphic;
+    default:
+        return QAccessible::Separator;
+    }
+}
+
+/// An item of a tool panel.
+class AccessibleItem final : public QAccessibleWidget {
+public:
+    explicit AccessibleItem(ItemWidget& item) : QAccessibleWidget(&item, roleOf(item.item())) {}
+
+    /// An item may be renamed without being drawn again.
+    QString text(QAccessible::Text kind) const override {
+        const CQrUiToolPanelItem* const shown = item().item();
+        if (kind == QAccessible::Name && shown != nullptr) {
+            const std::wstring name = shownName(*shown);
+            return toQt(name.empty() ? knownId(*shown) : name);
+        }
+        return QAccessibleWidget::text(kind);
+    }
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        const CQrUiToolPanelItem* const shown = item().item();
+        const UINT bits = shown == nullptr ? kItemDisabled : shown->GetState();
+        state.disabled =
+            (bits & kItemDisabled) != 0 || !item().stage().windows.takesInput(item().toolPanel());
+        state.checked = (bits & kItemChecked) != 0;
+        return state;
+    }
+    QStringList actionNames() const override {
+        if (role() == QAccessible::Button || role() == QAccessible::ButtonMenu)
+            return {pressAction()};
+        return {};
+    }
+    void doAction(const QString& name) override {
+        if (name != pressAction())
+            return;
+        const QPoint middle = item().geometry().center();
+        item().stage().pump.act([this, middle] {
+            Mouse& mouse = item().stage().toolkit.mouse();
+            const HWND panel = item().toolPanel();
+            if (mouse.press(panel, {middle.x(), middle.y()}))
+                mouse.release(panel, {middle.x(), middle.y()});
+        });
+    }
+
+private:
+    ItemWidget& item() const { return *static_cast<ItemWidget*>(widget()); }
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+    if (auto* mirror = dynamic_cast<MirrorWidget*>(object))
+        return new AccessibleWindow(*mirror);
+    if (auto* item = dynamic_cast<ItemWidget*>(object))
+        return new AccessibleItem(*item);
+    return nullptr;
+}
+
+}  // namespace
+
+void installAccessibility() {
+    QAccessible::installFactory(makeInterface);
+}
+
+}  // namespace workbench::desktop

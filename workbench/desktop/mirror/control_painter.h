@@ -1,0 +1,16 @@
+#pragma once
+
+class QPainter;
+
+namespace workbench {
+struct Window;
+}
+
+namespace workbench::desktop {
+
+struct Stage;
+
+/// Draws a slider, an edit field, a list's field or a toolbar button. False for another window.
+bool paintControl(QPainter& painter, Stage& stage, Window& window);
+
+}  // namespace workbench::desktop

@@ -1,0 +1,107 @@
+#include "workbench/desktop/mirror/floating_mirror.h"
+
+#include "workbench/desktop/look/shapes.h"
+#include "workbench/desktop/mirror/bar_parts.h"
+#include "workbench/desktop/mirror/stage.h"
+#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+
+namespace workbench::desktop {
+
+namespace {
+
+constexpr int kEdgeWidth = 40;  // pixels at the side of the host's window that dock
+
+}  // namespace
+
+FloatingMirror::FloatingMirror(Stage& stage, HWND window, QWidget* owner)
+    : MirrorWidget(stage, window, owner) {
+    setWindowFlags(Qt::Tool | Qt::FramelessWindowHint);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+}
+
+CQrUiPaletteSet* FloatingMirror::shownSet() const {
+    const Window* const window = host();
+    return window == nullptr ? nullptr : setInFloatingFrame(stage().toolkit.frame(), *window);
+}
+
+void FloatingMirror::mousePressEvent(QMouseEvent* event) {
+    const QPoint point = event->position().toPoint();
+    const FloatingParts parts = partsOfFloatingFrame(width(), height());
+    m_last = event->globalPosition().toPoint();
+    if (parts.close.contains(point))
+        close();
+    else if (parts.corner.contains(point))
+        m_hold = Hold::corner;
+    else if (parts.caption.contains(point))
+        m_hold = Hold::caption;
+}
+
+void FloatingMirror::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint now = event->globalPosition().toPoint();
+    if (m_hold != Hold::none)
+        moveOrSize(now - m_last);
+    m_last = now;
+}
+
+void FloatingMirror::mouseReleaseEvent(QMouseEvent* event) {
+    if (m_hold == Hold::caption)
+        dockIfAtEdge(event->globalPosition().toPoint());
+    m_hold = Hold::none;
+}
+
+void FloatingMirror::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (!partsOfFloatingFrame(width(), height()).caption.contains(event->position().toPoint()))
+        return;
+    stage().pump.act([this] {
+        if (CQrUiPaletteSet* set = shownSet())
+            stage().toolkit.frame().dock(*set, stage().toolkit.paletteSets().of(set).place.edge);
+    });
+}
+
+void FloatingMirror::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    stage().pump.act([this] {
+        if (CQrUiPaletteSet* set = shownSet())
+            closePaletteSet(*set);
+    });
+}
+
+void FloatingMirror::moveOrSize(QPoint by) {
+    stage().pump.act([this, by] {
+        CQrUiPaletteSet* set = shownSet();
+        if (set == nullptr)
+            return;
+        CRect rect = host()->rect;
+        rect.right += by.x();
+        rect.bottom += by.y();
+        if (m_hold == Hold::caption) {
+            rect.left += by.x();
+            rect.top += by.y();
+        }
+        stage().toolkit.frame().floatAt(*set, rect);
+    });
+}
+
+void FloatingMirror::dockIfAtEdge(QPoint screenPoint) {
+    const QWidget* const main = parentWidget();
+    if (main == nullptr)
+        return;
+    const QPoint inside = main->mapFromGlobal(screenPoint);
+    if (!main->rect().contains(inside))
+        return;
+    const bool atLeft = inside.x() < kEdgeWidth;
+    const bool atRight = inside.x() >= main->width() - kEdgeWidth;
+    if (!atLeft && !atRight)
+        return;
+    stage().pump.act([this, atLeft] {
+        if (CQrUiPaletteSet* set = shownSet())
+            stage().toolkit.frame().dock(*set, atLeft ? Edge::left : Edge::right);
+    });
+}
+
+}  // namespace workbench::desktop

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "workbench/desktop/mirror/mirror_widget.h"
+
+#include <functional>
+
+class CQrUiPaletteSet;
+
+namespace workbench::desktop {
+
+/// The small frame of a floating palette set, a window on the screen: dragged by its caption, sized
+/// by its corner, docked when it is let go at an edge of the host's window or clicked twice.
+class FloatingMirror final : public MirrorWidget {
+public:
+    FloatingMirror(Stage& stage, HWND window, QWidget* owner);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    enum class Hold { none, caption, corner };
+
+    CQrUiPaletteSet* shownSet() const;
+    void moveOrSize(QPoint by);
+    void dockIfAtEdge(QPoint screenPoint);
+
+    Hold m_hold = Hold::none;
+    QPoint m_last;  // of the drag, on the screen
+};
+
+}  // namespace workbench::desktop

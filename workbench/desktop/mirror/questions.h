@@ -1,0 +1,23 @@
+#pragma once
+
+class QWidget;
+
+namespace workbench::desktop {
+
+struct Stage;
+
+/// Has the workbench's menus, message boxes and tooltips appear on the screen. An answer that a
+/// script has queued still comes first.
+class Questions {
+public:
+    /// `owner` is the window that boxes belong to.
+    Questions(Stage& stage, QWidget& owner);
+    Questions(const Questions&) = delete;
+    Questions& operator=(const Questions&) = delete;
+    ~Questions();
+
+private:
+    Stage& m_stage;
+};
+
+}  // namespace workbench::desktop

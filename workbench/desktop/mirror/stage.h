@@ -1,0 +1,41 @@
+#pragma once
+
+#include "workbench/desktop/app/pump.h"
+#include "workbench/desktop/look/look.h"
+#include "workbench/desktop/look/pictures.h"
+
+#include <hostapi/types.h>
+
+#include <QPoint>
+#include <QString>
+
+#include <functional>
+
+namespace workbench {
+class Toolkit;
+class WindowSystem;
+class Workbench;
+}  // namespace workbench
+
+namespace workbench::desktop {
+
+/// What all widgets of the mirrored windows share.
+struct Stage {
+    Stage(Workbench& shown, Pump& runs, Shade shade);
+
+    Workbench& workbench;
+    WindowSystem& windows;
+    Toolkit& toolkit;
+    Pump& pump;
+    Pictures pictures;
+    const Look* look;  ///< Not owned; changes with the theme.
+
+    /// Where the user last pressed a button, on the screen: menus open there.
+    QPoint pressedAt;
+    /// Takes a text that was typed where nothing takes texts.
+    std::function<void(const QString&)> typed;
+    /// Why a disabled part can't be used, as far as the host can tell; empty otherwise.
+    std::function<QString()> whyDisabled;
+};
+
+}  // namespace workbench::desktop

@@ -1,0 +1,102 @@
+#include "workbench/desktop/mirror/window_names.h"
+
+#include "workbench/desktop/look/text.h"
+#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/edit_widget.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+namespace workbench::desktop {
+
+namespace {
+
+struct ClassRow {
+    const char* className;
+    const char* name;
+};
+/// Windows that bear no text of their own.
+constexpr ClassRow kClasses[] = {
+    {"CDockBar", "Dock"},
+    {"CQrUiPalette", "Palette"},
+    {"CQrUiPanelSet", "Panels"},
+    {"CQrUiToolPanel", "Tools"},
+    {"DrawingView", "Drawing"},
+    {"CommandLine", "Command line"},
+    {"CQrUiCtrlContainer", "Fields"},
+};
+
+/// The name of the picture or button at the head of a custom control.
+QString nameOfItem(const Window& window) {
+    const auto* panel = dynamic_cast<const CQrUiToolPanel*>(window.object);
+    if (panel == nullptr)
+        return {};
+    for (int i = 0; i < panel->GetToolPanelItemCount(); ++i) {
+        const CQrUiToolPanelItem& item = *panel->GetToolPanelItem(i);
+        const std::wstring name = shownName(item);
+        if (item.GetType() != kItemControl && !name.empty())
+            return toQt(name);
+    }
+    return {};
+}
+
+/// The custom control that a window is, or stands in: what it is called as a whole.
+QString nameOfControl(const WindowSystem& windows, const Window& window) {
+    for (const Window* above = &window; above != nullptr; above = windows.find(above->parent)) {
+        if (above->className != "CQrUiToolPanel")
+            continue;
+        const Window* const parent = windows.find(above->parent);
+        if (parent == nullptr || parent->className != "CQrUiToolPanel")
+            return {};
+        const QString item = nameOfItem(*above);
+        return item.isEmpty() ? toQt(above->name) : item;
+    }
+    return {};
+}
+
+/// A tooltip is a name up to its first line or colon; behind that it tells values.
+QString headOf(const QString& tip) {
+    const QString line = tip.section(QLatin1Char('\n'), 0, 0);
+    return line.section(QLatin1Char(':'), 0, 0).trimmed();
+}
+
+QString nameOfClass(const Window& window) {
+    for (const ClassRow& row : kClasses) {
+        if (window.className == row.className)
+            return QString::fromLatin1(row.name);
+    }
+    return {};
+}
+
+bool isValue(const Window& window) {
+    return dynamic_cast<const EditWidget*>(window.widget.get()) != nullptr;
+}
+
+}  // namespace
+
+WindowNames namesOf(Toolkit& toolkit, const WindowSystem& windows, const Window& window) {
+    const auto* control = dynamic_cast<const ControlWidget*>(window.widget.get());
+    const QString tip = control == nullptr ? QString() : toQt(control->tip());
+    const QString whole = nameOfControl(windows, window);
+    WindowNames names;
+    if (!window.text.empty() && !isValue(window))
+        names.name = toQt(window.text);
+    else if (isValue(window) && !tip.isEmpty())
+        names.name = headOf(tip);
+    else if (!whole.isEmpty())
+        names.name = whole;
+    else if (!tip.isEmpty())
+        names.name = headOf(tip);
+    else
+        names.name = nameOfClass(window);
+    if (names.name.isEmpty() && window.object == &toolkit.frame().frame())
+        names.name = QStringLiteral("Host window");
+    if (names.name.isEmpty())
+        names.name = toQt(std::string_view(window.className));
+    if (tip != names.name)
+        names.description = tip;
+    return names;
+}
+
+}  // namespace workbench::desktop

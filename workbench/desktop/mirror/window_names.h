@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+namespace workbench {
+class Toolkit;
+class WindowSystem;
+struct Window;
+}  // namespace workbench
+
+namespace workbench::desktop {
+
+/// What a window is called by those who can't see it.
+struct WindowNames {
+    QString name;         ///< Never empty for a part that a user can reach.
+    QString description;  ///< The tooltip, where it says more than the name.
+};
+WindowNames namesOf(Toolkit& toolkit, const WindowSystem& windows, const Window& window);
+
+}  // namespace workbench::desktop
