@@ -3,6 +3,7 @@
 #include "tests/workbench/desktop/events.h"
 #include "tests/workbench/loader/test_options.h"
 #include "workbench/base/input_error.h"
+#include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/drawing_view/drawing_view.h"
@@ -212,6 +213,17 @@ TEST_F(MainWindowTest, AFloatingDashboardIsPicturedToo) {
     });
     m_window.takePicture(file, false);
     EXPECT_EQ(QImage(QString::fromStdString(file)).width(), 300);
+}
+
+TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
+    m_window.setShade(Shade::dark);
+    collapsePanels(windows(), {L"Layers", L"Light"});
+    m_window.close();
+    m_window.setShade(Shade::light);
+    collapsePanels(windows(), {L"Sun"});
+    m_window.recall();
+    EXPECT_EQ(m_window.shade(), Shade::dark);
+    EXPECT_EQ(collapsedPanels(windows()), (std::vector<std::wstring>{L"Layers", L"Light"}));
 }
 
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {
