@@ -20,6 +20,7 @@
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
+#include <QAccessible>
 #include <QDockWidget>
 #include <QImage>
 #include <QMenuBar>
@@ -27,6 +28,9 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace workbench::desktop {
 namespace {
@@ -213,6 +217,41 @@ TEST_F(MainWindowTest, AFloatingDashboardIsPicturedToo) {
     });
     m_window.takePicture(file, false);
     EXPECT_EQ(QImage(QString::fromStdString(file)).width(), 300);
+}
+
+/// The parts that a user can do something with.
+bool isUsable(QAccessible::Role role) {
+    constexpr QAccessible::Role kUsable[] = {
+        QAccessible::Button,  QAccessible::ButtonMenu, QAccessible::CheckBox,
+        QAccessible::Slider,  QAccessible::ComboBox,   QAccessible::EditableText,
+        QAccessible::Link,    QAccessible::Table,      QAccessible::PageTab,
+        QAccessible::MenuBar, QAccessible::MenuItem,
+    };
+    return std::find(std::begin(kUsable), std::end(kUsable), role) != std::end(kUsable);
+}
+
+void expectNames(QAccessibleInterface& node, int& usable) {
+    const bool isSeen = !node.state().invisible;
+    if (isSeen && isUsable(node.role()) && node.role() != QAccessible::MenuBar) {
+        ++usable;
+        EXPECT_FALSE(node.text(QAccessible::Name).isEmpty())
+            << "role " << node.role() << " at " << node.rect().x() << ", " << node.rect().y()
+            << " in "
+            << (node.parent() == nullptr ? std::string()
+                                         : node.parent()->text(QAccessible::Name).toStdString());
+    }
+    for (int i = 0; i < node.childCount(); ++i) {
+        if (node.child(i) != nullptr)
+            expectNames(*node.child(i), usable);
+    }
+}
+
+TEST_F(MainWindowTest, NothingThatCanBeUsedIsWithoutAName) {
+    m_window.findChild<QDockWidget*>()->show();
+    QApplication::processEvents();
+    int usable = 0;
+    expectNames(*QAccessible::queryAccessibleInterface(&m_window), usable);
+    EXPECT_GT(usable, 60);
 }
 
 TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
