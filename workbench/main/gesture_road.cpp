@@ -1,7 +1,7 @@
 #include "workbench/main/gesture_road.h"
 
-#include "workbench/gestures/slider_gestures.h"
 #include "workbench/core/step_text.h"
+#include "workbench/gestures/slider_gestures.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"

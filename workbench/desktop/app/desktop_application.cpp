@@ -86,6 +86,8 @@ int runWindow(const DesktopOptions& options) {
     else
         code = runScript(workbench, options);
     window.stage().pump.resume();
+    if (!options.endsByItself())
+        window.recall();
     if (!options.snapshot.empty())
         window.takePicture(options.snapshot, options.wholeWindow);
     return options.endsByItself() ? code : QApplication::exec();

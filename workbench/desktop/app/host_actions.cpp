@@ -3,6 +3,7 @@
 #include "workbench/base/input_error.h"
 #include "workbench/base/text.h"
 #include "workbench/core/workbench.h"
+#include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/editor/editor.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
@@ -11,7 +12,6 @@
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/palette_set_widget.h"
-#include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -80,18 +80,17 @@ std::vector<std::string> profileNames(Workbench& workbench) {
 void reloadMenu(Workbench& workbench) {
     // What is wrong with the file shows before the panels are taken down.
     readMenuFile(workbench.options().panelFile);
+    const std::vector<std::wstring> rolledUp = collapsedPanels(workbench.windows());
     notify(workbench, kReleaseControls);
     notify(workbench, kTakePanelsDown);
     workbench.menu().reload();
     notify(workbench, kBuildPanels);
+    collapsePanels(workbench.windows(), rolledUp);
 }
 
 void resetLayout(Workbench& workbench) {
     Toolkit& toolkit = workbench.toolkit();
-    for (CQrUiPanel* panel : allPanels()) {
-        Window* const window = workbench.windows().find(panel->m_hWnd);
-        static_cast<PanelWidget&>(*window->widget).collapse(*window, false);
-    }
+    collapsePanels(workbench.windows(), {});
     for (CQrUiPaletteSet* set : toolkit.frame().bars()) {
         BarPlace place;
         place.rect = kDockedRect;

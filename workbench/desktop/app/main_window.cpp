@@ -3,7 +3,9 @@
 #include "workbench/base/input_error.h"
 #include "workbench/commands/command_processor.h"
 #include "workbench/core/workbench.h"
+#include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
+#include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/app/palette_colours.h"
@@ -188,8 +190,23 @@ void MainWindow::takePicture(const std::filesystem::path& file, bool wholeWindow
         throw InputError(file.string(), "no picture can be written there");
 }
 
+void MainWindow::recall() {
+    QString complaint;
+    const DesktopState state = DesktopState::read(m_workbench.profiles().folder(), complaint);
+    if (!complaint.isEmpty())
+        tell(complaint);
+    if (state.shade)
+        setShade(*state.shade);
+    m_pump.act([&] { collapsePanels(m_stage.windows, state.rolledUp); });
+}
+
+void MainWindow::remember() {
+    m_workbench.profiles().save();
+    DesktopState{m_shade, collapsedPanels(m_stage.windows)}.write(m_workbench.profiles().folder());
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
-    m_pump.act([this] { m_workbench.profiles().save(); });
+    m_pump.act([this] { remember(); });
     QMainWindow::closeEvent(event);
 }
 

@@ -47,6 +47,9 @@ public:
     /// Writes a picture of the dashboard, or of the whole window, to a PNG file. Throws `InputError`
     /// if it can't be written there, and if no dashboard is on show.
     void takePicture(const std::filesystem::path& file, bool wholeWindow);
+    /// Takes over what was remembered of an earlier run, and remembers how things stand now.
+    void recall();
+    void remember();
     /// Says something in the status bar.
     void tell(const QString& text);
 

@@ -43,6 +43,10 @@ QPointF Camera::place(const Vec3& point) const {
     return m_middle + QPointF(dot(way, m_axes.right) * scale, -dot(way, m_axes.up) * scale);
 }
 
+Vec3 Camera::wayToEye(const Vec3& point) const {
+    return m_perspective ? m_eye - point : scaled(m_axes.forward, -m_distance);
+}
+
 Vec3 Camera::cut(const Vec3& inside, const Vec3& outside) const {
     const double in = depthOf(inside);
     const double share = (in - m_nearest) / (in - depthOf(outside));

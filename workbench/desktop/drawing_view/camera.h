@@ -34,7 +34,11 @@ public:
     std::vector<Vec3> beforeEye(const std::vector<Vec3>& polygon) const;
     /// Likewise of a line; empty if no part does.
     std::vector<Vec3> lineBeforeEye(const Vec3& from, const Vec3& to) const;
+    /// From a point towards the eye; along the sight in a parallel view. Not of length 1.
+    Vec3 wayToEye(const Vec3& point) const;
     const SightAxes& axes() const { return m_axes; }
+    /// From the eye to the target, above 0.
+    double distance() const { return m_distance; }
     /// Pixels a drawing unit, in the plane of the target.
     double scale() const { return m_scale; }
 
@@ -44,8 +48,8 @@ private:
     SightAxes m_axes;
     Vec3 m_eye;
     bool m_perspective;
-    double m_distance;  // from the eye to the target
-    double m_nearest;   // depth of what can still be shown in perspective
+    double m_distance;
+    double m_nearest;  // depth of what can still be shown in perspective
     double m_scale;
     QPointF m_middle;
 };

@@ -3,16 +3,16 @@
 #include "workbench/desktop/app/pump.h"
 #include "workbench/desktop/drawing_view/camera.h"
 #include "workbench/desktop/drawing_view/scene_painter.h"
+#include "workbench/desktop/drawing_view/sheet.h"
 #include "workbench/desktop/drawing_view/view_motion.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/document.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
-
-#include <algorithm>
 
 namespace workbench::desktop {
 
@@ -23,34 +23,14 @@ using drawing::ViewParameters;
 using drawing::Viewport;
 
 constexpr int kWheelNotch = 120;
-constexpr int kSheetMargin = 20;  // pixels around a layout's sheet
 
-const Viewport* activePort(const Document& document) {
-    return document.data().look<Viewport>(drawing::activeViewport(document.data()));
+/// The viewport that the mouse moves: the current one, unless it is locked or the sheet of a
+/// layout. Null if there is none.
+ObjectId movablePort(const drawing::Database& database) {
+    const ObjectId id = drawing::activeViewport(database);
+    const auto* port = database.look<Viewport>(id);
+    return port == nullptr || port->locked || port->isPaper() ? ObjectId() : id;
 }
-
-/// A layout's sheet on the screen: millimetres to pixels.
-class Sheet {
-public:
-    Sheet(const Viewport& paper, const QSize& room)
-        : m_scale(std::min((room.width() - 2.0 * kSheetMargin) / paper.view.width,
-                           (room.height() - 2.0 * kSheetMargin) / paper.view.height)),
-          m_place(QRectF(0, 0, paper.view.width * m_scale, paper.view.height * m_scale).toRect()) {
-        m_place.moveCenter(QRect(QPoint(0, 0), room).center());
-    }
-    const QRect& place() const { return m_place; }
-    QRect placeOf(const Viewport& port) const {
-        const QPointF corner(port.lowerLeft.x * m_scale, port.upperRight.y * m_scale);
-        const QSizeF size((port.upperRight.x - port.lowerLeft.x) * m_scale,
-                          (port.upperRight.y - port.lowerLeft.y) * m_scale);
-        return QRectF(QPointF(m_place.left() + corner.x(), m_place.bottom() - corner.y()), size)
-            .toRect();
-    }
-
-private:
-    double m_scale;
-    QRect m_place;
-};
 
 }  // namespace
 
@@ -106,27 +86,38 @@ void DrawingView::objectErased(const drawing::DbObject& /*object*/, bool /*erasi
 void DrawingView::databaseGoodbye(const drawing::Database& /*database*/) {
     m_document = nullptr;
     m_drag.reset();
-}
-
-void DrawingView::changed() {
-    m_scene.reset();
+    m_scenes.clear();
     update();
 }
 
-const Scene& DrawingView::scene() {
-    if (!m_scene) {
-        const drawing::Database& database = m_document->data();
-        m_scene = sceneOf(database, drawing::activeViewport(database),
-                          {m_fading, m_look->drawing, m_look->drawingLines});
-    }
-    return *m_scene;
+void DrawingView::changed() {
+    m_scenes.clear();
+    if (m_drag && !isDragStill())
+        m_drag.reset();
+    update();
 }
 
-std::optional<ViewParameters> DrawingView::shown() const {
-    if (m_drag)
-        return m_drag->now;
-    const Viewport* const port = activePort(*m_document);
-    return port == nullptr ? std::nullopt : std::optional(port->view);
+/// False once the viewport under the mouse was locked or left, or another has moved its view.
+bool DrawingView::isDragStill() const {
+    const drawing::Database& database = m_document->data();
+    return movablePort(database) == m_drag->port &&
+           database.look<Viewport>(m_drag->port)->view == m_drag->before;
+}
+
+const Scene& DrawingView::sceneIn(ObjectId port) {
+    const auto made = m_scenes.find(port);
+    if (made != m_scenes.end())
+        return made->second;
+    const drawing::Database& database = m_document->data();
+    const bool onPaper = !drawing::activeLayout(database).isNull();
+    const SceneSettings settings{m_fading, onPaper ? m_look->field : m_look->drawing,
+                                 m_look->drawingLines};
+    return m_scenes[port] = sceneOf(database, port, settings);
+}
+
+ViewParameters DrawingView::shownIn(ObjectId port) const {
+    return m_drag && m_drag->port == port ? m_drag->now
+                                          : m_document->data().look<Viewport>(port)->view;
 }
 
 void DrawingView::paintEvent(QPaintEvent* /*event*/) {
@@ -134,29 +125,38 @@ void DrawingView::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), m_look->drawing);
     if (m_document == nullptr)
         return;
-    if (!drawing::activeLayout(m_document->data()).isNull())
-        paintSheet(painter);
-    else if (const std::optional<ViewParameters> view = shown())
-        paintModel(painter, *view, rect());
+    const drawing::Database& database = m_document->data();
+    const ObjectId layout = drawing::activeLayout(database);
+    const ObjectId port = drawing::activeViewport(database);
+    if (!layout.isNull())
+        paintSheet(painter, layout);
+    else if (!port.isNull())
+        paintModel(painter, port);
 }
 
-void DrawingView::paintModel(QPainter& painter, const ViewParameters& view, const QRect& place) {
+QRect DrawingView::placeOf(ObjectId port) const {
+    const drawing::Database& database = m_document->data();
+    const Viewport& viewport = *database.look<Viewport>(port);
+    return viewport.isTile()
+               ? rect()
+               : Sheet(*database.look<drawing::Layout>(viewport.layout), size()).placeOf(viewport);
+}
+
+void DrawingView::paintModel(QPainter& painter, ObjectId port) {
+    const QRect place = placeOf(port);
+    if (place.isEmpty())
+        return;
     painter.save();
     painter.setClipRect(place);
     painter.translate(place.topLeft());
-    paintScene(painter, scene(), Camera(view, place.size()));
+    paintScene(painter, sceneIn(port), Camera(shownIn(port), place.size()));
     painter.restore();
 }
 
 /// The sheet of a layout with its viewports on it.
-void DrawingView::paintSheet(QPainter& painter) {
+void DrawingView::paintSheet(QPainter& painter, ObjectId layout) {
     const drawing::Database& database = m_document->data();
-    const ObjectId layout = drawing::activeLayout(database);
-    const auto* paper =
-        database.look<Viewport>(drawing::findViewport(database, layout, Viewport::kPaperNumber));
-    if (paper == nullptr)
-        return;
-    const Sheet sheet(*paper, size());
+    const Sheet sheet(*database.look<drawing::Layout>(layout), size());
     painter.fillRect(sheet.place(), m_look->field);
     painter.setPen(m_look->line);
     painter.drawRect(sheet.place());
@@ -165,26 +165,22 @@ void DrawingView::paintSheet(QPainter& painter) {
         const Viewport& port = *database.look<Viewport>(id);
         if (port.isPaper() || !port.on)
             continue;
-        const QRect place = sheet.placeOf(port);
-        paintModel(painter, id == active && m_drag ? m_drag->now : port.view, place);
+        paintModel(painter, id);
         painter.setPen(QPen(id == active ? m_look->accent : m_look->line, id == active ? 2 : 1));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRect(place);
+        painter.drawRect(sheet.placeOf(port));
     }
 }
 
-bool DrawingView::canMove() const {
-    const Viewport* const port = m_document == nullptr ? nullptr : activePort(*m_document);
-    return port != nullptr && !port->locked && !port->isPaper();
-}
-
 /// Writes the view once: it is one step of undo and of the viewport's history.
-void DrawingView::write(const ViewParameters& view) {
-    m_pump.act([this, &view] {
+void DrawingView::write(ObjectId port, const ViewParameters& view) {
+    if (view == shownIn(port))
+        return;
+    m_pump.act([this, port, &view] {
         drawing::Database& database = m_document->data();
         const drawing::UndoGroup group(database.undoLog(), "VIEW");
-        drawing::Writing<Viewport> writing(database, drawing::activeViewport(database));
-        if (!writing || writing->view == view)
+        drawing::Writing<Viewport> writing(database, port);
+        if (!writing)
             return;
         writing->view = view;
         writing->appliedView = {};
@@ -193,29 +189,32 @@ void DrawingView::write(const ViewParameters& view) {
 
 void DrawingView::mousePressEvent(QMouseEvent* event) {
     const bool isMiddle = event->button() == Qt::MiddleButton;
-    if ((event->button() != Qt::LeftButton && !isMiddle) || !canMove())
+    if ((event->button() != Qt::LeftButton && !isMiddle) || m_document == nullptr || m_drag)
         return;
-    const ViewParameters view = activePort(*m_document)->view;
-    m_drag = Drag{isMiddle || event->modifiers().testFlag(Qt::ShiftModifier), event->position(),
-                  view, view};
+    const ObjectId port = movablePort(m_document->data());
+    if (port.isNull())
+        return;
+    const ViewParameters view = shownIn(port);
+    const bool pans = isMiddle || event->modifiers().testFlag(Qt::ShiftModifier);
+    m_drag = Drag{port, event->button(), pans, event->position(), view, view};
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
     if (!m_drag)
         return;
     const QPointF way = event->position() - m_drag->from;
+    const QSizeF picture = placeOf(m_drag->port).size();
     m_drag->now =
-        m_drag->pans ? panned(m_drag->before, way, size()) : orbited(m_drag->before, way, size());
+        m_drag->pans ? panned(m_drag->before, way, picture) : orbited(m_drag->before, way, picture);
     update();
 }
 
-void DrawingView::mouseReleaseEvent(QMouseEvent* /*event*/) {
-    if (!m_drag)
+void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!m_drag || event->button() != m_drag->button)
         return;
     const Drag drag = *m_drag;
     m_drag.reset();
-    if (drag.now != drag.before)
-        write(drag.now);
+    write(drag.port, drag.now);
 }
 
 void DrawingView::wheelEvent(QWheelEvent* event) {
@@ -223,8 +222,11 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
     m_wheelRest += event->angleDelta().y();
     const int notches = m_wheelRest / kWheelNotch;
     m_wheelRest -= notches * kWheelNotch;
-    if (notches != 0 && canMove() && !m_drag)
-        write(zoomed(activePort(*m_document)->view, notches));
+    if (notches == 0 || m_document == nullptr || m_drag)
+        return;
+    const ObjectId port = movablePort(m_document->data());
+    if (!port.isNull())
+        write(port, zoomed(shownIn(port), notches));
 }
 
 }  // namespace workbench::desktop

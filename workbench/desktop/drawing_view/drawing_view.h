@@ -2,11 +2,13 @@
 
 #include "workbench/desktop/drawing_view/scene.h"
 #include "workbench/desktop/look/look.h"
+#include "workbench/drawing/object_id.h"
 #include "workbench/drawing/reactors.h"
 #include "workbench/drawing/records/view_parameters.h"
 
 #include <QWidget>
 
+#include <map>
 #include <optional>
 
 namespace workbench {
@@ -18,8 +20,9 @@ namespace workbench::desktop {
 class Pump;
 
 /// The drawing of a document as its current viewport shows it. A drag orbits, with shift or the
-/// middle button it pans, the wheel zooms; each gesture is one view of the viewport's history, and a
-/// locked viewport stays as it is.
+/// middle button it pans, the wheel zooms; each gesture is one view of the viewport's history. A
+/// locked viewport and the sheet of a layout stay as they are, and a drag ends when somebody else
+/// moves the view meanwhile.
 class DrawingView final : public QWidget, private drawing::DatabaseReactor {
 public:
     DrawingView(Pump& pump, Document& document, const Look& look);
@@ -42,6 +45,8 @@ protected:
 
 private:
     struct Drag {
+        drawing::ObjectId port;
+        Qt::MouseButton button;
         bool pans;
         QPointF from;
         drawing::ViewParameters before;
@@ -55,19 +60,20 @@ private:
     void databaseGoodbye(const drawing::Database& database) override;
 
     void changed();
-    /// What the current viewport shows, or would at the end of the drag; nothing without one.
-    std::optional<drawing::ViewParameters> shown() const;
-    bool canMove() const;
-    void write(const drawing::ViewParameters& view);
-    void paintModel(QPainter& painter, const drawing::ViewParameters& view, const QRect& place);
-    void paintSheet(QPainter& painter);
-    const Scene& scene();
+    bool isDragStill() const;
+    /// What a viewport shows, or would at the end of the drag.
+    drawing::ViewParameters shownIn(drawing::ObjectId port) const;
+    void write(drawing::ObjectId port, const drawing::ViewParameters& view);
+    const Scene& sceneIn(drawing::ObjectId port);
+    QRect placeOf(drawing::ObjectId port) const;
+    void paintModel(QPainter& painter, drawing::ObjectId port);
+    void paintSheet(QPainter& painter, drawing::ObjectId layout);
 
     Pump& m_pump;
     Document* m_document;
     const Look* m_look;
     int m_fading = 50;
-    std::optional<Scene> m_scene;  // nothing: to be made anew
+    std::map<drawing::ObjectId, Scene> m_scenes;  // by viewport; none: to be made anew
     std::optional<Drag> m_drag;
     int m_wheelRest = 0;
 };

@@ -1,10 +1,13 @@
 #include "workbench/desktop/drawing_view/scene_painter.h"
 
+#include "workbench/desktop/drawing_view/paint_order.h"
+
 #include <QPainter>
 #include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace workbench::desktop {
 
@@ -13,38 +16,11 @@ namespace {
 constexpr double kAmbient = 0.45;  // of the light that reaches every face
 constexpr double kOutline = 0.7;   // brightness of an outline to that of its face
 
-/// A face or a line, whichever is not null.
-struct Placed {
-    double depth = 0.0;
-    const SceneFace* face = nullptr;
-    const SceneLine* line = nullptr;
-};
-
 QColor lit(const QColor& colour, double brightness) {
     const auto part = [brightness](int value) {
         return std::clamp(static_cast<int>(std::lround(value * brightness)), 0, 255);
     };
     return {part(colour.red()), part(colour.green()), part(colour.blue())};
-}
-
-double middleDepth(const SceneFace& face, const Camera& camera) {
-    double sum = 0.0;
-    for (const Vec3& corner : face.corners)
-        sum += camera.depthOf(corner);
-    return sum / static_cast<double>(face.corners.size());
-}
-
-std::vector<Placed> farthestFirst(const Scene& scene, const Camera& camera) {
-    std::vector<Placed> placed;
-    placed.reserve(scene.faces.size() + scene.lines.size());
-    for (const SceneFace& face : scene.faces)
-        placed.push_back({middleDepth(face, camera), &face, nullptr});
-    for (const SceneLine& line : scene.lines)
-        placed.push_back(
-            {(camera.depthOf(line.from) + camera.depthOf(line.to)) / 2.0, nullptr, &line});
-    std::stable_sort(placed.begin(), placed.end(),
-                     [](const Placed& a, const Placed& b) { return a.depth > b.depth; });
-    return placed;
 }
 
 /// From over the right shoulder.
@@ -53,40 +29,65 @@ Vec3 lightOf(const Camera& camera) {
     return unit(scaled(axes.right, 0.4) + scaled(axes.up, 0.6) + scaled(axes.forward, -0.7));
 }
 
-void paintFace(QPainter& painter, const SceneFace& face, const Camera& camera, const Vec3& light) {
-    const std::vector<Vec3> corners = camera.beforeEye(face.corners);
-    if (corners.size() < 3)
-        return;
-    QPolygonF outline;
-    outline.reserve(static_cast<qsizetype>(corners.size()));
-    for (const Vec3& corner : corners)
-        outline.append(camera.place(corner));
-    // Both sides of a face are lit.
-    const double brightness = kAmbient + (1.0 - kAmbient) * std::abs(dot(face.normal, light));
-    const QColor colour = lit(face.colour, brightness);
-    painter.setPen(lit(colour, kOutline));
-    painter.setBrush(colour);
-    painter.drawPolygon(outline);
-}
+/// The shapes of a scene that lie before the eye, with what each is painted with.
+class Picture {
+public:
+    explicit Picture(const Camera& camera) : m_camera(camera), m_light(lightOf(camera)) {}
 
-void paintLine(QPainter& painter, const SceneLine& line, const Camera& camera) {
-    const std::vector<Vec3> ends = camera.lineBeforeEye(line.from, line.to);
-    if (ends.empty())
-        return;
-    painter.setPen(line.colour);
-    painter.drawLine(camera.place(ends[0]), camera.place(ends[1]));
-}
+    void add(const SceneFace& face) {
+        // Both sides of a face are lit.
+        const double brightness = kAmbient + (1.0 - kAmbient) * std::abs(dot(face.normal, m_light));
+        const QColor colour = lit(face.colour, brightness);
+        add(m_camera.beforeEye(face.corners), face.normal, {lit(colour, kOutline), colour});
+    }
+    void add(const SceneLine& line) {
+        add(m_camera.lineBeforeEye(line.from, line.to), {}, {line.colour, {}});
+    }
+
+    void paint(QPainter& painter) const {
+        for (const std::size_t each : paintOrder(m_shapes, m_camera)) {
+            const QPolygonF& outline = m_shapes[each].outline;
+            painter.setPen(m_inks[each].outline);
+            painter.setBrush(m_inks[each].face);
+            if (outline.size() == 2)
+                painter.drawLine(outline[0], outline[1]);
+            else
+                painter.drawPolygon(outline);
+        }
+    }
+
+private:
+    struct Ink {
+        QColor outline;
+        QColor face;
+    };
+
+    void add(std::vector<Vec3> corners, const Vec3& normal, const Ink& ink) {
+        if (corners.size() < 2)
+            return;
+        QPolygonF outline;
+        outline.reserve(static_cast<qsizetype>(corners.size()));
+        for (const Vec3& corner : corners)
+            outline.append(m_camera.place(corner));
+        m_shapes.push_back({std::move(corners), normal, std::move(outline)});
+        m_inks.push_back(ink);
+    }
+
+    const Camera& m_camera;
+    Vec3 m_light;
+    std::vector<PlacedShape> m_shapes;
+    std::vector<Ink> m_inks;  // by shape
+};
 
 }  // namespace
 
 void paintScene(QPainter& painter, const Scene& scene, const Camera& camera) {
-    const Vec3 light = lightOf(camera);
-    for (const Placed& each : farthestFirst(scene, camera)) {
-        if (each.face != nullptr)
-            paintFace(painter, *each.face, camera, light);
-        else
-            paintLine(painter, *each.line, camera);
-    }
+    Picture picture(camera);
+    for (const SceneFace& face : scene.faces)
+        picture.add(face);
+    for (const SceneLine& line : scene.lines)
+        picture.add(line);
+    picture.paint(painter);
 }
 
 }  // namespace workbench::desktop

@@ -2,6 +2,7 @@
 
 #include "tests/workbench/loader/test_options.h"
 #include "workbench/base/input_error.h"
+#include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
@@ -49,10 +50,12 @@ TEST_F(HostActionsTest, AMenuFileThatChangedIsReadAnew) {
     const std::string title = "\"title\": \"Layers\"";
     changed.replace(changed.find(title), title.size(), "\"title\": \"Sheets\"");
     write(changed);
+    collapsePanels(m_workbench->windows(), {L"Light"});
     reloadMenu(*m_workbench);
     letHostRun(*m_workbench);
     ASSERT_TRUE(isOnScreen(L"Layers"));
     EXPECT_EQ(findPanels(L"Layers").at(0)->GetWindowText(), L"Sheets");
+    EXPECT_EQ(collapsedPanels(m_workbench->windows()), std::vector<std::wstring>{L"Light"});
 }
 
 TEST_F(HostActionsTest, WithAnErrorInItTheOldPanelsStay) {

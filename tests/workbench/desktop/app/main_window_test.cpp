@@ -3,6 +3,7 @@
 #include "tests/workbench/desktop/events.h"
 #include "tests/workbench/loader/test_options.h"
 #include "workbench/base/input_error.h"
+#include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/drawing_view/drawing_view.h"
@@ -19,6 +20,7 @@
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
+#include <QAccessible>
 #include <QDockWidget>
 #include <QImage>
 #include <QMenuBar>
@@ -26,6 +28,9 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iterator>
 
 namespace workbench::desktop {
 namespace {
@@ -212,6 +217,52 @@ TEST_F(MainWindowTest, AFloatingDashboardIsPicturedToo) {
     });
     m_window.takePicture(file, false);
     EXPECT_EQ(QImage(QString::fromStdString(file)).width(), 300);
+}
+
+/// The parts that a user can do something with.
+bool isUsable(QAccessible::Role role) {
+    constexpr QAccessible::Role kUsable[] = {
+        QAccessible::Button,  QAccessible::ButtonMenu, QAccessible::CheckBox,
+        QAccessible::Slider,  QAccessible::ComboBox,   QAccessible::EditableText,
+        QAccessible::Link,    QAccessible::Table,      QAccessible::PageTab,
+        QAccessible::MenuBar, QAccessible::MenuItem,
+    };
+    return std::find(std::begin(kUsable), std::end(kUsable), role) != std::end(kUsable);
+}
+
+void expectNames(QAccessibleInterface& node, int& usable) {
+    const bool isSeen = !node.state().invisible;
+    if (isSeen && isUsable(node.role()) && node.role() != QAccessible::MenuBar) {
+        ++usable;
+        EXPECT_FALSE(node.text(QAccessible::Name).isEmpty())
+            << "role " << node.role() << " at " << node.rect().x() << ", " << node.rect().y()
+            << " in "
+            << (node.parent() == nullptr ? std::string()
+                                         : node.parent()->text(QAccessible::Name).toStdString());
+    }
+    for (int i = 0; i < node.childCount(); ++i) {
+        if (node.child(i) != nullptr)
+            expectNames(*node.child(i), usable);
+    }
+}
+
+TEST_F(MainWindowTest, NothingThatCanBeUsedIsWithoutAName) {
+    m_window.findChild<QDockWidget*>()->show();
+    QApplication::processEvents();
+    int usable = 0;
+    expectNames(*QAccessible::queryAccessibleInterface(&m_window), usable);
+    EXPECT_GT(usable, 60);
+}
+
+TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
+    m_window.setShade(Shade::dark);
+    collapsePanels(windows(), {L"Layers", L"Light"});
+    m_window.close();
+    m_window.setShade(Shade::light);
+    collapsePanels(windows(), {L"Sun"});
+    m_window.recall();
+    EXPECT_EQ(m_window.shade(), Shade::dark);
+    EXPECT_EQ(collapsedPanels(windows()), (std::vector<std::wstring>{L"Layers", L"Light"}));
 }
 
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {

@@ -81,5 +81,11 @@ TEST(CameraTest, AnUpVectorAlongTheSightIsReplaced) {
     EXPECT_NEAR(lengthOf(axesOf(view).right), 1.0, 1e-12);
 }
 
+TEST(CameraTest, TheWayToTheEyeIsTheSameForAllPointsOnlyInAParallelView) {
+    EXPECT_EQ(Camera(fromSouth(true), kPicture).wayToEye({1, 2, 3}), (Vec3{-1, -12, -3}));
+    EXPECT_EQ(Camera(fromSouth(false), kPicture).wayToEye({1, 2, 3}), (Vec3{0, -10, 0}));
+    EXPECT_EQ(Camera(fromSouth(true), kPicture).distance(), 10.0);
+}
+
 }  // namespace
 }  // namespace workbench::desktop

@@ -3,8 +3,12 @@
 #include "tests/workbench/desktop/events.h"
 #include "tests/workbench/loader/test_options.h"
 #include "workbench/desktop/app/pump.h"
+#include "workbench/desktop/drawing_view/camera.h"
+#include "workbench/desktop/drawing_view/sheet.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_access.h"
+#include "workbench/drawing/records/layer.h"
+#include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
 
@@ -35,6 +39,22 @@ protected:
         moveHeld(m_view, QPoint(200, 150) + by / 2);
         moveHeld(m_view, QPoint(200, 150) + by);
         release(m_view, QPoint(200, 150) + by);
+    }
+
+    /// Shows the layout "Plan" with its sheet as the current viewport.
+    void showSheet() {
+        m_workbench.editor().set(L"TILEMODE", 0);
+        ASSERT_TRUE(port().isPaper());
+    }
+    drawing::ObjectId portOnSheet(int number) {
+        return drawing::findViewport(data(), drawing::activeLayout(data()), number);
+    }
+    /// The part of a picture that a viewport of the sheet takes, without its frame.
+    QImage partOf(const QImage& image, int number) {
+        const drawing::ObjectId layout = drawing::activeLayout(data());
+        const Sheet sheet(*data().look<drawing::Layout>(layout), m_view.size());
+        const auto& viewport = *data().look<drawing::Viewport>(portOnSheet(number));
+        return image.copy(sheet.placeOf(viewport).adjusted(2, 2, -2, -2));
     }
 
     Workbench m_workbench{testOptions()};
@@ -101,7 +121,7 @@ TEST_F(DrawingViewTest, WithShiftOrTheMiddleButtonItPans) {
     before = port().view;
     sendMouse(m_view, QEvent::MouseButtonPress, {200, 150}, Qt::MiddleButton, Qt::MiddleButton);
     moveHeld(m_view, {220, 150});
-    release(m_view, {220, 150});
+    sendMouse(m_view, QEvent::MouseButtonRelease, {220, 150}, Qt::MiddleButton, Qt::NoButton);
     EXPECT_NE(port().view.target, before.target);
 }
 
@@ -133,6 +153,81 @@ TEST_F(DrawingViewTest, ALockedViewportAndTheSheetStay) {
     turnWheel(m_view, 1);
     drag({40, 0});
     EXPECT_EQ(port().view, before);
+}
+
+TEST_F(DrawingViewTest, EachViewportOfASheetLeavesOutItsOwnFrozenLayers) {
+    showSheet();
+    const QImage before = picture();
+    const drawing::ObjectId walls = data().find(drawing::RecordKind::Layer, "Walls");
+    drawing::Writing<drawing::Viewport>(data(), portOnSheet(3))->frozenLayers.push_back({walls});
+    const QImage after = picture();
+    EXPECT_NE(partOf(after, 3), partOf(before, 3));
+    EXPECT_EQ(partOf(after, 2), partOf(before, 2));
+}
+
+TEST_F(DrawingViewTest, InAViewportOfASheetThePanFollowsTheMouse) {
+    showSheet();
+    m_workbench.editor().set(L"CVPORT", 3);
+    const Sheet sheet(*data().look<drawing::Layout>(port().layout), m_view.size());
+    const QSizeF room = sheet.placeOf(port()).size();
+    const Vec3 target = port().view.target;
+    sendMouse(m_view, QEvent::MouseButtonPress, {200, 150}, Qt::MiddleButton, Qt::MiddleButton);
+    moveHeld(m_view, {212, 143});
+    sendMouse(m_view, QEvent::MouseButtonRelease, {212, 143}, Qt::MiddleButton, Qt::NoButton);
+    const QPointF now = Camera(port().view, room).place(target);
+    EXPECT_NEAR(now.x() - room.width() / 2, 12, 1e-6);
+    EXPECT_NEAR(now.y() - room.height() / 2, -7, 1e-6);
+}
+
+TEST_F(DrawingViewTest, ADragEndsWithTheButtonThatBeganIt) {
+    const drawing::ViewParameters before = port().view;
+    press(m_view, {200, 150});
+    moveHeld(m_view, {220, 150});
+    sendMouse(m_view, QEvent::MouseButtonPress, {220, 150}, Qt::RightButton, Qt::LeftButton);
+    sendMouse(m_view, QEvent::MouseButtonRelease, {220, 150}, Qt::RightButton, Qt::LeftButton);
+    EXPECT_EQ(port().view, before);
+    release(m_view, {220, 150});
+    EXPECT_NE(port().view, before);
+}
+
+TEST_F(DrawingViewTest, ADragGivesWayToAnotherWhoMovesTheView) {
+    press(m_view, {200, 150});
+    moveHeld(m_view, {220, 150});
+    drawing::setByPath(data(), "viewports.current.eye.x", 3.5);
+    const drawing::ViewParameters theirs = port().view;
+    moveHeld(m_view, {240, 150});
+    release(m_view, {240, 150});
+    EXPECT_EQ(port().view, theirs);
+}
+
+TEST_F(DrawingViewTest, ADragEndsWhenItsViewportIsLockedOrLeft) {
+    const drawing::ObjectId first = drawing::activeViewport(data());
+    const drawing::ViewParameters before = port().view;
+    press(m_view, {200, 150});
+    moveHeld(m_view, {220, 150});
+    drawing::setByPath(data(), "viewports.current.locked", true);
+    release(m_view, {220, 150});
+    EXPECT_EQ(port().view, before);
+    drawing::setByPath(data(), "viewports.current.locked", false);
+    press(m_view, {200, 150});
+    moveHeld(m_view, {220, 150});
+    m_workbench.editor().set(L"CVPORT", 3);
+    const drawing::ViewParameters other = port().view;
+    release(m_view, {220, 150});
+    EXPECT_EQ(port().view, other);
+    EXPECT_EQ(data().look<drawing::Viewport>(first)->view, before);
+}
+
+TEST_F(DrawingViewTest, ADragThatComesBackToItsStartIsNoStep) {
+    const drawing::ViewParameters before = port().view;
+    const std::size_t depth = history();
+    press(m_view, {200, 150});
+    moveHeld(m_view, {230, 150});
+    moveHeld(m_view, {200, 150});
+    release(m_view, {200, 150});
+    EXPECT_EQ(port().view, before);
+    EXPECT_EQ(history(), depth);
+    EXPECT_FALSE(port().appliedView.id.isNull());
 }
 
 TEST_F(DrawingViewTest, OutlivesItsDocument) {

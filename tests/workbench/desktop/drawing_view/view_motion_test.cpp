@@ -97,5 +97,55 @@ TEST(ViewMotionTest, AZoomNeverReachesTheTarget) {
     EXPECT_TRUE(std::isfinite(view.eye.x));
 }
 
+TEST(ViewMotionTest, AnOrbitFromStraightBelowKeepsThePicturesUp) {
+    ViewParameters ceiling;
+    ceiling.eye = {0, 0, -10};
+    ceiling.target = {0, 0, 0};
+    ceiling.up = {0, 1, 0};
+    const ViewParameters after = orbited(ceiling, {0, 20}, kPicture);
+    EXPECT_GT(after.eye.y, 0.0) << "the upper edge comes nearer";
+    EXPECT_NEAR(after.eye.x, 0.0, 1e-9);
+    EXPECT_GT(axesOf(after).up.y, 0.9);
+}
+
+TEST(ViewMotionTest, NoWayIsNoMotion) {
+    ViewParameters leaning = slanting();
+    leaning.up = {1, 1, 1};
+    EXPECT_EQ(orbited(leaning, {0, 0}, kPicture), leaning);
+    EXPECT_EQ(panned(leaning, {0, 0}, kPicture), leaning);
+    EXPECT_EQ(zoomed(leaning, 0), leaning);
+}
+
+TEST(ViewMotionTest, WithoutAPictureNothingMoves) {
+    EXPECT_EQ(orbited(slanting(), {5, 5}, {0, 100}), slanting());
+    EXPECT_EQ(panned(slanting(), {5, 5}, {100, 0}), slanting());
+}
+
+TEST(ViewMotionTest, AZoomComesBackFromBeyondTheLimits) {
+    ViewParameters tiny = slanting();
+    tiny.width = tiny.height = 1e-8;
+    EXPECT_EQ(zoomed(tiny, 1), tiny);
+    EXPECT_GT(zoomed(tiny, -1).width, tiny.width);
+    ViewParameters huge = slanting();
+    huge.width = huge.height = 1e12;
+    EXPECT_EQ(zoomed(huge, -1), huge);
+    EXPECT_LT(zoomed(huge, 1).width, huge.width);
+}
+
+TEST(ViewMotionTest, FarFromTheOriginEyeAndTargetStayApart) {
+    ViewParameters view = slanting();
+    view.eye = {1e15, -20, 15};
+    view.target = {1e15 + 1, -20, 15};
+    for (int i = 0; i < 100; ++i) {
+        view = zoomed(view, 1);
+        EXPECT_NE(view.eye, view.target);
+    }
+    ViewParameters wide = slanting(false);
+    wide.width = 1e20;
+    wide.height = 1e20;
+    wide = panned(wide, {1000, 700}, kPicture);
+    EXPECT_NE(wide.eye, wide.target);
+}
+
 }  // namespace
 }  // namespace workbench::desktop

@@ -199,6 +199,39 @@ TEST_F(MirrorTest, DraggedOffItsGripTheDashboardFloatsAndDocksAgainByADoubleClic
     EXPECT_TRUE(m_top.isAncestorOf(widget(kFade, "slider")));
 }
 
+TEST_F(MirrorTest, LetGoAtAnEdgeOfTheHostsWindowTheDashboardDocksThere) {
+    CQrUiPaletteSet& set = *m_stage.toolkit.frame().bars().front();
+    m_stage.toolkit.frame().floatAt(set, {300, 300, 540, 700});
+    rest();
+    MirrorWidget* frame = widget(m_stage.toolkit.frame().frameOf(set)->m_hWnd);
+    const QPoint edge = frame->mapFromGlobal(m_home.mapToGlobal(QPoint(10, 400)));
+    press(*frame, {40, 8});
+    moveHeld(*frame, edge);
+    release(*frame, frame->mapFromGlobal(m_home.mapToGlobal(QPoint(10, 400))));
+    rest();
+    EXPECT_FALSE(set.IsFloating());
+    EXPECT_EQ(m_stage.toolkit.paletteSets().of(&set).place.edge, Edge::left);
+    EXPECT_LT(widget(set.m_hWnd)->mapTo(&m_home, QPoint()).x(), 100);
+}
+
+TEST_F(MirrorTest, TheCornerSizesAFloatingDashboardAndTheCrossHidesIt) {
+    CQrUiPaletteSet& set = *m_stage.toolkit.frame().bars().front();
+    m_stage.toolkit.frame().floatAt(set, {300, 300, 540, 700});
+    rest();
+    MirrorWidget* frame = widget(m_stage.toolkit.frame().frameOf(set)->m_hWnd);
+    const QSize before = frame->size();
+    const QPoint corner = frame->rect().bottomRight();
+    press(*frame, corner - QPoint(2, 2));
+    moveHeld(*frame, corner + QPoint(58, -42));
+    release(*frame, corner + QPoint(58, -42));
+    rest();
+    EXPECT_EQ(frame->width(), before.width() + 60);
+    EXPECT_LT(frame->height(), before.height());
+    click(*frame, {frame->width() - 8, 8});
+    rest();
+    EXPECT_FALSE(frame->isVisible());
+}
+
 TEST_F(MirrorTest, GripRollsTheDashboardUpOutAndHidesIt) {
     CQrUiPaletteSet& set = *m_stage.toolkit.frame().bars().front();
     MirrorWidget* bar = widget(set.m_hWnd);

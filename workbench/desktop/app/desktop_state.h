@@ -1,0 +1,26 @@
+#pragma once
+
+#include "workbench/desktop/look/look.h"
+
+#include <QString>
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace workbench::desktop {
+
+/// What the window remembers from one run to the next: a file beside the profiles.
+struct DesktopState {
+    std::optional<Shade> shade;          ///< Nothing: not known.
+    std::vector<std::wstring> rolledUp;  ///< IDs of panels.
+
+    /// Reads the file of a folder; a missing one is a fresh state. What can't be taken is left out,
+    /// and `complaint` says what and where.
+    static DesktopState read(const std::filesystem::path& folder, QString& complaint);
+    /// Writes the file. Throws `InputError` if it can't be written.
+    void write(const std::filesystem::path& folder) const;
+};
+
+}  // namespace workbench::desktop
