@@ -37,20 +37,37 @@ Extent extentOf(const PlacedShape& shape, const Camera& camera, double touching)
     return {shape.outline.boundingRect(), middleDepth(shape, camera), scaled(shape.normal, sign)};
 }
 
+/// The sides of a line on which an outline has points.
+struct Sides {
+    bool left = false;
+    bool right = false;
+};
+
+Sides sidesOf(const QPolygonF& outline, const QPointF& start, const QPointF& way) {
+    const double touching = kTouchingPixels * (std::abs(way.x()) + std::abs(way.y()));
+    Sides sides;
+    for (const QPointF& point : outline) {
+        const double side = way.x() * (point.y() - start.y()) - way.y() * (point.x() - start.x());
+        sides.left = sides.left || side > touching;
+        sides.right = sides.right || side < -touching;
+        if (sides.left && sides.right)
+            break;
+    }
+    return sides;
+}
+
 /// True if a line along an edge of `a` keeps the two apart in the picture.
 bool isEdgeBetween(const QPolygonF& a, const QPolygonF& b) {
-    const auto count = a.size();
-    for (qsizetype i = 0; i < count; ++i) {
-        const QPointF edge = a[(i + 1) % count] - a[i];
-        const auto sideOf = [&edge, start = a[i]](const QPointF& point) {
-            return edge.x() * (point.y() - start.y()) - edge.y() * (point.x() - start.x());
-        };
-        const double touching = kTouchingPixels * (std::abs(edge.x()) + std::abs(edge.y()));
-        const auto isLeft = [&](const QPointF& point) { return sideOf(point) >= -touching; };
-        const auto isRight = [&](const QPointF& point) { return sideOf(point) <= touching; };
-        if ((std::all_of(a.begin(), a.end(), isLeft) && std::all_of(b.begin(), b.end(), isRight)) ||
-            (std::all_of(a.begin(), a.end(), isRight) && std::all_of(b.begin(), b.end(), isLeft)))
-            return true;
+    QPointF start = a.back();
+    for (const QPointF& end : a) {
+        const QPointF way = end - start;
+        const Sides others = sidesOf(b, start, way);
+        if (!way.isNull() && !(others.left && others.right)) {
+            const Sides own = sidesOf(a, start, way);
+            if (!(own.left && others.left) && !(own.right && others.right))
+                return true;
+        }
+        start = end;
     }
     return false;
 }
