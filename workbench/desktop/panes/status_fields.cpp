@@ -16,14 +16,13 @@ namespace {
 
 constexpr int kGap = 16;         // pixels between two fields
 constexpr int kMostWidth = 360;  // pixels of a field
-constexpr int kMessageStretch = 1;
 
-QLabel* addField(QHBoxLayout& row, const QString& name, int stretch = 0) {
+QLabel* addField(QHBoxLayout& row, const QString& name) {
     auto* label = new QLabel;
     label->setTextFormat(Qt::PlainText);
     label->setAccessibleName(name);
     label->hide();
-    row.addWidget(label, stretch);
+    row.addWidget(label);
     return label;
 }
 
@@ -57,14 +56,10 @@ StatusFields::StatusFields() {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(4, 0, 4, 0);
     row->setSpacing(kGap);
-    m_message = addField(*row, QStringLiteral("Message"), kMessageStretch);
     m_document = addField(*row, QStringLiteral("Document"));
     m_space = addField(*row, QStringLiteral("Space"));
     m_command = addField(*row, QStringLiteral("Running command"));
     m_cleanScreen = addField(*row, QStringLiteral("Clean screen"));
-    m_messageEnd.setSingleShot(true);
-    m_messageEnd.setInterval(kMessageMs);
-    connect(&m_messageEnd, &QTimer::timeout, this, [this] { endMessage(); });
 }
 
 void StatusFields::refresh(Workbench& workbench) {
@@ -75,16 +70,6 @@ void StatusFields::refresh(Workbench& workbench) {
     put(*m_space, document == nullptr ? QString() : spaceOf(*document));
     put(*m_command, document == nullptr ? QString() : commandOf(document->processor()));
     put(*m_cleanScreen, isClean ? QStringLiteral("Clean screen") : QString());
-}
-
-void StatusFields::showMessage(const QString& text) {
-    put(*m_message, text);
-    m_messageEnd.start();
-}
-
-void StatusFields::endMessage() {
-    m_messageEnd.stop();
-    put(*m_message, QString());
 }
 
 }  // namespace workbench::desktop

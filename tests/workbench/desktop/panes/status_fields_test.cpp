@@ -110,13 +110,4 @@ TEST_F(StatusFieldsTest, OnlyAFieldThatChangedIsPaintedAgain) {
     EXPECT_EQ(document.count, 1);
 }
 
-TEST_F(StatusFieldsTest, AMessageIsShownUntilItsTimeIsOver) {
-    fields.showMessage(QStringLiteral("first"));
-    fields.showMessage(QStringLiteral("The panels can't be read"));
-    EXPECT_EQ(field("Message").text(), QStringLiteral("The panels can't be read"));
-    EXPECT_FALSE(field("Message").isHidden());
-    fields.endMessage();
-    EXPECT_TRUE(field("Message").isHidden());
-}
-
 }  // namespace workbench::desktop
