@@ -80,7 +80,7 @@ int runWindow(const DesktopOptions& options) {
     });
     window.show();
     int code = kExitPassed;
-    window.stage().pump.hold();
+    // A script has the clock from its beginning.
     if (options.script.empty())
         openFirst(workbench, options);
     else

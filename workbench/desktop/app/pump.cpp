@@ -22,8 +22,6 @@ Pump::Pump(Workbench& workbench) : m_workbench(workbench) {
     QObject::connect(&m_due, &QTimer::timeout, [this] { act([] {}); });
     m_idle.setSingleShot(true);
     QObject::connect(&m_idle, &QTimer::timeout, [this] { idle(); });
-    m_base = m_workbench.clock().now();
-    m_elapsed.start();
 }
 
 void Pump::act(const std::function<void()>& what) {
@@ -32,7 +30,7 @@ void Pump::act(const std::function<void()>& what) {
         catchUp();
     guarded(what);
     // Inside a menu or a box the host is in the middle of something, and goes on with it first.
-    if (m_depth == 1) {
+    if (m_depth == 1 && !m_held) {
         runHost();
         m_idle.start(0);
         armTimer();
@@ -42,10 +40,16 @@ void Pump::act(const std::function<void()>& what) {
         m_onRest();
 }
 
+void Pump::hold() {
+    m_held = true;
+    m_idle.stop();
+    m_due.stop();
+}
+
 void Pump::resume() {
     m_held = false;
     m_base = m_workbench.clock().now();
-    m_elapsed.restart();
+    m_elapsed.start();
     act([] {});
 }
 
@@ -74,7 +78,7 @@ void Pump::runHost() {
 }
 
 void Pump::idle() {
-    if (m_depth > 0)
+    if (m_depth > 0 || m_held)
         return;
     ++m_depth;
     guarded([this] { m_workbench.toolkit().idleUpdate(); });
@@ -87,7 +91,7 @@ void Pump::idle() {
 
 void Pump::armTimer() {
     const std::optional<std::int64_t> due = m_workbench.windows().nextTimerDue();
-    if (!due || m_held) {
+    if (!due) {
         m_due.stop();
         return;
     }

@@ -16,6 +16,8 @@ namespace workbench::desktop {
 /// Keeps the workbench going in real time: whatever a user does runs through `act`, after which
 /// posted messages, waiting command text, and one idle tick follow, as in a host. Timers run when
 /// they are due; nothing is asked for in between.
+///
+/// It begins held: the clock stands, and nothing runs but what is done, until `resume`.
 class Pump {
 public:
     explicit Pump(Workbench& workbench);
@@ -24,10 +26,10 @@ public:
 
     /// Does something with the workbench and lets the host come round. A failure is told.
     void act(const std::function<void()>& what);
-    /// Lets the host come round for what a script did by itself: its clock goes on from here.
+    /// Lets the host come round, and its clock go on with real time from here.
     void resume();
-    /// Holds real time, as while a script has the clock. `resume` ends it.
-    void hold() { m_held = true; }
+    /// Leaves clock and host to a script, and questions to its answers. `resume` ends it.
+    void hold();
     bool isHeld() const { return m_held; }
 
     /// Told of each failure, in words.
@@ -50,7 +52,7 @@ private:
     QTimer m_due;
     QTimer m_idle;
     int m_depth = 0;
-    bool m_held = false;
+    bool m_held = true;
 };
 
 }  // namespace workbench::desktop

@@ -39,6 +39,8 @@ void fillMenu(QMenu& menu, const std::vector<MenuLine>& lines) {
 }
 
 std::optional<UINT> chooseFromMenu(const Stage& stage, const std::vector<MenuLine>& lines) {
+    if (stage.pump.isHeld())
+        return {};
     QMenu menu;
     fillMenu(menu, lines);
     const QAction* const chosen = menu.exec(stage.pressedAt);
@@ -61,7 +63,9 @@ QMessageBox::StandardButtons buttonsOf(UINT type) {
     return kind < std::size(kButtons) ? kButtons[kind] : QMessageBox::Ok;
 }
 
-int askBox(QWidget& owner, const std::wstring& text, UINT type) {
+int askBox(const Stage& stage, QWidget& owner, const std::wstring& text, UINT type) {
+    if (stage.pump.isHeld())
+        return MessageBoxes::kOk;
     QMessageBox box(QMessageBox::Information, owner.windowTitle(), toQt(text), buttonsOf(type),
                     &owner);
     switch (box.exec()) {
@@ -110,8 +114,9 @@ void showTip(const Stage& stage, HWND window, const std::wstring& text) {
 Questions::Questions(Stage& stage, QWidget& owner) : m_stage(stage) {
     stage.toolkit.menus().setPresenter(
         [&stage](const std::vector<MenuLine>& lines) { return chooseFromMenu(stage, lines); });
-    stage.toolkit.boxes().setPresenter(
-        [&owner](const std::wstring& text, UINT type) { return askBox(owner, text, type); });
+    stage.toolkit.boxes().setPresenter([&stage, &owner](const std::wstring& text, UINT type) {
+        return askBox(stage, owner, text, type);
+    });
     stage.toolkit.toolTips().setPresenter(
         [&stage](HWND window, const std::wstring& text) { showTip(stage, window, text); });
 }

@@ -7,7 +7,7 @@ namespace workbench::desktop {
 struct Stage;
 
 /// Has the workbench's menus, message boxes and tooltips appear on the screen. An answer that a
-/// script has queued still comes first.
+/// script has queued still comes first, and while a script has the host nobody is asked.
 class Questions {
 public:
     /// `owner` is the window that boxes belong to.

@@ -53,6 +53,13 @@ TEST_F(DesktopApplicationTest, WithoutAScreenItRunsScripts) {
     EXPECT_NE(failed.output.find("script.lua:2: so it is"), std::string::npos) << failed.output;
 }
 
+TEST_F(DesktopApplicationTest, ExampleScriptsRunAsTheyDoWithoutAWindow) {
+    for (const char* name : {"fade_slider_road", "missing_resources", "walk"}) {
+        const Ended ended = run(std::string("examples/scripts/") + name + ".lua");
+        EXPECT_EQ(ended.code, 0) << ended.output;
+    }
+}
+
 TEST_F(DesktopApplicationTest, AScriptTakesPictures) {
     const std::string picture = file("a.png");
     const Ended passed = run(script(("wb.env('ENABLEDASHBOARD', '1') wb.load() "

@@ -40,6 +40,7 @@ protected:
     MainWindowTest() {
         m_window.resize(1000, 800);
         m_window.show();
+        m_window.stage().pump.resume();
         openDashboard(m_workbench, PROJECT_SOURCE_ROOT "/examples/house.json");
         rest();
     }

@@ -47,7 +47,6 @@ TEST_P(PictureTest, TheDashboardLooksAsItsPictureDoes) {
     MainWindow window(workbench, GetParam());
     window.resize(1200, 800);
     window.show();
-    window.stage().pump.hold();
     openDashboard(workbench, PROJECT_SOURCE_ROOT "/examples/house.json");
     switchWorkspace(workbench, "3D Modeling");
     letHostRun(workbench);

@@ -17,6 +17,8 @@ namespace {
 
 class PumpTest : public testing::Test {
 protected:
+    PumpTest() { m_pump.resume(); }
+
     /// Lets Qt run until something holds, for a second at most.
     template <class Condition>
     bool waitFor(Condition condition) {
@@ -52,14 +54,28 @@ TEST_F(PumpTest, TheClockGoesWithRealTimeAndTimersFire) {
     m_workbench.windows().destroy(window.m_hWnd);
 }
 
-TEST_F(PumpTest, WhileItIsHeldTheClockStands) {
+TEST_F(PumpTest, ItBeginsHeld) {
+    const Pump fresh(m_workbench);
+    EXPECT_TRUE(fresh.isHeld());
+}
+
+TEST_F(PumpTest, WhileItIsHeldTheClockStandsAndTheHostIsNotRun) {
+    m_workbench.editor().documents().create(L"A");
     m_pump.hold();
     const std::int64_t before = m_workbench.clock().now();
-    m_pump.act([] {});
+    int rests = 0;
+    m_pump.setOnRest([&rests] { ++rests; });
+    m_pump.act([this] {
+        vxDocManagerPtr()->sendToCommandLine(m_workbench.editor().documents().curDocument(),
+                                             L"LUPREC\n7\n", false, false, false);
+    });
+    QCoreApplication::processEvents();
+    EXPECT_EQ(rests, 1) << "there is no idle tick";
     EXPECT_EQ(m_workbench.clock().now(), before);
-    EXPECT_TRUE(m_pump.isHeld());
+    EXPECT_NE(m_workbench.editor().read(L"LUPREC"), Value(7));
     m_pump.resume();
     EXPECT_FALSE(m_pump.isHeld());
+    EXPECT_EQ(m_workbench.editor().read(L"LUPREC"), Value(7));
 }
 
 TEST_F(PumpTest, AFailureIsToldAndEndsNothing) {

@@ -32,6 +32,7 @@ protected:
         m_home.resize(m_top.size());
         m_home.attach(m_stage);
         m_top.show();
+        m_pump.resume();
         openDashboard(m_workbench, PROJECT_SOURCE_ROOT "/examples/house.json");
         rest();
         m_workbench.journal().take();

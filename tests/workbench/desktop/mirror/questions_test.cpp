@@ -78,6 +78,14 @@ TEST_F(QuestionsTest, AMessageBoxIsAsked) {
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"So it is.", 0, ""), MessageBoxes::kOk);
 }
 
+TEST_F(QuestionsTest, WhileAScriptHasTheHostNobodyIsAsked) {
+    m_pump.hold();
+    EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 4, ""), MessageBoxes::kOk);
+    EXPECT_EQ(
+        m_stage.toolkit.menus().track({MenuLine{.text = L"Yes", .command = 1, .children = {}}}),
+        std::nullopt);
+}
+
 TEST_F(QuestionsTest, AQueuedAnswerComesFirst) {
     m_workbench.answers().queue("box", "cancel");
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 1, ""), MessageBoxes::kCancel);

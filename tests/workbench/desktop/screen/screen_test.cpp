@@ -34,6 +34,7 @@ protected:
         m_window.resize(1200, 900);
         m_window.move(0, 0);
         m_window.show();
+        m_window.stage().pump.resume();
         m_window.stage().pump.act(
             [this] { openDashboard(m_workbench, PROJECT_SOURCE_ROOT "/examples/house.json"); });
         pause(400);
