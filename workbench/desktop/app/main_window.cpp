@@ -6,6 +6,7 @@
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
+#include "workbench/desktop/app/dock_splitter.h"
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/app/palette_colours.h"
@@ -61,6 +62,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
       m_stage(workbench, m_pump, shade),
       m_shade(shade),
       m_home(new FrameHome(this)),
+      m_splitter(new DockSplitter(m_stage, *m_home)),
       m_tabs(new DocumentTabs(m_stage)),
       m_commandLine(new CommandLine),
       m_status(new StatusFields),
@@ -125,6 +127,7 @@ void MainWindow::runCommand(const QString& text) {
 
 /// Whatever was done, the panes take it over here; the mirrored windows have their own notices.
 void MainWindow::onRest() {
+    m_splitter->follow();
     m_tabs->refresh();
     m_status->refresh(m_workbench);
     const Document* const document = m_workbench.editor().documents().active();

@@ -15,6 +15,7 @@ namespace workbench::desktop {
 
 class CommandLine;
 class DesktopMenus;
+class DockSplitter;
 class DocumentTabs;
 class FrameHome;
 class JournalPane;
@@ -68,6 +69,7 @@ private:
     Stage m_stage;
     Shade m_shade;
     FrameHome* m_home;
+    DockSplitter* m_splitter;
     DocumentTabs* m_tabs;
     CommandLine* m_commandLine;
     StatusFields* m_status;

@@ -177,6 +177,28 @@ TEST_F(MainWindowTest, TheViewMenuHidesShowsAndResetsTheDashboard) {
     EXPECT_FALSE(set.IsFloating());
 }
 
+TEST_F(MainWindowTest, TheDashboardsEdgeIsDragged) {
+    const HWND bar = m_workbench.toolkit().frame().bars().front()->m_hWnd;
+    const auto width = [&] { return windows().screenRect(bar).Width(); };
+    QWidget* edge = nullptr;
+    for (QWidget* each : m_window.centralWidget()->findChildren<QWidget*>()) {
+        if (each->accessibleName() == QLatin1String("Edge of the dashboard"))
+            edge = each;
+    }
+    ASSERT_NE(edge, nullptr);
+    const int before = width();
+    EXPECT_EQ(edge->geometry().right() + 1, windows().screenRect(bar).left);
+    press(*edge, {2, 300});
+    moveHeld(*edge, {-58, 300});
+    EXPECT_EQ(width(), before + 60);
+    EXPECT_EQ(edge->geometry().right() + 1, windows().screenRect(bar).left);
+    moveHeld(*edge, {900, 300});
+    EXPECT_GE(width(), 120) << "as narrow as the palettes allow";
+    release(*edge, {900, 300});
+    m_window.stage().pump.act([this] { toggleDashboard(m_workbench); });
+    EXPECT_FALSE(edge->isVisible());
+}
+
 TEST_F(MainWindowTest, ToolsCanBeLarge) {
     const CRect before =
         windows().screenRect(toolPanelOf(*findItems(L"ID_Free_Orbit").at(0))->m_hWnd);
