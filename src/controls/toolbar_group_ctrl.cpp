@@ -54,7 +54,7 @@ const HostControlRow* findHostControl(const VxString& name) {
 /// Room for the control's list beyond the row.
 constexpr int kExtraWidth = 20;
 constexpr int kExtraHeight = 300;
-constexpr LRESULT kCreatedWithoutControl = 1;
+/// Success, with a control of the host's and without: only -1 fails a creation.
 constexpr LRESULT kCreated = 1;
 constexpr int kSmallPixels = 16;
 constexpr int kToolkitChoice = -1;
@@ -86,7 +86,7 @@ LRESULT CVxDaToolbarGroupCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
     if (row != nullptr)
         m_pControl = getVxToolbarControl(this, rect, row->hostId);
     if (m_pControl == nullptr)
-        return kCreatedWithoutControl;
+        return kCreated;
     if (row->iconKey != nullptr)
         addIcon(row->name, row->iconKey);
     addControlItem(this, m_pControl->m_hWnd);

@@ -6,6 +6,7 @@
 #include "workbench/script/lua_listener.h"
 #include "workbench/script/lua_values.h"
 #include "workbench/script/script_error.h"
+#include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/windows/window_system.h"
 
@@ -20,12 +21,10 @@ namespace workbench::script {
 
 namespace {
 
-constexpr const wchar_t* kModule = L"VxDashboard.qlx";
-
 template <class Function>
 Function find(Session& session, const char* name) {
     LibraryTable& libraries = session.workbench().modules().libraries();
-    const HINSTANCE module = libraries.find(kModule);
+    const HINSTANCE module = libraries.find(kDashboardModule);
     if (module == nullptr)
         throw ScriptError("the dashboard module is not loaded");
     void* symbol = libraries.symbol(module, name);
@@ -183,7 +182,7 @@ int callNotify(Session& session, int code, lua_State* lua) {
 }
 
 void removeListeners(Session& session, lua_State* lua) {
-    if (!session.workbench().modules().isLoaded(kModule))
+    if (!session.workbench().modules().isLoaded(kDashboardModule))
         return;
     const auto function = find<VxDaAddOrRemoveReactorFn>(session, "VxDaAddOrRemoveReactor");
     for (LuaListener* listener : LuaListener::all(lua))

@@ -3,14 +3,13 @@
 #include "workbench/script/calls.h"
 #include "workbench/script/exported_calls.h"
 #include "workbench/script/script_error.h"
+#include "workbench/startup/open_dashboard.h"
 
 #include <lua.hpp>
 
 namespace workbench::script {
 
 namespace {
-
-constexpr const wchar_t* kModule = L"VxDashboard.qlx";
 
 int env(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
@@ -30,11 +29,11 @@ int finish(Session& session, Arguments& arguments, bool done) {
 }
 
 int load(Session& session, Arguments& arguments) {
-    return finish(session, arguments, session.workbench().modules().loadModule(kModule));
+    return finish(session, arguments, session.workbench().modules().loadModule(kDashboardModule));
 }
 
 int unload(Session& session, Arguments& arguments) {
-    return finish(session, arguments, session.workbench().modules().unloadModule(kModule));
+    return finish(session, arguments, session.workbench().modules().unloadModule(kDashboardModule));
 }
 
 int exportCall(Session& session, Arguments& arguments) {

@@ -2,6 +2,7 @@
 
 #include "workbench/commands/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_system.h"
 
 #include <utility>
@@ -30,10 +31,7 @@ void Session::settle() {
 }
 
 void Session::runHost() {
-    do {
-        m_workbench.windows().runPosted();
-        m_workbench.editor().pump();
-    } while (m_workbench.windows().hasPosted());
+    letHostRun(m_workbench);
 }
 
 bool Session::isCommandRunning() const {

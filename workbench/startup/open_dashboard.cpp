@@ -8,12 +8,6 @@
 
 namespace workbench {
 
-namespace {
-
-constexpr const wchar_t* kModule = L"VxDashboard.qlx";
-
-}  // namespace
-
 void letHostRun(Workbench& workbench) {
     do {
         workbench.windows().runPosted();
@@ -23,8 +17,8 @@ void letHostRun(Workbench& workbench) {
 
 void loadDashboard(Workbench& workbench) {
     workbench.modules().environment().set("ENABLEDASHBOARD", "1");
-    if (!workbench.modules().loadModule(kModule))
-        throw InputError(toUtf8(kModule), workbench.modules().failureText());
+    if (!workbench.modules().loadModule(kDashboardModule))
+        throw InputError(toUtf8(kDashboardModule), workbench.modules().failureText());
 }
 
 void openDashboard(Workbench& workbench, const std::string& drawing) {

@@ -23,7 +23,6 @@ namespace workbench::desktop {
 
 namespace {
 
-constexpr const wchar_t* kModule = L"VxDashboard.qlx";
 constexpr int kReleaseControls = 0;
 constexpr int kTakePanelsDown = 1;
 constexpr int kBuildPanels = 2;
@@ -33,7 +32,7 @@ constexpr CRect kDockedRect{50, 50, 285, 350};
 template <class Function>
 Function find(Workbench& workbench, const char* name) {
     LibraryTable& libraries = workbench.modules().libraries();
-    const HINSTANCE module = libraries.find(kModule);
+    const HINSTANCE module = libraries.find(kDashboardModule);
     if (module == nullptr)
         return nullptr;
     return reinterpret_cast<Function>(libraries.symbol(module, name));

@@ -1,7 +1,7 @@
 #include "workbench/desktop/app/pump.h"
 
 #include "workbench/core/workbench.h"
-#include "workbench/editor/editor.h"
+#include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -69,12 +69,7 @@ void Pump::catchUp() {
 }
 
 void Pump::runHost() {
-    guarded([this] {
-        do {
-            m_workbench.windows().runPosted();
-            m_workbench.editor().pump();
-        } while (m_workbench.windows().hasPosted());
-    });
+    guarded([this] { letHostRun(m_workbench); });
 }
 
 void Pump::idle() {

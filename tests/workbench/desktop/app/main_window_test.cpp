@@ -20,6 +20,8 @@
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
+#include <hostapi/window/locale.h>
+
 #include <QAccessible>
 #include <QDockWidget>
 #include <QImage>
@@ -209,8 +211,10 @@ TEST_F(MainWindowTest, ToolsCanBeLarge) {
 }
 
 TEST_F(MainWindowTest, TheLanguageChangesNumbersFromThenOn) {
+    EXPECT_EQ(GetLocaleInfo(LOCALE_SDECIMAL), L".");
     m_window.setLocale("de_DE");
     EXPECT_EQ(m_workbench.options().locale, "de_DE");
+    EXPECT_EQ(GetLocaleInfo(LOCALE_SDECIMAL), L",");
 }
 
 TEST_F(MainWindowTest, AFailureIsToldInTheStatusBar) {
