@@ -1,8 +1,8 @@
 #include "bench/session.h"
 
 #include "core/broadcast_messages.h"
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "palette/panel_set.h"
 #include "workbench/editor/editor.h"
 

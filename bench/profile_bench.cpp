@@ -1,7 +1,7 @@
 #include "bench/session.h"
 
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "palette/panel_set.h"
 
 #include <benchmark/benchmark.h>

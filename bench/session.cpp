@@ -1,7 +1,7 @@
 #include "bench/session.h"
 
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "tests/support/allocation_counter.h"
 #include "workbench/editor/editor.h"
 

@@ -1,8 +1,8 @@
 #include "light/light_toolbar.h"
 
 #include "controls/variable_access.h"
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "light/sky_state.h"
 #include "palette/tool_items.h"
 

@@ -3,7 +3,7 @@
 #include "nav3d/current_view.h"
 #include "nav3d/move_view_point.h"
 #include "nav3d/navigation_module.h"
-#include "nav3d/value_text.h"
+#include "controls/value_text.h"
 #include "nav3d/view_state.h"
 #include "nav3d/white_background.h"
 

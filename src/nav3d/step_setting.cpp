@@ -1,7 +1,7 @@
 #include "nav3d/step_setting.h"
 
 #include "nav3d/step_mapping.h"
-#include "nav3d/value_text.h"
+#include "controls/value_text.h"
 
 #include "core/resources.h"
 #include "core/text.h"

@@ -1,7 +1,7 @@
 #include "nav3d/step_slider.h"
 
 #include "nav3d/step_setting.h"
-#include "nav3d/value_text.h"
+#include "controls/value_text.h"
 
 #include "controls/edit_messages.h"
 #include "controls/edit_text.h"

@@ -4,7 +4,7 @@
 #include "nav3d/view_state.h"
 
 #include "core/host_objects.h"
-#include "core/module.h"
+#include "module/module.h"
 #include "core/resources.h"
 
 #include "palette/tool_items.h"

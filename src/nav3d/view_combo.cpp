@@ -9,7 +9,7 @@
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
-#include "core/module.h"
+#include "module/module.h"
 #include "core/resources.h"
 #include "core/theme.h"
 

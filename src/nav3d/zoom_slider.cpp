@@ -3,7 +3,7 @@
 #include "nav3d/lens_mapping.h"
 #include "nav3d/lens_view.h"
 #include "nav3d/toolbar_state.h"
-#include "nav3d/value_text.h"
+#include "controls/value_text.h"
 #include "nav3d/view_state.h"
 
 #include "controls/edit_messages.h"
@@ -12,7 +12,7 @@
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
-#include "core/module.h"
+#include "module/module.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"

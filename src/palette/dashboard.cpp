@@ -8,8 +8,8 @@
 #include "palette/xml_node.h"
 
 #include "core/constants.h"
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/theme.h"

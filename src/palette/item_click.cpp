@@ -3,11 +3,11 @@
 #include "palette/foreign_module.h"
 
 #include "core/constants.h"
-#include "core/module.h"
+#include "module/module.h"
 #include "core/text.h"
 
 #include "controls/cmd_util.h"
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>

@@ -1,6 +1,6 @@
 #include "palette/item_images.h"
 
-#include "core/module.h"
+#include "module/module.h"
 
 #include <hostapi/qrui18/image.h>
 

@@ -3,12 +3,12 @@
 #include "palette/item_images.h"
 #include "palette/panel_set.h"
 
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "core/resources.h"
 #include "core/text.h"
 
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>

@@ -5,10 +5,10 @@
 #include "palette/panel.h"
 #include "palette/tool_items.h"
 
-#include "core/module.h"
+#include "module/module.h"
 #include "core/text.h"
 
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/qrui18/tool_panel_item.h>

@@ -30,8 +30,8 @@ protected:
         showDashboard();
         m_control = control(Control::kName);
         ASSERT_NE(m_control, nullptr);
-        sent();
-        journal();
+        takeSent();
+        takeJournal();
     }
 
     HWND field() { return part(m_control, "edit"); }
@@ -39,7 +39,7 @@ protected:
     void focusField() {
         ASSERT_TRUE(workbench::gestures::focusField(field()));
         settle();
-        journal();
+        takeJournal();
     }
     /// Offers a key to the control as it passes by on its road; whether it was consumed.
     bool offer(WPARAM key) {
@@ -52,11 +52,11 @@ protected:
         return answer;
     }
     bool hasWritten() {
-        const std::vector<std::string> made = calls();
+        const std::vector<std::string> made = takeCalls();
         return std::find(made.begin(), made.end(), "vxedSetVar") != made.end();
     }
     bool got(UINT number) {
-        const auto numbers = messagesOf(Control::kName);
+        const auto numbers = takeMessagesOf(Control::kName);
         return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
     }
 
@@ -77,7 +77,7 @@ TYPED_TEST(SliderContractTest, EnterInTheFieldIsConsumedAndTold) {
     this->focusField();
     EXPECT_TRUE(this->offer(VK_RETURN));
     EXPECT_TRUE(this->got(kEditEnter));
-    EXPECT_TRUE(this->sent().empty());
+    EXPECT_TRUE(this->takeSent().empty());
 }
 
 TYPED_TEST(SliderContractTest, EscapeInTheFieldIsConsumedAndRestoresTheText) {
@@ -86,7 +86,7 @@ TYPED_TEST(SliderContractTest, EscapeInTheFieldIsConsumedAndRestoresTheText) {
     workbench::gestures::replaceText(L"9");
     this->settle();
     ASSERT_NE(this->text(), before);
-    this->journal();
+    this->takeJournal();
     EXPECT_TRUE(this->offer(VK_ESCAPE));
     EXPECT_TRUE(this->got(kEditEscape));
     EXPECT_EQ(this->text(), before);
@@ -96,7 +96,7 @@ TYPED_TEST(SliderContractTest, EscapeInTheFieldIsConsumedAndRestoresTheText) {
 TYPED_TEST(SliderContractTest, KeysElsewhereGoTheOrdinaryWay) {
     workbench::gestures::blur();
     this->settle();
-    this->journal();
+    this->takeJournal();
     EXPECT_FALSE(this->offer(VK_RETURN));
     EXPECT_FALSE(this->offer(VK_ESCAPE));
     EXPECT_FALSE(this->got(kEditEnter));
@@ -116,7 +116,7 @@ TYPED_TEST(SliderContractTest, ForeignFieldIsIgnored) {
     workbench::gestures::replaceText(L"9");
     this->settle();
     const std::wstring typed = this->text();
-    this->journal();
+    this->takeJournal();
     this->send(kEditEnter, kForeignField);
     this->send(kEditEscape, kForeignField);
     EXPECT_EQ(this->text(), typed);

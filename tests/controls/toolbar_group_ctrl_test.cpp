@@ -105,16 +105,16 @@ TEST_F(LayerListTest, OpenListKeepsTheFocusUntilItCloses) {
 }
 
 TEST_F(LayerListTest, HostIsAskedUntilItTakesTheCommand) {
-    calls();
+    takeCalls();
     fail("HandleToolbarComboMessage", 0, 3);
     command(7, reinterpret_cast<LPARAM>(list()));
-    EXPECT_EQ(count("HandleToolbarComboMessage"), 4U);
+    EXPECT_EQ(takeCount("HandleToolbarComboMessage"), 4U);
 }
 
 TEST_F(LayerListTest, CommandWithoutAControlGoesToTheFramework) {
-    calls();
+    takeCalls();
     command(7, 0);
-    EXPECT_EQ(count("HandleToolbarComboMessage"), 0U);
+    EXPECT_EQ(takeCount("HandleToolbarComboMessage"), 0U);
     EXPECT_EQ(send(kKeepFocus), 0);
 }
 

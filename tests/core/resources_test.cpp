@@ -12,7 +12,7 @@ constexpr UINT kNoSuchString = 65000;
 
 class ResourcesTest : public PaletteTest {
 protected:
-    std::vector<std::string> calls() {
+    std::vector<std::string> takeCalls() {
         std::vector<std::string> names;
         for (const workbench::JournalRecord& record : bench().journal().take("call"))
             names.push_back(record.field("name").asString());
@@ -25,7 +25,7 @@ TEST_F(ResourcesTest, StringIsLoadedWithTheHandleSwappedAndPutBack) {
     const HINSTANCE before = AfxGetResourceHandle();
     forget();
     EXPECT_FALSE(loadDashboardString(kStrDashboardTitle).empty());
-    EXPECT_EQ(calls(), (std::vector<std::string>{"AfxGetResourceHandle", "AfxSetResourceHandle",
+    EXPECT_EQ(takeCalls(), (std::vector<std::string>{"AfxGetResourceHandle", "AfxSetResourceHandle",
                                                  "LoadString", "AfxSetResourceHandle"}));
     EXPECT_EQ(AfxGetResourceHandle(), before);
 }
@@ -74,7 +74,7 @@ TEST_F(ResourcesTest, MissingLibraryIsNoneAndNothingIsGivenBack) {
     forget();
     resources.free();
     resources.detach();
-    EXPECT_TRUE(calls().empty());
+    EXPECT_TRUE(takeCalls().empty());
 }
 
 }  // namespace

@@ -34,7 +34,7 @@ protected:
         return workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).image;
     }
     /// How often the variable was written by the module since the last look at the journal.
-    std::size_t writes() { return count("vxedSetVar"); }
+    std::size_t writes() { return takeCount("vxedSetVar"); }
     int fade() { return static_cast<int>(var(kVariable).asInteger()); }
 };
 
@@ -159,7 +159,7 @@ TEST_F(FadeSliderTest, OwnWriteComesBackAndChangesNothing) {
     release();
     wait(300);
     EXPECT_EQ(fade(), 40);
-    const std::vector<std::int64_t> messages = messagesOf(kControl);
+    const std::vector<std::int64_t> messages = takeMessagesOf(kControl);
     EXPECT_NE(std::find(messages.begin(), messages.end(), kSysVarChanged), messages.end());
     EXPECT_EQ(writes(), 1U);
     EXPECT_EQ(position(), 40);
@@ -240,10 +240,10 @@ TEST_F(FadeSliderTest, UnreadableVariableAtAChangeShowsAsOneAndOff) {
 TEST_F(FadeSliderTest, VariableNameIsExact) {
     bench().windows().send(window(), static_cast<UINT>(kSysVarChanged), 1,
                            reinterpret_cast<LPARAM>(L"laylockfadectl"));
-    EXPECT_EQ(calls(), std::vector<std::string>{});
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{});
     bench().windows().send(window(), static_cast<UINT>(kSysVarChanged), 1,
                            reinterpret_cast<LPARAM>(L"LAYLOCKFADECTL"));
-    EXPECT_EQ(calls(), std::vector<std::string>{"vxedGetVar"});
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{"vxedGetVar"});
 }
 
 TEST_F(FadeSliderTest, IsDisabledWhileACommandRuns) {
@@ -293,7 +293,7 @@ class FadeEntryTest : public FadeSliderTest, public testing::WithParamInterface<
 TEST_P(FadeEntryTest, IsTakenOrRefusedWithABalloon) {
     enter(GetParam().typed);
     EXPECT_EQ(fade(), GetParam().fade);
-    const std::vector<std::string> balloons = texts("balloon");
+    const std::vector<std::string> balloons = takeTexts("balloon");
     EXPECT_EQ(balloons.size(), GetParam().refused ? 1U : 0U);
     if (GetParam().refused && !balloons.empty()) {
         EXPECT_NE(balloons[0].find("0%"), std::string::npos);
@@ -316,13 +316,13 @@ TEST_F(FadeSliderTest, EntryBeyondAShortIsWrittenAsItsLowestSixteenBits) {
     EXPECT_EQ(fade(), -50);
     EXPECT_EQ(text(), L"      50%");
     EXPECT_FALSE(isEnabled(edit())) << "the event brought another value than the entered one";
-    EXPECT_TRUE(texts("balloon").empty());
+    EXPECT_TRUE(takeTexts("balloon").empty());
 }
 
 TEST_F(FadeSliderTest, RefusedEntryRestoresTheTextAndWritesTheOldValueOnceMore) {
     enter(L"95");
     EXPECT_EQ(text(), L"      50%");
-    EXPECT_EQ(texts("balloon").size(), 1U);
+    EXPECT_EQ(takeTexts("balloon").size(), 1U);
     EXPECT_EQ(writes(), 1U);
 }
 
@@ -343,7 +343,7 @@ TEST_F(FadeSliderTest, EscapeBringsTheOldTextBackAndWritesNothing) {
 
 TEST_F(FadeSliderTest, EnterIsConsumedAndNeverReachesTheCommandLine) {
     enter(L"12");
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_EQ(bench().windows().focus(), edit());
 }
 
@@ -363,10 +363,10 @@ TEST_F(FadeSliderTest, LeavingTheFieldAfterANegativeEntryTakesTheShownSizeForThe
 
 TEST_F(FadeSliderTest, NotificationHidesTheBalloon) {
     enter(L"95");
-    EXPECT_EQ(texts("balloon").size(), 1U);
-    calls();
+    EXPECT_EQ(takeTexts("balloon").size(), 1U);
+    takeCalls();
     leave();
-    const std::vector<std::string> after = calls();
+    const std::vector<std::string> after = takeCalls();
     EXPECT_NE(std::find(after.begin(), after.end(), "QrUiHideBalloonTip"), after.end());
 }
 
@@ -379,14 +379,14 @@ class OtherNoticeTest : public FadeSliderTest, public testing::WithParamInterfac
 
 TEST_P(OtherNoticeTest, HidesTheBalloonAndCommitsNothing) {
     enter(L"95");
-    EXPECT_EQ(texts("balloon").size(), 1U);
+    EXPECT_EQ(takeTexts("balloon").size(), 1U);
     put(L"12");
-    calls();
+    takeCalls();
     bench().windows().send(
         window(), WM_COMMAND,
         static_cast<WPARAM>(GetParam().code) << 16 | static_cast<WPARAM>(GetParam().controlId),
         reinterpret_cast<LPARAM>(edit()));
-    const std::vector<std::string> after = calls();
+    const std::vector<std::string> after = takeCalls();
     EXPECT_EQ(std::count(after.begin(), after.end(), "QrUiHideBalloonTip"), 1);
     EXPECT_EQ(std::count(after.begin(), after.end(), "vxedSetVar"), 0);
     EXPECT_EQ(text(), L"12");
@@ -417,13 +417,13 @@ TEST_F(FadeSliderTest, WithoutADatabaseAnEntryWritesTheOldValueOnceMore) {
     set(kVariable, 35);
     put(L"12");
     fail("vxdbHostApplicationServices");
-    calls();
+    takeCalls();
     press("enter");
     EXPECT_EQ(writes(), 1U);
     EXPECT_EQ(fade(), 35);
     EXPECT_EQ(position(), 35);
     EXPECT_EQ(text(), L"");
-    EXPECT_TRUE(texts("balloon").empty());
+    EXPECT_TRUE(takeTexts("balloon").empty());
 }
 
 // Failures and life

@@ -93,9 +93,9 @@ TEST_F(LightToolbarTest, WithoutPanelsNothingIsRead) {
     ASSERT_TRUE(unload());
     ASSERT_TRUE(load());
     set(L"LTSCALE", 2.0);
-    journal();
+    takeJournal();
     bench().editor().reactors().sysVarChanged(L"LIGHTINGUNITS", true);
-    EXPECT_TRUE(calls().empty());
+    EXPECT_TRUE(takeCalls().empty());
 }
 
 struct UnitsCase {

@@ -33,7 +33,7 @@ protected:
         setDb("viewports.current.eye", point(10.0, 20.0, 30.0));
         setDb("viewports.current.target", point(1.0, 2.0, 3.0));
         set(L"LUPREC", 1);
-        journal();
+        takeJournal();
     }
     static workbench::Value point(double x, double y, double z) {
         return workbench::Value::List{x, y, z};
@@ -92,7 +92,7 @@ TEST_P(CameraPointTest, FollowsFourVariablesAndNoOther) {
 TEST_P(CameraPointTest, EnteredCoordinateMovesThePointAlone) {
     enter(L"50", "y");
     EXPECT_DOUBLE_EQ(own("y"), 50.0);
-    EXPECT_EQ(count("vxedSendViewChanged"), 0U);
+    EXPECT_EQ(takeCount("vxedSendViewChanged"), 0U);
     leave();
 }
 
@@ -127,9 +127,9 @@ TEST_P(CameraPointTest, OtherPointsCoordinatesChangeNothingAndRecordNothing) {
     setDb("viewports.current.eye", point(10.0, 2.0, 3.0));
     setDb("viewports.current.target", point(1.0, 2.0, 3.0));
     announce(L"CVPORT");
-    calls();
+    takeCalls();
     enter(eye ? L"1" : L"10", "x");
-    EXPECT_EQ(count("vxgsWriteViewToUndoController"), 0U);
+    EXPECT_EQ(takeCount("vxgsWriteViewToUndoController"), 0U);
     EXPECT_DOUBLE_EQ(own("x"), eye ? 10.0 : 1.0);
     EXPECT_EQ(text("x"), eye ? L"1" : L"10");
     EXPECT_EQ(balloon(), "");
@@ -144,9 +144,9 @@ TEST_P(CameraPointTest, EmptyFieldRestoresTheTextWithoutABalloon) {
 }
 
 TEST_P(CameraPointTest, SameTextAfterTrimmingChangesNothing) {
-    calls();
+    takeCalls();
     enter(L" " + shownX() + L" ", "x");
-    EXPECT_EQ(count("vxgsSetViewParameters"), 0U);
+    EXPECT_EQ(takeCount("vxgsSetViewParameters"), 0U);
     leave();
 }
 
@@ -194,7 +194,7 @@ TEST_P(CameraPointTest, ToolMovesThePoint) {
     startTool();
     enter(L"50", "x");
     EXPECT_DOUBLE_EQ(own("x"), 50.0);
-    EXPECT_EQ(count("vxgsSetViewParameters"), 0U);
+    EXPECT_EQ(takeCount("vxgsSetViewParameters"), 0U);
     leave();
 }
 
@@ -228,7 +228,7 @@ protected:
         showControl("3DNavPointTriplet1");
         openDrawing("examples/house.json");
         set(L"TILEMODE", 0);
-        journal();
+        takeJournal();
     }
 };
 

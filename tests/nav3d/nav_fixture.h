@@ -31,12 +31,12 @@ protected:
     void addView(const std::string& name) { setDb("views." + name, workbench::Value::Table{}); }
     void startTool() {
         ASSERT_TRUE(bench().navigation().start(workbench::NavigationTool::kFreeOrbit));
-        journal();
+        takeJournal();
     }
     void stopTool() { bench().navigation().stop(); }
     /// The last balloon's text since the last look; empty for none.
     std::string balloon() {
-        const std::vector<std::string> all = texts("balloon");
+        const std::vector<std::string> all = takeTexts("balloon");
         return all.empty() ? std::string() : all.back();
     }
     std::string string(UINT id) { return workbench::toUtf8(stringOf(id)); }

@@ -80,13 +80,13 @@ protected:
     void SetUp() override {
         showControl(GetParam().control);
         set(L"LUPREC", 2);
-        journal();
+        takeJournal();
     }
 
     double value() { return var(GetParam().variable).asReal(); }
-    std::size_t writes() { return count("vxedSetVar"); }
+    std::size_t writes() { return takeCount("vxedSetVar"); }
     std::string balloon() {
-        const std::vector<std::string> all = texts("balloon");
+        const std::vector<std::string> all = takeTexts("balloon");
         return all.empty() ? std::string() : all.back();
     }
     const workbench::SliderWidget& widget() {
@@ -149,7 +149,7 @@ TEST_P(StepSliderTest, DragShowsTheValueInTheTip) {
 TEST_P(StepSliderTest, WriteStandsUnderADocumentLock) {
     drag({GetParam().draggedPosition});
     std::vector<std::string> steps;
-    for (const std::string& call : calls()) {
+    for (const std::string& call : takeCalls()) {
         if (call.find("VxAxDocLock") == 0 || call == "vxedSetVar")
             steps.push_back(call);
     }
@@ -168,7 +168,7 @@ TEST_P(StepSliderTest, EnteredValueIsWrittenAndShown) {
 
 TEST_P(StepSliderTest, LeavingAfterEnterWritesNothingMore) {
     enter(GetParam().valueText);
-    calls();
+    takeCalls();
     leave();
     EXPECT_EQ(writes(), 0U);
 }
@@ -212,14 +212,14 @@ TEST_P(StepSliderTest, ClickOnTheIconGoesToTheField) {
 TEST_P(StepSliderTest, AnyCommandHidesTheBalloonFirst) {
     enter(L"fast");
     EXPECT_NE(balloon(), "");
-    calls();
+    takeCalls();
     send(WM_COMMAND, 4711);
-    EXPECT_EQ(count("QrUiHideBalloonTip"), 1U);
+    EXPECT_EQ(takeCount("QrUiHideBalloonTip"), 1U);
     leave();
 }
 
 TEST_P(StepSliderTest, AnotherSlidersMessageIsIgnored) {
-    calls();
+    takeCalls();
     send(1534, 100, reinterpret_cast<LPARAM>(field()));
     EXPECT_EQ(writes(), 0U);
 }
@@ -283,7 +283,7 @@ TEST_F(StepSizeSliderTest, PositionTwoWritesTwoHundredthsAndStandsAtFourAfterARe
 
 TEST_F(StepSizeSliderTest, RefusalNamesTheTwoLimits) {
     enter(L"0");
-    const std::vector<std::string> balloons = texts("balloon");
+    const std::vector<std::string> balloons = takeTexts("balloon");
     ASSERT_EQ(balloons.size(), 1U);
     EXPECT_NE(balloons[0].find(".0000010"), std::string::npos) << balloons[0];
     EXPECT_NE(balloons[0].find("1,000,000"), std::string::npos) << balloons[0];

@@ -16,7 +16,7 @@ protected:
     void SetUp() override {
         showControl("3DNavZoomSliderControl");
         idle();
-        journal();
+        takeJournal();
     }
     bool disabled(const wchar_t* id, std::size_t n = 1) {
         return workbench::viewOf(*item(id, n)).disabled;
@@ -132,9 +132,9 @@ TEST_F(ToolbarStateTest, ProjectionTogglesAreOpposites) {
 
 TEST_F(ToolbarStateTest, IdleTickThatChangesNothingTouchesNoItem) {
     idle();
-    journal();
+    takeJournal();
     idle();
-    EXPECT_TRUE(journal("item").empty());
+    EXPECT_TRUE(takeJournal("item").empty());
 }
 
 TEST_F(ToolbarStateTest, EndOfACommandRunsItToo) {

@@ -22,7 +22,7 @@ protected:
     void SetUp() override {
         showControl("3DNavViewComboCtrl");
         rebuild();
-        journal();
+        takeJournal();
     }
 
     void rebuild() { announce(L"CVPORT"); }
@@ -146,7 +146,7 @@ class PresetTest : public ViewComboTest, public testing::WithParamInterface<Pres
 
 TEST_P(PresetTest, SendsItsTransparentCommand) {
     choose(GetParam().entry);
-    EXPECT_EQ(sent(), (std::vector<Sent>{{GetParam().command, "line"}}));
+    EXPECT_EQ(takeSent(), (std::vector<Sent>{{GetParam().command, "line"}}));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -162,27 +162,27 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(ViewComboTest, NamedViewIsSentAsItStandsWithANewLine) {
     addView("South east corner");
     choose(L"South east corner");
-    EXPECT_EQ(sent(), (std::vector<Sent>{{"'_-view _restore South east corner\n", "line"}}));
+    EXPECT_EQ(takeSent(), (std::vector<Sent>{{"'_-view _restore South east corner\n", "line"}}));
     EXPECT_EQ(selected(), L"South east corner");
 }
 
 TEST_F(ViewComboTest, CommandIsSentWithoutActivationAndEcho) {
     choose(L"Top");
-    const auto commands = journal("command");
+    const auto commands = takeJournal("command");
     ASSERT_FALSE(commands.empty());
     EXPECT_EQ(commands.front().field("flag"), workbench::Value(2)) << "wrap up alone";
-    sent();
+    takeSent();
 }
 
 TEST_F(ViewComboTest, CurrentViewEntrySendsNothing) {
     choose(L"Current View");
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_F(ViewComboTest, SeparatorSendsNothing) {
     combo().SetCurSel(1);
     notify(kSelEndOk);
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_F(ViewComboTest, ViewThatCannotBeOpenedSendsNothing) {
@@ -192,14 +192,14 @@ TEST_F(ViewComboTest, ViewThatCannotBeOpenedSendsNothing) {
     ASSERT_EQ(selected(), L"Garden");
     fail("vxdbOpenObject");
     notify(kSelEndOk);
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     bench().faults().unfail("vxdbOpenObject");
 }
 
 TEST_F(ViewComboTest, ManagerIsSentBehindTwoCancels) {
     bench().answers().queue("dialog", workbench::Value());
     choose(L"View Manager...");
-    EXPECT_EQ(sent(), (std::vector<Sent>{{"\x03\x03_view ", "line"}}));
+    EXPECT_EQ(takeSent(), (std::vector<Sent>{{"\x03\x03_view ", "line"}}));
 }
 
 // Following the view
@@ -207,7 +207,7 @@ TEST_F(ViewComboTest, ManagerIsSentBehindTwoCancels) {
 TEST_F(ViewComboTest, RestoreByTheListKeepsItsSelection) {
     addView("Garden");
     choose(L"Garden");
-    sent();
+    takeSent();
     EXPECT_EQ(selected(), L"Garden");
     moveView();
     EXPECT_EQ(selected(), L"Current View") << "the command's end has cleared the mark";
@@ -259,7 +259,7 @@ TEST_F(ViewComboTest, ForcedUpdateFollowsItsOwnRestoresToo) {
     bench().faults().unfail("vxedCommandActive");
     exported<SetForce3DNavUpdateFn>("setForce3DNavUpdate")(false);
     finish();
-    sent();
+    takeSent();
 }
 
 // Back
@@ -267,7 +267,7 @@ TEST_F(ViewComboTest, ForcedUpdateFollowsItsOwnRestoresToo) {
 TEST_F(ViewComboTest, BackIsDisabledWithoutAnEarlierView) {
     EXPECT_TRUE(backDisabled());
     clickIcon();
-    EXPECT_EQ(count("vxInternalZoomPrevious"), 0U);
+    EXPECT_EQ(takeCount("vxInternalZoomPrevious"), 0U);
 }
 
 TEST_F(ViewComboTest, BackGoesToThePreviousView) {
@@ -275,7 +275,7 @@ TEST_F(ViewComboTest, BackGoesToThePreviousView) {
     rebuild();
     EXPECT_FALSE(backDisabled());
     clickIcon();
-    EXPECT_EQ(count("vxInternalZoomPrevious"), 1U);
+    EXPECT_EQ(takeCount("vxInternalZoomPrevious"), 1U);
     EXPECT_TRUE(backDisabled());
 }
 
@@ -284,7 +284,7 @@ TEST_F(ViewComboTest, BackGoesToThePreviousView) {
 TEST_F(ViewComboTest, ToolRestoresAPreset) {
     startTool();
     choose(L"Top");
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_NEAR(number("viewports.current.eye.x"), number("viewports.current.target.x"), 1.0e-9);
 }
 
@@ -292,7 +292,7 @@ TEST_F(ViewComboTest, WithoutTheModuleAChoiceHasNoEffectAndStays) {
     startTool();
     bench().faults().hide("VxVmTools.qlx");
     choose(L"Top");
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_EQ(selected(), L"Top");
 }
 

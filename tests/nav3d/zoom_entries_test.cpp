@@ -15,9 +15,9 @@ TEST_F(ZoomSliderTest, EnteredLensIsApplied) {
 
 TEST_F(ZoomSliderTest, LeavingAfterEnterCommitsNothingMore) {
     enter(L"35");
-    calls();
+    takeCalls();
     leave();
-    EXPECT_EQ(count("vxgsSetLensLength"), 0U);
+    EXPECT_EQ(takeCount("vxgsSetLensLength"), 0U);
 }
 
 TEST_F(ZoomSliderTest, EmptyEntryRestoresTheTextWithoutABalloon) {
@@ -167,10 +167,10 @@ TEST_F(ZoomSliderTest, IdleTicksDoNotOverwriteWhatTheUserTypes) {
 
 TEST_F(ZoomSliderTest, BalloonGoesWithTheNextEntryThatCanBeRead) {
     enter(L"wide");
-    EXPECT_EQ(texts("balloon").size(), 1U);
-    calls();
+    EXPECT_EQ(takeTexts("balloon").size(), 1U);
+    takeCalls();
     enter(L"35");
-    EXPECT_EQ(count("QrUiHideBalloonTip"), 1U);
+    EXPECT_EQ(takeCount("QrUiHideBalloonTip"), 1U);
     leave();
 }
 

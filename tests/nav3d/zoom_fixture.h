@@ -14,7 +14,7 @@ protected:
         set(L"LUPREC", 2);
         setLens(50.0);
         announce(L"CVPORT");
-        journal();
+        takeJournal();
     }
 
     void setLens(double lens) { setDbQuietly("viewports.current.lens", lens); }

@@ -100,9 +100,9 @@ TEST_F(ZoomSliderTest, ParallelViewDisablesAllPartsAndReadsNoView) {
     EXPECT_FALSE(isEnabled(slider()));
     EXPECT_FALSE(isEnabled(field("edit")));
     EXPECT_FALSE(isEnabled(field("edit2")));
-    calls();
+    takeCalls();
     announce(L"CVPORT");
-    EXPECT_EQ(count("vxgsGetLensLength"), 0U);
+    EXPECT_EQ(takeCount("vxgsGetLensLength"), 0U);
     set(L"PERSPECTIVE", 1);
     EXPECT_TRUE(isEnabled(slider()));
     EXPECT_TRUE(isEnabled(field("edit2")));
@@ -110,9 +110,9 @@ TEST_F(ZoomSliderTest, ParallelViewDisablesAllPartsAndReadsNoView) {
 
 TEST_F(ZoomSliderTest, HiddenDashboardIsNotRefreshed) {
     paletteSet()->ShowWindow(SW_HIDE);
-    calls();
+    takeCalls();
     announce(L"CVPORT");
-    EXPECT_EQ(count("vxgsGetLensLength"), 0U);
+    EXPECT_EQ(takeCount("vxgsGetLensLength"), 0U);
 }
 
 TEST_F(ZoomSliderTest, UnreadableLensLeavesTheControlsAsTheyAre) {
@@ -124,17 +124,17 @@ TEST_F(ZoomSliderTest, UnreadableLensLeavesTheControlsAsTheyAre) {
 }
 
 TEST_F(ZoomSliderTest, SliderIsNotTouchedWhileItStandsRight) {
-    calls();
+    takeCalls();
     announce(L"CVPORT");
-    EXPECT_EQ(count("CQrUiProgSliderCtrl::SetSliderPos"), 0U);
+    EXPECT_EQ(takeCount("CQrUiProgSliderCtrl::SetSliderPos"), 0U);
 }
 
 // Drags
 
 TEST_F(ZoomSliderTest, DragSetsTheLensRecordsEachStepAndTellsTheHost) {
-    calls();
+    takeCalls();
     drag({600, 700});
-    const std::vector<std::string> made = calls();
+    const std::vector<std::string> made = takeCalls();
     EXPECT_EQ(std::count(made.begin(), made.end(), "vxgsWriteViewToUndoController"), 2);
     EXPECT_EQ(std::count(made.begin(), made.end(), "vxedSendViewChanged"), 2);
     EXPECT_EQ(std::count(made.begin(), made.end(), "VxViewMgrDlg::viewComboClear"), 2);
@@ -170,7 +170,7 @@ TEST_F(ZoomSliderTest, EachStepCanBeUndone) {
     release();
     type(L"U\n");
     EXPECT_NEAR(lens(), 60.0, 1.0e-9);
-    sent();
+    takeSent();
 }
 
 // While a navigation tool runs
@@ -186,14 +186,14 @@ protected:
 TEST_F(ZoomByToolTest, TheModuleSetsTheLens) {
     drag({350});
     EXPECT_DOUBLE_EQ(lens(), 35.0);
-    EXPECT_EQ(count("vxgsSetLensLength"), 0U);
+    EXPECT_EQ(takeCount("vxgsSetLensLength"), 0U);
     release();
 }
 
 TEST_F(ZoomByToolTest, WithoutTheModuleOnlyTheUndoIsRecorded) {
     bench().faults().hide("VxVmTools.qlx");
     drag({350});
-    const std::vector<std::string> made = calls();
+    const std::vector<std::string> made = takeCalls();
     EXPECT_EQ(std::count(made.begin(), made.end(), "vxgsWriteViewToUndoController"), 1);
     EXPECT_EQ(std::count(made.begin(), made.end(), "vxedSendViewChanged"), 0);
     EXPECT_DOUBLE_EQ(lens(), 50.0);
@@ -203,7 +203,7 @@ TEST_F(ZoomByToolTest, WithoutTheModuleOnlyTheUndoIsRecorded) {
 TEST_F(ZoomByToolTest, WithoutTheFunctionTheHostIsStillTold) {
     bench().faults().hide("VxVmTools.qlx", "navUpdateLensLength");
     drag({350});
-    EXPECT_EQ(count("vxedSendViewChanged"), 1U);
+    EXPECT_EQ(takeCount("vxedSendViewChanged"), 1U);
     EXPECT_DOUBLE_EQ(lens(), 50.0);
     release();
 }

@@ -1,7 +1,7 @@
 #include "palette/dashboard.h"
 
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "palette/xml_node.h"
 #include "tests/palette/palette_fixture.h"
 #include "workbench/editor/editor.h"

@@ -1,7 +1,7 @@
 #include "tests/palette/palette_fixture.h"
 
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "workbench/base/text.h"
 #include "workbench/core/journal.h"
 #include "workbench/editor/editor.h"

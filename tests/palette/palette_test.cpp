@@ -1,7 +1,7 @@
 #include "palette/palette.h"
 
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "tests/palette/palette_fixture.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"

@@ -59,7 +59,7 @@ void Bench::TearDown() {
     for (const std::string& call : m_bench->faults().untaken())
         ADD_FAILURE() << "fault that no call came to: " << call;
     for (const char* kind : {"balloon", "box"}) {
-        for (const std::string& text : texts(kind)) {
+        for (const std::string& text : takeTexts(kind)) {
             ADD_FAILURE() << "untaken " << kind << ": " << text;
         }
     }
@@ -251,25 +251,25 @@ void Bench::click(CQrUiToolPanelItem* item) {
     settle();
 }
 
-std::vector<Sent> Bench::sent() {
+std::vector<Sent> Bench::takeSent() {
     return std::exchange(m_sent, {});
 }
 
-std::vector<workbench::JournalRecord> Bench::journal(const std::string& kind) {
+std::vector<workbench::JournalRecord> Bench::takeJournal(const std::string& kind) {
     return bench().journal().take(kind);
 }
 
-std::vector<std::string> Bench::calls() {
+std::vector<std::string> Bench::takeCalls() {
     std::vector<std::string> names;
-    for (const workbench::JournalRecord& record : journal("call")) {
+    for (const workbench::JournalRecord& record : takeJournal("call")) {
         names.push_back(record.field("name").asString());
     }
     return names;
 }
 
-std::vector<std::int64_t> Bench::messagesOf(const std::string& control) {
+std::vector<std::int64_t> Bench::takeMessagesOf(const std::string& control) {
     std::vector<std::int64_t> numbers;
-    for (const workbench::JournalRecord& record : journal("message")) {
+    for (const workbench::JournalRecord& record : takeJournal("message")) {
         if (record.field("control") == workbench::Value(control)) {
             numbers.push_back(record.field("number").asInteger());
         }
@@ -277,9 +277,9 @@ std::vector<std::int64_t> Bench::messagesOf(const std::string& control) {
     return numbers;
 }
 
-std::vector<std::string> Bench::texts(const std::string& kind) {
+std::vector<std::string> Bench::takeTexts(const std::string& kind) {
     std::vector<std::string> found;
-    for (const workbench::JournalRecord& record : journal(kind)) {
+    for (const workbench::JournalRecord& record : takeJournal(kind)) {
         if (record.field("text").isString())
             found.push_back(record.field("text").asString());
     }

@@ -93,15 +93,15 @@ protected:
     // What happened.
 
     /// The command texts since the last call.
-    std::vector<Sent> sent();
+    std::vector<Sent> takeSent();
     /// The journal's records of a kind since the last call, or of all kinds.
-    std::vector<workbench::JournalRecord> journal(const std::string& kind = {});
+    std::vector<workbench::JournalRecord> takeJournal(const std::string& kind = {});
     /// The names of the host calls since the last call, in order.
-    std::vector<std::string> calls();
+    std::vector<std::string> takeCalls();
     /// The numbers of the messages that a control got since the last call.
-    std::vector<std::int64_t> messagesOf(const std::string& control);
+    std::vector<std::int64_t> takeMessagesOf(const std::string& control);
     /// The texts of the balloons (or boxes) since the last call.
-    std::vector<std::string> texts(const std::string& kind);
+    std::vector<std::string> takeTexts(const std::string& kind);
 
 private:
     class File;

@@ -22,8 +22,8 @@ void ControlBench::showControl(const std::string& name) {
     m_name = name;
     m_control = control(name);
     ASSERT_NE(m_control, nullptr) << name;
-    sent();
-    journal();
+    takeSent();
+    takeJournal();
 }
 
 void ControlBench::rebuildControl() {
@@ -114,8 +114,8 @@ bool ControlBench::hasFocus(HWND part) {
     return bench().windows().focus() == part;
 }
 
-std::size_t ControlBench::count(const std::string& call) {
-    const std::vector<std::string> made = calls();
+std::size_t ControlBench::takeCount(const std::string& call) {
+    const std::vector<std::string> made = takeCalls();
     return static_cast<std::size_t>(std::count(made.begin(), made.end(), call));
 }
 

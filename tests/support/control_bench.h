@@ -42,7 +42,7 @@ protected:
     bool isEnabled(HWND part);
     bool hasFocus(HWND part);
     /// How often a host call was made since the last look at the journal.
-    std::size_t count(const std::string& call);
+    std::size_t takeCount(const std::string& call);
 
 private:
     std::string m_name;

@@ -19,7 +19,7 @@ protected:
     /// How often the mode was read since the last look at the journal.
     int reads() {
         int count = 0;
-        for (const workbench::JournalRecord& record : journal("call")) {
+        for (const workbench::JournalRecord& record : takeJournal("call")) {
             if (record.field("name") == workbench::Value("vxedGetVar") &&
                 record.field("args").asList().front() == workbench::Value("VSMATERIALMODE"))
                 ++count;
@@ -60,7 +60,7 @@ class MaterialModeNameTest : public MaterialModeTest,
 
 TEST_P(MaterialModeNameTest, ReadsTheModeOrNot) {
     set(L"LTSCALE", 2.0);
-    journal();
+    takeJournal();
     bench().editor().reactors().sysVarChanged(GetParam().name, true);
     EXPECT_EQ(reads(), GetParam().reads);
     bench().editor().reactors().commandEnded(GetParam().name);
@@ -84,7 +84,7 @@ TEST_F(MaterialModeTest, FirstChangeAfterEachLoadReadsItOnceWhateverTheName) {
     ASSERT_TRUE(unload());
     for (int round = 0; round < 2; ++round) {
         ASSERT_TRUE(load());
-        journal();
+        takeJournal();
         bench().editor().reactors().sysVarChanged(L"LTSCALE", true);
         EXPECT_EQ(reads(), 1);
         bench().editor().reactors().sysVarChanged(L"LTSCALE", true);
@@ -96,7 +96,7 @@ TEST_F(MaterialModeTest, FirstChangeAfterEachLoadReadsItOnceWhateverTheName) {
 TEST_F(MaterialModeTest, FirstCommandEndAfterALoadReadsItInPlaceOfAChange) {
     ASSERT_TRUE(unload());
     ASSERT_TRUE(load());
-    journal();
+    takeJournal();
     bench().editor().reactors().commandEnded(L"LINE");
     EXPECT_EQ(reads(), 1);
     bench().editor().reactors().commandEnded(L"LINE");

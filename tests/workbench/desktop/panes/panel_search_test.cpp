@@ -117,9 +117,9 @@ TEST_F(PanelSearchTest, WithoutPanelsNothingIsFound) {
 }
 
 TEST_F(PanelSearchTest, ASearchIsNoCallOfAModule) {
-    journal();
+    takeJournal();
     find("light");
-    EXPECT_THAT(journal(), IsEmpty());
+    EXPECT_THAT(takeJournal(), IsEmpty());
 }
 
 }  // namespace workbench::desktop

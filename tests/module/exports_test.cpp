@@ -1,4 +1,4 @@
-#include "tests/core/manager_fixture.h"
+#include "tests/module/manager_fixture.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/palette_set_widget.h"
 

@@ -33,12 +33,12 @@ protected:
     }
     void loadAndTakeCalls() {
         ASSERT_TRUE(load());
-        m_calls = calls();
+        m_calls = takeCalls();
     }
     /// The arguments of each call of a name since the journal was taken.
     std::vector<workbench::Value::List> argumentsOf(const std::string& call) {
         std::vector<workbench::Value::List> found;
-        for (const workbench::JournalRecord& record : journal("call")) {
+        for (const workbench::JournalRecord& record : takeJournal("call")) {
             if (record.field("name") == workbench::Value(call))
                 found.push_back(record.field("args").asList());
         }
@@ -89,10 +89,10 @@ TEST_F(ModuleTest, ToolIsRegisteredUnderThePaletteSetsIdWithTheCommandThatShowsI
 TEST_F(ModuleTest, SecondLoadMessageRegistersAndAttachesNothingTwice) {
     env("ENABLEDASHBOARD", "1");
     ASSERT_TRUE(load());
-    calls();
+    takeCalls();
     const auto entryPoint = exported<int (*)(int, void*)>("vxrxEntryPoint");
     EXPECT_EQ(entryPoint(1, nullptr), 0);
-    m_calls = calls();
+    m_calls = takeCalls();
     EXPECT_EQ(count("vxrxServiceIsRegistered"), 1U);
     EXPECT_EQ(count("vxrxRegisterService"), 0U);
     EXPECT_EQ(count("AfxInitExtensionModule"), 0U);
@@ -107,17 +107,17 @@ TEST_F(ModuleTest, SecondLoadMessageRegistersAndAttachesNothingTwice) {
 TEST_F(ModuleTest, ServiceThatIsThereIsNotRegisteredTwice) {
     bench();
     vxrxRegisterService(L"ZorqVxDashboard");
-    calls();
+    takeCalls();
     loadAndTakeCalls();
     EXPECT_EQ(count("vxrxRegisterService"), 0U);
 }
 
 TEST_F(ModuleTest, UnloadKeepsItsOrder) {
     showDashboard();
-    calls();
+    takeCalls();
     ASSERT_TRUE(unload());
     EXPECT_TRUE(standInOrder(
-        calls(),
+        takeCalls(),
         {"DestroyIcon", "VxEdCommandStack::removeGroup", "FreeLibrary", "AfxTermExtensionModule",
          "VxApProfileManager::removeReactor", "VxEditor::removeReactor",
          "VxApDocManager::removeReactor", "CQrUiTheme::UnregisterReactor",
@@ -126,9 +126,9 @@ TEST_F(ModuleTest, UnloadKeepsItsOrder) {
 
 TEST_F(ModuleTest, UnloadRemovesTheCommandGroupAlsoWithoutCommands) {
     ASSERT_TRUE(load());
-    calls();
+    takeCalls();
     ASSERT_TRUE(unload());
-    m_calls = calls();
+    m_calls = takeCalls();
     EXPECT_EQ(count("VxEdCommandStack::removeGroup"), 1U);
 }
 
@@ -143,18 +143,18 @@ TEST_F(ModuleTest, UnloadWithThePanelsDownDeletesThePaletteSetAfterTheCommandGro
     showDashboard();
     EXPECT_EQ(notify(kDashboardUnload), 1);
     const HWND bar = paletteSet()->m_hWnd;
-    journal();
+    takeJournal();
     ASSERT_TRUE(unload());
     EXPECT_FALSE(bench().windows().find(bar) != nullptr);
     EXPECT_TRUE(
-        standInOrder(calls(), {"VxEdCommandStack::removeGroup", "VxApDocManager::removeReactor",
+        standInOrder(takeCalls(), {"VxEdCommandStack::removeGroup", "VxApDocManager::removeReactor",
                                "DestroyIcon", "CQrUiTheme::UnregisterReactor"}));
 }
 
 TEST_F(ModuleTest, MissingResourceLibraryGivesTheOneBox) {
     bench().faults().hide("VxDashboardRes.dll");
     EXPECT_TRUE(load());
-    const std::vector<std::string> boxes = texts("box");
+    const std::vector<std::string> boxes = takeTexts("box");
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].find("FATAL ERROR: Unable to load file 'VxDashboardRes.dll'. "), 0U);
     EXPECT_NE(boxes[0].find(".\nPress OK to abort."), std::string::npos);
@@ -164,7 +164,7 @@ TEST_F(ModuleTest, MissingResourceLibraryGivesTheOneBox) {
 TEST_F(ModuleTest, BoxOfAMissingResourceLibraryHasTheStopIconAndOkAlone) {
     bench().faults().hide("VxDashboardRes.dll");
     EXPECT_TRUE(load());
-    EXPECT_EQ(texts("box").size(), 1U);
+    EXPECT_EQ(takeTexts("box").size(), 1U);
     const std::vector<Arguments> boxes = argumentsOf("AfxMessageBox");
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].at(1), workbench::Value(16));
@@ -174,7 +174,7 @@ TEST_F(ModuleTest, AfterAFailedLoadNothingElseIsThereAndUnloadStillRuns) {
     env("ENABLEDASHBOARD", "1");
     bench().faults().hide("VxDashboardRes.dll");
     EXPECT_TRUE(load());
-    EXPECT_EQ(texts("box").size(), 1U);
+    EXPECT_EQ(takeTexts("box").size(), 1U);
     EXPECT_EQ(notify(kDashboardReleaseControls), 0);
     EXPECT_EQ(notify(3), 0);
     EXPECT_EQ(exported<VxDaInvalidateDashboardFn>("VxDaInvalidateDashboard")(), 0);
@@ -194,7 +194,7 @@ TEST_F(ModuleTest, AfterAFailedLoadNothingElseIsThereAndUnloadStillRuns) {
 TEST_F(ModuleTest, MissingIconLibraryIsNoMatter) {
     bench().faults().hide("ZORQbtn.xmx");
     showDashboard();
-    EXPECT_TRUE(texts("box").empty());
+    EXPECT_TRUE(takeTexts("box").empty());
     EXPECT_NE(item(L"ID_3DWalk"), nullptr);
 }
 
@@ -230,9 +230,9 @@ TEST_F(ModuleTest, UnloadWithoutAThemeManagerIsNoMatter) {
 TEST_F(ModuleTest, ChangeOfThemeBuildsTheFontAnew) {
     ASSERT_TRUE(load());
     const std::size_t before = bench().windows().gdi().fontCount();
-    calls();
+    takeCalls();
     bench().toolkit().themes().find(L"ToolPanel")->changeElement(3);
-    m_calls = calls();
+    m_calls = takeCalls();
     EXPECT_EQ(count("CQrUiTheme::GetFont"), 1U);
     EXPECT_EQ(count("CQrUiTheme::SetDataPtr"), 1U);
     EXPECT_EQ(bench().windows().gdi().fontCount(), before);
@@ -261,7 +261,7 @@ TEST_F(ModuleTest, ManyRoundsOfLoadShowAndUnloadLeaveNothingBehind) {
         ASSERT_TRUE(unload());
         ASSERT_EQ(paletteSet(), nullptr);
         ASSERT_EQ(bench().toolkit().liveItems(), 0);
-        journal();
+        takeJournal();
     }
 }
 

@@ -1,4 +1,4 @@
-#include "nav3d/value_text.h"
+#include "controls/value_text.h"
 
 #include "controls/variable_access.h"
 #include "core/host_objects.h"

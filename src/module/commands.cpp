@@ -1,9 +1,9 @@
-#include "core/commands.h"
+#include "module/commands.h"
 
 #include "core/constants.h"
 #include "core/host_objects.h"
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"

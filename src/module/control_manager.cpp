@@ -1,7 +1,7 @@
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 
 #include "controls/cmd_util.h"
-#include "controls/control_table.h"
+#include "module/control_table.h"
 
 #include "core/text.h"
 

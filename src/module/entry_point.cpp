@@ -1,4 +1,4 @@
-#include "core/module.h"
+#include "module/module.h"
 
 #include <hostapi/export.h>
 #include <hostapi/vxdb18/dynamic_linker.h>

@@ -1,4 +1,4 @@
-#include "tests/core/manager_fixture.h"
+#include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/palette_set_widget.h"
@@ -59,14 +59,14 @@ TEST_F(ManagerTest, WithoutAFrameTheBarStaysHiddenAndNothingBreaks) {
 
 TEST_F(ManagerTest, ProfileIsWrittenWhenItIsSavedButNotDuringTheQuit) {
     showDashboard();
-    calls();
+    takeCalls();
     bench().editor().quitBegin();
     bench().profiles().save();
-    std::vector<std::string> made = calls();
+    std::vector<std::string> made = takeCalls();
     EXPECT_EQ(std::find(made.begin(), made.end(), "VxUt::AddChildNode"), made.end());
     bench().editor().quitAbort();
     bench().profiles().save();
-    made = calls();
+    made = takeCalls();
     EXPECT_NE(std::find(made.begin(), made.end(), "VxUt::AddChildNode"), made.end());
 }
 
@@ -89,7 +89,7 @@ TEST_F(ManagerTest, ListenerThatLeavesFromInsideACallEndsTheEventAsAnInvalidArgu
     addListener(m_listener);
     leaving.act = [this](std::string_view) { removeListener(m_listener); };
     show();
-    EXPECT_EQ(texts("box"), std::vector<std::string>{"An invalid argument was encountered."});
+    EXPECT_EQ(takeTexts("box"), std::vector<std::string>{"An invalid argument was encountered."});
     leaving.act = nullptr;
     unload();
 }

@@ -1,6 +1,6 @@
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 
-#include "core/module.h"
+#include "module/module.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/bench.h"
 #include "workbench/navigation/navigation_tool.h"
@@ -22,23 +22,23 @@ class ToolClicksTest : public support::Bench {
 protected:
     void SetUp() override {
         showDashboard();
-        sent();
-        journal();
+        takeSent();
+        takeJournal();
     }
     void startOrbit() {
         type(L"3DORBIT\n");
         CTool* tool = nullptr;
         ASSERT_TRUE(OrbitInProgress(tool));
         ASSERT_NE(tool, nullptr);
-        sent();
-        journal();
+        takeSent();
+        takeJournal();
     }
     void loadNavigation() { ASSERT_TRUE(vxrxLoadModule(L"VxVmTools.qlx", false, true)); }
     /// Fields of the navigation records since the last look.
-    std::vector<workbench::JournalRecord> navigation() { return journal("navigation"); }
+    std::vector<workbench::JournalRecord> navigation() { return takeJournal("navigation"); }
     /// Whether the module's function was looked up.
     bool askedFor(const std::string& symbol) {
-        for (const auto& record : journal("call")) {
+        for (const auto& record : takeJournal("call")) {
             if (record.field("name") != workbench::Value("GetProcAddress"))
                 continue;
             for (const workbench::Value& argument : record.field("args").asList()) {
@@ -59,7 +59,7 @@ class NavigationModeTest : public ToolClicksTest, public testing::WithParamInter
 
 TEST_P(NavigationModeTest, RunsTheMacroWithoutANavigationTool) {
     click(item(GetParam().id));
-    const auto texts = sent();
+    const auto texts = takeSent();
     ASSERT_EQ(texts.size(), 1U);
     EXPECT_EQ(texts[0].way, "menu");
     type(L"\x1b");
@@ -69,7 +69,7 @@ TEST_P(NavigationModeTest, SwitchesTheRunningToolToItsMode) {
     loadNavigation();
     startOrbit();
     click(item(GetParam().id));
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     if (GetParam().mode < kFirstProjectionMode) {
         EXPECT_EQ(bench().navigation().mode(), GetParam().mode);
     } else {
@@ -82,7 +82,7 @@ TEST_P(NavigationModeTest, DoesNothingWhileTheModuleIsAway) {
     bench().faults().hide("VxVmTools.qlx");
     startOrbit();
     click(item(GetParam().id));
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_TRUE(navigation().empty());
     type(L"\x1b");
 }
@@ -92,7 +92,7 @@ TEST_P(NavigationModeTest, DoesNothingWhileTheSymbolIsMissing) {
     bench().faults().hide("VxVmTools.qlx", "navSwitchNavMode");
     startOrbit();
     click(item(GetParam().id));
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_TRUE(navigation().empty());
     type(L"\x1b");
 }
@@ -127,13 +127,13 @@ TEST_P(NavigationFunctionTest, LoadsTheModuleAndCallsItsFunction) {
     clickTool();
     EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVmTools"));
     EXPECT_TRUE(askedFor(GetParam().symbol));
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_P(NavigationFunctionTest, ModuleThatIsAwayGivesTheOneBoxWithItsName) {
     bench().faults().hide("VxVmTools.qlx");
     clickTool();
-    const auto boxes = texts("box");
+    const auto boxes = takeTexts("box");
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_NE(boxes[0].find("VxVmTools.qlx"), std::string::npos);
 }
@@ -141,8 +141,8 @@ TEST_P(NavigationFunctionTest, ModuleThatIsAwayGivesTheOneBoxWithItsName) {
 TEST_P(NavigationFunctionTest, MissingSymbolEndsTheClickSilently) {
     bench().faults().hide("VxVmTools.qlx", GetParam().symbol);
     clickTool();
-    EXPECT_TRUE(texts("box").empty());
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeTexts("box").empty());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Table, NavigationFunctionTest,
@@ -155,16 +155,16 @@ INSTANTIATE_TEST_SUITE_P(Table, NavigationFunctionTest,
 
 TEST_F(ToolClicksTest, WalkSettingsSendTheirMacroWithoutANavigationTool) {
     click(item(L"ID_3DWalk_Settings"));
-    const auto texts = sent();
+    const auto texts = takeSent();
     ASSERT_EQ(texts.size(), 1U);
     EXPECT_EQ(texts[0].way, "menu");
-    journal();
+    takeJournal();
 }
 
 TEST_F(ToolClicksTest, WalkSettingsCallTheModuleWhileANavigationToolRuns) {
     startOrbit();
     click(item(L"ID_3DWalk_Settings"));
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVmTools"));
     type(L"\x1b");
 }
@@ -194,7 +194,7 @@ TEST_F(OtherCaseToolTest, ModeToolSwitchesTheRunningTool) {
     loadNavigation();
     startOrbit();
     click(item(L"id_3dwalk"));
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
     EXPECT_EQ(bench().navigation().mode(), 17);
     type(L"\x1b");
 }

@@ -1,4 +1,4 @@
-#include "tests/core/manager_fixture.h"
+#include "tests/module/manager_fixture.h"
 #include "workbench/toolkit/lookup.h"
 
 #include <algorithm>
@@ -30,7 +30,7 @@ protected:
     /// The panel set and panels that got the theme since the journal was taken, in order.
     std::vector<std::string> themed() {
         std::vector<std::string> names;
-        for (const workbench::JournalRecord& record : journal("message")) {
+        for (const workbench::JournalRecord& record : takeJournal("message")) {
             const std::string& name = record.field("control").asString();
             CWnd* window = CWnd::FromHandle(control(name));
             const bool holdsPanels = dynamic_cast<CQrUiPanelSet*>(window) != nullptr;
@@ -57,12 +57,12 @@ protected:
 
 TEST_F(PanelNoticesTest, ThemeValueIsResetOnceBeforeThePaletteSetIsMade) {
     loadWithListener();
-    journal();
+    takeJournal();
     show();
     ASSERT_EQ(notify(kDashboardUnload), 1);
     ASSERT_EQ(notify(kDashboardReload), 1);
     std::vector<std::string> steps;
-    for (const workbench::JournalRecord& record : journal("call")) {
+    for (const workbench::JournalRecord& record : takeJournal("call")) {
         const std::string& name = record.field("name").asString();
         if (name == "CQrUiPaletteSet::Create")
             steps.push_back("create");
@@ -80,7 +80,7 @@ TEST_F(PanelNoticesTest, FirstShowSendsEachPanelTheThemeAtItsEndAndThroughThePan
         if (event == "willLoad")
             namePanelSet();
     };
-    journal();
+    takeJournal();
     show();
     const std::vector<std::string> names = themed();
     const auto through = std::find(names.begin(), names.end(), "PanelSet");
@@ -93,10 +93,10 @@ TEST_F(PanelNoticesTest, FirstShowSendsEachPanelTheThemeAtItsEndAndThroughThePan
 TEST_F(PanelNoticesTest, StateOfTheStylesIsReadAfterTheListenersHeardOfThePanels) {
     loadWithListener();
     noteInJournal();
-    journal();
+    takeJournal();
     show();
     std::vector<std::string> steps;
-    for (const workbench::JournalRecord& record : journal()) {
+    for (const workbench::JournalRecord& record : takeJournal()) {
         if (record.kind == "heard")
             steps.push_back(record.field("event").asString());
         else if (record.kind == "call" && record.field("name") == workbench::Value("vxedGetVar"))

@@ -1,4 +1,4 @@
-#include "tests/core/manager_fixture.h"
+#include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/palette_set_widget.h"
 
@@ -100,7 +100,7 @@ TEST_F(BarReturnTest, BarStaysHiddenForTheNextDocumentInCleanScreen) {
 TEST_F(BarReturnTest, ClosingOneOfTwoDocumentsChangesNothing) {
     showDashboard();
     newDocument(L"B");
-    journal();
+    takeJournal();
     closeDocument(L"A");
     EXPECT_TRUE(isOnScreen());
     EXPECT_FALSE(got(1725));
@@ -109,7 +109,7 @@ TEST_F(BarReturnTest, ClosingOneOfTwoDocumentsChangesNothing) {
 TEST_F(BarReturnTest, LastDocumentDuringTheQuitLeavesTheBar) {
     showDashboard();
     bench().editor().quitBegin();
-    journal();
+    takeJournal();
     closeDocument(L"A");
     EXPECT_TRUE(isOnScreen());
     EXPECT_FALSE(got(1725));

@@ -1,4 +1,4 @@
-#include "controls/control_table.h"
+#include "module/control_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
-#include "core/manager_reactors.h"
+#include "module/manager_reactors.h"
 
 #include "core/broadcast_messages.h"
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 #include "core/text.h"
 
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 #include "layer/filter_refresh.h"
 #include "palette/panel_set.h"
 

@@ -19,10 +19,10 @@ TEST_P(CommandsTest, ExistOnlyWhenTheEnvironmentSaysSo) {
     newDocument(L"A");
     type(L"DASHBOARDOLD\n");
     EXPECT_EQ(paletteSet() != nullptr, GetParam().enabled);
-    journal();
+    takeJournal();
     type(L"VIEWBACK\n");
     bool zoomedBack = false;
-    for (const std::string& call : calls())
+    for (const std::string& call : takeCalls())
         zoomedBack |= call == "vxInternalZoomBack";
     EXPECT_EQ(zoomedBack, GetParam().enabled);
 }
@@ -43,7 +43,7 @@ TEST_F(RegisteredCommandsTest, ShowCommandIsRegisteredBeforeTheStepBackEachWithI
     ASSERT_TRUE(load());
     std::vector<Arguments> commands;
     std::vector<Arguments> strings;
-    for (const workbench::JournalRecord& record : journal("call")) {
+    for (const workbench::JournalRecord& record : takeJournal("call")) {
         if (record.field("name") == workbench::Value("LoadString"))
             strings.push_back(record.field("args").asList());
         if (record.field("name") == workbench::Value("VxEdCommandStack::addCommand"))

@@ -1,4 +1,4 @@
-#include "tests/core/manager_fixture.h"
+#include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
 
 #include <algorithm>
@@ -59,7 +59,7 @@ protected:
     /// What came with the messages of a number that a control got since the journal was taken.
     std::vector<Parameters> parametersOf(std::int64_t number) {
         std::vector<Parameters> found;
-        for (const workbench::JournalRecord& record : journal("message")) {
+        for (const workbench::JournalRecord& record : takeJournal("message")) {
             if (record.field("control") == workbench::Value(kControl) &&
                 record.field("number") == workbench::Value(number))
                 found.push_back({record.field("wparam"), record.field("lparam")});
@@ -110,7 +110,7 @@ protected:
 
 TEST_P(EventTest, ReachesEveryControlOnceUnderItsNumberWithItsParameters) {
     showDashboard();
-    journal();
+    takeJournal();
     raise(GetParam().what);
     EXPECT_EQ(parametersOf(GetParam().number),
               (std::vector<Parameters>{{GetParam().wParam, GetParam().lParam}}));
@@ -146,9 +146,9 @@ TEST_F(BroadcastTest, DocumentEventsCarryTheDocumentItself) {
 TEST_F(BroadcastTest, FailedCommandIsToldLikeAStartAndNotLikeAnEnd) {
     showDashboard();
     begin(L"LINE");
-    journal();
+    takeJournal();
     finish("failed");
-    const auto messages = messagesOf(kControl);
+    const auto messages = takeMessagesOf(kControl);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), 1729), 1);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), 1730), 0);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), 1731), 0);
@@ -158,23 +158,23 @@ TEST_F(BroadcastTest, VariableChangeBeforeTheFirstShowReachesTheControlManagerAl
     env("ENABLEDASHBOARD", "1");
     ASSERT_TRUE(load());
     newDocument(L"A");
-    journal();
+    takeJournal();
     set(L"LTSCALE", 2.0);
-    const std::vector<std::string> made = calls();
+    const std::vector<std::string> made = takeCalls();
     EXPECT_NE(std::find(made.begin(), made.end(), "vxedGetVar"), made.end())
         << "the first change of any variable reads the material mode";
-    EXPECT_TRUE(messagesOf(kControl).empty());
+    EXPECT_TRUE(takeMessagesOf(kControl).empty());
 }
 
 TEST_F(BroadcastTest, EventsAfterThePanelsWentAreHarmless) {
     showDashboard();
     EXPECT_EQ(notify(kDashboardUnload), 1);
-    journal();
+    takeJournal();
     set(L"LTSCALE", 2.0);
     newDocument(L"B");
     closeDocument(L"B");
     bench().editor().viewChanged();
-    EXPECT_TRUE(messagesOf(kControl).empty());
+    EXPECT_TRUE(takeMessagesOf(kControl).empty());
 }
 
 }  // namespace

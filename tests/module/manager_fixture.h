@@ -64,7 +64,7 @@ protected:
         show();
         ASSERT_TRUE(isOnScreen());
         m_listener.take();
-        journal();
+        takeJournal();
     }
     void addListener(VxDaDashboardReactor& listener) {
         exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(&listener, 1);
@@ -75,7 +75,7 @@ protected:
     void show() { type(L"DASHBOARDOLD\n"); }
     bool isOnScreen() { return paletteSet() != nullptr && paletteSet()->IsWindowVisible(); }
     bool got(std::int64_t number) {
-        const auto messages = messagesOf(kControl);
+        const auto messages = takeMessagesOf(kControl);
         return std::find(messages.begin(), messages.end(), number) != messages.end();
     }
 

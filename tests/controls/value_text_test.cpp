@@ -1,4 +1,4 @@
-#include "nav3d/value_text.h"
+#include "controls/value_text.h"
 
 #include "tests/palette/palette_fixture.h"
 #include "workbench/editor/editor.h"

@@ -1,8 +1,8 @@
-#include "controls/tool_clicks.h"
+#include "nav3d/navigation_tools.h"
 
 #include "controls/cmd_util.h"
-#include "controls/control_manager.h"
-#include "controls/lighting_tools.h"
+#include "module/control_manager.h"
+#include "light/lighting_tools.h"
 
 #include "core/constants.h"
 #include "core/host_objects.h"

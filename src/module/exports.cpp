@@ -1,7 +1,7 @@
-#include "core/manager.h"
-#include "core/module.h"
+#include "module/manager.h"
+#include "module/module.h"
 
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 #include "nav3d/force_update.h"
 #include "palette/dashboard.h"
 #include "palette/panel_set.h"

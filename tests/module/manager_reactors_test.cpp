@@ -1,7 +1,7 @@
-#include "core/manager_reactors.h"
+#include "module/manager_reactors.h"
 
-#include "controls/control_manager.h"
-#include "core/module.h"
+#include "module/control_manager.h"
+#include "module/module.h"
 #include "layer/filter_refresh.h"
 #include "tests/palette/palette_fixture.h"
 #include "visualstyle/material_mode.h"

@@ -1,4 +1,4 @@
-#include "controls/control_table.h"
+#include "module/control_table.h"
 
 #include "controls/toolbar_group_ctrl.h"
 

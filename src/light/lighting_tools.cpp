@@ -1,7 +1,7 @@
-#include "controls/lighting_tools.h"
+#include "light/lighting_tools.h"
 
 #include "controls/cmd_util.h"
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 #include "controls/variable_access.h"
 
 #include "core/host_objects.h"

@@ -1,14 +1,14 @@
-#include "core/module.h"
+#include "module/module.h"
 
-#include "core/commands.h"
+#include "module/commands.h"
 #include "core/constants.h"
 #include "core/host_objects.h"
-#include "core/manager.h"
+#include "module/manager.h"
 #include "core/resources.h"
 #include "core/text.h"
 #include "core/theme.h"
 
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 #include "visualstyle/style_reactors.h"
 
 #include <hostapi/qrui18/palette_set.h>

@@ -18,8 +18,8 @@ class LightingToolsTest : public support::Bench {
 protected:
     void SetUp() override {
         showDashboard();
-        sent();
-        journal();
+        takeSent();
+        takeJournal();
     }
     void clickTool(const wchar_t* id) { click(item(id)); }
     void goToPaperSpace() {
@@ -44,10 +44,10 @@ protected:
 TEST_P(LightToggleTest, ClickAtRestTurnsTheVariableOverAtOnce) {
     set(GetParam().variable, 0);
     clickTool(GetParam().id);
-    EXPECT_EQ(sent(), Texts{full(1)});
+    EXPECT_EQ(takeSent(), Texts{full(1)});
     EXPECT_EQ(number(GetParam().variable), 1);
     clickTool(GetParam().id);
-    EXPECT_EQ(sent(), Texts{full(0)});
+    EXPECT_EQ(takeSent(), Texts{full(0)});
     EXPECT_EQ(number(GetParam().variable), 0);
 }
 
@@ -55,11 +55,11 @@ TEST_P(LightToggleTest, ClickDuringACommandCancelsItAndWaitsForTheQuietMoment) {
     set(GetParam().variable, 0);
     begin(L"LINE");
     clickTool(GetParam().id);
-    EXPECT_EQ(sent(), (Texts{{"\x03\x03", "cancel"}}));
+    EXPECT_EQ(takeSent(), (Texts{{"\x03\x03", "cancel"}}));
     EXPECT_NE(number(L"CMDACTIVE"), 0) << "it was told to stop and has not stopped yet";
     EXPECT_EQ(number(GetParam().variable), 0);
     idle();
-    EXPECT_EQ(sent(), Texts{full(1)});
+    EXPECT_EQ(takeSent(), Texts{full(1)});
     EXPECT_EQ(number(L"CMDACTIVE"), 0);
     EXPECT_EQ(number(GetParam().variable), 1);
 }
@@ -69,9 +69,9 @@ TEST_P(LightToggleTest, TwoClicksDuringACommandRunInOrderAndTheSecondUndoesTheFi
     begin(L"LINE");
     clickTool(GetParam().id);
     clickTool(GetParam().id);
-    sent();
+    takeSent();
     idle();
-    EXPECT_EQ(sent(), (Texts{full(1), full(0)}));
+    EXPECT_EQ(takeSent(), (Texts{full(1), full(0)}));
     EXPECT_EQ(number(GetParam().variable), 0);
 }
 
@@ -79,7 +79,7 @@ TEST_P(LightToggleTest, PaperSpaceSendsTheBareCommandAndTouchesNoVariable) {
     set(GetParam().variable, 0);
     goToPaperSpace();
     clickTool(GetParam().id);
-    EXPECT_EQ(sent(), (Texts{{bare(), "line"}}));
+    EXPECT_EQ(takeSent(), (Texts{{bare(), "line"}}));
     EXPECT_EQ(number(GetParam().variable), 0);
     type(L"\x1b");
 }
@@ -87,7 +87,7 @@ TEST_P(LightToggleTest, PaperSpaceSendsTheBareCommandAndTouchesNoVariable) {
 TEST_P(LightToggleTest, BlockEditorSendsTheBareCommandInModelSpaceToo) {
     set(L"BLOCKEDITOR", 1);
     clickTool(GetParam().id);
-    EXPECT_EQ(sent(), (Texts{{bare(), "line"}}));
+    EXPECT_EQ(takeSent(), (Texts{{bare(), "line"}}));
     type(L"\x1b");
 }
 
@@ -95,30 +95,30 @@ TEST_P(LightToggleTest, FocusGoesToTheCommandLineBeforeTheCancel) {
     begin(L"LINE");
     clickTool(GetParam().id);
     EXPECT_EQ(CWnd::GetFocus(), vxedGetZorqDockCmdLine());
-    sent();
+    takeSent();
     idle();
-    sent();
+    takeSent();
 }
 
 TEST_P(LightToggleTest, ClosingTheDocumentDropsWhatWaits) {
     newDocument(L"B");
     begin(L"LINE");
     clickTool(GetParam().id);
-    sent();
+    takeSent();
     closeDocument(L"B");
     idle();
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 TEST_P(LightToggleTest, CommandRunsUnderALockThatEndsWithIt) {
-    journal();
+    takeJournal();
     clickTool(GetParam().id);
-    const std::vector<std::string> made = calls();
+    const std::vector<std::string> made = takeCalls();
     const auto command = std::find(made.begin(), made.end(), "do_cmd");
     ASSERT_NE(command, made.end());
     EXPECT_NE(std::find(made.begin(), command, "VxAxDocLock::VxAxDocLock"), command);
     EXPECT_EQ(vxDocManagerPtr()->curDocument()->lockMode() & kDocLockWrite, 0);
-    sent();
+    takeSent();
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -131,14 +131,14 @@ TEST_F(LightingToolsTest, UnreadableSunStatusSendsZero) {
     set(L"SUNSTATUS", 0);
     fail("vxedGetVar:SUNSTATUS");
     clickTool(L"ID_SunStatus");
-    EXPECT_EQ(sent(), (Texts{{"_sunstatus\n0\n", "do_cmd"}}));
+    EXPECT_EQ(takeSent(), (Texts{{"_sunstatus\n0\n", "do_cmd"}}));
 }
 
 TEST_F(LightingToolsTest, UnreadableDefaultLightingSendsOne) {
     set(L"DEFAULTLIGHTING", 1);
     fail("vxedGetVar:DEFAULTLIGHTING");
     clickTool(L"ID_DefaultLighting");
-    EXPECT_EQ(sent(), (Texts{{"_defaultlighting\n1\n", "do_cmd"}}));
+    EXPECT_EQ(takeSent(), (Texts{{"_defaultlighting\n1\n", "do_cmd"}}));
 }
 
 // The sky
@@ -155,11 +155,11 @@ class SkyTest : public LightingToolsTest, public testing::WithParamInterface<Sky
 TEST_P(SkyTest, ClickSendsTheNewStateOnlyIfItDiffers) {
     set(L"PERSPECTIVE", 1);
     type(L"SKYSTATUS\n" + std::to_wstring(GetParam().before) + L"\n");
-    sent();
+    takeSent();
     clickTool(GetParam().id);
     const Texts expected =
         GetParam().text == nullptr ? Texts{} : Texts{{GetParam().text, "do_cmd"}};
-    EXPECT_EQ(sent(), expected);
+    EXPECT_EQ(takeSent(), expected);
     EXPECT_EQ(number(L"SKYSTATUS"), GetParam().after);
 }
 
@@ -179,45 +179,45 @@ TEST_F(LightingToolsTest, SkyInAParallelViewTurnsPerspectiveOn) {
     set(L"PERSPECTIVE", 0);
     clickTool(L"ID_Skylight_Background");
     EXPECT_EQ(number(L"PERSPECTIVE"), 1);
-    EXPECT_EQ(sent(), (Texts{{"_skystatus\n1\n", "do_cmd"}}));
+    EXPECT_EQ(takeSent(), (Texts{{"_skystatus\n1\n", "do_cmd"}}));
 }
 
 TEST_F(LightingToolsTest, SkyOffLeavesAParallelViewAlone) {
     type(L"SKYSTATUS\n2\n");
     set(L"PERSPECTIVE", 0);
-    sent();
+    takeSent();
     clickTool(L"ID_Skylight_Off");
     EXPECT_EQ(number(L"PERSPECTIVE"), 0);
-    EXPECT_EQ(sent().size(), 1U);
+    EXPECT_EQ(takeSent().size(), 1U);
 }
 
 TEST_F(LightingToolsTest, SkyDuringACommandCancelsItAndWaitsForTheQuietMoment) {
     set(L"PERSPECTIVE", 1);
     begin(L"LINE");
     clickTool(L"ID_Skylight_Background");
-    EXPECT_EQ(sent(), (Texts{{"\x03\x03", "cancel"}}));
+    EXPECT_EQ(takeSent(), (Texts{{"\x03\x03", "cancel"}}));
     EXPECT_EQ(number(L"SKYSTATUS"), 0);
     idle();
-    EXPECT_EQ(sent(), (Texts{{"_skystatus\n1\n", "do_cmd"}}));
+    EXPECT_EQ(takeSent(), (Texts{{"_skystatus\n1\n", "do_cmd"}}));
     EXPECT_EQ(number(L"SKYSTATUS"), 1);
 }
 
 TEST_F(LightingToolsTest, SkysLockEndsAfterTheCommandAndBeforeTheMainWindowIsActivated) {
-    journal();
+    takeJournal();
     clickTool(L"ID_Skylight_Background");
-    const std::vector<std::string> made = calls();
+    const std::vector<std::string> made = takeCalls();
     const auto command = std::find(made.begin(), made.end(), "do_cmd");
     const auto unlock = std::find(command, made.end(), "VxAxDocLock::~VxAxDocLock");
     ASSERT_NE(unlock, made.end());
     EXPECT_EQ(std::find(made.begin(), unlock, "AfxGetMainWnd"), unlock);
     EXPECT_NE(std::find(unlock, made.end(), "AfxGetMainWnd"), made.end());
-    sent();
+    takeSent();
 }
 
 TEST_F(LightingToolsTest, UnreadableSkySendsNothing) {
     fail("vxedActiveViewportId");
     clickTool(L"ID_Skylight_Background");
-    EXPECT_TRUE(sent().empty());
+    EXPECT_TRUE(takeSent().empty());
 }
 
 // IDs in another case
@@ -254,9 +254,9 @@ TEST_P(OtherCaseLightTest, ActsAsItsTool) {
     for (const wchar_t* variable : {L"DEFAULTLIGHTING", L"SUNSTATUS", L"LIGHTGLYPHDISPLAY"})
         set(variable, 0);
     type(L"SKYSTATUS\n" + std::to_wstring(GetParam().sky) + L"\n");
-    sent();
+    takeSent();
     clickTool(GetParam().id);
-    EXPECT_EQ(sent(), (Texts{{GetParam().text, "do_cmd"}}));
+    EXPECT_EQ(takeSent(), (Texts{{GetParam().text, "do_cmd"}}));
 }
 
 INSTANTIATE_TEST_SUITE_P(

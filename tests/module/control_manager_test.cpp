@@ -1,4 +1,4 @@
-#include "controls/control_manager.h"
+#include "module/control_manager.h"
 
 #include "layer/filter_refresh.h"
 #include "tests/palette/palette_fixture.h"
