@@ -46,7 +46,7 @@ void readPanel(IXMLDOMNode* node, PanelRecords& records) {
     const int index = findPanelRecord(records, menuGroup, id);
     if (index < 0)
         return;
-    PanelRecord& record = records[static_cast<std::size_t>(index)];
+    PanelRecord& record = *records[static_cast<std::size_t>(index)];
     record.toolPaletteGroup = group;
     if (record.panel != nullptr)
         record.panel->setToolPaletteGroup(group);
@@ -91,8 +91,8 @@ bool writeSavedPanels(IXMLDOMNode* node, const PanelRecords& records) {
     const NodePtr panelSet = addElement(node, kPanelSetNode);
     if (panelSet == nullptr)
         return false;
-    for (const PanelRecord& record : records) {
-        if (!writePanel(panelSet.get(), record))
+    for (const auto& record : records) {
+        if (!writePanel(panelSet.get(), *record))
             return false;
     }
     return true;

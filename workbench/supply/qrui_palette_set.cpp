@@ -29,7 +29,8 @@ PaletteSetState& stateOf(const CQrUiPaletteSet* set) {
 CQrUiPaletteSet::CQrUiPaletteSet(UINT /*reserved*/) {}
 
 CQrUiPaletteSet::~CQrUiPaletteSet() {
-    DestroyWindow();
+    if (m_hWnd != nullptr)
+        DestroyWindow();
     toolkit().paletteSets().erase(this);
     toolkit().frame().layout();
 }

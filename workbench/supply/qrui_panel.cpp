@@ -22,7 +22,8 @@ Toolkit& toolkit() {
 }  // namespace
 
 CQrUiPanel::~CQrUiPanel() {
-    DestroyWindow();
+    if (m_hWnd != nullptr)
+        DestroyWindow();
     if (const PanelState* const state = toolkit().panels().find(this); state != nullptr) {
         for (const auto& image : state->images)
             toolkit().pictures().release(image.second);

@@ -23,7 +23,8 @@ PanelSetState& stateOf(const CQrUiPanelSet* set) {
 }  // namespace
 
 CQrUiPanelSet::~CQrUiPanelSet() {
-    DestroyWindow();
+    if (m_hWnd != nullptr)
+        DestroyWindow();
     Workbench::current().toolkit().panelSets().erase(this);
 }
 

@@ -23,7 +23,8 @@ ToolPanelState& stateOf(const CQrUiToolPanel* panel) {
 }  // namespace
 
 CQrUiToolPanel::~CQrUiToolPanel() {
-    DestroyWindow();
+    if (m_hWnd != nullptr)
+        DestroyWindow();
     Workbench::current().toolkit().toolPanels().erase(this);
 }
 

@@ -1,6 +1,6 @@
-#include "nav3d/view_state.h"
+#include "controls/view_state.h"
 
-#include "nav3d/current_view.h"
+#include "controls/current_view.h"
 
 #include "controls/variable_access.h"
 

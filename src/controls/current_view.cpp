@@ -1,4 +1,4 @@
-#include "nav3d/current_view.h"
+#include "controls/current_view.h"
 
 #include <hostapi/zorq/views.h>
 

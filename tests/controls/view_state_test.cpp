@@ -1,4 +1,4 @@
-#include "nav3d/view_state.h"
+#include "controls/view_state.h"
 
 #include "tests/palette/palette_fixture.h"
 #include "workbench/editor/editor.h"
