@@ -4,7 +4,6 @@
 #include "workbench/commands/answers.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/core/answers.h"
-#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
@@ -160,7 +159,7 @@ public:
 
     CommandState start(const CommandScope& scope) override {
         scope.editor.journal().add("dialog", {{"name", m_dialog}});
-        const std::optional<Value> answer = Workbench::current().answers().take("dialog");
+        const std::optional<Value> answer = scope.editor.answers().take("dialog");
         const Value* const name = answer ? answer->member("name") : nullptr;
         if (name == nullptr || !name->isString())
             return CommandState::Cancelled;

@@ -5,8 +5,10 @@
 
 namespace workbench {
 
-Editor::Editor(Journal& journal, ProfileValues& profileValues, SystemRegistry& registry)
+Editor::Editor(Journal& journal, Answers& answers, ProfileValues& profileValues,
+               SystemRegistry& registry)
     : m_journal(journal),
+      m_answers(answers),
       m_profileValues(profileValues),
       m_objects(*this, registry) {
     addHostCommands(m_commands);

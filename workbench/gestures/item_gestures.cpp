@@ -1,9 +1,9 @@
 #include "workbench/gestures/item_gestures.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/row_layout.h"

@@ -1,8 +1,8 @@
 #include "workbench/gestures/list_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/windows/window_system.h"
 

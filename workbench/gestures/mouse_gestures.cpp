@@ -1,7 +1,7 @@
 #include "workbench/gestures/mouse_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 

@@ -1,8 +1,8 @@
 #include "workbench/gestures/slider_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/toolkit.h"

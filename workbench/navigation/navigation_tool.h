@@ -10,6 +10,7 @@
 namespace workbench {
 
 class Editor;
+class ModuleLoader;
 
 /// How far the recording of an animation is.
 enum class AnimationState { None, Recording, Paused, Playing };
@@ -33,8 +34,8 @@ public:
     static constexpr int kPerspectiveProjection = 4316;  ///< likewise
     /// @}
 
-    /// Adds the commands that start the tool to the editor's. The editor must outlive it.
-    NavigationTool(Editor& editor, Journal& journal);
+    /// Adds the commands that start the tool to the editor's. All of them must outlive it.
+    NavigationTool(Editor& editor, ModuleLoader& modules, Journal& journal);
     NavigationTool(const NavigationTool&) = delete;
     NavigationTool& operator=(const NavigationTool&) = delete;
     ~NavigationTool();
@@ -90,6 +91,7 @@ private:
     void noteMode();
 
     Editor& m_editor;
+    ModuleLoader& m_modules;
     Journal& m_journal;
     GraphicsSystem m_graphics;
     std::optional<CTool> m_tool;  // nothing: none runs

@@ -1,8 +1,8 @@
 #include "workbench/base/text.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/variables/result_buffer.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/zorq/variables.h>
 

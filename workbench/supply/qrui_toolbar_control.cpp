@@ -1,5 +1,5 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolbar/toolbar_window.h"
 
 #include <hostapi/qrui18/toolbar_control.h>

@@ -1,13 +1,13 @@
 #include "workbench/toolbar/toolbar_list.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/text_style.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/menu/menu_host.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "workbench/toolbar/toolbar_window.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolbar/toolbar_list.h"
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/input_messages.h"

@@ -1,7 +1,7 @@
 #include "workbench/toolkit/combo_widget.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"

@@ -1,6 +1,6 @@
 #include "workbench/toolkit/container_widget.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>

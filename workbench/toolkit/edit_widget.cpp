@@ -1,6 +1,6 @@
 #include "workbench/toolkit/edit_widget.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"
 #include "workbench/windows/window_system.h"

@@ -1,7 +1,7 @@
 #include "workbench/toolkit/item_notes.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 
 #include <hostapi/zorq/menu_data.h>

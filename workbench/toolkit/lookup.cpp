@@ -1,6 +1,6 @@
 #include "workbench/toolkit/lookup.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/panel_widget.h"

@@ -1,6 +1,6 @@
 #include "workbench/toolkit/mouse.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"

@@ -1,7 +1,7 @@
 #include "workbench/toolkit/notes.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
 #include <optional>

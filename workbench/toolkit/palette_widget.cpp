@@ -1,6 +1,6 @@
 #include "workbench/toolkit/palette_widget.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/windows/window_system.h"
 

@@ -1,6 +1,6 @@
 #include "workbench/toolkit/panel_set_widget.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"

@@ -1,6 +1,6 @@
 #include "workbench/toolkit/tool_panel_layout.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/tool_panel_widget.h"

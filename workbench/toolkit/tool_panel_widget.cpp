@@ -1,7 +1,7 @@
 #include "workbench/toolkit/tool_panel_widget.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"

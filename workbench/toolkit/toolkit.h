@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/balloon_tips.h"
 #include "workbench/toolkit/main_frame.h"
 #include "workbench/toolkit/message_boxes.h"

@@ -1,7 +1,7 @@
 #include "workbench/desktop/app/collapsed_panels.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"

@@ -2,9 +2,9 @@
 
 #include "workbench/base/input_error.h"
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/menu/menu_reader.h"

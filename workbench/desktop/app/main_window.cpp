@@ -2,7 +2,6 @@
 
 #include "workbench/base/input_error.h"
 #include "workbench/commands/command_processor.h"
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
@@ -21,6 +20,7 @@
 #include "workbench/desktop/panes/status_fields.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/variables/variable_definition.h"
+#include "workbench/host/workbench.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"

@@ -1,6 +1,5 @@
 #include "workbench/desktop/app/reveal.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/mirror/item_widget.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/stage.h"
@@ -8,6 +7,7 @@
 #include "workbench/desktop/panes/panel_search.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/menu_gestures.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"

@@ -1,7 +1,7 @@
 #include "workbench/desktop/panes/panel_search.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/look/text.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"

@@ -1,5 +1,5 @@
-#include "workbench/core/workbench.h"
 #include "workbench/editor/object_adapters.h"
+#include "workbench/host/workbench.h"
 #include "workbench/modules/module_start.h"
 #include "workbench/navigation/navigation_tool.h"
 #include "workbench/navigation/preset_views.h"

@@ -1,6 +1,6 @@
 #include "workbench/desktop/app/host_actions.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/profiles/profile_store.h"

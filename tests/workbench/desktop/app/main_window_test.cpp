@@ -1,7 +1,7 @@
 #include "workbench/desktop/app/main_window.h"
 
 #include "tests/workbench/desktop/events.h"
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/document_tabs.h"

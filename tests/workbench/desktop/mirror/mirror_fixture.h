@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/workbench/desktop/events.h"
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/text.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/mirror/item_widget.h"

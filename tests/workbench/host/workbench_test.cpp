@@ -1,4 +1,4 @@
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 
 #include "workbench/base/input_error.h"
 #include "workbench/windows/window_system.h"

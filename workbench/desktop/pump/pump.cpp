@@ -1,6 +1,6 @@
-#include "workbench/desktop/app/pump.h"
+#include "workbench/desktop/pump/pump.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/core/answers.h"
+#include "workbench/core/call_desk.h"
 #include "workbench/core/clock.h"
 #include "workbench/core/faults.h"
 #include "workbench/core/journal.h"
@@ -81,6 +82,7 @@ private:
     Clock m_clock;
     Journal m_journal{m_clock};
     Faults m_faults;
+    CallDesk m_callDesk{m_journal, m_faults};
     Answers m_answers;
     std::unique_ptr<WindowSystem> m_windows;
     std::unique_ptr<ModuleLoader> m_modules;

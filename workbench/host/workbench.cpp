@@ -1,4 +1,4 @@
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 
 #include "workbench/editor/editor.h"
 #include "workbench/loader/module_loader.h"
@@ -50,13 +50,13 @@ Workbench* Workbench::living() {
 
 void Workbench::makeUnits() {
     m_windows = std::make_unique<WindowSystem>(m_clock, m_journal);
-    m_modules = std::make_unique<ModuleLoader>(m_options, m_faults);
+    m_modules = std::make_unique<ModuleLoader>(m_options.libraryDir, m_faults);
     m_toolkit = std::make_unique<Toolkit>(*this);
     m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
-    m_editor = std::make_unique<Editor>(m_journal, *m_profiles, m_modules->registry());
-    m_menu = std::make_unique<MenuHost>(m_options, m_modules->libraries());
+    m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
+    m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
-    m_navigation = std::make_unique<NavigationTool>(*m_editor, m_journal);
+    m_navigation = std::make_unique<NavigationTool>(*m_editor, *m_modules, m_journal);
 }
 
 /// Unloads what is still loaded while all units live, then ends them in the opposite order of their

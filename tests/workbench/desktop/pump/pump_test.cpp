@@ -1,6 +1,6 @@
-#include "workbench/desktop/app/pump.h"
+#include "workbench/desktop/pump/pump.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
