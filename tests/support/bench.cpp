@@ -219,12 +219,12 @@ CQrUiPaletteSet* Bench::paletteSet() {
 }
 
 CQrUiToolPanelItem* Bench::item(const std::wstring& id, std::size_t number) {
-    const auto items = workbench::findItems(id);
+    const auto items = workbench::findItems(bench().windows(), id);
     return number <= items.size() ? items[number - 1] : nullptr;
 }
 
 CQrUiPanel* Bench::panel(const std::wstring& id, std::size_t number) {
-    const auto panels = workbench::findPanels(id);
+    const auto panels = workbench::findPanels(bench().windows(), id);
     return number <= panels.size() ? panels[number - 1] : nullptr;
 }
 
@@ -238,7 +238,7 @@ HWND Bench::part(HWND control, const std::string& part) {
 
 std::vector<std::wstring> Bench::panelsOnScreen() {
     std::vector<std::wstring> ids;
-    for (const CQrUiPanel* panel : workbench::allPanels()) {
+    for (const CQrUiPanel* panel : workbench::allPanels(bench().windows())) {
         if (bench().windows().isOnScreen(panel->m_hWnd))
             ids.push_back(panel->GetID());
     }
@@ -247,7 +247,7 @@ std::vector<std::wstring> Bench::panelsOnScreen() {
 
 void Bench::click(CQrUiToolPanelItem* item) {
     ASSERT_NE(item, nullptr);
-    workbench::gestures::clickItem(*item);
+    workbench::gestures::clickItem(bench().toolkit(), *item);
     settle();
 }
 

@@ -51,7 +51,7 @@ Workbench* Workbench::living() {
 void Workbench::makeUnits() {
     m_windows = std::make_unique<WindowSystem>(m_clock, m_journal);
     m_modules = std::make_unique<ModuleLoader>(m_options.libraryDir, m_faults);
-    m_toolkit = std::make_unique<Toolkit>(*this);
+    m_toolkit = std::make_unique<Toolkit>(*m_windows, m_journal, m_answers, m_texts);
     m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
     m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
     m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());

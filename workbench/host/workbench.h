@@ -5,6 +5,7 @@
 #include "workbench/core/clock.h"
 #include "workbench/core/faults.h"
 #include "workbench/core/journal.h"
+#include "workbench/host/host_texts.h"
 
 #include <filesystem>
 #include <functional>
@@ -84,6 +85,7 @@ private:
     Faults m_faults;
     CallDesk m_callDesk{m_journal, m_faults};
     Answers m_answers;
+    HostTexts m_texts{*this};
     std::unique_ptr<WindowSystem> m_windows;
     std::unique_ptr<ModuleLoader> m_modules;
     std::unique_ptr<Toolkit> m_toolkit;

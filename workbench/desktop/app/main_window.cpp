@@ -67,7 +67,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
       m_commandLine(new CommandLine),
       m_status(new StatusFields),
       m_journal(new JournalPane(workbench.journal())),
-      m_search(new SearchBox(workbench)),
+      m_search(new SearchBox(workbench.toolkit())),
       m_journalDock(new QDockWidget(QStringLiteral("Journal"), this)) {
     setWindowTitle(QStringLiteral("Workbench"));
     setCentralWidget(m_home);
@@ -143,7 +143,7 @@ void MainWindow::onRest() {
 void MainWindow::leaveDashboard(const QWidget* now) {
     const bool isPane = now != nullptr && dynamic_cast<const MirrorWidget*>(now) == nullptr &&
                         now->window() == this;
-    if (!isPane || paletteSetAbove(m_stage.windows.focus()) == nullptr)
+    if (!isPane || paletteSetAbove(m_stage.windows, m_stage.windows.focus()) == nullptr)
         return;
     m_pump.act([this] { m_stage.windows.setFocus(m_stage.toolkit.frame().drawingView().m_hWnd); });
 }
@@ -200,12 +200,12 @@ void MainWindow::recall() {
         tell(complaint);
     if (state.shade)
         setShade(*state.shade);
-    m_pump.act([&] { collapsePanels(m_stage.windows, state.rolledUp); });
+    m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
 }
 
 void MainWindow::remember() {
     m_workbench.profiles().save();
-    DesktopState{m_shade, collapsedPanels(m_stage.windows)}.write(m_workbench.profiles().folder());
+    DesktopState{m_shade, collapsedPanels(m_stage.toolkit)}.write(m_workbench.profiles().folder());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

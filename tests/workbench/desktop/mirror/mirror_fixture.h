@@ -54,7 +54,7 @@ protected:
         return widget(window(control, part));
     }
     ItemWidget* item(const std::wstring& id) {
-        CQrUiToolPanelItem* wanted = findItems(id).at(0);
+        CQrUiToolPanelItem* wanted = findItems(windows(), id).at(0);
         MirrorWidget* panel = widget(toolPanelOf(*wanted)->m_hWnd);
         for (ItemWidget* each : panel->items()) {
             if (each->item() == wanted)

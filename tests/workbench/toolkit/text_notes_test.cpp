@@ -1,14 +1,17 @@
-#include "workbench/toolkit/notes.h"
+#include "workbench/toolkit/text_notes.h"
 
 #include "tests/workbench/toolkit/toolkit_fixture.h"
 
 namespace workbench {
 namespace {
 
-class NotesTest : public ToolkitTest {};
+class TextNotesTest : public ToolkitTest {
+protected:
+    TextNotes m_notes{journal(), toolkit().texts()};
+};
 
-TEST_F(NotesTest, ATextFromElsewhereHasNoNumberAndNobodyIsNil) {
-    noteText(journal(), "tip", L"caf\u00e9", "");
+TEST_F(TextNotesTest, ATextFromElsewhereHasNoNumberAndNobodyIsNil) {
+    m_notes.note("tip", L"caf\u00e9", "");
     const JournalRecord& tip = journal().records().back();
     EXPECT_EQ(tip.kind, "tip");
     EXPECT_EQ(tip.field("text"), Value("caf\xc3\xa9"));
@@ -16,9 +19,9 @@ TEST_F(NotesTest, ATextFromElsewhereHasNoNumberAndNobodyIsNil) {
     EXPECT_TRUE(tip.field("owner").isNil());
 }
 
-TEST_F(NotesTest, NothingIsNotedWhileNothingIsRecorded) {
+TEST_F(TextNotesTest, NothingIsNotedWhileNothingIsRecorded) {
     journal().setRecording(false);
-    noteText(journal(), "tip", L"x", "Owner");
+    m_notes.note("tip", L"x", "Owner");
     EXPECT_TRUE(journal().records().empty());
 }
 
