@@ -1,7 +1,7 @@
 #include "tests/support/bench.h"
 
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/loader/module_loader.h"
@@ -9,6 +9,8 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
+
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -29,8 +31,10 @@ class Bench::File {
 public:
     explicit File(const std::string& text) {
         std::string name = (std::filesystem::temp_directory_path() / "vxtest-XXXXXX").string();
-        if (mkstemp(name.data()) < 0)
+        const int file = mkstemp(name.data());
+        if (file < 0)
             throw std::runtime_error("no temporary file");
+        close(file);
         m_path = name;
         std::ofstream(m_path) << text;
     }

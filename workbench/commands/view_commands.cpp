@@ -5,11 +5,11 @@
 #include "workbench/commands/host_commands.h"
 #include "workbench/core/answers.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/preset_views.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/editor.h"
-#include "workbench/navigation/preset_views.h"
 
 #include <algorithm>
 #include <iterator>
@@ -20,6 +20,7 @@ namespace {
 
 using drawing::Database;
 using drawing::ObjectId;
+using drawing::PresetView;
 using drawing::RecordKind;
 using drawing::View;
 using drawing::Viewport;

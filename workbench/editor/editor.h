@@ -1,13 +1,13 @@
 #pragma once
 
-#include "workbench/commands/command_registry.h"
 #include "workbench/core/answers.h"
 #include "workbench/core/journal.h"
+#include "workbench/editor/command_registry.h"
 #include "workbench/editor/document_list.h"
 #include "workbench/editor/editor_objects.h"
 #include "workbench/editor/editor_reactors.h"
 #include "workbench/editor/profile_values.h"
-#include "workbench/editor/variables/system_variables.h"
+#include "workbench/editor/system_variables.h"
 
 #include <string_view>
 

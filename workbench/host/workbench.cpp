@@ -1,5 +1,6 @@
 #include "workbench/host/workbench.h"
 
+#include "workbench/commands/host_commands.h"
 #include "workbench/editor/editor.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
@@ -54,6 +55,7 @@ void Workbench::makeUnits() {
     m_toolkit = std::make_unique<Toolkit>(*m_windows, m_journal, m_answers, m_texts);
     m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
     m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
+    addHostCommands(m_editor->commands());
     m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
     m_navigation = std::make_unique<NavigationTool>(*m_editor, *m_modules, m_journal);

@@ -110,7 +110,7 @@ void NavigationTool::setLens(double lens) {
     show(*view);
 }
 
-void NavigationTool::restorePreset(PresetView preset) {
+void NavigationTool::restorePreset(drawing::PresetView preset) {
     std::optional<drawing::ViewParameters> view = shown();
     if (!view)
         return;

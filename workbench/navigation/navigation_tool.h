@@ -1,8 +1,8 @@
 #pragma once
 
 #include "workbench/core/journal.h"
+#include "workbench/drawing/preset_views.h"
 #include "workbench/navigation/graphics_system.h"
-#include "workbench/navigation/preset_views.h"
 #include "workbench/navigation/tool.h"
 
 #include <optional>
@@ -60,7 +60,7 @@ public:
 
     /// Millimetres; nothing for a lens that isn't above 0.
     void setLens(double lens);
-    void restorePreset(PresetView preset);
+    void restorePreset(drawing::PresetView preset);
     /// Takes the parameters of a named view; nothing for another object.
     void restoreNamed(drawing::ObjectId view);
     /// Moves one end of the line of sight, at the same angle of view; nothing if it met the other.

@@ -1,5 +1,5 @@
-#include "workbench/commands/command_processor.h"
 #include "workbench/core/host_call.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
 

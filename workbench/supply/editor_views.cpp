@@ -1,3 +1,4 @@
+#include "workbench/adapters/host_values.h"
 #include "workbench/core/host_call.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/viewport.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
 

@@ -1,7 +1,7 @@
 #include "workbench/menu/menu_host.h"
 
 #include "workbench/base/input_error.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
 #include "tests/workbench/host/test_options.h"

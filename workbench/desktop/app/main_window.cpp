@@ -1,7 +1,6 @@
 #include "workbench/desktop/app/main_window.h"
 
 #include "workbench/base/input_error.h"
-#include "workbench/commands/command_processor.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
@@ -18,6 +17,7 @@
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
 #include "workbench/desktop/panes/status_fields.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/variables/variable_definition.h"
 #include "workbench/host/workbench.h"

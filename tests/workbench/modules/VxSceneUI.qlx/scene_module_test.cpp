@@ -1,8 +1,8 @@
 #include "tests/workbench/host/test_options.h"
 
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
 #include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
