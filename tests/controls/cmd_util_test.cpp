@@ -1,7 +1,7 @@
 #include "controls/cmd_util.h"
 
 #include "tests/palette/palette_fixture.h"
-#include "workbench/commands/command_processor.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"

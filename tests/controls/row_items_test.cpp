@@ -57,14 +57,15 @@ TEST_F(RowItemsTest, IconShowsThePictureOfItsKeyInBothSizes) {
     ASSERT_NE(icon, nullptr);
     EXPECT_EQ(icon->GetType(), kItemButton);
     EXPECT_EQ(icon->GetID(), L"TPB_X");
-    EXPECT_EQ(workbench::viewOf(*icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image,
+              "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(callCount("QrUiLoadImageFromResource"), 2);
 }
 
 TEST_F(RowItemsTest, UnknownKeyLeavesTheIconWithoutAPicture) {
     const CQrUiToolPanelItem* icon = addIconItem(&m_row, L"TPB_X", L"RCDATA_NO_SUCH_PICTURE");
     ASSERT_NE(icon, nullptr);
-    EXPECT_EQ(workbench::viewOf(*icon).image, "");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "");
 }
 
 TEST_F(RowItemsTest, KeyWithAnExtensionNamesAFile) {

@@ -57,7 +57,7 @@ TEST_P(WrappedControlTest, HoldsTheHostsControlAndItsIcon) {
     ASSERT_EQ(icon != nullptr, GetParam().icon != nullptr);
     if (icon != nullptr) {
         EXPECT_EQ(icon->GetType(), kItemIcon);
-        EXPECT_EQ(workbench::viewOf(*icon).image, GetParam().icon);
+        EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, GetParam().icon);
     }
 }
 
@@ -96,10 +96,10 @@ protected:
 
 TEST_F(LayerListTest, OpenListKeepsTheFocusUntilItCloses) {
     EXPECT_EQ(send(kKeepFocus), 0);
-    workbench::gestures::openList(list());
+    workbench::gestures::openList(bench().toolkit(), list());
     EXPECT_EQ(send(kKeepFocus), 1);
     EXPECT_EQ(send(kListDropped), 1);
-    workbench::gestures::closeList(list());
+    workbench::gestures::closeList(bench().toolkit(), list());
     EXPECT_EQ(send(kKeepFocus), 0);
     EXPECT_EQ(send(kListDropped), 0);
 }
@@ -121,8 +121,8 @@ TEST_F(LayerListTest, CommandWithoutAControlGoesToTheFramework) {
 TEST_F(LayerListTest, ChosenLayerBecomesCurrent) {
     workbench::drawing::setByPath(bench().editor().documents().current()->data(), "layers.Walls",
                                   workbench::Value::Table{});
-    workbench::gestures::openList(list());
-    workbench::gestures::chooseFromList(list(), 1);
+    workbench::gestures::openList(bench().toolkit(), list());
+    workbench::gestures::chooseFromList(bench().toolkit(), list(), 1);
     EXPECT_EQ(var(L"CLAYER"), workbench::Value("Walls"));
 }
 
@@ -144,7 +144,7 @@ TEST_F(UndoButtonTest, ClickUndoesTheLastStep) {
     showControl("UndoSkinnyButtonControl");
     set(L"LTSCALE", 3.0);
     const HWND button = bench().windows().descendants(window()).front();
-    workbench::gestures::clickAt(button, {2, 2});
+    workbench::gestures::clickAt(bench().toolkit(), button, {2, 2});
     settle();
     EXPECT_EQ(var(L"LTSCALE"), workbench::Value(1.0));
 }

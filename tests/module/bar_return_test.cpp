@@ -1,6 +1,6 @@
 #include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
-#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <string>
 #include <vector>
@@ -29,7 +29,7 @@ TEST_F(BarReturnTest, CleanScreenNameIsTakenWithoutRegardToCase) {
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
     EXPECT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_FALSE(isOnScreen());
     bench().editor().reactors().sysVarChanged(L"CLEANSCREENSTATE", true);
@@ -40,7 +40,7 @@ TEST_F(BarReturnTest, CleanScreenEnteredWithTheBarHiddenDoesNotBringItUpLater) {
     showDashboard();
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
@@ -142,7 +142,7 @@ TEST_F(BarReturnTest, ReturnWithADocumentIsRememberedPastTheUsersClose) {
     closeDocument(L"A");
     newDocument(L"B");
     ASSERT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     ASSERT_FALSE(isOnScreen());
     bench().editor().reactors().sysVarChanged(L"CleanScreenState", true);

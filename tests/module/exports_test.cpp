@@ -1,6 +1,6 @@
 #include "tests/module/manager_fixture.h"
 #include "workbench/menu/menu_host.h"
-#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <string>
 #include <string_view>
@@ -28,7 +28,7 @@ protected:
         return exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(listener, add);
     }
     void closeBar() {
-        workbench::closePaletteSet(*paletteSet());
+        bench().toolkit().frame().close(*paletteSet());
         settle();
     }
 };

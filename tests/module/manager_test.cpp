@@ -1,7 +1,7 @@
 #include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
 #include "workbench/profiles/profile_store.h"
-#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <algorithm>
 #include <string>
@@ -30,7 +30,7 @@ TEST_F(ManagerTest, SecondShowTellsOnceAndBuildsNothing) {
 TEST_F(ManagerTest, ShowAfterTheUsersCloseBringsTheBarBack) {
     loadWithListener();
     show();
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_FALSE(isOnScreen());
     m_listener.take();
@@ -43,7 +43,7 @@ TEST_F(ManagerTest, UsersCloseReachesTheListeners) {
     loadWithListener();
     show();
     m_listener.take();
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_EQ(m_listener.take(), Heard{"off"});
 }

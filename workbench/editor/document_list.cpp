@@ -1,10 +1,10 @@
 #include "workbench/editor/document_list.h"
 
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
 #include "workbench/drawing/drawing_reader.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/variables/system_variables.h"
+#include "workbench/editor/system_variables.h"
 
 #include <algorithm>
 #include <stdexcept>

@@ -3,6 +3,7 @@
 #include "workbench/base/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -20,8 +21,8 @@ private:
     ModuleLoader& m_loader;
 };
 
-ModuleLoader::ModuleLoader(const WorkbenchOptions& options, const Faults& faults)
-    : m_libraries(options.libraryDir, faults),
+ModuleLoader::ModuleLoader(std::filesystem::path folder, const Faults& faults)
+    : m_libraries(std::move(folder), faults),
       m_resources(m_libraries),
       m_linker(*this) {
     m_registry.add(L"DynamicLinker", L"VxRxDynamicLinker", m_linker);

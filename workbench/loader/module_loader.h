@@ -1,6 +1,5 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
 #include "workbench/loader/host_dynamic_linker.h"
 #include "workbench/loader/host_module.h"
 #include "workbench/loader/library_table.h"
@@ -9,6 +8,7 @@
 #include "workbench/loader/resource_search.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,7 +21,8 @@ namespace workbench {
 /// system registry, the resources and the environment that modules see.
 class ModuleLoader {
 public:
-    ModuleLoader(const WorkbenchOptions& options, const Faults& faults);
+    /// Modules and resource libraries are found in `folder`. The faults must outlive the loader.
+    ModuleLoader(std::filesystem::path folder, const Faults& faults);
     ModuleLoader(const ModuleLoader&) = delete;
     ModuleLoader& operator=(const ModuleLoader&) = delete;
     /// Ends as `unloadAll` does.

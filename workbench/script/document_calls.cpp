@@ -99,7 +99,7 @@ int finish(Session& session, Arguments& arguments) {
 int var(Session& session, Arguments& arguments) {
     const std::wstring name = toWide(arguments.text(1));
     Value value = editor(session).read(name);
-    if (value.isNil() && SystemVariables::find(name) != nullptr) {
+    if (value.isNil() && findVariable(name) != nullptr) {
         session.needDocument();
         value = editor(session).read(name);
     }
@@ -109,7 +109,7 @@ int var(Session& session, Arguments& arguments) {
 
 int set(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
-    if (SystemVariables::find(toWide(name)) == nullptr) {
+    if (findVariable(toWide(name)) == nullptr) {
         throw ScriptError("there is no system variable \"" + name + "\"");
     }
     const Value value = arguments.value(2);

@@ -40,7 +40,7 @@ int pushInteger(lua_State* lua, int value) {
 
 /// The window of a name: a panel's ID or a control's name.
 HWND windowOf(Session& session, const std::string& name) {
-    const std::vector<CQrUiPanel*> panels = findPanels(toWide(name));
+    const std::vector<CQrUiPanel*> panels = findPanels(session.workbench().windows(), toWide(name));
     if (!panels.empty())
         return panels.front()->m_hWnd;
     return session.workbench().windows().findByName(name);

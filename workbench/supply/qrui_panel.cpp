@@ -9,17 +9,8 @@
 
 using workbench::HostCall;
 using workbench::PanelState;
-using workbench::Toolkit;
-using workbench::Workbench;
+using workbench::supply::toolkit;
 using workbench::supply::windows;
-
-namespace {
-
-Toolkit& toolkit() {
-    return Workbench::current().toolkit();
-}
-
-}  // namespace
 
 CQrUiPanel::~CQrUiPanel() {
     if (m_hWnd != nullptr)
@@ -40,7 +31,7 @@ BOOL CQrUiPanel::Create(DWORD style, const VxString& title, CWnd* panelSet) {
     auto creation = workbench::supply::creationOf("CQrUiPanel", style, rect, panelSet, 0);
     creation.text = title;
     if (!workbench::supply::createChild(*this, std::move(creation),
-                                        std::make_unique<workbench::PanelWidget>()))
+                                        std::make_unique<workbench::PanelWidget>(toolkit())))
         return call.returns(0);
     windows().setName(m_hWnd, workbench::toUtf8(m_id));
     return call.returns(1);

@@ -1,6 +1,5 @@
 #include "workbench/toolkit/focus_return.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -22,48 +21,47 @@ bool palettesAgree(const PaletteSetState& state) {
 }
 
 /// Takes the focus from within a set to the drawing view, if its palettes agree.
-void takeFocusFrom(const CQrUiPaletteSet& set) {
-    Toolkit& toolkit = Workbench::current().toolkit();
+void takeFocusFrom(Toolkit& toolkit, const CQrUiPaletteSet& set) {
     const PaletteSetState* const state = toolkit.paletteSets().find(&set);
     if (state != nullptr && palettesAgree(*state))
-        Workbench::current().windows().setFocus(toolkit.frame().drawingView().m_hWnd);
+        toolkit.windows().setFocus(toolkit.frame().drawingView().m_hWnd);
 }
 
 }  // namespace
 
-void giveFocusBack(HWND from, HWND before) {
-    const WindowSystem& windows = Workbench::current().windows();
-    const CQrUiPaletteSet* const set = paletteSetAbove(from);
+void giveFocusBack(Toolkit& toolkit, HWND from, HWND before) {
+    const WindowSystem& windows = toolkit.windows();
+    const CQrUiPaletteSet* const set = paletteSetAbove(windows, from);
     const HWND focus = windows.focus();
     if (set == nullptr || focus == nullptr || !windows.isWithin(focus, set->m_hWnd))
         return;
     if (isField(windows, focus) && focus != before)
         return;
-    takeFocusFrom(*set);
+    takeFocusFrom(toolkit, *set);
 }
 
-void giveFocusBackFromControl(HWND control, HWND before) {
-    const WindowSystem& windows = Workbench::current().windows();
+void giveFocusBackFromControl(Toolkit& toolkit, HWND control, HWND before) {
+    const WindowSystem& windows = toolkit.windows();
     const HWND focus = windows.focus();
     if (!isField(windows, focus) || !windows.isWithin(focus, control))
-        giveFocusBack(control, before);
+        giveFocusBack(toolkit, control, before);
 }
 
-void giveFocusBackOnPress(HWND pressed) {
-    const WindowSystem& windows = Workbench::current().windows();
+void giveFocusBackOnPress(Toolkit& toolkit, HWND pressed) {
+    const WindowSystem& windows = toolkit.windows();
     const HWND focus = windows.focus();
     if (isField(windows, focus) && !isField(windows, pressed))
-        giveFocusBack(pressed, focus);
+        giveFocusBack(toolkit, pressed, focus);
 }
 
-void giveFocusBackOnLeave(HWND paletteSet) {
-    const WindowSystem& windows = Workbench::current().windows();
-    const CQrUiPaletteSet* const set = paletteSetAbove(paletteSet);
+void giveFocusBackOnLeave(Toolkit& toolkit, HWND paletteSet) {
+    const WindowSystem& windows = toolkit.windows();
+    const CQrUiPaletteSet* const set = paletteSetAbove(windows, paletteSet);
     const HWND focus = windows.focus();
     if (set == nullptr || focus == nullptr || !windows.isWithin(focus, paletteSet) ||
         isField(windows, focus))
         return;
-    takeFocusFrom(*set);
+    takeFocusFrom(toolkit, *set);
 }
 
 }  // namespace workbench

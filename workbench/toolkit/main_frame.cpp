@@ -61,7 +61,7 @@ void MainFrame::makeWindow(CWnd& object, const char* className, const char* name
     creation.id = static_cast<int>(id);
     if (creation.parent != nullptr)
         creation.style |= WS_CHILD;
-    creation.widget = std::make_unique<ClickFocusWidget>();
+    creation.widget = std::make_unique<ClickFocusWidget>(m_windows);
     m_windows.create(object, std::move(creation));
     if (*name != '\0')
         m_windows.setName(object.m_hWnd, name);
@@ -164,6 +164,10 @@ void MainFrame::show(CQrUiPaletteSet& set, bool shown, bool delay) {
     m_windows.show(set.m_hWnd, shown);
     if (!delay)
         layout();
+}
+
+void MainFrame::close(CQrUiPaletteSet& set) {
+    show(set, false, false);
 }
 
 void MainFrame::setDockedHeight(CQrUiPaletteSet& set, int height) {
