@@ -79,6 +79,8 @@ bool ComboWidget::open(Window& window) {
     m_open = true;
     windows().setFocus(combo);
     tellParent(combo, CBN_DROPDOWN);
+    if (windows().find(combo) == nullptr)
+        return true;
     m_highlighted = m_selected;
     windows().invalidate(combo);
     return true;
@@ -107,10 +109,11 @@ bool ComboWidget::close(Window& window) {
     if (!m_open)
         return false;
     const HWND combo = window.handle;
+    const HWND focusBefore = std::exchange(m_focusBefore, nullptr);
     m_open = false;
     windows().invalidate(combo);
     tellParent(combo, CBN_CLOSEUP);
-    giveFocusBack(combo, std::exchange(m_focusBefore, nullptr));
+    giveFocusBack(combo, focusBefore);
     return true;
 }
 

@@ -4,6 +4,7 @@
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
 
 #include <optional>
 #include <vector>
@@ -49,7 +50,12 @@ std::vector<CQrUiToolPanelItem*> offeredTools(const CQrUiToolPanelItem& flyout) 
 bool openFlyout(CQrUiToolPanelItem& flyout) {
     std::vector<CQrUiToolPanelItem*> tools;
     const std::vector<MenuLine> lines = linesOf(flyout, tools);
+    const CQrUiToolPanel* const panel = toolPanelOf(flyout);
+    const HWND place = panel == nullptr ? nullptr : panel->m_hWnd;
     const std::optional<UINT> chosen = Workbench::current().toolkit().menus().track(lines);
+    // While the list was open the panel may have gone, with all its items.
+    if (place != nullptr && Workbench::current().windows().find(place) == nullptr)
+        return false;
     if (!chosen || *chosen == 0 || *chosen > tools.size())
         return false;
     // A tool of a nested flyout becomes current there, and the nested flyout in its own.

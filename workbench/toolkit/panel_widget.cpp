@@ -46,6 +46,8 @@ int PanelWidget::layout(Window& window, int width) {
             continue;
         windowSystem().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
                              SWP_NOZORDER | SWP_NOACTIVATE);
+        if (windowSystem().find(handle) == nullptr)
+            return 0;
         toolPanel.UpdateLayout(0);
         if (windowSystem().find(handle) == nullptr)
             return 0;
@@ -61,9 +63,14 @@ void PanelWidget::collapse(Window& window, bool collapsed) {
     state.collapsed = collapsed;
     windowSystem().noteChange(window.handle, "collapsed", !collapsed, collapsed);
     CQrUiPanel& panel = panelOf(window);
+    const HWND handle = window.handle;
     const HWND parent = window.parent;
-    for (const auto& toolPanel : state.toolPanels)
-        windowSystem().show(toolPanel->m_hWnd, !collapsed);
+    for (std::size_t index = 0; index < state.toolPanels.size(); ++index) {
+        // A field that is hidden loses the focus, and its control may do anything then.
+        windowSystem().show(state.toolPanels[index]->m_hWnd, !collapsed);
+        if (windowSystem().find(handle) == nullptr)
+            return;
+    }
     const Window* const set = windowSystem().find(parent);
     if (set == nullptr || dynamic_cast<const PanelSetWidget*>(set->widget.get()) == nullptr)
         return;
