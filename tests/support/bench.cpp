@@ -1,6 +1,7 @@
 #include "tests/support/bench.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
@@ -123,7 +124,11 @@ void* Bench::exportedSymbol(const char* name) {
 }
 
 int Bench::notify(int code) {
-    const int answer = exported<VxDaNotifyDashboardFn>("VxDaNotifyDashboard")(code);
+    int answer = 0;
+    {
+        const workbench::Turn turn;
+        answer = exported<VxDaNotifyDashboardFn>("VxDaNotifyDashboard")(code);
+    }
     settle();
     return answer;
 }

@@ -1,6 +1,12 @@
 #include "workbench/editor/command_processor.h"
 
 #include "workbench/base/text.h"
+<<<<<<< HEAD:workbench/editor/command_processor.cpp
+=======
+#include "workbench/base/turn.h"
+#include "workbench/commands/scripted_command.h"
+#include "workbench/commands/variable_commands.h"
+>>>>>>> ground-h:workbench/commands/command_processor.cpp
 #include "workbench/core/journal.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/document_list.h"
@@ -73,6 +79,7 @@ public:
     Busy& operator=(const Busy&) = delete;
 
 private:
+    Turn m_turn;  // the processor lives to its end, though its document be closed
     CommandProcessor& m_processor;
     CurrentDocument m_current;
 };
@@ -115,10 +122,8 @@ void CommandProcessor::runQueued(const Queued& queued) {
     DocumentList& documents = m_editor.documents();
     if (queued.activate)
         documents.activate(m_document);
-    if (queued.wrapUpInactive && documents.active() != &m_document) {
-        while (isWaiting())
-            cancelInnermost();
-    }
+    if (queued.wrapUpInactive && documents.active() != &m_document)
+        cancelWaiting();
     CommandText text(queued.text);
     consume(text, true);
 }
@@ -161,9 +166,9 @@ bool CommandProcessor::finish(CommandState outcome) {
     if (!isWaiting() || outcome == CommandState::Waiting)
         return false;
     const Busy busy(*this);
-    m_document.input().endInput();
-    m_running.back().command->stop(scope());
-    end(m_running.size() - 1, outcome);
+    // To become the current document is an event, in which the command may have been ended.
+    if (isWaiting())
+        stopInnermost(outcome);
     comeToRest();
     return true;
 }
@@ -172,8 +177,7 @@ void CommandProcessor::abandon() {
     m_abandoned = true;
     m_queue.clear();
     m_typed.clear();
-    while (isWaiting())
-        cancelInnermost();
+    cancelWaiting();
 }
 
 int CommandProcessor::activity() const {
@@ -200,7 +204,7 @@ std::wstring CommandProcessor::prompt() const {
 
 bool CommandProcessor::consume(CommandText& text, bool takeRest) {
     bool good = true;
-    while (!text.isEmpty()) {
+    while (!text.isEmpty() && !m_abandoned) {
         if (text.takeCancel()) {
             cancelInnermost();
             continue;
@@ -240,6 +244,8 @@ bool CommandProcessor::startNamed(const std::wstring& entered, bool inside) {
 
 bool CommandProcessor::start(std::shared_ptr<const CommandDefinition> definition,
                              bool transparent) {
+    if (m_abandoned)
+        return false;
     leaveRest();
     const std::size_t run = m_running.size();
     m_running.push_back({definition, definition->make(), transparent, false});
@@ -274,6 +280,10 @@ bool CommandProcessor::work(std::size_t run, Work step) {
 }
 
 bool CommandProcessor::settle(std::size_t run, CommandState state) {
+    if (state == CommandState::Waiting && m_abandoned) {
+        m_running[run].command->stop(scope());
+        state = CommandState::Cancelled;
+    }
     if (state == CommandState::Waiting) {
         m_running[run].waiting = true;
         m_document.input().beginInput();
@@ -295,15 +305,28 @@ void CommandProcessor::end(std::size_t run, CommandState outcome) {
     const Outcome told = outcomeOf(outcome);
     noteEvent(name, told.event);
     (m_editor.reactors().*told.tell)(name.c_str());
+    // What waited below a command at work could not be cancelled with the others.
+    if (m_abandoned)
+        cancelWaiting();
 }
 
 void CommandProcessor::cancelInnermost() {
-    if (!isWaiting())
-        return;
-    m_running.back().waiting = false;
+    if (isWaiting())
+        stopInnermost(CommandState::Cancelled);
+}
+
+void CommandProcessor::cancelWaiting() {
+    while (isWaiting())
+        cancelInnermost();
+}
+
+void CommandProcessor::stopInnermost(CommandState outcome) {
+    const std::size_t run = m_running.size() - 1;
+    // It is nobody else's to end now, whatever is done inside the event.
+    m_running[run].waiting = false;
     m_document.input().endInput();
-    m_running.back().command->stop(scope());
-    end(m_running.size() - 1, CommandState::Cancelled);
+    m_running[run].command->stop(scope());
+    end(run, outcome);
 }
 
 void CommandProcessor::leaveRest() {

@@ -95,6 +95,9 @@ private:
     bool settle(std::size_t run, CommandState state);
     void end(std::size_t run, CommandState outcome);
     void cancelInnermost();
+    void cancelWaiting();
+    /// Ends the innermost run, which waits, from outside.
+    void stopInnermost(CommandState outcome);
     void leaveRest();
     /// Begins the quiescent state if this is the outermost run and no command is left.
     void comeToRest();

@@ -1,6 +1,7 @@
 #include "workbench/script/exported_calls.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/script/calls.h"
 #include "workbench/script/lua_listener.h"
@@ -172,10 +173,12 @@ int callExport(Session& session, const std::string& name, Arguments& arguments) 
                                     [&name](const Call& call) { return call.name == name; });
     if (found == std::end(kExports))
         throw ScriptError("the module exports no " + name);
+    const Turn turn;
     return found->function(session, arguments);
 }
 
 int callNotify(Session& session, int code, lua_State* lua) {
+    const Turn turn;
     const int answer = find<VxDaNotifyDashboardFn>(session, "VxDaNotifyDashboard")(code);
     session.settle();
     return pushInteger(lua, answer);

@@ -73,6 +73,8 @@ bool ComboWidget::open(Window& window) {
     m_open = true;
     m_toolkit.windows().setFocus(combo);
     tellParent(combo, CBN_DROPDOWN);
+    if (m_toolkit.windows().find(combo) == nullptr)
+        return true;
     m_highlighted = m_selected;
     m_toolkit.windows().invalidate(combo);
     return true;
@@ -101,10 +103,11 @@ bool ComboWidget::close(Window& window) {
     if (!m_open)
         return false;
     const HWND combo = window.handle;
+    const HWND focusBefore = std::exchange(m_focusBefore, nullptr);
     m_open = false;
     m_toolkit.windows().invalidate(combo);
     tellParent(combo, CBN_CLOSEUP);
-    giveFocusBack(m_toolkit, combo, std::exchange(m_focusBefore, nullptr));
+    giveFocusBack(m_toolkit, combo, focusBefore);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
 
 #include <optional>
 #include <vector>
@@ -49,7 +50,12 @@ std::vector<CQrUiToolPanelItem*> offeredTools(const Toolkit& toolkit,
 bool openFlyout(Toolkit& toolkit, CQrUiToolPanelItem& flyout) {
     std::vector<CQrUiToolPanelItem*> tools;
     const std::vector<MenuLine> lines = linesOf(toolkit, flyout, tools);
+    const CQrUiToolPanel* const panel = toolPanelOf(flyout);
+    const HWND place = panel == nullptr ? nullptr : panel->m_hWnd;
     const std::optional<UINT> chosen = toolkit.menus().track(lines);
+    // While the list was open the panel may have gone, with all its items.
+    if (place != nullptr && toolkit.windows().find(place) == nullptr)
+        return false;
     if (!chosen || *chosen == 0 || *chosen > tools.size())
         return false;
     // A tool of a nested flyout becomes current there, and the nested flyout in its own.

@@ -4,8 +4,6 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
-#include <algorithm>
-
 namespace workbench {
 
 namespace {
@@ -15,15 +13,24 @@ bool isField(const WindowSystem& windows, HWND window) {
     return found != nullptr && found->widget != nullptr && found->widget->reportsFocus();
 }
 
-bool palettesAgree(const PaletteSetState& state) {
-    return std::all_of(state.palettes.begin(), state.palettes.end(),
-                       [](const auto& palette) { return palette->CanFrameworkTakeFocus(); });
+/// Whether all palettes of a set let the focus go. A palette asks its controls, which may end the
+/// set: one that is gone doesn't agree.
+bool palettesAgree(Toolkit& toolkit, const CQrUiPaletteSet& set) {
+    const auto& sets = toolkit.paletteSets();
+    for (std::size_t index = 0;; ++index) {
+        const PaletteSetState* const state = sets.find(&set);
+        if (state == nullptr)
+            return false;
+        if (index >= state->palettes.size())
+            return true;
+        if (!state->palettes[index]->CanFrameworkTakeFocus())
+            return false;
+    }
 }
 
 /// Takes the focus from within a set to the drawing view, if its palettes agree.
 void takeFocusFrom(Toolkit& toolkit, const CQrUiPaletteSet& set) {
-    const PaletteSetState* const state = toolkit.paletteSets().find(&set);
-    if (state != nullptr && palettesAgree(*state))
+    if (palettesAgree(toolkit, set))
         toolkit.windows().setFocus(toolkit.frame().drawingView().m_hWnd);
 }
 

@@ -94,15 +94,18 @@ void PanelSetWidget::stack(Window& window) {
     state.laidOutWidth = width;
     int height = 0;
     for (std::size_t index = 0; index < state.panels.size(); ++index) {
-        Window* const panel = windows().find(state.panels[index]->m_hWnd);
-        if (panel == nullptr || !panel->hasVisibleStyle())
+        const HWND panel = state.panels[index]->m_hWnd;
+        Window* const below = windows().find(panel);
+        if (below == nullptr || !below->hasVisibleStyle())
             continue;
-        auto& widget = static_cast<PanelWidget&>(*panel->widget);
-        const int panelHeight = widget.layout(*panel, width);
+        auto& widget = static_cast<PanelWidget&>(*below->widget);
+        const int panelHeight = widget.layout(*below, width);
         if (windows().find(handle) == nullptr)
             return;
         const int top = height - state.scroll;
-        windows().place(panel->handle, {0, top, width, top + panelHeight}, kPlaceFlags);
+        windows().place(panel, {0, top, width, top + panelHeight}, kPlaceFlags);
+        if (windows().find(handle) == nullptr)
+            return;
         height += panelHeight;
     }
     state.contentHeight = height;

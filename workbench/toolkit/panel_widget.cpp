@@ -44,7 +44,9 @@ int PanelWidget::layout(Window& window, int width) {
         if (below == nullptr)
             continue;
         windows().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
-                        SWP_NOZORDER | SWP_NOACTIVATE);
+                             SWP_NOZORDER | SWP_NOACTIVATE);
+        if (windows().find(handle) == nullptr)
+            return 0;
         toolPanel.UpdateLayout(0);
         if (windows().find(handle) == nullptr)
             return 0;
@@ -60,9 +62,14 @@ void PanelWidget::collapse(Window& window, bool collapsed) {
     state.collapsed = collapsed;
     windows().noteChange(window.handle, "collapsed", !collapsed, collapsed);
     CQrUiPanel& panel = panelOf(window);
+    const HWND handle = window.handle;
     const HWND parent = window.parent;
-    for (const auto& toolPanel : state.toolPanels)
-        windows().show(toolPanel->m_hWnd, !collapsed);
+    for (std::size_t index = 0; index < state.toolPanels.size(); ++index) {
+        // A field that is hidden loses the focus, and its control may do anything then.
+        windows().show(state.toolPanels[index]->m_hWnd, !collapsed);
+        if (windows().find(handle) == nullptr)
+            return;
+    }
     const Window* const set = windows().find(parent);
     if (set == nullptr || dynamic_cast<const PanelSetWidget*>(set->widget.get()) == nullptr)
         return;

@@ -69,9 +69,11 @@ void ToolPanelWidget::layout(Window& window) {
     const HWND handle = window.handle;
     const RowLayout places = rows(panel, window.rect.Width());
     for (std::size_t index = 0; index < places.items.size(); ++index) {
-        // Placing a control may run its code, which may change the panel.
+        // Placing a control may run its code, which may change the panel or end it.
+        if (windows().find(handle) == nullptr)
+            return;
         CQrUiToolPanelItem* const item = panel.GetToolPanelItem(static_cast<int>(index));
-        if (item == nullptr || windows().find(handle) == nullptr)
+        if (item == nullptr)
             return;
         placeItem(m_toolkit, *item, places.items[index]);
     }

@@ -343,4 +343,37 @@ TEST_F(CommandProcessorTest, FinishTellsTheOutcomeAskedFor) {
                                "cancelled -LAYER", "rest begins"}));
 }
 
+// The document goes.
+
+TEST_F(CommandProcessorTest, ACommandMayCloseItsDocumentAndEndsAllTheSame) {
+    addWork([this] { editor().documents().close(m_document); });
+    vxDocManagerPtr()->addReactor(&log());
+    processor().runNow(L"_work\n_line\n");
+    vxDocManagerPtr()->removeReactor(&log());
+    EXPECT_EQ(events(), (Lines{"rest ends", "started WORK", "to be destroyed A", "destroyed A",
+                               "ended WORK"}));
+}
+
+TEST_F(CommandProcessorTest, ACommandThatWouldWaitInAClosedDocumentIsCancelled) {
+    log().on("started LINE", [this] { editor().documents().close(m_document); });
+    editor().type(L"line\n");
+    EXPECT_EQ(events(), (Lines{"rest ends", "started LINE", "cancelled LINE"}));
+}
+
+TEST_F(CommandProcessorTest, ADocumentThatIsClosedAsACommandIsFinishedFromOutsideEndsItOnce) {
+    editor().beginCommand(L"LINE");
+    log().on("input ends", [this] { editor().documents().close(m_document); });
+    events();
+    EXPECT_TRUE(editor().finishCommand(CommandState::Ended));
+    EXPECT_EQ(events(), (Lines{"input ends", "ended LINE"}));
+}
+
+TEST_F(CommandProcessorTest, WhatWaitsAroundATransparentCommandThatClosesTheDocumentIsCancelled) {
+    addWork([this] { editor().documents().close(m_document); });
+    editor().beginCommand(L"LINE");
+    events();
+    editor().type(L"'work\n");
+    EXPECT_EQ(events(), (Lines{"started WORK", "ended WORK", "input ends", "cancelled LINE"}));
+}
+
 }  // namespace workbench

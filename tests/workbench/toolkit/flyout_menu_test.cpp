@@ -83,5 +83,14 @@ TEST_F(FlyoutMenuTest, AToolWithoutANameIsShownByItsId) {
     EXPECT_EQ(m_lines[0].text, L"ID_1");
 }
 
+TEST_F(FlyoutMenuTest, AFlyoutThatGoesWhileItsListIsOpenHasNoChoice) {
+    toolkit().menus().answerNext([this](const std::vector<MenuLine>&) {
+        m_toolPanel->DestroyWindow();
+        return std::optional<UINT>(3);
+    });
+    EXPECT_FALSE(openFlyout(m_flyout));
+    EXPECT_EQ(m_flyout.GetCurrentFlyoutTool(), &m_first);
+}
+
 }  // namespace
 }  // namespace workbench

@@ -112,5 +112,15 @@ TEST_F(PanelSetWidgetTest, TheSmallestSizeFitsARow) {
     EXPECT_EQ(size, (CSize{120, 20}));
 }
 
+TEST_F(PanelSetWidgetTest, ASetThatGoesInTheMiddleOfItsLayoutIsLaidOutNoFurther) {
+    m_toolPanel->answers[WM_SIZE] = [this](WPARAM, LPARAM) {
+        m_panelSet.DestroyWindow();
+        return 0;
+    };
+    m_panelSet.MoveWindow({0, 0, 150, 300});
+    EXPECT_EQ(m_panelSet.m_hWnd, nullptr);
+    EXPECT_EQ(m_panel.m_hWnd, nullptr);
+}
+
 }  // namespace
 }  // namespace workbench

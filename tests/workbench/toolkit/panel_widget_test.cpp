@@ -129,5 +129,14 @@ TEST_F(PanelWidgetTest, APanelGivesItsPicturesBack) {
     EXPECT_EQ(toolkit().pictures().liveCount(), 0U);
 }
 
+TEST_F(PanelWidgetTest, APanelThatGoesAsItIsRolledUpTellsNobody) {
+    m_toolPanel->answers[WM_WINDOWPOSCHANGED] = [this](WPARAM, LPARAM) {
+        m_panel.DestroyWindow();
+        return 0;
+    };
+    gestures::clickTitle(m_panel);
+    EXPECT_EQ(m_panel.m_hWnd, nullptr);
+}
+
 }  // namespace
 }  // namespace workbench

@@ -27,6 +27,10 @@ Database::Database(std::uint32_t serial) : m_serial(serial) {
 }
 
 Database::~Database() {
+    sayGoodbye();
+}
+
+void Database::sayGoodbye() {
     for (const auto& object : m_objects) {
         object->m_reactors.dismiss([&object](ObjectReactor& reactor) { reactor.goodbye(*object); });
     }

@@ -33,12 +33,16 @@ public:
     /// in the same program.
     explicit Database(std::uint32_t serial = 1);
 
-    /// Says goodbye to all reactors, those of the objects first.
+    /// Ends with a goodbye to the reactors that have not had theirs.
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
     std::uint32_t serial() const { return m_serial; }
+
+    /// Says goodbye to all reactors, those of the objects first: the drawing is closed, although
+    /// whoever works on it at the moment may come to an end.
+    void sayGoodbye();
 
     /// Adds an object at the end of the table of its kind and takes it over. A name must be free
     /// among the living objects of the kind, without regard to case.

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
+
+#include "workbench/base/turn.h"
 
 namespace workbench::drawing {
 
@@ -37,6 +40,7 @@ public:
 
     template <class Call>
     void notify(const Call& call) {
+        const Turn turn;
         const Walk walk(*this);
         const std::size_t end = m_reactors.size();
         for (std::size_t i = 0; i < end; ++i) {
@@ -49,10 +53,12 @@ public:
     /// Calls each reactor once for the last time, taking it off the list before its call.
     template <class Call>
     void dismiss(const Call& call) {
-        while (!m_reactors.empty()) {
-            Reactor* reactor = m_reactors.front();
-            m_reactors.erase(m_reactors.begin());
-            call(*reactor);
+        const Turn turn;
+        const Walk walk(*this);
+        for (std::size_t i = 0; i < m_reactors.size(); ++i) {
+            if (Reactor* const reactor = std::exchange(m_reactors[i], nullptr)) {
+                call(*reactor);
+            }
         }
     }
 

@@ -70,5 +70,15 @@ TEST_F(ReactorListTest, DismissTakesEachOffBeforeItsCall) {
     EXPECT_EQ(walk(), "");
 }
 
+TEST_F(ReactorListTest, DismissedDuringAWalkIsNotCalledAnyMore) {
+    m_list.add(&m_a);
+    m_list.add(&m_b);
+    std::string dismissed;
+    m_a.act = [&] { m_list.dismiss([&](Listener& listener) { dismissed += listener.name; }); };
+    EXPECT_EQ(walk(), "a");
+    EXPECT_EQ(dismissed, "ab");
+    EXPECT_EQ(walk(), "");
+}
+
 }  // namespace
 }  // namespace workbench::drawing
