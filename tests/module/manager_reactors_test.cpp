@@ -1,8 +1,8 @@
 #include "module/manager_reactors.h"
 
+#include "layer/filter_refresh.h"
 #include "module/control_manager.h"
 #include "module/module.h"
-#include "layer/filter_refresh.h"
 #include "tests/palette/palette_fixture.h"
 #include "visualstyle/material_mode.h"
 #include "workbench/editor/editor.h"
