@@ -5,7 +5,8 @@
 #include <hostapi/qrui18/toolbar_control.h>
 
 CWnd* getVxToolbarControl(CWnd* parent, const CRect& rect, UINT id) {
-    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), id});
+    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), rect.left,
+                                                     rect.top, rect.right, rect.bottom, id});
     CWnd* control = call.failed() ? nullptr : workbench::makeToolbarWindow(parent, rect, id);
     return call.returns(control);
 }
