@@ -14,7 +14,8 @@ workbench::ToolbarScope scope() {
 }  // namespace
 
 CWnd* getVxToolbarControl(CWnd* parent, const CRect& rect, UINT id) {
-    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), id});
+    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), rect.left,
+                                                     rect.top, rect.right, rect.bottom, id});
     CWnd* control = call.failed() ? nullptr
                                   : workbench::makeToolbarWindow(workbench::supply::toolkit(),
                                                                  scope(), parent, rect, id);
