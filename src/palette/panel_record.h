@@ -24,13 +24,3 @@ struct PanelRecord {
 };
 
 using PanelRecords = std::vector<PanelRecord>;
-
-/// The index of the first record with this ID and menu group, both exact; -1 for none.
-inline int findPanelRecord(const PanelRecords& records, const VxString& menuGroup,
-                           const VxString& id) {
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (records[i].id == id && records[i].menuGroup == menuGroup)
-            return static_cast<int>(i);
-    }
-    return -1;
-}
