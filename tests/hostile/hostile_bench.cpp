@@ -218,8 +218,8 @@ void HostileBench::expectLivingWindows() {
                         object.GetMessageMap().count == 0);
         }
     }
-    for (const CQrUiToolPanelItem* item : workbench::allItems())
-        workbench::viewOf(*item);
+    for (const CQrUiToolPanelItem* item : workbench::allItems(bench().windows()))
+        workbench::viewOf(bench().toolkit(), *item);
 }
 
 /// Shows the dashboard with all panels, built if they are not.

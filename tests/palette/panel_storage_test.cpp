@@ -118,6 +118,23 @@ TEST_F(PanelStorageTest, OfTwoRecordsOfOneNameTheFirstTakesTheState) {
     EXPECT_EQ(readVisible(), (Flags{false, true, true, true}));
 }
 
+TEST_F(PanelStorageTest, EachOfManyPanelsTakesItsOwnState) {
+    constexpr int kPanels = 200;
+    m_records.clear();
+    const auto idOf = [](int panel) { return std::to_wstring(panel); };
+    for (int panel = 0; panel < kPanels; ++panel)
+        m_records.push_back(recordOf(panel % 2 == 0 ? L"EVEN" : L"ODD", idOf(panel).c_str()));
+    const NodePtr set = addSet();
+    Flags expected(kPanels);
+    for (int panel = kPanels - 1; panel >= 0; --panel) {
+        const bool visible = panel % 3 == 0;
+        addPanel(set, panel % 2 == 0 ? L"EVEN" : L"ODD", idOf(panel).c_str(),
+                 visible ? L"1" : L"0");
+        expected[static_cast<std::size_t>(panel)] = visible;
+    }
+    EXPECT_EQ(readVisible(), expected);
+}
+
 TEST_F(PanelStorageTest, AGroupIsTakenOverAndAMissingOneEmptiesTheRecords) {
     const NodePtr set = addSet();
     const NodePtr panel = addPanel(set, L"MAIN", L"A", L"1");
