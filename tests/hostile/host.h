@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/editor/editor.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_system.h"
