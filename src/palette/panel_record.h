@@ -23,14 +23,5 @@ struct PanelRecord {
     bool isOnShow() const { return panel != nullptr && (panel->GetStyle() & WS_VISIBLE) != 0; }
 };
 
-using PanelRecords = std::vector<PanelRecord>;
-
-/// The index of the first record with this ID and menu group, both exact; -1 for none.
-inline int findPanelRecord(const PanelRecords& records, const VxString& menuGroup,
-                           const VxString& id) {
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        if (records[i].id == id && records[i].menuGroup == menuGroup)
-            return static_cast<int>(i);
-    }
-    return -1;
-}
+/// In the order on screen. Each record keeps its place in memory when the order changes.
+using PanelRecords = std::vector<std::unique_ptr<PanelRecord>>;

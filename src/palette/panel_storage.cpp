@@ -4,6 +4,12 @@
 
 #include "core/text.h"
 
+#include <cstddef>
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+
 namespace {
 
 constexpr const wchar_t* kPanelSetNode = L"CVxDaPanelSet";
@@ -12,6 +18,34 @@ constexpr const wchar_t* kGroupNode = L"ToolPaletteGroupName";
 constexpr const wchar_t* kIdAttribute = L"ID";
 constexpr const wchar_t* kVisibleAttribute = L"Visible";
 constexpr const wchar_t* kMenuGroupAttribute = L"MenuGroupName";
+
+/// The records by menu group and ID, both exact; of two with one name the first counts. Good while
+/// no record moves.
+class RecordIndex {
+public:
+    explicit RecordIndex(PanelRecords& records) {
+        m_records.reserve(records.size());
+        for (const auto& record : records)
+            m_records.try_emplace({record->menuGroup, record->id}, record.get());
+    }
+
+    /// Null for none.
+    PanelRecord* find(std::wstring_view menuGroup, std::wstring_view id) const {
+        const auto found = m_records.find({menuGroup, id});
+        return found == m_records.end() ? nullptr : found->second;
+    }
+
+private:
+    using Name = std::pair<std::wstring_view, std::wstring_view>;
+    struct Hash {
+        std::size_t operator()(const Name& name) const {
+            const std::hash<std::wstring_view> hash;
+            return 31 * hash(name.first) + hash(name.second);
+        }
+    };
+
+    std::unordered_map<Name, PanelRecord*, Hash> m_records;
+};
 
 NodePtr childNode(IXMLDOMNode* node, const wchar_t* name) {
     return NodePtr(VxUt::GetChildNode(node, name));
@@ -28,7 +62,7 @@ VxUtResString readGroup(IXMLDOMNode* panelNode) {
     return group;
 }
 
-void readPanel(IXMLDOMNode* node, PanelRecords& records) {
+void readPanel(IXMLDOMNode* node, const RecordIndex& records) {
     if (!equalNoCase(VxUt::GetNodeName(node), kPanelNode))
         return;
     VxString id;
@@ -43,14 +77,13 @@ void readPanel(IXMLDOMNode* node, PanelRecords& records) {
     const VxUtResString group = readGroup(node);
 
     // A saved panel that the host no longer has is forgotten.
-    const int index = findPanelRecord(records, menuGroup, id);
-    if (index < 0)
+    PanelRecord* record = records.find(menuGroup, id);
+    if (record == nullptr)
         return;
-    PanelRecord& record = records[static_cast<std::size_t>(index)];
-    record.toolPaletteGroup = group;
-    if (record.panel != nullptr)
-        record.panel->setToolPaletteGroup(group);
-    record.visible = visible != 0;
+    record->toolPaletteGroup = group;
+    if (record->panel != nullptr)
+        record->panel->setToolPaletteGroup(group);
+    record->visible = visible != 0;
 }
 
 bool writePanel(IXMLDOMNode* parent, const PanelRecord& record) {
@@ -82,8 +115,9 @@ void readSavedPanels(IXMLDOMNode* node, PanelRecords& records) {
     const NodePtr panelSet = childNode(node, kPanelSetNode);
     if (panelSet == nullptr)
         return;
+    const RecordIndex index(records);
     for (IXMLDOMNode* child : VxUt::GetChildNodes(panelSet.get())) {
-        readPanel(NodePtr(child).get(), records);
+        readPanel(NodePtr(child).get(), index);
     }
 }
 
@@ -91,8 +125,8 @@ bool writeSavedPanels(IXMLDOMNode* node, const PanelRecords& records) {
     const NodePtr panelSet = addElement(node, kPanelSetNode);
     if (panelSet == nullptr)
         return false;
-    for (const PanelRecord& record : records) {
-        if (!writePanel(panelSet.get(), record))
+    for (const auto& record : records) {
+        if (!writePanel(panelSet.get(), *record))
             return false;
     }
     return true;

@@ -33,7 +33,7 @@ TEST_F(BarReturnTest, CleanScreenNameIsTakenWithoutRegardToCase) {
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
     EXPECT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_FALSE(isOnScreen());
     bench().editor().reactors().sysVarChanged(L"CLEANSCREENSTATE", true);
@@ -44,7 +44,7 @@ TEST_F(BarReturnTest, CleanScreenEnteredWithTheBarHiddenDoesNotBringItUpLater) {
     showDashboard();
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
@@ -236,7 +236,7 @@ TEST_F(BarReturnTest, ReturnWithADocumentIsRememberedPastTheUsersClose) {
     closeDocument(L"A");
     newDocument(L"B");
     ASSERT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     ASSERT_FALSE(isOnScreen());
     bench().editor().reactors().sysVarChanged(L"CleanScreenState", true);

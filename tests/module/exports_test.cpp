@@ -2,7 +2,7 @@
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
 #include "workbench/menu/menu_host.h"
-#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <string>
 #include <string_view>
@@ -39,7 +39,7 @@ protected:
         settle();
     }
     void closeBar() {
-        workbench::closePaletteSet(*paletteSet());
+        bench().toolkit().frame().close(*paletteSet());
         settle();
     }
 };

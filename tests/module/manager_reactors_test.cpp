@@ -35,7 +35,7 @@ protected:
     /// Shows the dashboard, with the material mode read: the first event of all would read it.
     void show() {
         PaletteTest::show();
-        refreshMaterialModeFor(L"VSCURRENT");
+        kMaterialModeEvents.refresh();
         road();
     }
     workbench::EditorReactors& editor() { return bench().editor().reactors(); }

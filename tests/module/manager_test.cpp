@@ -38,7 +38,7 @@ TEST_F(ManagerTest, SecondShowTellsOnceAndBuildsNothing) {
 TEST_F(ManagerTest, ShowAfterTheUsersCloseBringsTheBarBack) {
     loadWithListener();
     show();
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_FALSE(isOnScreen());
     m_listener.take();
@@ -51,7 +51,7 @@ TEST_F(ManagerTest, UsersCloseReachesTheListeners) {
     loadWithListener();
     show();
     m_listener.take();
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_EQ(m_listener.take(), Heard{"off"});
 }

@@ -1,6 +1,6 @@
 #include "palette/item_images.h"
 
-#include "module/module.h"
+#include "core/resources.h"
 #include "tests/palette/palette_fixture.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"

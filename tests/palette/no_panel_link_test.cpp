@@ -164,7 +164,7 @@ TEST_F(NoPanelLinkTest, AClickOnItOpensItsOwnTopic) {
     hideAllPanels();
     forget();
     ASSERT_NE(link(), nullptr);
-    workbench::gestures::clickAt(link()->m_hWnd, {5, 5});
+    workbench::gestures::clickAt(bench().toolkit(), link()->m_hWnd, {5, 5});
     settle();
     EXPECT_EQ(callCount("vxedHelp"), 1);
     EXPECT_NE(lastCall("vxedHelp").find("[null,\"LEARNDASHBOARD\",0]"), std::string::npos);

@@ -74,7 +74,7 @@ PaletteTest::Folder::~Folder() {
 
 std::filesystem::path PaletteTest::Folder::write(const std::string& name,
                                                  const std::string& text) const {
-    std::ofstream(m_path / name) << text;
+    std::ofstream(m_path / name, std::ios::binary) << text;
     return m_path / name;
 }
 

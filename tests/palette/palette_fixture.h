@@ -4,7 +4,7 @@
 #include "palette/palette.h"
 #include "palette/panel.h"
 #include "palette/panel_set.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/windows/menu_table.h"
 
 #include <hostapi/xmldom.h>

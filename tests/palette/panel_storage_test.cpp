@@ -9,10 +9,10 @@
 
 namespace {
 
-PanelRecord recordOf(const wchar_t* menuGroup, const wchar_t* id) {
-    PanelRecord record;
-    record.id = id;
-    record.menuGroup = menuGroup;
+std::unique_ptr<PanelRecord> recordOf(const wchar_t* menuGroup, const wchar_t* id) {
+    auto record = std::make_unique<PanelRecord>();
+    record->id = id;
+    record->menuGroup = menuGroup;
     return record;
 }
 
@@ -46,8 +46,8 @@ protected:
     std::vector<bool> readVisible() {
         readSavedPanels(m_root.get(), m_records);
         std::vector<bool> flags;
-        for (const PanelRecord& record : m_records)
-            flags.push_back(record.visible);
+        for (const auto& record : m_records)
+            flags.push_back(record->visible);
         return flags;
     }
 
@@ -148,6 +148,23 @@ TEST_F(PanelStorageTest, OfTwoRecordsOfOneNameTheFirstTakesTheState) {
     EXPECT_EQ(readVisible(), (Flags{false, true, true, true}));
 }
 
+TEST_F(PanelStorageTest, EachOfManyPanelsTakesItsOwnState) {
+    constexpr int kPanels = 200;
+    m_records.clear();
+    const auto idOf = [](int panel) { return std::to_wstring(panel); };
+    for (int panel = 0; panel < kPanels; ++panel)
+        m_records.push_back(recordOf(panel % 2 == 0 ? L"EVEN" : L"ODD", idOf(panel).c_str()));
+    const NodePtr set = addSet();
+    Flags expected(kPanels);
+    for (int panel = kPanels - 1; panel >= 0; --panel) {
+        const bool visible = panel % 3 == 0;
+        addPanel(set, panel % 2 == 0 ? L"EVEN" : L"ODD", idOf(panel).c_str(),
+                 visible ? L"1" : L"0");
+        expected[static_cast<std::size_t>(panel)] = visible;
+    }
+    EXPECT_EQ(readVisible(), expected);
+}
+
 TEST_F(PanelStorageTest, AGroupIsTakenOverAndAMissingOneEmptiesTheRecords) {
     const NodePtr set = addSet();
     const NodePtr panel = addPanel(set, L"MAIN", L"A", L"1");
@@ -155,14 +172,14 @@ TEST_F(PanelStorageTest, AGroupIsTakenOverAndAMissingOneEmptiesTheRecords) {
     VxUtResString group;
     group.setText(L"Doors");
     group.Save(add(panel, L"ToolPaletteGroupName").get());
-    m_records[1].toolPaletteGroup.setText(L"Old");
+    m_records[1]->toolPaletteGroup.setText(L"Old");
     readSavedPanels(m_root.get(), m_records);
-    EXPECT_EQ(m_records[0].toolPaletteGroup.text(), L"Doors");
-    EXPECT_EQ(m_records[1].toolPaletteGroup.text(), L"");
+    EXPECT_EQ(m_records[0]->toolPaletteGroup.text(), L"Doors");
+    EXPECT_EQ(m_records[1]->toolPaletteGroup.text(), L"");
 }
 
 TEST_F(PanelStorageTest, WritesAnElementForEachRecordInOrder) {
-    m_records[1].toolPaletteGroup.setText(L"Doors");
+    m_records[1]->toolPaletteGroup.setText(L"Doors");
     ASSERT_TRUE(writeSavedPanels(m_root.get(), m_records));
     const NodePtr set(VxUt::GetChildNode(m_root.get(), L"CVxDaPanelSet"));
     std::vector<VxString> written;
@@ -190,8 +207,8 @@ TEST_F(PanelStorageTest, APanelThatWasNeverMadeIsSavedAsHiddenWhateverItsFlagSay
 }
 
 TEST_F(PanelStorageTest, ARecordWithAnEmptyIdOrMenuGroupIsNotWritten) {
-    m_records[0].id.clear();
-    m_records[1].menuGroup.clear();
+    m_records[0]->id.clear();
+    m_records[1]->menuGroup.clear();
     ASSERT_TRUE(writeSavedPanels(m_root.get(), m_records));
     const NodePtr set(VxUt::GetChildNode(m_root.get(), L"CVxDaPanelSet"));
     std::size_t count = 0;

@@ -1,10 +1,10 @@
 #include "render/scene_service.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
 #include "workbench/loader/module_loader.h"
 
 #include <hostapi/vxdb18.h>

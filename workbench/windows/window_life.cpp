@@ -1,3 +1,4 @@
+#include "workbench/base/turn.h"
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>
@@ -110,8 +111,8 @@ void WindowSystem::remove(HWND window) {
     std::vector<HWND>& siblings = parent == nullptr ? m_topWindows : parent->children;
     siblings.erase(std::find(siblings.begin(), siblings.end(), window));
     gone->object->m_hWnd = nullptr;
-    if (!m_dispatches.empty())
-        m_gone.push_back(std::move(gone));
+    // A handler of the widget may be running.
+    Turn::keep(std::move(gone));
     tellObserver(window);
 }
 

@@ -1,3 +1,4 @@
+#include "workbench/base/turn.h"
 #include "workbench/windows/message_words.h"
 #include "workbench/windows/window_system.h"
 
@@ -28,20 +29,19 @@ public:
     }
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
-    ~Running() {
-        m_windows.m_dispatches.pop_back();
-        if (m_windows.m_dispatches.empty() && !m_windows.m_gone.empty()) {
-            // A widget's end may end further windows.
-            std::vector<std::unique_ptr<Window>> gone;
-            gone.swap(m_windows.m_gone);
-        }
-    }
+    ~Running() { m_windows.m_dispatches.pop_back(); }
 
 private:
     WindowSystem& m_windows;
 };
 
 namespace {
+
+/// Stands in for an object that ends while its window is on its way out.
+CWnd& nobody() {
+    static CWnd s_nobody;
+    return s_nobody;
+}
 
 const MessageMap* baseOf(const MessageMap& map) {
     return map.base == nullptr ? nullptr : &map.base();
@@ -71,6 +71,7 @@ LRESULT WindowSystem::send(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     const Window* const found = find(window);
     if (found == nullptr)
         return 0;
+    const Turn turn;
     if (m_journal.isRecording())
         noteMessage(*found, message, wParam, lParam);
     return found->object->WindowProc(message, wParam, lParam);
@@ -160,6 +161,10 @@ LRESULT WindowSystem::handleCommonly(const Dispatch& dispatch) {
 
 void WindowSystem::objectEnds(CWnd& object) {
     destroy(object.m_hWnd);
+    if (Window* const onItsWayOut = find(object.m_hWnd)) {
+        onItsWayOut->object = &nobody();
+        Turn::keep(std::move(onItsWayOut->widget));
+    }
     for (Dispatch* dispatch : m_dispatches) {
         if (dispatch->object == &object)
             dispatch->object = nullptr;

@@ -1,3 +1,4 @@
+#include "workbench/base/turn.h"
 #include "workbench/core/invalid_argument.h"
 #include "workbench/windows/window_system.h"
 
@@ -34,6 +35,7 @@ void WindowSystem::input(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 bool WindowSystem::preTranslate(MSG& message) {
+    const Turn turn;
     HWND next = message.hwnd;
     while (const Window* const window = find(next)) {
         next = window->parent;

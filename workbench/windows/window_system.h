@@ -205,8 +205,7 @@ private:
     Journal& m_journal;
     HandleTable<HWND, Window> m_windows;
     std::vector<HWND> m_topWindows;
-    std::vector<Dispatch*> m_dispatches;          // running handlers, innermost last; not owned
-    std::vector<std::unique_ptr<Window>> m_gone;  // kept while a handler runs that may be theirs
+    std::vector<Dispatch*> m_dispatches;  // running handlers, innermost last; not owned
     std::deque<Posted> m_posted;
     HWND m_focus = nullptr;
     HWND m_reportedFocus = nullptr;  // whose parent got EN_SETFOCUS and not yet EN_KILLFOCUS

@@ -1,0 +1,39 @@
+#include "bench/receivers.h"
+
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <vector>
+
+namespace {
+
+class Receiver {
+public:
+    virtual ~Receiver() = default;
+    virtual void onChanged(int value) = 0;
+};
+
+class Counter final : public Receiver {
+public:
+    void onChanged(int value) override { m_sum += value; }
+
+private:
+    long m_sum = 0;
+};
+
+/// The floor: a list of pointers, and nothing that minds their lives.
+void bareVirtualCall(benchmark::State& state) {
+    std::vector<std::unique_ptr<Receiver>> receivers;
+    for (int i = 0; i < state.range(0); ++i)
+        receivers.push_back(std::make_unique<Counter>());
+    const bench::AllocationMeter meter;
+    for (auto _ : state) {
+        for (const std::unique_ptr<Receiver>& receiver : receivers)
+            receiver->onChanged(1);
+        benchmark::ClobberMemory();
+    }
+    bench::setReceiverCounters(state, meter);
+}
+BENCHMARK(bareVirtualCall)->Apply(bench::withReceivers);
+
+}  // namespace
