@@ -3,7 +3,6 @@
 #include "module/module.h"
 #include "tests/module/manager_fixture.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_lines.h"
 #include "workbench/editor/editor.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/lookup.h"
@@ -202,11 +201,9 @@ protected:
     VxDaManager& manager() { return *dashboardManager(); }
     /// The calls that add a reactor to the host or take one off, since the journal was forgotten.
     Lines takeReactorCalls() {
-        return support::callLines(
-            bench().journal().take(),
-            {"VxApProfileManager::addReactor", "VxEditor::addReactor", "VxApDocManager::addReactor",
-             "VxApProfileManager::removeReactor", "VxEditor::removeReactor",
-             "VxApDocManager::removeReactor"});
+        return takeLines({"VxApProfileManager::addReactor", "VxEditor::addReactor",
+                          "VxApDocManager::addReactor", "VxApProfileManager::removeReactor",
+                          "VxEditor::removeReactor", "VxApDocManager::removeReactor"});
     }
     void loadWithListener() {
         load();
@@ -303,9 +300,7 @@ TEST_F(LinkedManagerTest, ReloadIntoAWindowThatDiedBuildsNothingAndIsToldTheSave
 
 TEST_F(LinkedManagerTest, ReloadAsksTheFrameForWhatTheUnloadSawOnScreen) {
     show();
-    const auto barCalls = [this] {
-        return support::callLines(bench().journal().take(), {"CFrameWnd::ShowControlBar"});
-    };
+    const auto barCalls = [this] { return takeLines({"CFrameWnd::ShowControlBar"}); };
     ASSERT_EQ(manager().notify(kDashboardUnload), 1);
     ASSERT_EQ(manager().notify(kDashboardReload), 1);
     EXPECT_EQ(barCalls(), Lines{}) << "it is on screen still";
