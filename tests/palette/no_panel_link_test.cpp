@@ -99,7 +99,7 @@ TEST_F(NoPanelLinkTest, BeginsInASmallRectangleAndTakesItsFontAtOnce) {
     EXPECT_EQ(topics, std::vector<std::wstring>{L"LEARNDASHBOARD"});
     std::vector<workbench::Value> redraws;
     for (const workbench::JournalRecord& record : bench().journal().take("message")) {
-        if (record.field("control") == "link" && record.field("number") == WM_SETFONT)
+        if (record.field("control") == "link" && record.field("number") == std::int64_t{WM_SETFONT})
             redraws.push_back(record.field("lparam"));
     }
     EXPECT_EQ(redraws, std::vector<workbench::Value>{1});
