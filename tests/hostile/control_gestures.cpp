@@ -58,14 +58,15 @@ int positionFor(const workbench::SliderWidget& slider) {
 
 void dragSlider(const Part& part) {
     const int position = positionFor(part.widget<workbench::SliderWidget>());
-    if (gestures::dragSlider(part.find(), {position}))
-        gestures::releaseSlider(part.find());
+    if (gestures::dragSlider(host().toolkit(), part.find(), {position}))
+        gestures::releaseSlider(host().toolkit(), part.find());
     letRun();
     wait(kSettleMs);
 }
 
 void turnWheel(const Part& part) {
-    gestures::turnWheel(part.find(), gestures::middleOf(part.find()), 1);
+    gestures::turnWheel(host().toolkit(), part.find(),
+                        gestures::middleOf(host().toolkit(), part.find()), 1);
     letRun();
     wait(kSettleMs);
 }
@@ -78,24 +79,24 @@ std::wstring nextEntry() {
 }
 
 void enterText(const Part& part) {
-    if (!gestures::focusField(part.find()))
+    if (!gestures::focusField(host().toolkit(), part.find()))
         throw GestureError(part.text() + " takes no focus");
     letRun();
-    gestures::replaceText(nextEntry());
+    gestures::replaceText(host().toolkit(), nextEntry());
     letRun();
 }
 
 void leaveByKey(const Part& part, const char* key) {
     enterText(part);
-    gestures::pressKey(key);
+    gestures::pressKey(host().toolkit(), key);
     letRun();
-    gestures::blur();
+    gestures::blur(host().toolkit());
     letRun();
 }
 
 void leaveByClick(const Part& part) {
     enterText(part);
-    gestures::blur();
+    gestures::blur(host().toolkit());
     letRun();
 }
 
@@ -108,31 +109,32 @@ int indexFor(const workbench::ComboWidget& combo) {
 }
 
 void pick(const Part& part) {
-    if (!gestures::openList(part.find()))
+    if (!gestures::openList(host().toolkit(), part.find()))
         return;
     letRun();
     const int index = indexFor(part.widget<workbench::ComboWidget>());
     if (index < 0)
-        gestures::closeList(part.find());
+        gestures::closeList(host().toolkit(), part.find());
     else
-        gestures::chooseFromList(part.find(), index);
+        gestures::chooseFromList(host().toolkit(), part.find(), index);
     letRun();
 }
 
 void openAndClose(const Part& part) {
-    gestures::openList(part.find());
+    gestures::openList(host().toolkit(), part.find());
     letRun();
-    gestures::closeList(part.find());
+    gestures::closeList(host().toolkit(), part.find());
     letRun();
 }
 
 void clickIcon(const Part& part) {
-    gestures::clickIcon(part.find());
+    gestures::clickIcon(host().toolkit(), part.find());
     letRun();
 }
 
 void clickMiddle(const Part& part) {
-    gestures::clickAt(part.find(), gestures::middleOf(part.find()));
+    gestures::clickAt(host().toolkit(), part.find(),
+                      gestures::middleOf(host().toolkit(), part.find()));
     letRun();
 }
 
@@ -162,7 +164,7 @@ std::vector<Gesture> controlGestures() {
     std::vector<Gesture> all;
     std::map<std::string, int> seen;
     const workbench::WindowSystem& windows = host().windows();
-    for (const CQrUiToolPanelItem* item : workbench::allItems()) {
+    for (const CQrUiToolPanelItem* item : workbench::allItems(windows)) {
         const workbench::Window* const window = windows.find(item->GetControl());
         if (window == nullptr || window->name.empty())
             continue;

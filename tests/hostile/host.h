@@ -1,7 +1,7 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_system.h"
 

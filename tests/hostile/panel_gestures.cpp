@@ -6,7 +6,6 @@
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/lookup.h"
-#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/qrui18/messages.h>
@@ -23,7 +22,7 @@ using workbench::MenuLine;
 constexpr CPoint kOnTitle{40, 6};
 
 CQrUiPanel& layerPanel() {
-    const auto panels = workbench::findPanels(L"Layers");
+    const auto panels = workbench::findPanels(host().windows(), L"Layers");
     if (panels.empty())
         throw gestures::GestureError("there is no panel of layers");
     return *panels.front();
@@ -32,7 +31,7 @@ CQrUiPanel& layerPanel() {
 /// Opens a context menu; the module comes to it while it is open. Then the line of a path is
 /// chosen; an empty path chooses none.
 void useMenu(const Stage& stage, HWND window, const std::wstring& path) {
-    gestures::requireOnScreen(window);
+    gestures::requireOnScreen(host().toolkit(), window);
     host().toolkit().menus().answerNext(
         [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
             stage.reach(Point::MenuOpen);
@@ -56,13 +55,13 @@ void hidePanel(const Stage& stage) {
 
 void rollPanel() {
     for (int time = 0; time < 2; ++time) {
-        gestures::clickTitle(layerPanel());
+        gestures::clickTitle(host().toolkit(), layerPanel());
         letRun();
     }
 }
 
 void hideAndShowBar() {
-    workbench::closePaletteSet(bar());
+    host().toolkit().frame().close(bar());
     letRun();
     type(L"DASHBOARDOLD\n");
 }
@@ -105,7 +104,7 @@ void idle() {
 /// The toolkit's queries to every control.
 void askControls() {
     std::vector<HWND> controls;
-    for (const CQrUiToolPanelItem* item : workbench::allItems())
+    for (const CQrUiToolPanelItem* item : workbench::allItems(host().windows()))
         controls.push_back(item->GetControl());
     for (const HWND control : controls) {
         for (const UINT query :
@@ -117,9 +116,9 @@ void askControls() {
 /// The mouse goes over the dashboard with the keyboard in it, and leaves.
 void hoverAndLeave() {
     const HWND slider = named("LayerLockTransparencySliderControl");
-    gestures::hoverAt(slider, gestures::middleOf(slider));
+    gestures::hoverAt(host().toolkit(), slider, gestures::middleOf(host().toolkit(), slider));
     letRun();
-    gestures::leave();
+    gestures::leave(host().toolkit());
     letRun();
 }
 

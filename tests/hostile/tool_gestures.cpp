@@ -18,14 +18,14 @@ namespace {
 constexpr const char* kNavigationModule = "VxVmTools.qlx";
 
 CQrUiToolPanelItem& itemOf(const std::wstring& id) {
-    const auto items = workbench::findItems(id);
+    const auto items = workbench::findItems(host().windows(), id);
     if (items.empty())
         throw workbench::gestures::GestureError("there is no item " + workbench::toUtf8(id));
     return *items.front();
 }
 
 void click(const std::wstring& id) {
-    workbench::gestures::clickItem(itemOf(id));
+    workbench::gestures::clickItem(host().toolkit(), itemOf(id));
     letRun();
 }
 
@@ -78,7 +78,7 @@ void chooseFromFlyout(const Stage& stage, const std::wstring& flyout) {
 
 std::vector<Gesture> toolGestures(const Stage& stage) {
     std::vector<Gesture> all;
-    for (const CQrUiToolPanelItem* item : workbench::allItems()) {
+    for (const CQrUiToolPanelItem* item : workbench::allItems(host().windows())) {
         const VxToolPanelItemData* const data = QrUiGetToolPanelItemData(item);
         if (data == nullptr || data->type != kItemButton || !isTried(*data))
             continue;

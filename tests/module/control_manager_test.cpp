@@ -44,8 +44,8 @@ protected:
         // Parts are found in windows with names.
         bench().windows().setName(control, "control");
         ASSERT_TRUE(workbench::gestures::focusField(
-            workbench::findPart(bench().windows(), control, "edit")));
-        workbench::gestures::replaceText(text);
+            bench().toolkit(), workbench::findPart(bench().windows(), control, "edit")));
+        workbench::gestures::replaceText(bench().toolkit(), text);
     }
     /// Opens a document behind whose command actions wait.
     void beginCommand() { bench().editor().beginCommand(L"LINE"); }

@@ -6,7 +6,6 @@
 #include "workbench/editor/editor.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/lookup.h"
-#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <algorithm>
@@ -63,7 +62,7 @@ TEST_F(ManagerTest, FrameIsAskedOnceToShowTheBarAndNeverWhileItIsOnScreen) {
     EXPECT_EQ(takeBarCalls(), Lines{"CFrameWnd::ShowControlBar(object, 1, 0)"});
     show();
     EXPECT_EQ(takeBarCalls(), Lines{});
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     show();
     EXPECT_EQ(takeBarCalls(), Lines{"CFrameWnd::ShowControlBar(object, 1, 0)"});
 }
@@ -85,7 +84,7 @@ TEST_F(ManagerTest, ListenersHearOfTheBarWhenItIsThereOrGoneAlready) {
     EXPECT_EQ(states, (Lines{"on and there", "on and there"}));
     states.clear();
     EXPECT_EQ(notify(kDashboardUnload), 1);
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     EXPECT_EQ(notify(kDashboardReload), 1);
     EXPECT_EQ(states, (Lines{"off and gone", "on and there", "on and there"}));
 }
@@ -93,9 +92,9 @@ TEST_F(ManagerTest, ListenersHearOfTheBarWhenItIsThereOrGoneAlready) {
 TEST_F(ManagerTest, PanelsAreMadeBetweenTheTwoNoticesOfTheirBuilding) {
     loadWithListener();
     Lines panels;
-    m_listener.act = [&panels](std::string_view event) {
+    m_listener.act = [this, &panels](std::string_view event) {
         if (event == "willLoad" || event == "loaded")
-            panels.push_back(workbench::allPanels().empty() ? "none" : "some");
+            panels.push_back(workbench::allPanels(bench().windows()).empty() ? "none" : "some");
     };
     show();
     EXPECT_EQ(panels, (Lines{"none", "some"}));
