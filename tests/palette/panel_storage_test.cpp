@@ -91,8 +91,8 @@ TEST_F(PanelStorageTest, AnElementWithoutIdOrMenuGroupIsIgnoredAndTheFollowingOn
 }
 
 TEST_F(PanelStorageTest, AnElementWithoutIdOrMenuGroupIsNotThatOfARecordWithEmptyOnes) {
-    m_records[0].id.clear();
-    m_records[1].menuGroup.clear();
+    m_records[0]->id.clear();
+    m_records[1]->menuGroup.clear();
     const NodePtr set = addSet();
     addPanel(set, L"MAIN", nullptr, L"0");
     addPanel(set, nullptr, L"B", L"0");
