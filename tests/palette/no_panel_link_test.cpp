@@ -9,10 +9,13 @@
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace {
 
 using Lines = std::vector<std::string>;
+
+constexpr std::int64_t kSetFont = 48;  // the framework's message that gives a window its font
 
 class NoPanelLinkTest : public PaletteTest {
 protected:
@@ -99,7 +102,8 @@ TEST_F(NoPanelLinkTest, BeginsInASmallRectangleAndTakesItsFontAtOnce) {
     EXPECT_EQ(topics, std::vector<std::wstring>{L"LEARNDASHBOARD"});
     std::vector<workbench::Value> redraws;
     for (const workbench::JournalRecord& record : bench().journal().take("message")) {
-        if (record.field("control") == "link" && record.field("number") == std::int64_t{WM_SETFONT})
+        if (record.field("control") == "link" &&
+            record.field("number") == workbench::Value(kSetFont))
             redraws.push_back(record.field("lparam"));
     }
     EXPECT_EQ(redraws, std::vector<workbench::Value>{1});
