@@ -1,7 +1,7 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_system.h"
 
@@ -16,6 +16,14 @@ namespace hostile {
 
 inline workbench::Workbench& host() {
     return workbench::Workbench::current();
+}
+
+inline workbench::Toolkit& toolkit() {
+    return host().toolkit();
+}
+
+inline workbench::WindowSystem& windows() {
+    return host().windows();
 }
 
 inline workbench::Editor& editor() {

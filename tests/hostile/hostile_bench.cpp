@@ -204,7 +204,7 @@ bool HostileBench::isInService() {
 
 void HostileBench::expectGone() {
     EXPECT_EQ(paletteSet(), nullptr);
-    EXPECT_TRUE(workbench::allPanels().empty());
+    EXPECT_TRUE(workbench::allPanels(bench().windows()).empty());
     EXPECT_EQ(bench().windows().findByName(kFadeControl), nullptr);
 }
 
@@ -250,8 +250,8 @@ void HostileBench::expectFadeSliderWorks() {
     const HWND fade = control(kFadeControl);
     const HWND slider = part(fade, "slider");
     ASSERT_NE(slider, nullptr);
-    ASSERT_TRUE(workbench::gestures::dragSlider(slider, {33}));
-    workbench::gestures::releaseSlider(slider);
+    ASSERT_TRUE(workbench::gestures::dragSlider(bench().toolkit(), slider, {33}));
+    workbench::gestures::releaseSlider(bench().toolkit(), slider);
     wait(400);
     EXPECT_EQ(var(kFade), workbench::Value(33));
     EXPECT_EQ(bench().windows().find(part(fade, "edit"))->text, L"      33%");

@@ -23,7 +23,7 @@ using workbench::MenuLine;
 constexpr CPoint kOnTitle{40, 6};
 
 CQrUiPanel& layerPanel() {
-    const auto panels = workbench::findPanels(L"Layers");
+    const auto panels = workbench::findPanels(windows(), L"Layers");
     if (panels.empty())
         throw gestures::GestureError("there is no panel of layers");
     return *panels.front();
@@ -32,15 +32,14 @@ CQrUiPanel& layerPanel() {
 /// Opens a context menu; the module comes to it while it is open. Then the line of a path is
 /// chosen; an empty path chooses none.
 void useMenu(const Stage& stage, HWND window, const std::wstring& path) {
-    gestures::requireOnScreen(window);
-    host().toolkit().menus().answerNext(
-        [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
-            stage.reach(Point::MenuOpen);
-            const MenuLine* const line = workbench::findMenuLine(lines, path);
-            return line == nullptr ? std::nullopt : std::optional(line->command);
-        });
-    host().toolkit().mouse().contextMenu(window, kOnTitle);
-    host().toolkit().menus().answerNext(nullptr);
+    gestures::requireOnScreen(toolkit(), window);
+    toolkit().menus().answerNext([&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
+        stage.reach(Point::MenuOpen);
+        const MenuLine* const line = workbench::findMenuLine(lines, path);
+        return line == nullptr ? std::nullopt : std::optional(line->command);
+    });
+    toolkit().mouse().contextMenu(window, kOnTitle);
+    toolkit().menus().answerNext(nullptr);
     letRun();
 }
 
@@ -56,19 +55,19 @@ void hidePanel(const Stage& stage) {
 
 void rollPanel() {
     for (int time = 0; time < 2; ++time) {
-        gestures::clickTitle(layerPanel());
+        gestures::clickTitle(toolkit(), layerPanel());
         letRun();
     }
 }
 
 void hideAndShowBar() {
-    workbench::closePaletteSet(bar());
+    toolkit().frame().show(bar(), false, false);
     letRun();
     type(L"DASHBOARDOLD\n");
 }
 
 void floatAndDock() {
-    workbench::MainFrame& frame = host().toolkit().frame();
+    workbench::MainFrame& frame = toolkit().frame();
     frame.floatAt(bar(), {200, 100, 480, 700});
     letRun();
     frame.dock(bar(), workbench::Edge::left);
@@ -81,31 +80,31 @@ void moveByMenu(const Stage& stage) {
     host().answers().queue("dialog", workbench::Value(workbench::Value::Table{{"x", 300}}));
     useMenu(stage, bar().m_hWnd, L"Move");
     host().answers().take("dialog");
-    host().toolkit().frame().dock(bar(), workbench::Edge::right);
+    toolkit().frame().dock(bar(), workbench::Edge::right);
     letRun();
 }
 
 void changeTheme() {
-    host().toolkit().themes().find(L"ToolPanel")->changeElement(3);
+    toolkit().themes().find(L"ToolPanel")->changeElement(3);
     letRun();
 }
 
 void changeIconSize() {
     for (const int pixels : {32, 16}) {
-        host().toolkit().setIconSize(pixels);
+        toolkit().setIconSize(pixels);
         changeTheme();
     }
 }
 
 void idle() {
-    host().toolkit().idleUpdate();
+    toolkit().idleUpdate();
     letRun();
 }
 
 /// The toolkit's queries to every control.
 void askControls() {
     std::vector<HWND> controls;
-    for (const CQrUiToolPanelItem* item : workbench::allItems())
+    for (const CQrUiToolPanelItem* item : workbench::allItems(windows()))
         controls.push_back(item->GetControl());
     for (const HWND control : controls) {
         for (const UINT query :
@@ -117,9 +116,9 @@ void askControls() {
 /// The mouse goes over the dashboard with the keyboard in it, and leaves.
 void hoverAndLeave() {
     const HWND slider = named("LayerLockTransparencySliderControl");
-    gestures::hoverAt(slider, gestures::middleOf(slider));
+    gestures::hoverAt(toolkit(), slider, gestures::middleOf(toolkit(), slider));
     letRun();
-    gestures::leave();
+    gestures::leave(toolkit());
     letRun();
 }
 

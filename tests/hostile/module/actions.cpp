@@ -3,8 +3,8 @@
 #include "tests/hostile/module/hostile_control.h"
 #include "tests/hostile/module/hostile_listener.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/toolkit/lookup.h"
 

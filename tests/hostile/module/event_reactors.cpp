@@ -3,8 +3,8 @@
 #include "tests/hostile/module/actions.h"
 #include "tests/hostile/module/attacker.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/vxdb18/rx_object.h>
 
