@@ -3,7 +3,6 @@
 #include "core/string_ids.h"
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_lines.h"
 #include "workbench/loader/module_loader.h"
 
 #include <string>
@@ -17,8 +16,6 @@ constexpr UINT kNoSuchString = 65000;
 
 class ResourcesTest : public PaletteTest {
 protected:
-    /// The host calls since the journal was forgotten.
-    Lines takeCalls() { return support::callLines(bench().journal().take()); }
     /// Has the framework look for resources in a library of somebody else.
     void useForeignLibrary() { AfxSetResourceHandle(iconLibrary()); }
 };
@@ -28,7 +25,7 @@ TEST_F(ResourcesTest, StringIsLoadedWithTheHandleSwappedAndPutBack) {
     useForeignLibrary();
     forget();
     EXPECT_FALSE(loadDashboardString(kStrDashboardTitle).empty());
-    EXPECT_EQ(takeCalls(),
+    EXPECT_EQ(takeLines(),
               (Lines{"AfxGetResourceHandle()", "AfxSetResourceHandle(\"VxDashboardRes.dll\")",
                      "LoadString(203)", "AfxSetResourceHandle(\"ZORQbtn.xmx\")"}));
     EXPECT_EQ(AfxGetResourceHandle(), iconLibrary());
@@ -53,12 +50,12 @@ TEST_F(ResourcesTest, LibraryStandsInTheSearchChainOnce) {
     forget();
     resources.attach();
     resources.attach();
-    EXPECT_EQ(takeCalls(),
+    EXPECT_EQ(takeLines(),
               (Lines{"AfxGetResourceHandle()", "AfxInitExtensionModule(\"VxDashboardRes.dll\")"}));
     EXPECT_EQ(bench().modules().resources().attachedCount(), 1U);
     resources.detach();
     resources.detach();
-    EXPECT_EQ(takeCalls(), Lines{"AfxTermExtensionModule(\"VxDashboardRes.dll\")"});
+    EXPECT_EQ(takeLines(), Lines{"AfxTermExtensionModule(\"VxDashboardRes.dll\")"});
     EXPECT_EQ(bench().modules().resources().attachedCount(), 0U);
     resources.free();
 }
@@ -82,7 +79,7 @@ TEST_F(ResourcesTest, HandleKeepsItsValueWhenTheLibraryIsGivenBack) {
     ASSERT_NE(library, nullptr);
     forget();
     resources.free();
-    EXPECT_EQ(takeCalls(), Lines{"FreeLibrary(\"VxDashboardRes.dll\")"});
+    EXPECT_EQ(takeLines(), Lines{"FreeLibrary(\"VxDashboardRes.dll\")"});
     EXPECT_EQ(bench().modules().libraries().find(L"VxDashboardRes.dll"), nullptr);
     EXPECT_EQ(resources.library(), library);
 }
@@ -96,7 +93,7 @@ TEST_F(ResourcesTest, MissingLibraryIsNoneAndNothingIsGivenBack) {
     forget();
     resources.free();
     resources.detach();
-    EXPECT_TRUE(takeCalls().empty());
+    EXPECT_TRUE(takeLines().empty());
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "core/theme.h"
 
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_lines.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -18,8 +17,6 @@ protected:
     workbench::Theme& toolkitTheme() { return *bench().toolkit().themes().find(L"ToolPanel"); }
     int held() { return bench().toolkit().themes().heldCount(); }
     std::size_t fonts() { return bench().windows().gdi().fontCount(); }
-    /// The host calls since the journal was forgotten.
-    Lines takeCalls() { return support::callLines(bench().journal().take()); }
 
     VxDaTheme m_theme;
 };
@@ -37,11 +34,11 @@ TEST_F(DashboardThemeTest, IsHeldAndFollowedUntilItIsReleased) {
 
 TEST_F(DashboardThemeTest, IsAskedForByNameAndGivenBackAfterTheLastChangeWasHeard) {
     m_theme.acquire();
-    EXPECT_EQ(takeCalls(),
+    EXPECT_EQ(takeLines(),
               (Lines{"QrUiGetThemeManager()", "CQrUiThemeManager::GetTheme(\"ToolPanel\")",
                      "CQrUiTheme::RegisterReactor(object)"}));
     m_theme.release();
-    EXPECT_EQ(takeCalls(), (Lines{"CQrUiTheme::UnregisterReactor(object)", "QrUiGetThemeManager()",
+    EXPECT_EQ(takeLines(), (Lines{"CQrUiTheme::UnregisterReactor(object)", "QrUiGetThemeManager()",
                                   "CQrUiThemeManager::ReleaseTheme(object)"}));
 }
 
@@ -51,7 +48,7 @@ TEST_F(DashboardThemeTest, FontIsMadeOfTheElementForControlsAndPublishedWithoutT
     forget();
     m_theme.buildFont();
     EXPECT_EQ(
-        takeCalls(),
+        takeLines(),
         (Lines{"CQrUiTheme::GetFont(3)", "CFont::CreateFontIndirect(\"Wide\", 17, 600)",
                "CQrUiTheme::SetDataPtr(2, object)", "CQrUiTheme::ResumeModifiedNotifications()"}));
     EXPECT_NE(m_theme.font(), nullptr);
@@ -68,7 +65,7 @@ TEST_F(DashboardThemeTest, ChangeOfAnyElementReplacesTheFontByOneOfItsNewDescrip
     forget();
     toolkitTheme().changeElement(1);
     EXPECT_EQ(
-        takeCalls(),
+        takeLines(),
         (Lines{"CQrUiTheme::GetFont(3)", "CFont::CreateFontIndirect(\"Narrow\", 9, 300)",
                "CQrUiTheme::SetDataPtr(2, object)", "CQrUiTheme::ResumeModifiedNotifications()"}));
     EXPECT_EQ(toolkitTheme().dataPtr(kFontPointer), m_theme.font());
@@ -111,7 +108,7 @@ TEST_F(DashboardThemeTest, MissingThemeIsPassedOverAtEachStep) {
     m_theme.buildFont();
     m_theme.deleteFont();
     m_theme.release();
-    EXPECT_EQ(takeCalls(), Lines{});
+    EXPECT_EQ(takeLines(), Lines{});
     EXPECT_EQ(m_theme.font(), nullptr);
 }
 

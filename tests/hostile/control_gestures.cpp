@@ -36,14 +36,14 @@ struct Part {
     }
     HWND find() const {
         const HWND owner = named(control, number);
-        const HWND part = name.empty() ? owner : findPart(windows(), owner, name);
+        const HWND part = name.empty() ? owner : findPart(host().windows(), owner, name);
         if (part == nullptr)
             throw GestureError("there is no part " + text());
         return part;
     }
     template <class Type>
     Type& widget() const {
-        auto* const found = dynamic_cast<Type*>(windows().find(find())->widget.get());
+        auto* const found = dynamic_cast<Type*>(host().windows().find(find())->widget.get());
         if (found == nullptr)
             throw GestureError(text() + " is of another kind");
         return *found;
@@ -58,14 +58,15 @@ int positionFor(const workbench::SliderWidget& slider) {
 
 void dragSlider(const Part& part) {
     const int position = positionFor(part.widget<workbench::SliderWidget>());
-    if (gestures::dragSlider(toolkit(), part.find(), {position}))
-        gestures::releaseSlider(toolkit(), part.find());
+    if (gestures::dragSlider(host().toolkit(), part.find(), {position}))
+        gestures::releaseSlider(host().toolkit(), part.find());
     letRun();
     wait(kSettleMs);
 }
 
 void turnWheel(const Part& part) {
-    gestures::turnWheel(toolkit(), part.find(), gestures::middleOf(toolkit(), part.find()), 1);
+    gestures::turnWheel(host().toolkit(), part.find(),
+                        gestures::middleOf(host().toolkit(), part.find()), 1);
     letRun();
     wait(kSettleMs);
 }
@@ -78,24 +79,24 @@ std::wstring nextEntry() {
 }
 
 void enterText(const Part& part) {
-    if (!gestures::focusField(toolkit(), part.find()))
+    if (!gestures::focusField(host().toolkit(), part.find()))
         throw GestureError(part.text() + " takes no focus");
     letRun();
-    gestures::replaceText(toolkit(), nextEntry());
+    gestures::replaceText(host().toolkit(), nextEntry());
     letRun();
 }
 
 void leaveByKey(const Part& part, const char* key) {
     enterText(part);
-    gestures::pressKey(toolkit(), key);
+    gestures::pressKey(host().toolkit(), key);
     letRun();
-    gestures::blur(toolkit());
+    gestures::blur(host().toolkit());
     letRun();
 }
 
 void leaveByClick(const Part& part) {
     enterText(part);
-    gestures::blur(toolkit());
+    gestures::blur(host().toolkit());
     letRun();
 }
 
@@ -108,31 +109,32 @@ int indexFor(const workbench::ComboWidget& combo) {
 }
 
 void pick(const Part& part) {
-    if (!gestures::openList(toolkit(), part.find()))
+    if (!gestures::openList(host().toolkit(), part.find()))
         return;
     letRun();
     const int index = indexFor(part.widget<workbench::ComboWidget>());
     if (index < 0)
-        gestures::closeList(toolkit(), part.find());
+        gestures::closeList(host().toolkit(), part.find());
     else
-        gestures::chooseFromList(toolkit(), part.find(), index);
+        gestures::chooseFromList(host().toolkit(), part.find(), index);
     letRun();
 }
 
 void openAndClose(const Part& part) {
-    gestures::openList(toolkit(), part.find());
+    gestures::openList(host().toolkit(), part.find());
     letRun();
-    gestures::closeList(toolkit(), part.find());
+    gestures::closeList(host().toolkit(), part.find());
     letRun();
 }
 
 void clickIcon(const Part& part) {
-    gestures::clickIcon(toolkit(), part.find());
+    gestures::clickIcon(host().toolkit(), part.find());
     letRun();
 }
 
 void clickMiddle(const Part& part) {
-    gestures::clickAt(toolkit(), part.find(), gestures::middleOf(toolkit(), part.find()));
+    gestures::clickAt(host().toolkit(), part.find(),
+                      gestures::middleOf(host().toolkit(), part.find()));
     letRun();
 }
 
@@ -161,18 +163,19 @@ void addPart(std::vector<Gesture>& all, const Part& part, const std::string& cla
 std::vector<Gesture> controlGestures() {
     std::vector<Gesture> all;
     std::map<std::string, int> seen;
-    for (const CQrUiToolPanelItem* item : workbench::allItems(windows())) {
-        const workbench::Window* const window = windows().find(item->GetControl());
+    const workbench::WindowSystem& windows = host().windows();
+    for (const CQrUiToolPanelItem* item : workbench::allItems(windows)) {
+        const workbench::Window* const window = windows.find(item->GetControl());
         if (window == nullptr || window->name.empty())
             continue;
         const Part control{window->name, seen[window->name]++, {}};
         all.push_back({"click the icon of " + control.text(), [control] { clickIcon(control); }});
-        for (const HWND below : windows().descendants(item->GetControl())) {
-            const workbench::Window& part = *windows().find(below);
-            if (windows().owner(below) != item->GetControl() ||
+        for (const HWND below : windows.descendants(item->GetControl())) {
+            const workbench::Window& part = *windows.find(below);
+            if (windows.owner(below) != item->GetControl() ||
                 part.className == "CQrUiCtrlContainer" || part.className == "CQrToolTipCtrl")
                 continue;
-            addPart(all, {control.control, control.number, partName(windows(), below)},
+            addPart(all, {control.control, control.number, partName(windows, below)},
                     part.className);
         }
     }

@@ -18,14 +18,6 @@ inline workbench::Workbench& host() {
     return workbench::Workbench::current();
 }
 
-inline workbench::Toolkit& toolkit() {
-    return host().toolkit();
-}
-
-inline workbench::WindowSystem& windows() {
-    return host().windows();
-}
-
 inline workbench::Editor& editor() {
     return host().editor();
 }

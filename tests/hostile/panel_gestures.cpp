@@ -6,7 +6,6 @@
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/lookup.h"
-#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/qrui18/messages.h>
@@ -23,7 +22,7 @@ using workbench::MenuLine;
 constexpr CPoint kOnTitle{40, 6};
 
 CQrUiPanel& layerPanel() {
-    const auto panels = workbench::findPanels(windows(), L"Layers");
+    const auto panels = workbench::findPanels(host().windows(), L"Layers");
     if (panels.empty())
         throw gestures::GestureError("there is no panel of layers");
     return *panels.front();
@@ -32,14 +31,15 @@ CQrUiPanel& layerPanel() {
 /// Opens a context menu; the module comes to it while it is open. Then the line of a path is
 /// chosen; an empty path chooses none.
 void useMenu(const Stage& stage, HWND window, const std::wstring& path) {
-    gestures::requireOnScreen(toolkit(), window);
-    toolkit().menus().answerNext([&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
-        stage.reach(Point::MenuOpen);
-        const MenuLine* const line = workbench::findMenuLine(lines, path);
-        return line == nullptr ? std::nullopt : std::optional(line->command);
-    });
-    toolkit().mouse().contextMenu(window, kOnTitle);
-    toolkit().menus().answerNext(nullptr);
+    gestures::requireOnScreen(host().toolkit(), window);
+    host().toolkit().menus().answerNext(
+        [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
+            stage.reach(Point::MenuOpen);
+            const MenuLine* const line = workbench::findMenuLine(lines, path);
+            return line == nullptr ? std::nullopt : std::optional(line->command);
+        });
+    host().toolkit().mouse().contextMenu(window, kOnTitle);
+    host().toolkit().menus().answerNext(nullptr);
     letRun();
 }
 
@@ -55,19 +55,19 @@ void hidePanel(const Stage& stage) {
 
 void rollPanel() {
     for (int time = 0; time < 2; ++time) {
-        gestures::clickTitle(toolkit(), layerPanel());
+        gestures::clickTitle(host().toolkit(), layerPanel());
         letRun();
     }
 }
 
 void hideAndShowBar() {
-    toolkit().frame().show(bar(), false, false);
+    host().toolkit().frame().close(bar());
     letRun();
     type(L"DASHBOARDOLD\n");
 }
 
 void floatAndDock() {
-    workbench::MainFrame& frame = toolkit().frame();
+    workbench::MainFrame& frame = host().toolkit().frame();
     frame.floatAt(bar(), {200, 100, 480, 700});
     letRun();
     frame.dock(bar(), workbench::Edge::left);
@@ -80,31 +80,31 @@ void moveByMenu(const Stage& stage) {
     host().answers().queue("dialog", workbench::Value(workbench::Value::Table{{"x", 300}}));
     useMenu(stage, bar().m_hWnd, L"Move");
     host().answers().take("dialog");
-    toolkit().frame().dock(bar(), workbench::Edge::right);
+    host().toolkit().frame().dock(bar(), workbench::Edge::right);
     letRun();
 }
 
 void changeTheme() {
-    toolkit().themes().find(L"ToolPanel")->changeElement(3);
+    host().toolkit().themes().find(L"ToolPanel")->changeElement(3);
     letRun();
 }
 
 void changeIconSize() {
     for (const int pixels : {32, 16}) {
-        toolkit().setIconSize(pixels);
+        host().toolkit().setIconSize(pixels);
         changeTheme();
     }
 }
 
 void idle() {
-    toolkit().idleUpdate();
+    host().toolkit().idleUpdate();
     letRun();
 }
 
 /// The toolkit's queries to every control.
 void askControls() {
     std::vector<HWND> controls;
-    for (const CQrUiToolPanelItem* item : workbench::allItems(windows()))
+    for (const CQrUiToolPanelItem* item : workbench::allItems(host().windows()))
         controls.push_back(item->GetControl());
     for (const HWND control : controls) {
         for (const UINT query :
@@ -116,9 +116,9 @@ void askControls() {
 /// The mouse goes over the dashboard with the keyboard in it, and leaves.
 void hoverAndLeave() {
     const HWND slider = named("LayerLockTransparencySliderControl");
-    gestures::hoverAt(toolkit(), slider, gestures::middleOf(toolkit(), slider));
+    gestures::hoverAt(host().toolkit(), slider, gestures::middleOf(host().toolkit(), slider));
     letRun();
-    gestures::leave(toolkit());
+    gestures::leave(host().toolkit());
     letRun();
 }
 

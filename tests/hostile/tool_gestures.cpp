@@ -18,14 +18,14 @@ namespace {
 constexpr const char* kNavigationModule = "VxVmTools.qlx";
 
 CQrUiToolPanelItem& itemOf(const std::wstring& id) {
-    const auto items = workbench::findItems(windows(), id);
+    const auto items = workbench::findItems(host().windows(), id);
     if (items.empty())
         throw workbench::gestures::GestureError("there is no item " + workbench::toUtf8(id));
     return *items.front();
 }
 
 void click(const std::wstring& id) {
-    workbench::gestures::clickItem(toolkit(), itemOf(id));
+    workbench::gestures::clickItem(host().toolkit(), itemOf(id));
     letRun();
 }
 
@@ -47,12 +47,12 @@ bool isTried(const VxToolPanelItemData& data) {
 void clickWithoutModule(const Stage& stage) {
     host().modules().unloadModule(workbench::toWide(kNavigationModule));
     host().faults().hide(kNavigationModule);
-    toolkit().boxes().setPresenter([&stage](const std::wstring&, UINT) {
+    host().toolkit().boxes().setPresenter([&stage](const std::wstring&, UINT) {
         stage.reach(Point::BoxOpen);
         return workbench::MessageBoxes::kOk;
     });
     click(L"ID_Animation_Play");
-    toolkit().boxes().setPresenter(nullptr);
+    host().toolkit().boxes().setPresenter(nullptr);
     host().faults().unhide(kNavigationModule);
 }
 
@@ -62,15 +62,15 @@ void chooseFromFlyout(const Stage& stage, const std::wstring& flyout) {
     const HWND panel = workbench::toolPanelOf(item)->m_hWnd;
     CRect rect;
     item.GetRect(rect, 1);
-    toolkit().menus().answerNext([&stage](const std::vector<workbench::MenuLine>& lines) {
+    host().toolkit().menus().answerNext([&stage](const std::vector<workbench::MenuLine>& lines) {
         stage.reach(Point::MenuOpen);
         return std::optional<UINT>(lines.back().command);
     });
     constexpr int kOnArrow = 3;  // pixels from the right edge
     const CPoint point{rect.right - kOnArrow, (rect.top + rect.bottom) / 2};
-    toolkit().mouse().press(panel, point);
-    toolkit().mouse().release(panel, point);
-    toolkit().menus().answerNext(nullptr);
+    host().toolkit().mouse().press(panel, point);
+    host().toolkit().mouse().release(panel, point);
+    host().toolkit().menus().answerNext(nullptr);
     letRun();
 }
 
@@ -78,7 +78,7 @@ void chooseFromFlyout(const Stage& stage, const std::wstring& flyout) {
 
 std::vector<Gesture> toolGestures(const Stage& stage) {
     std::vector<Gesture> all;
-    for (const CQrUiToolPanelItem* item : workbench::allItems(windows())) {
+    for (const CQrUiToolPanelItem* item : workbench::allItems(host().windows())) {
         const VxToolPanelItemData* const data = QrUiGetToolPanelItemData(item);
         if (data == nullptr || data->type != kItemButton || !isTried(*data))
             continue;

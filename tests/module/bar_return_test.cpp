@@ -1,6 +1,5 @@
 #include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
-#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <string>
@@ -75,7 +74,7 @@ TEST_F(BarReturnTest, CleanScreenStateIsNotEvenReadBeforeTheFirstShow) {
 
 TEST_F(BarReturnTest, EndOfACleanScreenThatHidNothingTellsNobody) {
     showWithListener();
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     m_listener.take();
     takeJournal();
@@ -151,7 +150,7 @@ TEST_F(BarReturnTest, LastDocumentWithTheBarHiddenByTheUserTellsTheControlsAlone
     closeDocument(L"A");
     newDocument(L"B");
     ASSERT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     m_listener.take();
     takeJournal();
@@ -175,7 +174,7 @@ TEST_F(BarReturnTest, SecondDocumentBringsNothingBackThatTheUserClosed) {
     closeDocument(L"A");
     newDocument(L"B");
     ASSERT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     m_listener.take();
     newDocument(L"C");

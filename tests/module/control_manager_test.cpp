@@ -13,7 +13,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace {
@@ -40,17 +39,13 @@ protected:
         m_parent.DestroyWindow();
         PaletteTest::TearDown();
     }
-    /// The host calls of these names since the journal was forgotten.
-    Lines lines(const std::vector<std::string_view>& names) {
-        return support::callLines(bench().journal().take(), names);
-    }
     /// Writes into the control's field and leaves the entry unfinished.
     void typeEntry(HWND control, const wchar_t* text) {
         // Parts are found in windows with names.
         bench().windows().setName(control, "control");
         ASSERT_TRUE(workbench::gestures::focusField(
-            workbench::findPart(bench().windows(), control, "edit")));
-        workbench::gestures::replaceText(text);
+            bench().toolkit(), workbench::findPart(bench().windows(), control, "edit")));
+        workbench::gestures::replaceText(bench().toolkit(), text);
     }
     /// Opens a document behind whose command actions wait.
     void beginCommand() { bench().editor().beginCommand(L"LINE"); }
@@ -85,7 +80,7 @@ TEST_F(ControlManagerTest, ControlWithoutAParentIsNotMade) {
 TEST_F(ControlManagerTest, HostsControlIsFoundWithoutRegardToCase) {
     const HWND control = m_controls.createControl(L"LINETYPECONTROL", &m_parent);
     ASSERT_NE(control, nullptr);
-    EXPECT_EQ(lines({"getVxToolbarControl"}), Lines{"getVxToolbarControl(object, 2222)"});
+    EXPECT_EQ(takeLines({"getVxToolbarControl"}), Lines{"getVxToolbarControl(object, 2222)"});
 }
 
 TEST_F(ControlManagerTest, UnknownNameGivesNull) {
@@ -121,7 +116,7 @@ TEST_F(ControlManagerTest, ReleaseEndsTheControlsInTheOrderOfTheirCreation) {
         bench().windows().setName(child, "control " + std::to_string(++number));
     forget();
     m_controls.releaseControls();
-    Lines ended = lines({"CWnd::DestroyWindow"});
+    Lines ended = takeLines({"CWnd::DestroyWindow"});
     std::erase(ended, "CWnd::DestroyWindow(\"\")");
     EXPECT_EQ(ended,
               (Lines{"CWnd::DestroyWindow(\"control 1\")", "CWnd::DestroyWindow(\"control 2\")"}));
@@ -234,7 +229,7 @@ TEST_F(ControlManagerTest, ActionBehindACommandThatNeverEndsIsDeletedUnrunWithIt
     EXPECT_EQ(runs, 0);
     forget();
     m_controls.removeDocumentReactor(editor.documents().current());
-    EXPECT_EQ(lines({"VxEdInputManager::removeReactor"}),
+    EXPECT_EQ(takeLines({"VxEdInputManager::removeReactor"}),
               Lines{"VxEdInputManager::removeReactor(object)"});
     EXPECT_EQ(runs, 0);
     EXPECT_EQ(ends, 1);
@@ -245,7 +240,7 @@ TEST_F(ControlManagerTest, ActionBehindACommandThatNeverEndsIsDeletedUnrunWithIt
 TEST_F(ControlManagerTest, DocumentThatNeverQueuedAnActionHasNoReactorToTakeOff) {
     forget();
     m_controls.removeDocumentReactor(bench().editor().documents().current());
-    EXPECT_EQ(support::callLines(bench().journal().take()), Lines{});
+    EXPECT_EQ(takeLines(), Lines{});
 }
 
 TEST_F(ControlManagerTest, EndOfOneDocumentLeavesTheActionsOfTheOther) {
@@ -314,7 +309,7 @@ TEST_F(ControlManagerTest, EndOfTheManagerTakesItsReactorsAwayAndDeletesWhatWait
     controls->runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
     forget();
     controls.reset();
-    EXPECT_EQ(lines({"VxEdInputManager::removeReactor"}),
+    EXPECT_EQ(takeLines({"VxEdInputManager::removeReactor"}),
               Lines{"VxEdInputManager::removeReactor(object)"});
     EXPECT_EQ(ends, 1);
     editor.pump();

@@ -8,7 +8,6 @@
 #include "nav3d/view_combo.h"
 #include "nav3d/zoom_slider.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_lines.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/window/frame.h>
@@ -85,8 +84,7 @@ TEST_P(ControlRowTest, MakesItsControlWithItsWindow) {
     EXPECT_TRUE(GetParam().isOfItsClass(*control)) << typeid(*control).name();
     EXPECT_EQ(control->GetParent(), m_parent.get());
     EXPECT_EQ(control->GetWindowRect().Width(), kPlace.Width());
-    const std::vector<std::string> made =
-        support::callLines(bench().journal().take(), {"CQrUiToolPanel::Create"});
+    const std::vector<std::string> made = takeLines({"CQrUiToolPanel::Create"});
     ASSERT_FALSE(made.empty());
     EXPECT_EQ(made.front(), std::string("CQrUiToolPanel::Create") + GetParam().creation);
 }

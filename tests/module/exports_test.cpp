@@ -34,8 +34,9 @@ protected:
     }
     /// Types into the control's field and leaves the entry unfinished.
     void typeEntry(const std::wstring& text) {
-        ASSERT_TRUE(workbench::gestures::focusField(part(control(kControl), "edit")));
-        workbench::gestures::replaceText(text);
+        ASSERT_TRUE(
+            workbench::gestures::focusField(bench().toolkit(), part(control(kControl), "edit")));
+        workbench::gestures::replaceText(bench().toolkit(), text);
         settle();
     }
     void closeBar() {

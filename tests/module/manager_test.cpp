@@ -3,11 +3,9 @@
 #include "module/module.h"
 #include "tests/module/manager_fixture.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_lines.h"
 #include "workbench/editor/editor.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/lookup.h"
-#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <algorithm>
@@ -64,7 +62,7 @@ TEST_F(ManagerTest, FrameIsAskedOnceToShowTheBarAndNeverWhileItIsOnScreen) {
     EXPECT_EQ(takeBarCalls(), Lines{"CFrameWnd::ShowControlBar(object, 1, 0)"});
     show();
     EXPECT_EQ(takeBarCalls(), Lines{});
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     show();
     EXPECT_EQ(takeBarCalls(), Lines{"CFrameWnd::ShowControlBar(object, 1, 0)"});
 }
@@ -86,7 +84,7 @@ TEST_F(ManagerTest, ListenersHearOfTheBarWhenItIsThereOrGoneAlready) {
     EXPECT_EQ(states, (Lines{"on and there", "on and there"}));
     states.clear();
     EXPECT_EQ(notify(kDashboardUnload), 1);
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     EXPECT_EQ(notify(kDashboardReload), 1);
     EXPECT_EQ(states, (Lines{"off and gone", "on and there", "on and there"}));
 }
@@ -94,9 +92,9 @@ TEST_F(ManagerTest, ListenersHearOfTheBarWhenItIsThereOrGoneAlready) {
 TEST_F(ManagerTest, PanelsAreMadeBetweenTheTwoNoticesOfTheirBuilding) {
     loadWithListener();
     Lines panels;
-    m_listener.act = [&panels](std::string_view event) {
+    m_listener.act = [this, &panels](std::string_view event) {
         if (event == "willLoad" || event == "loaded")
-            panels.push_back(workbench::allPanels().empty() ? "none" : "some");
+            panels.push_back(workbench::allPanels(bench().windows()).empty() ? "none" : "some");
     };
     show();
     EXPECT_EQ(panels, (Lines{"none", "some"}));
@@ -203,11 +201,9 @@ protected:
     VxDaManager& manager() { return *dashboardManager(); }
     /// The calls that add a reactor to the host or take one off, since the journal was forgotten.
     Lines takeReactorCalls() {
-        return support::callLines(
-            bench().journal().take(),
-            {"VxApProfileManager::addReactor", "VxEditor::addReactor", "VxApDocManager::addReactor",
-             "VxApProfileManager::removeReactor", "VxEditor::removeReactor",
-             "VxApDocManager::removeReactor"});
+        return takeLines({"VxApProfileManager::addReactor", "VxEditor::addReactor",
+                          "VxApDocManager::addReactor", "VxApProfileManager::removeReactor",
+                          "VxEditor::removeReactor", "VxApDocManager::removeReactor"});
     }
     void loadWithListener() {
         load();
@@ -304,9 +300,7 @@ TEST_F(LinkedManagerTest, ReloadIntoAWindowThatDiedBuildsNothingAndIsToldTheSave
 
 TEST_F(LinkedManagerTest, ReloadAsksTheFrameForWhatTheUnloadSawOnScreen) {
     show();
-    const auto barCalls = [this] {
-        return support::callLines(bench().journal().take(), {"CFrameWnd::ShowControlBar"});
-    };
+    const auto barCalls = [this] { return takeLines({"CFrameWnd::ShowControlBar"}); };
     ASSERT_EQ(manager().notify(kDashboardUnload), 1);
     ASSERT_EQ(manager().notify(kDashboardReload), 1);
     EXPECT_EQ(barCalls(), Lines{}) << "it is on screen still";

@@ -2,6 +2,7 @@
 
 #include "module/manager.h"
 #include "module/module.h"
+#include "tests/support/call_lines.h"
 #include "workbench/base/text.h"
 #include "workbench/core/journal.h"
 #include "workbench/editor/editor.h"
@@ -185,6 +186,14 @@ bool isCall(const workbench::JournalRecord& record, std::string_view name) {
 }
 
 }  // namespace
+
+std::vector<std::string> PaletteTest::takeLines() {
+    return support::callLines(bench().journal().take());
+}
+
+std::vector<std::string> PaletteTest::takeLines(const std::vector<std::string_view>& names) {
+    return support::callLines(bench().journal().take(), names);
+}
 
 int PaletteTest::callCount(std::string_view name) {
     const auto& records = bench().journal().records();

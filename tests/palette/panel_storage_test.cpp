@@ -90,6 +90,36 @@ TEST_F(PanelStorageTest, AnElementWithoutIdOrMenuGroupIsIgnoredAndTheFollowingOn
     EXPECT_EQ(readVisible(), (Flags{true, false, true}));
 }
 
+TEST_F(PanelStorageTest, AnElementWithoutIdOrMenuGroupIsNotThatOfARecordWithEmptyOnes) {
+    m_records[0]->id.clear();
+    m_records[1]->menuGroup.clear();
+    const NodePtr set = addSet();
+    addPanel(set, L"MAIN", nullptr, L"0");
+    addPanel(set, nullptr, L"B", L"0");
+    EXPECT_EQ(readVisible(), (Flags{true, true, true}));
+}
+
+TEST_F(PanelStorageTest, AnElementIsReadAttributeByAttributeAndEndsAtTheFirstThatIsMissing) {
+    const NodePtr set = addSet();
+    addPanel(set, L"MAIN", L"A", L"1");
+    addPanel(set, nullptr, L"A", L"1");
+    addPanel(set, L"MAIN", nullptr, L"1");
+    addPanel(set, L"MAIN", L"A", L"1", L"Else");
+    forget();
+    readSavedPanels(m_root.get(), m_records);
+    EXPECT_EQ(takeLines({"VxUt::GetChildNode", "VxUt::GetChildNodes", "VxUt::GetNodeName",
+                         "VxUt::GetAttributeValue"}),
+              (std::vector<std::string>{
+                  "VxUt::GetChildNode(object, \"CVxDaPanelSet\")", "VxUt::GetChildNodes(object)",
+                  "VxUt::GetNodeName(object)", "VxUt::GetAttributeValue(object, \"ID\")",
+                  "VxUt::GetAttributeValue(object, \"MenuGroupName\")",
+                  "VxUt::GetAttributeValue(object, \"Visible\")",
+                  "VxUt::GetChildNode(object, \"ToolPaletteGroupName\")",
+                  "VxUt::GetNodeName(object)", "VxUt::GetAttributeValue(object, \"ID\")",
+                  "VxUt::GetAttributeValue(object, \"MenuGroupName\")", "VxUt::GetNodeName(object)",
+                  "VxUt::GetAttributeValue(object, \"ID\")", "VxUt::GetNodeName(object)"}));
+}
+
 TEST_F(PanelStorageTest, AnElementCountsWhateverTheCaseOfItsName) {
     const NodePtr set = addSet();
     addPanel(set, L"MAIN", L"A", L"0", L"cvxdapanel");

@@ -1,12 +1,7 @@
 #include "workbench/editor/command_processor.h"
 
 #include "workbench/base/text.h"
-<<<<<<< HEAD:workbench/editor/command_processor.cpp
-=======
 #include "workbench/base/turn.h"
-#include "workbench/commands/scripted_command.h"
-#include "workbench/commands/variable_commands.h"
->>>>>>> ground-h:workbench/commands/command_processor.cpp
 #include "workbench/core/journal.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/document_list.h"

@@ -31,7 +31,7 @@ int vxedGetVar(const wchar_t* name, VxResultBuffer* result) {
     HostCall call("vxedGetVar", {name});
     if (call.failed())
         return call.returns(call.status(kRtError));
-    const VariableDefinition* variable = name == nullptr ? nullptr : findVariable(name);
+    const VariableDefinition* variable = name == nullptr ? nullptr : workbench::findVariable(name);
     if (variable == nullptr || result == nullptr)
         return call.returns(kRtError);
     if (const auto fault = takeFaultOf("vxedGetVar", *variable))
@@ -45,7 +45,7 @@ int vxedSetVar(const wchar_t* name, const VxResultBuffer* value) {
     const workbench::Value written =
         value == nullptr ? workbench::Value() : workbench::valueOf(*value);
     HostCall call("vxedSetVar", {name, workbench::shownValue(written)});
-    const VariableDefinition* variable = name == nullptr ? nullptr : findVariable(name);
+    const VariableDefinition* variable = name == nullptr ? nullptr : workbench::findVariable(name);
     if (variable == nullptr || value == nullptr)
         return call.returns(call.status(kRtError));
     SystemVariables& variables = Workbench::current().editor().variables();
