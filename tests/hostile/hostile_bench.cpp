@@ -58,7 +58,7 @@ void HostileBench::start(Order order) {
     env("ENABLEDASHBOARD", "1");
     loadModules();
     openDocuments();
-    type(L"DASHBOARDOLD\n");
+    showAllPanels();
     ASSERT_NE(paletteSet(), nullptr);
     ASSERT_NE(control(workbench::toUtf8(kControl)), nullptr);
 }
@@ -146,7 +146,7 @@ void HostileBench::expectSurvival() {
         loadDashboard();
     }
     openDocuments();
-    set(kFade, 50);
+    set(kFade, 20);
     idle();
     wait(200);
     showAllPanels();
@@ -194,7 +194,6 @@ void HostileBench::openDocuments() {
             newDocument(name);
     }
     activateDocument(L"A");
-    set(L"PERSPECTIVE", 1);
 }
 
 /// Whether the dashboard is loaded and has a manager.
@@ -234,6 +233,9 @@ void HostileBench::showAllPanels() {
         exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(&all);
     }
     settle();
+    // So that the fields of fading and of the lens take entries.
+    set(kFade, 50);
+    set(L"PERSPECTIVE", 1);
 }
 
 void HostileBench::expectListenersInOrder() {
