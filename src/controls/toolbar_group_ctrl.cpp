@@ -4,6 +4,7 @@
 #include "controls/row_items.h"
 #include "controls/toolbar_controls.h"
 
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/text.h"
 
@@ -11,7 +12,6 @@
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/qrui18/toolbar_control.h>
 
-#include <iterator>
 #include <memory>
 
 namespace {
@@ -38,11 +38,10 @@ constexpr MessageEntry CVxDaToolbarGroupCtrl::kMessages[] = {
     {WM_QRUI_HAS_ICON, to<&CVxDaToolbarGroupCtrl::onHasIcon>},
     {WM_QRUI_LIST_DROPPED, to<&CVxDaToolbarGroupCtrl::onKeepFocus>},
 };
-const MessageMap CVxDaToolbarGroupCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                    kMessages, std::size(kMessages)};
+const MessageMap CVxDaToolbarGroupCtrl::kMessageMap =
+    makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaToolbarGroupCtrl::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 

@@ -5,6 +5,7 @@
 #include "controls/variable_access.h"
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/text.h"
 
@@ -16,7 +17,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
 #include <limits>
 #include <optional>
 #include <string_view>
@@ -74,14 +74,12 @@ constexpr MessageEntry CVxDaLockedLayerTransparencySliderCtrl::kMessages[] = {
     {WM_DA_EDIT_ENTER, to<&CVxDaLockedLayerTransparencySliderCtrl::onEditEnter>},
     {WM_DA_EDIT_ESCAPE, to<&CVxDaLockedLayerTransparencySliderCtrl::onEditEscape>},
 };
-const MessageMap CVxDaLockedLayerTransparencySliderCtrl::kMessageMap{
-    &CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages, std::size(kMessages)};
+const MessageMap CVxDaLockedLayerTransparencySliderCtrl::kMessageMap =
+    makeMessageMap(&CVxDaSliderEditPanelCtrl::GetThisMessageMap, kMessages);
 
 CVxDaLockedLayerTransparencySliderCtrl::CVxDaLockedLayerTransparencySliderCtrl(
     CVxDaControlMgr* controlMgr)
-    : CVxDaSliderEditPanelCtrl(controlMgr) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+    : CVxDaSliderEditPanelCtrl(controlMgr) {}
 
 const MessageMap& CVxDaLockedLayerTransparencySliderCtrl::GetMessageMap() const {
     return kMessageMap;

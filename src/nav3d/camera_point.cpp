@@ -1,10 +1,10 @@
 #include "nav3d/camera_point.h"
 
 #include "controls/current_view.h"
-#include "nav3d/move_view_point.h"
-#include "nav3d/navigation_module.h"
 #include "controls/value_text.h"
 #include "controls/view_state.h"
+#include "nav3d/move_view_point.h"
+#include "nav3d/navigation_module.h"
 #include "nav3d/white_background.h"
 
 #include "controls/edit_messages.h"
@@ -12,6 +12,7 @@
 #include "controls/row_items.h"
 
 #include "core/broadcast_messages.h"
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
@@ -90,13 +91,11 @@ constexpr MessageEntry CVxDa3DNavCameraPointCtrl::kMessages[] = {
     {WM_DA_VIEW_CHANGED, to<&CVxDa3DNavCameraPointCtrl::onViewChanged>},
     {WM_DA_EDIT_ESCAPE, to<&CVxDa3DNavCameraPointCtrl::onEditEscape>},
 };
-const MessageMap CVxDa3DNavCameraPointCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                        kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavCameraPointCtrl::kMessageMap =
+    makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
 CVxDa3DNavCameraPointCtrl::CVxDa3DNavCameraPointCtrl(const CameraPointSetting& setting)
-    : m_setting(setting) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+    : m_setting(setting) {}
 
 CVxDa3DNavCameraEyePointCtrl::CVxDa3DNavCameraEyePointCtrl(CVxDaControlMgr* /*controlMgr*/)
     : CVxDa3DNavCameraPointCtrl(kEye) {}

@@ -1,7 +1,7 @@
 #include "nav3d/step_slider.h"
 
-#include "nav3d/step_setting.h"
 #include "controls/value_text.h"
+#include "nav3d/step_setting.h"
 
 #include "controls/doc_lock.h"
 #include "controls/edit_messages.h"
@@ -11,6 +11,7 @@
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/text.h"
 
@@ -19,8 +20,6 @@
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdb18/database.h>
 #include <hostapi/zorq/documents.h>
-
-#include <iterator>
 
 namespace {
 
@@ -37,15 +36,13 @@ constexpr MessageEntry CVxDa3DNavStepSliderCtrl::kMessages[] = {
     {WM_DA_EDIT_ENTER, to<&CVxDa3DNavStepSliderCtrl::onEditEnter>},
     {WM_DA_EDIT_ESCAPE, to<&CVxDa3DNavStepSliderCtrl::onEditEscape>},
 };
-const MessageMap CVxDa3DNavStepSliderCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                       kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavStepSliderCtrl::kMessageMap =
+    makeMessageMap(&CVxDaSliderEditPanelCtrl::GetThisMessageMap, kMessages);
 
 CVxDa3DNavStepSliderCtrl::CVxDa3DNavStepSliderCtrl(CVxDaControlMgr* controlMgr,
                                                    const StepSetting& setting)
     : CVxDaSliderEditPanelCtrl(controlMgr),
-      m_setting(setting) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+      m_setting(setting) {}
 
 CVxDa3DNavStepSizeSliderCtrl::CVxDa3DNavStepSizeSliderCtrl(CVxDaControlMgr* controlMgr)
     : CVxDa3DNavStepSliderCtrl(controlMgr, kStepSize) {}

@@ -10,6 +10,7 @@
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/theme.h"
@@ -62,12 +63,10 @@ constexpr MessageEntry CVxDa3DNavViewComboCtrl::kMessages[] = {
     {WM_DA_VIEW_CHANGED, to<&CVxDa3DNavViewComboCtrl::onViewChanged>},
     {WM_QRUI_LIST_DROPPED, to<&CVxDa3DNavViewComboCtrl::onListDroppedQuery>},
 };
-const MessageMap CVxDa3DNavViewComboCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                      kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavViewComboCtrl::kMessageMap =
+    makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
-CVxDa3DNavViewComboCtrl::CVxDa3DNavViewComboCtrl(CVxDaControlMgr* /*controlMgr*/) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+CVxDa3DNavViewComboCtrl::CVxDa3DNavViewComboCtrl(CVxDaControlMgr* /*controlMgr*/) {}
 
 const MessageMap& CVxDa3DNavViewComboCtrl::GetMessageMap() const {
     return kMessageMap;

@@ -1,10 +1,10 @@
 #include "nav3d/zoom_slider.h"
 
+#include "controls/value_text.h"
+#include "controls/view_state.h"
 #include "nav3d/lens_mapping.h"
 #include "nav3d/lens_view.h"
 #include "nav3d/toolbar_state.h"
-#include "controls/value_text.h"
-#include "controls/view_state.h"
 
 #include "controls/edit_messages.h"
 #include "controls/edit_text.h"
@@ -12,6 +12,7 @@
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/string_ids.h"
@@ -69,13 +70,11 @@ constexpr MessageEntry CVxDa3DNavZoomSliderCtrl::kMessages[] = {
     {WM_DA_VIEW_CHANGED, to<&CVxDa3DNavZoomSliderCtrl::onDocumentOrView>},
     {WM_DA_EDIT_ESCAPE, to<&CVxDa3DNavZoomSliderCtrl::onEditEscape>},
 };
-const MessageMap CVxDa3DNavZoomSliderCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                       kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavZoomSliderCtrl::kMessageMap =
+    makeMessageMap(&CVxDaSliderEditPanelCtrl2::GetThisMessageMap, kMessages);
 
 CVxDa3DNavZoomSliderCtrl::CVxDa3DNavZoomSliderCtrl(CVxDaControlMgr* controlMgr)
-    : CVxDaSliderEditPanelCtrl2(controlMgr) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+    : CVxDaSliderEditPanelCtrl2(controlMgr) {}
 
 const MessageMap& CVxDa3DNavZoomSliderCtrl::GetMessageMap() const {
     return kMessageMap;

@@ -8,6 +8,7 @@
 #include "palette/xml_node.h"
 
 #include "core/constants.h"
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/string_ids.h"
@@ -74,11 +75,10 @@ constexpr MessageEntry CVxDaDashboard::kMessages[] = {
     {WM_IDLEUPDATECMDUI, to<&CVxDaDashboard::onIdleUpdate>},
 };
 
-const MessageMap CVxDaDashboard::kMessageMap{&CQrUiPaletteSet::GetThisMessageMap, kMessages,
-                                             std::size(kMessages)};
+const MessageMap CVxDaDashboard::kMessageMap =
+    makeMessageMap(&CQrUiPaletteSet::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaDashboard::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 
