@@ -5,6 +5,7 @@
 #include "controls/toolbar_controls.h"
 
 #include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/text.h"
 
@@ -46,7 +47,7 @@ const MessageMap& CVxDaToolbarGroupCtrl::GetMessageMap() const {
 }
 
 LRESULT CVxDaToolbarGroupCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
+    const CREATESTRUCT* creation = creationFrom(create);
     if (OnCreate(creation) == -1)
         return -1;
     if (m_name.empty())

@@ -9,6 +9,7 @@
 
 #include "core/constants.h"
 #include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/string_ids.h"
@@ -186,7 +187,7 @@ BOOL CVxDaDashboard::PreTranslateMessage(MSG* msg) {
 }
 
 LRESULT CVxDaDashboard::onCreate(WPARAM /*unused*/, LPARAM create) {
-    if (OnCreate(reinterpret_cast<const CREATESTRUCT*>(create)) == -1)
+    if (OnCreate(creationFrom(create)) == -1)
         return -1;
     loadIcon();
     if (CQrUiTheme* theme = dashboardTheme())
