@@ -8,11 +8,12 @@
 #include "nav3d/white_background.h"
 
 #include "controls/edit_messages.h"
-#include "controls/edit_text.h"
 #include "controls/row_items.h"
 
 #include "core/broadcast_messages.h"
+#include "core/event_names.h"
 #include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
@@ -75,8 +76,9 @@ const FieldRow* findRow(UINT id) {
     return found == std::end(kFields) ? nullptr : found;
 }
 
-/// What makes the controls read the view again. Names are exact.
+/// What makes the controls read the view again.
 constexpr std::wstring_view kRefreshingVariables[] = {L"CVPORT", L"TILEMODE", L"LUPREC", L"LUNITS"};
+constexpr EventNames kRefreshing{kRefreshingVariables};
 
 }  // namespace
 
@@ -95,7 +97,8 @@ const MessageMap CVxDa3DNavCameraPointCtrl::kMessageMap =
     makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
 CVxDa3DNavCameraPointCtrl::CVxDa3DNavCameraPointCtrl(const CameraPointSetting& setting)
-    : m_setting(setting) {}
+    : m_setting(setting),
+      m_accepted(*this) {}
 
 CVxDa3DNavCameraEyePointCtrl::CVxDa3DNavCameraEyePointCtrl(CVxDaControlMgr* /*controlMgr*/)
     : CVxDa3DNavCameraPointCtrl(kEye) {}
@@ -108,8 +111,7 @@ const MessageMap& CVxDa3DNavCameraPointCtrl::GetMessageMap() const {
 }
 
 LRESULT CVxDa3DNavCameraPointCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
-    if (OnCreate(creation) == -1)
+    if (OnCreate(creationFrom(create)) == -1)
         return -1;
     if (!m_fields.Create(kContainerStyle, GetClientRect(), this, m_setting.containerId))
         return -1;
@@ -144,6 +146,11 @@ CWnd* CVxDa3DNavCameraPointCtrl::findField(UINT id) const {
     return nullptr;
 }
 
+/// The field for a coordinate; null for another's ID.
+CWnd* CVxDa3DNavCameraPointCtrl::findCoordinateField(UINT id) const {
+    return findRow(id) == nullptr ? nullptr : findField(id);
+}
+
 BOOL CVxDa3DNavCameraPointCtrl::PreTranslateMessage(MSG* msg) {
     const ModuleCall call;
     if (m_toolTip.m_hWnd != nullptr)
@@ -157,7 +164,7 @@ void CVxDa3DNavCameraPointCtrl::OnLButtonClicked(UINT /*flags*/, CPoint /*point*
 }
 
 LRESULT CVxDa3DNavCameraPointCtrl::onEraseBackground(WPARAM context, LPARAM /*unused*/) {
-    fillWhite(reinterpret_cast<HDC>(context));
+    fillWhite(drawingContextFrom(context));
     return 1;
 }
 
@@ -167,11 +174,7 @@ LRESULT CVxDa3DNavCameraPointCtrl::onDocument(WPARAM /*unused*/, LPARAM /*docume
 }
 
 LRESULT CVxDa3DNavCameraPointCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    if (m_applying)
-        return 0;
-    const std::wstring_view variable = reinterpret_cast<const wchar_t*>(name);
-    if (std::find(std::begin(kRefreshingVariables), std::end(kRefreshingVariables), variable) !=
-        std::end(kRefreshingVariables))
+    if (!m_applying && kRefreshing.contains(eventNameFrom(name)))
         RefreshFromView();
     return 0;
 }
@@ -199,12 +202,12 @@ void CVxDa3DNavCameraPointCtrl::RefreshFromView() {
 
 LRESULT CVxDa3DNavCameraPointCtrl::onFieldEntered(WPARAM command, LPARAM edit) {
     const ControlNotice notice = ControlNotice::from(command, edit);
-    const CWnd* field = findRow(notice.controlId) ? findField(notice.controlId) : nullptr;
+    const CWnd* field = findCoordinateField(notice.controlId);
     if (field == nullptr || notice.code != EN_SETFOCUS)
         return 0;
     const VxString text = field->GetWindowText();
     if (parseLinear(text))
-        m_savedText = text;
+        m_accepted.accept(text);
     return 0;
 }
 
@@ -215,54 +218,46 @@ LRESULT CVxDa3DNavCameraPointCtrl::onFieldLeft(WPARAM command, LPARAM edit) {
     return 0;
 }
 
-LRESULT CVxDa3DNavCameraPointCtrl::onEditEnter(WPARAM editId, LPARAM /*edit*/) {
-    CommitField(LOWORD(editId));
+LRESULT CVxDa3DNavCameraPointCtrl::onEditEnter(WPARAM editId, LPARAM edit) {
+    CommitField(EditKey::from(editId, edit).editId);
     return 0;
 }
 
-LRESULT CVxDa3DNavCameraPointCtrl::onEditEscape(WPARAM editId, LPARAM /*edit*/) {
-    const UINT id = LOWORD(editId);
-    CWnd* field = findRow(id) ? findField(id) : nullptr;
-    if (field != nullptr)
-        field->SetWindowText(m_savedText);
+LRESULT CVxDa3DNavCameraPointCtrl::onEditEscape(WPARAM editId, LPARAM edit) {
+    if (CWnd* field = findCoordinateField(EditKey::from(editId, edit).editId))
+        m_accepted.restore(*field);
     return 0;
 }
 
 void CVxDa3DNavCameraPointCtrl::CommitField(UINT id) {
-    CWnd* field = findRow(id) ? findField(id) : nullptr;
+    CWnd* field = findCoordinateField(id);
     if (field == nullptr)
         return;
     const VxString typed = field->GetWindowText();
-    if (typed == m_savedText)
+    if (m_accepted.is(typed))
         return;
     const VxString text = trimmed(typed);
     if (text.empty())
-        field->SetWindowText(m_savedText);
+        m_accepted.restore(*field);
     else if (IsPaperSpaceViewport())
-        refuse(*field, kStrPaperSpace);
+        m_accepted.forbid(*field, loadDashboardString(kStrPaperSpace));
     else if (IsViewportLocked())
-        refuse(*field, kStrViewportLocked);
-    else if (text != m_savedText)
+        m_accepted.forbid(*field, loadDashboardString(kStrViewportLocked));
+    else if (!m_accepted.is(text))
         applyText(*field, id, text);
-}
-
-void CVxDa3DNavCameraPointCtrl::refuse(CWnd& field, UINT strReason) {
-    QrUiShowBalloonTip(this, &field, loadDashboardString(strReason), 0);
-    field.SetWindowText(m_savedText);
 }
 
 void CVxDa3DNavCameraPointCtrl::applyText(CWnd& field, UINT id, const VxString& text) {
     const std::optional<double> value = parseLinear(text);
     QrUiHideBalloonTip(this);
     if (!value) {
-        giveBackToCorrect(field, m_savedText);
-        QrUiShowBalloonTip(this, &field, loadDashboardString(kStrNoCoordinate), 0);
+        m_accepted.refuse(field, loadDashboardString(kStrNoCoordinate));
         return;
     }
     m_point.*findRow(id)->coordinate = *value;
     ApplyPoint();
     // The field keeps what was typed until the next refresh.
-    m_savedText = FormatLinear(*value);
+    m_accepted.accept(FormatLinear(*value));
 }
 
 void CVxDa3DNavCameraPointCtrl::ApplyPoint() {
