@@ -97,8 +97,7 @@ const MessageMap CVxDa3DNavCameraPointCtrl::kMessageMap =
     makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
 CVxDa3DNavCameraPointCtrl::CVxDa3DNavCameraPointCtrl(const CameraPointSetting& setting)
-    : m_setting(setting),
-      m_accepted(*this) {}
+    : m_setting(setting) {}
 
 CVxDa3DNavCameraEyePointCtrl::CVxDa3DNavCameraEyePointCtrl(CVxDaControlMgr* /*controlMgr*/)
     : CVxDa3DNavCameraPointCtrl(kEye) {}
@@ -240,18 +239,24 @@ void CVxDa3DNavCameraPointCtrl::CommitField(UINT id) {
     if (text.empty())
         m_accepted.restore(*field);
     else if (IsPaperSpaceViewport())
-        m_accepted.forbid(*field, loadDashboardString(kStrPaperSpace));
+        forbid(*field, kStrPaperSpace);
     else if (IsViewportLocked())
-        m_accepted.forbid(*field, loadDashboardString(kStrViewportLocked));
+        forbid(*field, kStrViewportLocked);
     else if (!m_accepted.is(text))
         applyText(*field, id, text);
+}
+
+void CVxDa3DNavCameraPointCtrl::forbid(CWnd& field, UINT strReason) {
+    QrUiShowBalloonTip(this, &field, loadDashboardString(strReason), 0);
+    m_accepted.restore(field);
 }
 
 void CVxDa3DNavCameraPointCtrl::applyText(CWnd& field, UINT id, const VxString& text) {
     const std::optional<double> value = parseLinear(text);
     QrUiHideBalloonTip(this);
     if (!value) {
-        m_accepted.refuse(field, loadDashboardString(kStrNoCoordinate));
+        m_accepted.giveBack(field);
+        QrUiShowBalloonTip(this, &field, loadDashboardString(kStrNoCoordinate), 0);
         return;
     }
     m_point.*findRow(id)->coordinate = *value;

@@ -43,6 +43,7 @@ private:
     void RefreshFromView();
     void CommitField(UINT id);
     void applyText(CWnd& field, UINT id, const VxString& text);
+    void forbid(CWnd& field, UINT strReason);
     void ApplyPoint();
 
     const CameraPointSetting& m_setting;

@@ -37,8 +37,7 @@ const MessageMap CVxDa3DNavStepSliderCtrl::kMessageMap =
 CVxDa3DNavStepSliderCtrl::CVxDa3DNavStepSliderCtrl(CVxDaControlMgr* controlMgr,
                                                    const StepSetting& setting)
     : CVxDaSliderEditPanelCtrl(controlMgr),
-      m_setting(setting),
-      m_accepted(*this) {}
+      m_setting(setting) {}
 
 CVxDa3DNavStepSizeSliderCtrl::CVxDa3DNavStepSizeSliderCtrl(CVxDaControlMgr* controlMgr)
     : CVxDa3DNavStepSliderCtrl(controlMgr, kStepSize) {}
@@ -143,7 +142,8 @@ void CVxDa3DNavStepSliderCtrl::commitEdit(CQrUiInputEditCtrl& field) {
     // A text that is no number counts as 0, which is out of range.
     const double value = m_setting.parse(text).value_or(0.0);
     if (value < m_setting.least || value > m_setting.most) {
-        m_accepted.refuse(field, m_setting.outOfRangeText());
+        m_accepted.giveBack(field);
+        QrUiShowBalloonTip(this, &field, m_setting.outOfRangeText(), 0);
         return;
     }
     m_slider.SetSliderPos(m_setting.toSlider(value));

@@ -6,8 +6,6 @@
 #include "nav3d/lens_view.h"
 #include "nav3d/toolbar_state.h"
 
-#include "controls/edit_text.h"
-
 #include "core/broadcast_messages.h"
 #include "core/event_names.h"
 #include "core/host_objects.h"
@@ -68,8 +66,7 @@ const MessageMap CVxDa3DNavZoomSliderCtrl::kMessageMap =
     makeMessageMap(&CVxDaSliderEditPanelCtrl2::GetThisMessageMap, kMessages);
 
 CVxDa3DNavZoomSliderCtrl::CVxDa3DNavZoomSliderCtrl(CVxDaControlMgr* controlMgr)
-    : CVxDaSliderEditPanelCtrl2(controlMgr),
-      m_accepted(*this) {}
+    : CVxDaSliderEditPanelCtrl2(controlMgr) {}
 
 const MessageMap& CVxDa3DNavZoomSliderCtrl::GetMessageMap() const {
     return kMessageMap;
@@ -199,7 +196,8 @@ void CVxDa3DNavZoomSliderCtrl::commitEdit(CQrUiInputEditCtrl& field) {
         return;
     }
     if (IsViewportLocked()) {
-        m_accepted.forbid(field, loadDashboardString(kStrViewportLocked));
+        QrUiShowBalloonTip(this, &field, loadDashboardString(kStrViewportLocked), 0);
+        m_accepted.restore(field);
         return;
     }
     const std::optional<double> value = ValidateEdit(field, text);
@@ -209,7 +207,8 @@ void CVxDa3DNavZoomSliderCtrl::commitEdit(CQrUiInputEditCtrl& field) {
         return;  // an entry that arrives all the same is taken, and changes nothing
     const std::optional<double> lens = lensOf(field, *value);
     if (!lens) {
-        m_accepted.refuse(field, rangeText(field));
+        m_accepted.giveBack(field);
+        QrUiShowBalloonTip(this, &field, rangeText(field), 0);
         return;
     }
     ApplyLens(*lens);
@@ -225,7 +224,7 @@ std::optional<double> CVxDa3DNavZoomSliderCtrl::ValidateEdit(CQrUiInputEditCtrl&
     QrUiHideBalloonTip(this);
     if (!value) {
         QrUiShowBalloonTip(this, &field, loadDashboardString(kStrNoValue), 0);
-        giveBackToCorrect(field, m_accepted.text());
+        m_accepted.giveBack(field);
     }
     return value;
 }
