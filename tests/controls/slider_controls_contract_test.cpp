@@ -97,8 +97,8 @@ protected:
         const auto numbers = takeMessagesOf(GetParam().name);
         return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
     }
-    /// A second control of the name in a window of its own; null if there can be none.
-    HWND makeSecond() {
+    /// A control of the name outside of the dashboard; null if there can be none.
+    HWND makeOutside() {
         constexpr CRect kPlace{0, 0, 200, 100};
         m_outside = std::make_unique<CQrUiToolPanel>();
         m_outside->Create(WS_CHILD | WS_VISIBLE, kPlace, AfxGetMainWnd(), 1, 0);
@@ -109,9 +109,9 @@ protected:
         return exported<VxDaGetCustomControlFn>("VxDaGetCustomControl")(
             std::wstring(name.begin(), name.end()).c_str(), parent);
     }
-    void showOnly(const wchar_t* panel) {
-        const VxDaPanelList panels{{panel, L"ZORQ"}};
-        exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(&panels);
+    void hideAllPanels() {
+        const VxDaPanelList none;
+        exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(&none);
         settle();
     }
 
@@ -206,7 +206,7 @@ TEST_P(SliderContractTest, GetsBothBroadcastsAndWritesNothingForThem) {
 }
 
 TEST_P(SliderContractTest, FollowsTheHostWhileItsPanelIsHidden) {
-    showOnly(L"Text");
+    hideAllPanels();
     const std::wstring before = text();
     takeJournal();
     set(GetParam().variable, GetParam().value);
@@ -233,21 +233,12 @@ TEST_P(SliderContractTest, CreationMakesIconSliderAndFieldAndWritesNothing) {
 
 TEST_P(SliderContractTest, NoControlWithoutASlider) {
     fail("CQrUiProgSliderCtrl::Create");
-    EXPECT_EQ(makeSecond(), nullptr);
+    EXPECT_EQ(makeOutside(), nullptr);
 }
 
 TEST_P(SliderContractTest, NoControlWithoutAParent) {
     EXPECT_EQ(make(nullptr), nullptr);
     EXPECT_NE(control(GetParam().name), nullptr);
-}
-
-TEST_P(SliderContractTest, TwoInstancesShowTheSameAfterAnEntryInOne) {
-    const HWND second = makeSecond();
-    ASSERT_NE(second, nullptr);
-    enter(kEntry);
-    leave();
-    wait(1000);
-    EXPECT_EQ(bench().windows().find(part(second, "edit"))->text, text());
 }
 
 // Life
@@ -281,6 +272,49 @@ TEST_P(SliderContractTest, ReleaseInTheMiddleOfAnEntryIsHarmless) {
     EXPECT_EQ(control(GetParam().name), nullptr);
     wait(1000);
     EXPECT_TRUE(unload());
+}
+
+// Two of a kind
+
+std::string menuWithTwo(const std::string& control) {
+    const std::string item = R"({"type": "control", "control": ")" + control + R"("})";
+    return R"({"menuGroups": [{"name": "MAIN"}], "panels": [{"menuGroup": "MAIN", "id": "P",
+        "title": "P", "toolPanels": ["TP"]}], "toolPanels": [{"menuGroup": "MAIN", "id": "TP",
+        "items": [)" +
+           item + R"(, {"type": "rowBreak"}, )" + item +
+           R"(]}], "workspaces": [{"name": "W", "panels": [{"menuGroup": "MAIN",
+        "panel": "P"}]}], "currentWorkspace": "W"})";
+}
+
+class SliderPairTest : public SliderContractTest {
+protected:
+    void SetUp() override {
+        useMenu(menuWithTwo(GetParam().name));
+        SliderContractTest::SetUp();
+    }
+    std::wstring textOfSecond() {
+        return bench().windows().find(part(control(GetParam().name, 2), "edit"))->text;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Controls, SliderPairTest, testing::ValuesIn(kControls), nameOf);
+
+TEST_P(SliderPairTest, BothShowWhatIsEnteredInOne) {
+    ASSERT_NE(control(GetParam().name, 2), nullptr);
+    enter(kEntry);
+    leave();
+    wait(1000);
+    EXPECT_EQ(textOfSecond(), text());
+}
+
+TEST_P(SliderPairTest, BothFollowTheHostAndNeitherWrites) {
+    ASSERT_NE(control(GetParam().name, 2), nullptr);
+    const std::wstring before = text();
+    set(GetParam().variable, GetParam().value);
+    wait(1000);
+    EXPECT_NE(text(), before);
+    EXPECT_EQ(textOfSecond(), text());
+    EXPECT_FALSE(hasWritten());
 }
 
 }  // namespace
