@@ -44,7 +44,7 @@ int PanelWidget::layout(Window& window, int width) {
         if (below == nullptr)
             continue;
         windows().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
-                             SWP_NOZORDER | SWP_NOACTIVATE);
+                        SWP_NOZORDER | SWP_NOACTIVATE);
         if (windows().find(handle) == nullptr)
             return 0;
         toolPanel.UpdateLayout(0);
