@@ -1,5 +1,6 @@
 #include "workbench/toolkit/panel_widget.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/context_menu.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_set_widget.h"
@@ -35,6 +36,7 @@ PanelState& PanelWidget::stateOf(const Window& window) const {
 }
 
 int PanelWidget::layout(Window& window, int width) {
+    const Turn turn;
     const HWND handle = window.handle;
     const PanelState& state = stateOf(window);
     int bottom = kTitleHeight;
@@ -56,6 +58,7 @@ int PanelWidget::layout(Window& window, int width) {
 }
 
 void PanelWidget::collapse(Window& window, bool collapsed) {
+    const Turn turn;
     PanelState& state = stateOf(window);
     if (state.collapsed == collapsed)
         return;
