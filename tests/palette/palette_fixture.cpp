@@ -11,8 +11,6 @@
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 
 const char* const kTestMenu = R"({
   "menuGroups": [{"name": "MAIN"}, {"name": "OTHER", "resourceModule": "HouseTools.xmx"}],
@@ -59,24 +57,6 @@ const char* const kTestMenu = R"({
       {"type": "button", "id": "TPL_A"},
       {"type": "button", "id": "ID_Wall", "image": "RCDATA_TOOL_HT_WALL"}]}]
 })";
-
-PaletteTest::Folder::Folder() {
-    std::string name = (std::filesystem::temp_directory_path() / "palette-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        std::abort();
-    m_path = name;
-}
-
-PaletteTest::Folder::~Folder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
-std::filesystem::path PaletteTest::Folder::write(const std::string& name,
-                                                 const std::string& text) const {
-    std::ofstream(m_path / name, std::ios::binary) << text;
-    return m_path / name;
-}
 
 PaletteTest::PaletteTest(const std::string& menu) {
     workbench::WorkbenchOptions options;

@@ -4,6 +4,7 @@
 #include "palette/palette.h"
 #include "palette/panel.h"
 #include "palette/panel_set.h"
+#include "tests/support/temporary_folder.h"
 #include "workbench/host/workbench.h"
 #include "workbench/windows/menu_table.h"
 
@@ -80,19 +81,7 @@ protected:
     workbench::Workbench& bench() { return *m_workbench; }
 
 private:
-    class Folder {
-    public:
-        Folder();
-        Folder(const Folder&) = delete;
-        Folder& operator=(const Folder&) = delete;
-        ~Folder();
-        std::filesystem::path write(const std::string& name, const std::string& text) const;
-
-    private:
-        std::filesystem::path m_path;
-    };
-
-    Folder m_folder;
+    support::TemporaryFolder m_folder;
     std::unique_ptr<workbench::Workbench> m_workbench;
     bool m_loaded = false;
     workbench::Journal::Listening m_failing;  // of `failSecond`

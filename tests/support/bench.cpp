@@ -11,11 +11,7 @@
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <utility>
 
@@ -26,30 +22,6 @@ namespace {
 constexpr const wchar_t* kModule = L"VxDashboard.qlx";
 
 }  // namespace
-
-/// A file of the test, gone with it.
-class Bench::File {
-public:
-    explicit File(const std::string& text) {
-        std::string name = (std::filesystem::temp_directory_path() / "vxtest-XXXXXX").string();
-        const int file = mkstemp(name.data());
-        if (file < 0)
-            throw std::runtime_error("no temporary file");
-        close(file);
-        m_path = name;
-        std::ofstream(m_path) << text;
-    }
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
-    ~File() {
-        std::error_code ignored;
-        std::filesystem::remove(m_path, ignored);
-    }
-    const std::filesystem::path& path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 Bench::Bench() = default;
 
@@ -72,7 +44,8 @@ void Bench::TearDown() {
 }
 
 void Bench::useMenu(const std::string& menuText) {
-    m_menuFile = std::make_unique<File>(menuText);
+    m_folder = std::make_unique<TemporaryFolder>();
+    m_folder->write("menu.json", menuText);
 }
 
 void Bench::useNoMenu() {
@@ -88,8 +61,8 @@ workbench::Workbench& Bench::bench() {
 void Bench::start() {
     workbench::WorkbenchOptions options;
     options.libraryDir = WORKBENCH_BIN_DIR;
-    if (m_menuFile != nullptr) {
-        options.panelFile = m_menuFile->path();
+    if (m_folder != nullptr) {
+        options.panelFile = m_folder->path / "menu.json";
     } else if (!m_noMenu) {
         options.panelFile = std::filesystem::path(PROJECT_SOURCE_ROOT) / "examples" / "panels.json";
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/temporary_folder.h"
 #include "workbench/host/workbench.h"
 
 #include <hostapi/qrui18.h>
@@ -104,11 +105,10 @@ protected:
     std::vector<std::string> takeTexts(const std::string& kind);
 
 private:
-    class File;
     void start();
     void* exportedSymbol(const char* name);
 
-    std::unique_ptr<File> m_menuFile;  // null: the example menu
+    std::unique_ptr<TemporaryFolder> m_folder;  // with the menu; null: the example menu
     bool m_noMenu = false;
     std::unique_ptr<workbench::Workbench> m_bench;  // null until it is used first
     std::vector<Sent> m_sent;

@@ -1,4 +1,5 @@
 #include "workbench/base/json_parser.h"
+#include "tests/support/temporary_folder.h"
 
 #include "workbench/base/input_error.h"
 
@@ -124,11 +125,10 @@ TEST(JsonParserTest, AFolderIsNotTakenForAFile) {
 }
 
 TEST(JsonParserTest, AFileIsReadByteForByte) {
-    const std::string file = testing::TempDir() + "json_parser_test.txt";
+    const support::TemporaryFolder folder;
     const std::string bytes("a\r\n\0b", 5);
-    std::ofstream(file, std::ios::binary) << bytes;
-    EXPECT_EQ(readWholeFile(file), bytes);
-    std::filesystem::remove(file);
+    folder.write("text.txt", bytes);
+    EXPECT_EQ(readWholeFile(folder.path / "text.txt"), bytes);
 }
 
 }  // namespace workbench

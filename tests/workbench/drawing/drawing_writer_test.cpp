@@ -1,4 +1,5 @@
 #include "workbench/drawing/drawing_writer.h"
+#include "tests/support/temporary_folder.h"
 
 #include "workbench/base/input_error.h"
 #include "workbench/drawing/drawing_reader.h"
@@ -13,14 +14,6 @@ namespace {
 
 const std::filesystem::path kHouse =
     std::filesystem::path(PROJECT_SOURCE_ROOT) / "examples" / "house.json";
-
-std::filesystem::path scratchFolder() {
-    const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
-    const auto folder = std::filesystem::temp_directory_path() / ("drawing_writer_" + test);
-    std::filesystem::remove_all(folder);
-    std::filesystem::create_directories(folder);
-    return folder;
-}
 
 TEST(DrawingWriter, SavingWhatWasReadGivesAnEqualDrawing) {
     const auto house = readDrawing(kHouse);
@@ -55,24 +48,22 @@ TEST(DrawingWriter, ErasedObjectsAndReferencesToThemAreNotSaved) {
 }
 
 TEST(DrawingWriter, FileTakesTheOldOnesPlace) {
-    const auto folder = scratchFolder();
-    const auto file = folder / "d.json";
+    const support::TemporaryFolder folder;
+    const auto file = folder.path / "d.json";
     auto drawing = makeNewDrawing();
     saveDrawing(*drawing, file);
     setByPath(drawing->db, "layers.Roof", Value::Table{});
     saveDrawing(*drawing, file);
     EXPECT_EQ(drawingValue(*readDrawing(file)), drawingValue(*drawing));
-    EXPECT_FALSE(std::filesystem::exists(folder / "d.json.new"));
-    std::filesystem::remove_all(folder);
+    EXPECT_FALSE(folder.has("d.json.new"));
 }
 
 TEST(DrawingWriter, PlaceThatCannotBeWrittenIsReported) {
-    const auto folder = scratchFolder();
-    EXPECT_THROW(saveDrawing(*makeNewDrawing(), folder / "none" / "d.json"), InputError);
-    std::filesystem::create_directories(folder / "taken" / "inside");
-    EXPECT_THROW(saveDrawing(*makeNewDrawing(), folder / "taken"), InputError);
-    EXPECT_FALSE(std::filesystem::exists(folder / "taken.new"));
-    std::filesystem::remove_all(folder);
+    const support::TemporaryFolder folder;
+    EXPECT_THROW(saveDrawing(*makeNewDrawing(), folder.path / "none" / "d.json"), InputError);
+    std::filesystem::create_directories(folder.path / "taken" / "inside");
+    EXPECT_THROW(saveDrawing(*makeNewDrawing(), folder.path / "taken"), InputError);
+    EXPECT_FALSE(folder.has("taken.new"));
 }
 
 }  // namespace

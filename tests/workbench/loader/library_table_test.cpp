@@ -1,4 +1,5 @@
 #include "workbench/loader/library_table.h"
+#include "tests/support/temporary_folder.h"
 
 #include "tests/workbench/loader/loader_fixture.h"
 
@@ -57,15 +58,12 @@ TEST_F(LibraryTableTest, ARoadOutOfTheFolderLeadsNowhere) {
 }
 
 TEST_F(LibraryTableTest, AFileThatIsNoLibraryIsError193) {
-    const std::filesystem::path folder =
-        std::filesystem::path(testing::TempDir()) / "library_table_test";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "Text.dll") << "not a library";
-    LibraryTable other(folder, faults());
+    const support::TemporaryFolder folder;
+    folder.write("Text.dll", "not a library");
+    LibraryTable other(folder.path, faults());
     EXPECT_EQ(other.load(L"Text.dll"), nullptr);
     EXPECT_EQ(other.error(), kErrorBadLibrary);
     EXPECT_FALSE(other.failureText().empty());
-    std::filesystem::remove_all(folder);
 }
 
 TEST_F(LibraryTableTest, AHiddenLibraryIsNeitherLoadedNorFound) {

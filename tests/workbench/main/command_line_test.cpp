@@ -1,3 +1,5 @@
+#include "tests/support/temporary_folder.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
@@ -21,20 +23,10 @@ struct Outcome {
 /// Runs the program itself, as its users do.
 class CommandLineTest : public testing::Test {
 protected:
-    CommandLineTest() {
-        std::string name = (std::filesystem::temp_directory_path() / "vxmain-XXXXXX").string();
-        m_folder = mkdtemp(name.data());
-    }
-    ~CommandLineTest() override {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_folder, ignored);
-    }
-
     std::string write(const std::string& name, const std::string& text) const {
-        std::ofstream(m_folder / name) << text;
-        return (m_folder / name).string();
+        return m_folder.write(name, text).string();
     }
-    std::string path(const std::string& name) const { return (m_folder / name).string(); }
+    std::string path(const std::string& name) const { return (m_folder.path / name).string(); }
     static std::string read(const std::string& file) {
         std::ostringstream text;
         text << std::ifstream(file).rdbuf();
@@ -54,7 +46,7 @@ protected:
     }
 
 private:
-    std::filesystem::path m_folder;
+    support::TemporaryFolder m_folder;
 };
 
 TEST_F(CommandLineTest, PassingScriptEndsWithZero) {

@@ -1,4 +1,5 @@
 #include "workbench/menu/menu_host.h"
+#include "tests/support/temporary_folder.h"
 
 #include "workbench/base/input_error.h"
 #include "workbench/host/workbench.h"
@@ -89,12 +90,11 @@ protected:
     MenuReloadTest() {
         write(R"({"menuGroups": [{"name": "G"}], "panels": [], "toolPanels": []})");
     }
-    ~MenuReloadTest() override { std::filesystem::remove(file); }
 
-    void write(const std::string& text) const { std::ofstream(file) << text; }
+    void write(const std::string& text) const { folder.write("menu.json", text); }
 
-    std::filesystem::path file =
-        std::filesystem::path(testing::TempDir()) / "menu_reload_test.json";
+    support::TemporaryFolder folder;
+    std::filesystem::path file = folder.path / "menu.json";
     Faults faults;
     LibraryTable libraries{WORKBENCH_BIN_DIR, faults};
 };

@@ -1,6 +1,6 @@
 #include "workbench/profiles/file_descriptor.h"
 
-#include "tests/workbench/profiles/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <fcntl.h>
 
@@ -11,7 +11,7 @@
 namespace workbench {
 
 TEST(FileDescriptorTest, IsClosedWithItsObject) {
-    const TemporaryFolder folder;
+    const support::TemporaryFolder folder;
     int descriptor = -1;
     {
         const FileDescriptor file(folder.path / "file", O_WRONLY | O_CREAT);
@@ -23,7 +23,7 @@ TEST(FileDescriptorTest, IsClosedWithItsObject) {
 }
 
 TEST(FileDescriptorTest, AFileThatCannotBeOpenedIsTold) {
-    const TemporaryFolder folder;
+    const support::TemporaryFolder folder;
     EXPECT_THROW(FileDescriptor(folder.path / "missing", O_RDONLY), std::system_error);
 }
 

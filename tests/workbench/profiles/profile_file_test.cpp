@@ -2,7 +2,7 @@
 
 #include "workbench/base/input_error.h"
 
-#include "tests/workbench/profiles/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ class ProfileFileTest : public testing::Test {
 protected:
     std::filesystem::path file() const { return folder.path / "Default.xml"; }
 
-    TemporaryFolder folder;
+    support::TemporaryFolder folder;
 };
 
 TEST_F(ProfileFileTest, AMissingFileIsNoProfileAndNoComplaint) {

@@ -4,8 +4,8 @@
 #include "workbench/host/workbench.h"
 #include "workbench/xml/xml_node.h"
 
+#include "tests/support/temporary_folder.h"
 #include "tests/workbench/host/test_options.h"
-#include "tests/workbench/profiles/temporary_folder.h"
 
 #include <hostapi/vxut.h>
 
@@ -74,7 +74,7 @@ protected:
     }
 
     Workbench bench{testOptions()};
-    TemporaryFolder folder;
+    support::TemporaryFolder folder;
     TestReactor reactor;
     std::unique_ptr<ProfileStore> store;
 };

@@ -1,7 +1,7 @@
 #include "workbench/profiles/profile.h"
 
+#include "tests/support/temporary_folder.h"
 #include "tests/workbench/host/test_options.h"
-#include "tests/workbench/profiles/temporary_folder.h"
 
 #include "workbench/xml/xml_node.h"
 
@@ -26,7 +26,7 @@ protected:
     }
 
     Workbench bench{testOptions()};
-    TemporaryFolder folder;
+    support::TemporaryFolder folder;
     std::string complaint;
 };
 

@@ -1,4 +1,5 @@
 #include "workbench/resources/png_picture.h"
+#include "tests/support/temporary_folder.h"
 
 #include "workbench/base/input_error.h"
 
@@ -74,11 +75,10 @@ TEST(PngPictureTest, TheLargestSideIs4096) {
 }
 
 TEST(PngPictureTest, ReadsAFileAndNamesAMissingOne) {
-    const auto file = std::filesystem::path(testing::TempDir()) / "png_picture_test.png";
+    const support::TemporaryFolder folder;
+    const auto file = folder.path / "picture.png";
     const auto bytes = encode(2, 1, kTwoPixels, PNG_FORMAT_RGBA);
-    std::ofstream(file, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()),
-               static_cast<std::streamsize>(bytes.size()));
+    folder.write("picture.png", std::string(bytes.begin(), bytes.end()));
     EXPECT_EQ(readPngFile(file).rgba, kTwoPixels);
     std::filesystem::remove(file);
 
@@ -91,12 +91,11 @@ TEST(PngPictureTest, ReadsAFileAndNamesAMissingOne) {
 }
 
 TEST(PngPictureTest, AFolderIsNoPictureAndAnEmptyFileNeither) {
-    EXPECT_THROW(readPngFile(testing::TempDir()), InputError);
+    const support::TemporaryFolder folder;
+    EXPECT_THROW(readPngFile(folder.path), InputError);
 
-    const auto empty = std::filesystem::path(testing::TempDir()) / "png_picture_empty.png";
-    std::ofstream(empty).flush();
-    EXPECT_THROW(readPngFile(empty), InputError);
-    std::filesystem::remove(empty);
+    folder.write("empty.png", "");
+    EXPECT_THROW(readPngFile(folder.path / "empty.png"), InputError);
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "workbench/toolkit/toolkit.h"
+#include "tests/support/temporary_folder.h"
 
 #include "tests/support/allocation_counter.h"
 #include "tests/workbench/toolkit/toolkit_fixture.h"
@@ -40,9 +41,9 @@ TEST_F(ToolkitUnitTest, LargeIconsShowAtTheNextLayout) {
 }
 
 TEST_F(ToolkitUnitTest, APictureFileIsReadOnlyIfItIsAPicture) {
-    const auto file = std::filesystem::path(testing::TempDir()) / "no_picture.png";
-    std::ofstream(file) << "text";
-    EXPECT_EQ(LoadBitmapFileGdiPlus(file.wstring().c_str()), nullptr);
+    const support::TemporaryFolder folder;
+    folder.write("no_picture.png", "text");
+    EXPECT_EQ(LoadBitmapFileGdiPlus((folder.path / "no_picture.png").wstring().c_str()), nullptr);
     EXPECT_EQ(LoadBitmapFileGdiPlus(L"/nowhere/at_all.png"), nullptr);
     EXPECT_EQ(LoadBitmapFileGdiPlus(nullptr), nullptr);
     EXPECT_EQ(toolkit().pictures().liveCount(), 0U);

@@ -5,27 +5,34 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 #include <string>
+#include <system_error>
 #include <vector>
 
-namespace workbench {
+namespace support {
 
 /// A folder of a test's own, gone with this object.
 class TemporaryFolder {
 public:
     TemporaryFolder() {
         std::string name = (std::filesystem::temp_directory_path() / "test-XXXXXX").string();
-        path = mkdtemp(name.data());
+        if (mkdtemp(name.data()) == nullptr)
+            throw std::runtime_error("no temporary folder");
+        path = name;
     }
     ~TemporaryFolder() {
-        std::filesystem::permissions(path, std::filesystem::perms::owner_all);
-        std::filesystem::remove_all(path);
+        std::error_code ignored;
+        std::filesystem::permissions(path, std::filesystem::perms::owner_all, ignored);
+        std::filesystem::remove_all(path, ignored);
     }
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    void write(const std::string& file, const std::string& content) const {
+    /// Writes a file of the folder and returns its place.
+    std::filesystem::path write(const std::string& file, const std::string& content) const {
         std::ofstream(path / file, std::ios::binary) << content;
+        return path / file;
     }
     std::string read(const std::string& file) const {
         std::ifstream stream(path / file, std::ios::binary);
@@ -40,4 +47,4 @@ public:
     std::filesystem::path path;
 };
 
-}  // namespace workbench
+}  // namespace support
