@@ -64,7 +64,7 @@ void pressKey(std::string_view name, HWND window) {
 void holdKey(std::string_view name, bool down) {
     if (name != "shift")
         throw GestureError("there is no key \"" + std::string(name) + "\" to hold");
-    Workbench::current().windows().hold(VK_SHIFT, down);
+    Workbench::current().windows().keys().hold(VK_SHIFT, down);
 }
 
 std::vector<std::string> keyNames() {

@@ -46,7 +46,7 @@ void ComboWidget::releaseImages() {
 int ComboWidget::add(Window& window, std::unique_ptr<QRUI_COMBO_CTRL_ITEM> entry) {
     const int before = count();
     m_entries.push_back(std::move(entry));
-    windows().noteChange(window.handle, "items", before, count());
+    windows().changes().note(window.handle, "items", before, count());
     return before;
 }
 
@@ -56,7 +56,7 @@ void ComboWidget::clear(Window& window) {
     m_entries.clear();
     m_selected = -1;
     m_highlighted = -1;
-    windows().noteChange(window.handle, "items", before, 0);
+    windows().changes().note(window.handle, "items", before, 0);
 }
 
 QRUI_COMBO_CTRL_ITEM* ComboWidget::entry(int index) const {
@@ -68,7 +68,7 @@ void ComboWidget::select(Window& window, int index) {
     const Value before = textOf(entry(m_selected));
     m_selected = entry(index) == nullptr ? -1 : index;
     m_highlighted = m_selected;
-    windows().noteChange(window.handle, "selected", before, textOf(entry(m_selected)));
+    windows().changes().note(window.handle, "selected", before, textOf(entry(m_selected)));
 }
 
 bool ComboWidget::open(Window& window) {

@@ -16,7 +16,7 @@ namespace {
 
 void moveToNextField() {
     WindowSystem& windows = Workbench::current().windows();
-    const HWND next = nextField(windows.focus(), windows.isHeld(VK_SHIFT));
+    const HWND next = nextField(windows.focus(), windows.keys().isHeld(VK_SHIFT));
     if (next == nullptr || !windows.setFocus(next))
         return;
     Window& window = *windows.find(next);

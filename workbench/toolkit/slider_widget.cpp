@@ -29,7 +29,7 @@ void SliderWidget::setRange(Window& window, int lowest, int highest) {
 void SliderWidget::setPosition(Window& window, int position) {
     const int before = m_position;
     m_position = scale(window).clamp(position);
-    Workbench::current().windows().noteChange(window.handle, "position", before, m_position);
+    Workbench::current().windows().changes().note(window.handle, "position", before, m_position);
 }
 
 SliderScale SliderWidget::scale(const Window& window) const {
