@@ -1,4 +1,4 @@
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
 #include <benchmark/benchmark.h>

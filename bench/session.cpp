@@ -7,6 +7,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <unistd.h>
+
 #include <cstdlib>
 #include <fstream>
 
@@ -83,6 +85,7 @@ Session::MenuFile::MenuFile(const std::string& text) {
     const int file = mkstemp(name.data());
     if (file < 0)
         std::abort();
+    close(file);
     m_path = name;
     std::ofstream(m_path) << text;
 }

@@ -34,7 +34,8 @@ wb.journal()
 
 -- What is refused leaves the view and gives the old text back.
 local before = zoom:text()
-for entry, string in pairs { ["wide"] = 1246, ["0.5"] = 1247, ["200000"] = 1247 } do
+for _, refused in ipairs { { "wide", 1246 }, { "0.5", 1247 }, { "200000", 1247 } } do
+    local entry, string = table.unpack(refused)
     zoom:enter(entry)
     assert(balloon() == string, entry)
     assert(zoom:text() == before)

@@ -2,6 +2,7 @@
 
 #include "controls/variable_access.h"
 
+#include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/zorq.h>
 
 namespace {
@@ -39,6 +40,14 @@ bool sendHostCommand(const wchar_t* text) {
 void sendMenuMacro(const wchar_t* macro) {
     if (const VxApDocManager* documents = vxDocManagerPtr())
         vxedSendMenuStringToExecute(documents->mdiActiveDocument(), macro, 1);
+}
+
+int sendItemMacro(CQrUiToolPanelItem* item) {
+    const VxToolPanelItemData* data = QrUiGetToolPanelItemData(item);
+    if (data == nullptr || data->macro.empty())
+        return 0;
+    sendMenuMacro(data->macro.c_str());
+    return 1;
 }
 
 void runHostCommand(VxString text, int flag) {

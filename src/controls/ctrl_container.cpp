@@ -15,7 +15,7 @@ constexpr UINT kFieldIds[] = {kFieldXId, kFieldYId, kFieldZId};
 constexpr int kMargin = 3;  // pixels
 
 CWnd* addField(CVxDaCtrlContainer& container, UINT id) {
-    auto field = std::make_unique<CQrUiInputEditCtrl>();
+    auto field = std::make_unique<ModuleWindow<CQrUiInputEditCtrl>>();
     field->Create(kFieldStyle, kFieldRect, &container, id, 0);
     container.AddItem(field.get());
     return field.release();
@@ -31,6 +31,7 @@ void growToHeightOf(CWnd& container, const CWnd& field) {
 }  // namespace
 
 BOOL CVxDaCtrlContainer::PreTranslateMessage(MSG* msg) {
+    const ModuleCall call;
     if (msg->message == WM_KEYDOWN && (msg->wParam == VK_RETURN || msg->wParam == VK_ESCAPE)) {
         const CWnd* item = findFocusedItem();
         CWnd* parent = GetParent();

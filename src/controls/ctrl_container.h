@@ -1,10 +1,12 @@
 #pragma once
 
+#include "core/module_window.h"
+
 #include <hostapi/qrui18/ctrl_container.h>
 
 /// A strip of edit fields that reports keys and focus changes to the control that holds it:
 /// `WM_DA_EDIT_ENTER`, `WM_DA_EDIT_ESCAPE`, `WM_DA_EDIT_SETFOCUS` and `WM_DA_EDIT_KILLFOCUS`.
-class CVxDaCtrlContainer final : public CQrUiCtrlContainer {
+class CVxDaCtrlContainer final : public ModuleWindow<CQrUiCtrlContainer> {
 public:
     // CWnd:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

@@ -4,6 +4,9 @@
 
 class VxApDocument;
 
+/// The mode in which `VxAxDocLock` locks a document for writing.
+constexpr int kLockForWrite = 1;
+
 /// Locks the MDI-active document for writing while it lives, unless it is locked for writing
 /// already.
 class VxDaDocLock {

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "core/module_window.h"
+
 #include <hostapi/qrui18/tool_panel.h>
 
 /// Base of the custom controls: a small tool panel that stands in a row of a dashboard panel.
-class CVxDaPanelGroupCtrl : public CQrUiToolPanel {
+class CVxDaPanelGroupCtrl : public ModuleWindow<CQrUiToolPanel> {
 public:
     // CWnd:
     const MessageMap& GetMessageMap() const override;

@@ -14,9 +14,6 @@ namespace {
 constexpr const wchar_t* kRowBreakId = L"TPB_VXDA_SLIDER_ROWBREAK";
 constexpr const wchar_t* kSeparatorId = L"TPB_VXDA_SLIDER_SEPARATOR";
 constexpr UINT kGapStyle = 4;
-constexpr int kSmallPixels = 16;
-constexpr int kLargePixels = 32;
-constexpr int kToolkitChoice = -1;
 
 using ItemPtr = std::unique_ptr<CQrUiToolPanelItem>;
 
@@ -32,11 +29,10 @@ CQrUiToolPanelItem* append(CQrUiToolPanel* control, ItemPtr item) {
     return item.release();
 }
 
-HBITMAP loadPicture(const VxString& imageKey, int pixels) {
+HBITMAP loadFileOrResource(const VxString& imageKey, int pixels) {
     if (imageKey.find(L'.') != VxString::npos)
         return LoadBitmapFileGdiPlus(imageKey.c_str());
-    return QrUiLoadImageFromResource(dashboardResources().library(), imageKey.c_str(), pixels,
-                                     kToolkitChoice);
+    return loadDashboardPicture(imageKey.c_str(), pixels);
 }
 
 }  // namespace
@@ -80,8 +76,8 @@ CQrUiToolPanelItem* addIconItem(CQrUiToolPanel* control, const wchar_t* itemId,
 }
 
 void setItemImages(CQrUiToolPanelItem& item, const VxString& imageKey) {
-    if (HBITMAP small = loadPicture(imageKey, kSmallPixels))
+    if (HBITMAP small = loadFileOrResource(imageKey, kSmallPixels))
         item.SetImage(kItemSmallImage, small);
-    if (HBITMAP large = loadPicture(imageKey, kLargePixels))
+    if (HBITMAP large = loadFileOrResource(imageKey, kLargePixels))
         item.SetImage(kItemLargeImage, large);
 }

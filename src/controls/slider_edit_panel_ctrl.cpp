@@ -49,6 +49,7 @@ CVxDaSliderEditPanelCtrl::CVxDaSliderEditPanelCtrl(CVxDaControlMgr* controlMgr)
     : m_pControlMgr(controlMgr) {}
 
 BOOL CVxDaSliderEditPanelCtrl::PreTranslateMessage(MSG* msg) {
+    const ModuleCall call;
     if (sendEditKey(*msg, m_edit))
         return 1;
     return CVxDaSliderPanelCtrl::PreTranslateMessage(msg);

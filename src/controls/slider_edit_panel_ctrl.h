@@ -27,6 +27,6 @@ protected:
     /// Sends Enter or Escape to this control if the key goes to a field. Whether it did.
     bool sendEditKey(const MSG& msg, CQrUiInputEditCtrl& edit);
 
-    CQrUiInputEditCtrl m_edit;
+    ModuleWindow<CQrUiInputEditCtrl> m_edit;
     CVxDaControlMgr* m_pControlMgr;  // not owned
 };

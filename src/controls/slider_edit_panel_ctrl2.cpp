@@ -7,6 +7,7 @@ CVxDaSliderEditPanelCtrl2::CVxDaSliderEditPanelCtrl2(CVxDaControlMgr* controlMgr
     : CVxDaSliderEditPanelCtrl(controlMgr) {}
 
 BOOL CVxDaSliderEditPanelCtrl2::PreTranslateMessage(MSG* msg) {
+    const ModuleCall call;
     if (sendEditKey(*msg, m_edit2))
         return 1;
     return CVxDaSliderEditPanelCtrl::PreTranslateMessage(msg);

@@ -15,5 +15,5 @@ public:
     BOOL CreateEditPart() override;
 
 protected:
-    CQrUiInputEditCtrl m_edit2;
+    ModuleWindow<CQrUiInputEditCtrl> m_edit2;
 };

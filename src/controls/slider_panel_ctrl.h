@@ -11,5 +11,5 @@ public:
     virtual BOOL CreateEditPart();
 
 protected:
-    CQrUiProgSliderCtrl m_slider;
+    ModuleWindow<CQrUiProgSliderCtrl> m_slider;
 };

@@ -2,11 +2,11 @@
 
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
+#include "controls/toolbar_controls.h"
 
 #include "core/resources.h"
 #include "core/text.h"
 
-#include <hostapi/qrui18/image.h>
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/qrui18/toolbar_control.h>
@@ -16,35 +16,8 @@
 
 namespace {
 
-struct HostControlRow {
-    const wchar_t* name;
-    UINT hostId;
-    const wchar_t* iconKey;  // null: no icon
-};
-/// In search order.
-constexpr HostControlRow kHostControls[] = {
-    {L"LayerControl", 1111, nullptr},
-    {L"LineTypeControl", 2222, L"RCDATA_OPLTYPE_ICON"},
-    {L"OPTColorControl", 3333, L"RCDATA_OPCOLOR_ICON"},
-    {L"LineWeightControl", 4444, L"RCDATA_OPLWEIGHT_ICON"},
-    {L"RefblknameControl", 5555, nullptr},
-    {L"ViewControl", 6666, nullptr},
-    {L"NamedViewControl", 6667, nullptr},
-    {L"ViewportScaleControl", 7777, nullptr},
-    {L"PlotStyleControl", 8888, L"RCDATA_OPPSTYLE_ICON"},
-    {L"UCSControl", 9999, nullptr},
-    {L"DimStyleControl", 11111, nullptr},
-    {L"TxtStyleControl", 11117, nullptr},
-    {L"TblStyleControl", 11118, nullptr},
-    {L"WorkspacesControl", 11119, nullptr},
-    {L"UndoSkinnyButtonControl", 44445, nullptr},
-    {L"RedoSkinnyButtonControl", 55556, nullptr},
-    {L"MldStyleControl", 11120, nullptr},
-    {L"FindTextControl", 11122, nullptr},
-};
-
-const HostControlRow* findHostControl(const VxString& name) {
-    for (const HostControlRow& row : kHostControls) {
+const ToolbarControlRow* findToolbarControl(const VxString& name) {
+    for (const ToolbarControlRow& row : kToolbarControls) {
         if (equalNoCase(row.name, name))
             return &row;
     }
@@ -56,8 +29,6 @@ constexpr int kExtraWidth = 20;
 constexpr int kExtraHeight = 300;
 /// Success, with a control of the host's and without: only -1 fails a creation.
 constexpr LRESULT kCreated = 1;
-constexpr int kSmallPixels = 16;
-constexpr int kToolkitChoice = -1;
 
 }  // namespace
 
@@ -82,7 +53,7 @@ LRESULT CVxDaToolbarGroupCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
     if (m_name.empty())
         return -1;
     const CRect rect{0, 0, creation->cx + kExtraWidth, creation->cy + kExtraHeight};
-    const HostControlRow* row = findHostControl(m_name);
+    const ToolbarControlRow* row = findToolbarControl(m_name);
     if (row != nullptr)
         m_pControl = getVxToolbarControl(this, rect, row->hostId);
     if (m_pControl == nullptr)
@@ -97,8 +68,7 @@ void CVxDaToolbarGroupCtrl::addIcon(const wchar_t* id, const wchar_t* imageKey) 
     auto item = std::make_unique<CQrUiToolPanelItem>(this);
     item->SetType(kItemIcon);
     item->SetID(id);
-    if (HBITMAP picture = QrUiLoadImageFromResource(dashboardResources().library(), imageKey,
-                                                    kSmallPixels, kToolkitChoice))
+    if (HBITMAP picture = loadDashboardPicture(imageKey, kSmallPixels))
         item->SetImage(kItemSmallImage, picture);
     AddToolPanelItem(item.release());
     m_bHasIcon = true;
@@ -113,6 +83,7 @@ LRESULT CVxDaToolbarGroupCtrl::onHasIcon(WPARAM /*unused*/, LPARAM /*unusedToo*/
 }
 
 LRESULT CVxDaToolbarGroupCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
+    const ModuleCall call;
     const bool ofControl =
         message == WM_COMMAND && LOWORD(static_cast<std::uintptr_t>(lParam)) != 0;
     if (ofControl && handleControlCommand(wParam, lParam))

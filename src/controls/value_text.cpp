@@ -1,5 +1,6 @@
 #include "controls/value_text.h"
 
+#include "controls/doc_lock.h"
 #include "controls/variable_access.h"
 #include "core/host_objects.h"
 #include "core/text.h"
@@ -16,7 +17,6 @@ namespace {
 constexpr int kOfDrawing = -1;  // the unit, or the precision, that the drawing has
 constexpr int kDecimal = 2;
 constexpr int kDecimalDegrees = 0;
-constexpr int kLockForWrite = 1;
 
 /// Room for a number of the locale, its closing null included.
 using NumberBuffer = std::array<wchar_t, 30>;

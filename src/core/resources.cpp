@@ -2,6 +2,17 @@
 
 #include "core/constants.h"
 
+#include <hostapi/qrui18/image.h>
+#include <hostapi/vxdb18/host_services.h>
+
+namespace {
+
+constexpr int kToolkitChoice = -1;  // the colours and the mask are the toolkit's choice
+
+HINSTANCE s_iconLibrary = nullptr;  // never given back
+
+}  // namespace
+
 bool VxDaResources::load() {
     m_library = LoadLibrary(kResourceLibraryFile);
     return m_library != nullptr;
@@ -42,4 +53,22 @@ VxString loadDashboardString(UINT number) {
     LoadString(number, text);
     AfxSetResourceHandle(previous);
     return text;
+}
+
+HBITMAP loadPicture(HINSTANCE library, const wchar_t* key, int pixels) {
+    return QrUiLoadImageFromResource(library, key, pixels, kToolkitChoice);
+}
+
+HBITMAP loadDashboardPicture(const wchar_t* key, int pixels) {
+    return loadPicture(dashboardResources().library(), key, pixels);
+}
+
+void loadIconLibrary() {
+    const VxDbHostApplicationServices* services = vxdbHostApplicationServices();
+    const VxString program = services == nullptr ? VxString() : services->program();
+    s_iconLibrary = LoadLibrary((program + kIconLibrarySuffix).c_str());
+}
+
+HINSTANCE iconLibrary() {
+    return s_iconLibrary;
 }

@@ -29,3 +29,17 @@ VxDaResources& dashboardResources();
 
 /// A string of the resource library; empty if it has none of that number.
 VxString loadDashboardString(UINT number);
+
+/// The two sizes of pictures, in pixels.
+constexpr int kSmallPixels = 16;
+constexpr int kLargePixels = 32;
+/// A picture of a library at a size; null if it has none under that key. Owned by the caller.
+HBITMAP loadPicture(HINSTANCE library, const wchar_t* key, int pixels);
+/// A picture of the resource library.
+HBITMAP loadDashboardPicture(const wchar_t* key, int pixels);
+
+/// Loads the library of tool images, which is named after the host's program and stays loaded for the
+/// life of the process.
+void loadIconLibrary();
+/// The library of tool images; null if the host has none.
+HINSTANCE iconLibrary();

@@ -18,7 +18,8 @@ VxString formatText(const VxString& format, Values... values) {
     VxString text(256, L'\0');
     while (text.size() <= kLongest) {
         const int length = std::swprintf(text.data(), text.size(), format.c_str(), values...);
-        if (length >= 0) {
+        // A text that doesn't fit is a failure for one C library, and for another its length.
+        if (length >= 0 && static_cast<std::size_t>(length) < text.size()) {
             text.resize(static_cast<std::size_t>(length));
             return text;
         }

@@ -1,6 +1,7 @@
 #include "core/theme.h"
 
 #include "core/constants.h"
+#include "core/module_call.h"
 
 void VxDaTheme::acquire() {
     CQrUiThemeManager* manager = QrUiGetThemeManager();
@@ -36,6 +37,7 @@ void VxDaTheme::release() {
 }
 
 void VxDaTheme::CVxDaThemeModifiedReactor::ThemeModified(int /*element*/) {
+    const ModuleCall call;
     m_owner.deleteFont();
     m_owner.buildFont();
 }

@@ -1,13 +1,25 @@
 #include "layer/filter_refresh.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 namespace {
 
+constexpr std::wstring_view kVariables[] = {L"TILEMODE"};
+constexpr std::wstring_view kCommands[] = {L"LAYER", L"-LAYER", L"U", L"UNDO", L"REDO"};
+
 std::vector<LayerFilterView*> s_views;  // live lists in order of creation; not owned
 
 }  // namespace
+
+// Kept as it is: the variable counts in exactly this spelling, as the host sends it.
+const FamilyEvents kLayerFilterEvents{
+    .variables = {kVariables, NameMatch::Exact},
+    .commands = {kCommands, NameMatch::AnyCase},
+    .documents = true,
+    .refresh = refreshFilterCombos,
+};
 
 void addLayerFilterView(LayerFilterView* view) {
     s_views.push_back(view);
@@ -18,6 +30,7 @@ void removeLayerFilterView(LayerFilterView* view) {
 }
 
 void refreshFilterCombos() {
-    for (LayerFilterView* view : s_views)
-        view->refreshFilters();
+    // By index: a refresh may end a list or make another.
+    for (std::size_t i = 0; i < s_views.size(); ++i)
+        s_views[i]->refreshFilters();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/family_events.h"
+
 /// A layer filter list on a panel.
 class LayerFilterView {
 public:
@@ -15,3 +17,6 @@ void removeLayerFilterView(LayerFilterView* view);
 
 /// Brings all layer filter lists in line with the drawing; nothing without one.
 void refreshFilterCombos();
+
+/// What changes layers, and so the lists of their filters.
+extern const FamilyEvents kLayerFilterEvents;

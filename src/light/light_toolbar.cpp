@@ -1,15 +1,19 @@
 #include "light/light_toolbar.h"
 
-#include "controls/variable_access.h"
-#include "module/manager.h"
-#include "module/module.h"
 #include "light/sky_state.h"
+
+#include "core/roof.h"
+
+#include "controls/variable_access.h"
+
 #include "palette/tool_items.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdb18.h>
 
 namespace {
+
+constexpr std::wstring_view kVariables[] = {L"LIGHTINGUNITS"};
 
 constexpr const wchar_t* kExposureTool = L"ID_Adjust_Exposure";
 constexpr const wchar_t* kDistantLightTool = L"ID_DistantLight";
@@ -85,9 +89,14 @@ void updateForPhotometricUnits() {
 
 }  // namespace
 
+const FamilyEvents kLightingUnitsEvents{
+    .variables = {kVariables, NameMatch::AnyCase},
+    .commands = {},
+    .refresh = refreshLightingUnits,
+};
+
 void refreshLightingUnits() {
-    const VxDaManager* manager = dashboardManager();
-    if (manager == nullptr || manager->panelSet() == nullptr)
+    if (currentPanelSet() == nullptr)
         return;
     // Units that can't be read count as photometric ones.
     if (readUnits() == kGenericUnits) {

@@ -1,26 +1,26 @@
 #include "light/lighting_tools.h"
 
-#include "controls/cmd_util.h"
-#include "module/control_manager.h"
-#include "controls/variable_access.h"
+#include "light/sky_state.h"
 
 #include "core/host_objects.h"
+#include "core/roof.h"
 #include "core/text.h"
 
-#include "light/sky_state.h"
-#include "nav3d/view_state.h"
+#include "controls/cmd_util.h"
+#include "controls/doc_lock.h"
+#include "controls/variable_access.h"
+
+#include "controls/view_state.h"
 
 #include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/variables.h>
 
 #include <memory>
-#include <optional>
 
 namespace {
 
-using Callback = VxDaCmdUtil::InputContextReactor::Callback;
+using Callback = QuiescentAction;
 
-constexpr int kLockForWrite = 1;
 constexpr int kLightingCommandFlag = 0;
 
 /// Numbers of "_skystatus".
@@ -123,37 +123,39 @@ const ToggleRow* findToggle(const VxString& itemId) {
     return nullptr;
 }
 
-}  // namespace
-
-bool isLightToggle(const VxString& itemId) {
-    return findToggle(itemId) != nullptr;
-}
-
-int toggleLight(const VxString& itemId, CVxDaControlMgr& controls) {
-    const ToggleRow* row = findToggle(itemId);
-    if (!isPaperSpaceActive() && !isBlockEditorActive()) {
-        controls.runWhenQuiescent(row->makeCallback());
-    } else {
-        sendHostCommand(row->bareCommand);
-    }
+int toggleLight(const ToggleRow& toggle) {
+    if (!isPaperSpaceActive() && !isBlockEditorActive())
+        runWhenQuiescent(toggle.makeCallback());
+    else
+        sendHostCommand(toggle.bareCommand);
     return 1;
 }
 
-bool isSkylightTool(const VxString& itemId) {
-    return equalNoCase(itemId, kSkyOffTool) || equalNoCase(itemId, kSkyBackgroundTool) ||
-           equalNoCase(itemId, kSkyIlluminationTool);
+bool isSkylightTool(const VxString& id) {
+    return equalNoCase(id, kSkyOffTool) || equalNoCase(id, kSkyBackgroundTool) ||
+           equalNoCase(id, kSkyIlluminationTool);
 }
 
-int setSkylight(const VxString& itemId, CVxDaControlMgr& controls) {
+int setSkylight(const VxString& id) {
     const bool oldIllumination = readSkyIllumination();
     const std::optional<int> currentStatus = readSkyStatus();
     if (!currentStatus)
         return 0;
-    const bool off = equalNoCase(itemId, kSkyOffTool);
+    const bool off = equalNoCase(id, kSkyOffTool);
     const int requestedStatus = off ? kSkyStatusOff : kSkyStatusOn;
-    const bool illumination = off ? oldIllumination : equalNoCase(itemId, kSkyIlluminationTool);
+    const bool illumination = off ? oldIllumination : equalNoCase(id, kSkyIlluminationTool);
     if (requestedStatus == *currentStatus && illumination == oldIllumination)
         return 0;
-    controls.runWhenQuiescent(std::make_unique<SkylightCB>(requestedStatus, illumination));
+    runWhenQuiescent(std::make_unique<SkylightCB>(requestedStatus, illumination));
     return 1;
+}
+
+}  // namespace
+
+std::optional<int> clickLightingTool(const VxString& id) {
+    if (const ToggleRow* toggle = findToggle(id))
+        return toggleLight(*toggle);
+    if (isSkylightTool(id))
+        return setSkylight(id);
+    return {};
 }

@@ -2,18 +2,10 @@
 
 #include <hostapi/types.h>
 
-class CVxDaControlMgr;
+#include <optional>
 
-/// The lighting tools: toggles that turn a click into a command at a quiet moment, or, in paper
-/// space and in the block editor, into the bare command for the user to answer. IDs are compared
-/// without regard to case.
-
-/// Whether an ID is that of the default lighting, the sun or the light glyph toggle.
-bool isLightToggle(const VxString& itemId);
-/// A click on one of these toggles. Returns 1.
-int toggleLight(const VxString& itemId, CVxDaControlMgr& controls);
-
-/// Whether an ID is that of a tool of the sky.
-bool isSkylightTool(const VxString& itemId);
-/// A click on a tool of the sky. Returns 0 if the sky is so already or can't be read, otherwise 1.
-int setSkylight(const VxString& itemId, CVxDaControlMgr& controls);
+/// A click on one of the lighting tools, by its ID, compared without regard to case: a toggle turns
+/// it into a command at a quiet moment, or, in paper space and in the block editor, into the bare
+/// command for the user to answer; a tool of the sky into a command at a quiet moment. Nothing for an
+/// ID of another family; 0 if the sky is so already or can't be read; otherwise 1.
+std::optional<int> clickLightingTool(const VxString& id);

@@ -1,9 +1,11 @@
 #include "module/commands.h"
 
-#include "core/constants.h"
-#include "core/host_objects.h"
 #include "module/manager.h"
 #include "module/module.h"
+
+#include "core/constants.h"
+#include "core/host_objects.h"
+#include "core/module_call.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
@@ -16,11 +18,13 @@
 namespace {
 
 void onShowCommand() {
+    const ModuleCall call;
     if (VxDaManager* manager = dashboardManager())
         manager->onShowCommand();
 }
 
 void onViewBackCommand() {
+    const ModuleCall call;
     vxInternalZoomBack();
 }
 

@@ -1,29 +1,23 @@
 #include "module/control_manager.h"
 
-#include "controls/cmd_util.h"
 #include "module/control_table.h"
+#include "module/family_rows.h"
 
-#include "core/text.h"
+#include "core/module_call.h"
 
-#include "layer/filter_refresh.h"
-#include "light/light_toolbar.h"
-#include "visualstyle/material_mode.h"
+#include "controls/cmd_util.h"
+
+#include "light/lighting_tools.h"
+#include "nav3d/navigation_tools.h"
 #include "visualstyle/style_reactors.h"
 
+#include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/zorq/documents.h>
 
 #include <algorithm>
-#include <string_view>
+#include <utility>
 
 namespace {
-
-/// Commands that change layers; compared without regard to case.
-constexpr const wchar_t* kLayerCommands[] = {L"LAYER", L"-LAYER", L"U", L"UNDO", L"REDO"};
-
-bool changesLayers(std::wstring_view command) {
-    return std::any_of(std::begin(kLayerCommands), std::end(kLayerCommands),
-                       [command](const wchar_t* name) { return equalNoCase(command, name); });
-}
 
 void removeFrom(VxApDocument& document, VxEdInputContextReactor& reactor) {
     if (VxEdInputManager* input = document.inputManager())
@@ -33,12 +27,18 @@ void removeFrom(VxApDocument& document, VxEdInputContextReactor& reactor) {
 }  // namespace
 
 CVxDaControlMgr::~CVxDaControlMgr() {
-    for (auto& [document, reactor] : m_documentReactors) {
+    leaveService();
+}
+
+void CVxDaControlMgr::leaveService() {
+    m_inService = false;
+    auto reactors = std::exchange(m_documentReactors, {});
+    for (auto& [document, reactor] : reactors) {
         removeFrom(*document, *reactor);
-        reactor.reset();
+        reactor->drop();
+        freeAfterCall(std::move(reactor));
     }
     releaseControls();
-    m_documentReactors.clear();
 }
 
 HWND CVxDaControlMgr::createControl(const VxString& name, CWnd* parent) {
@@ -51,18 +51,23 @@ HWND CVxDaControlMgr::createControl(const VxString& name, CWnd* parent) {
     std::unique_ptr<CWnd> control = row->factory(parent, rect, row->name, this);
     if (control == nullptr || !IsWindow(control->m_hWnd))
         return nullptr;
+    const HWND window = control->m_hWnd;
     m_controls.push_back(std::move(control));
-    return m_controls.back()->m_hWnd;
+    if (m_inService)
+        return window;
+    releaseControls();
+    return nullptr;
 }
 
 void CVxDaControlMgr::releaseControls() {
-    for (std::unique_ptr<CWnd>& control : m_controls) {
+    // Taken out first: what a dying control calls may come back here, or make another control.
+    auto controls = std::exchange(m_controls, {});
+    for (std::unique_ptr<CWnd>& control : controls) {
         // The window may have gone with an earlier panel set.
         if (IsWindow(control->m_hWnd))
             control->DestroyWindow();
-        control.reset();
+        freeAfterCall(std::move(control));
     }
-    m_controls.clear();
 }
 
 void CVxDaControlMgr::acquireStyleReactors() {
@@ -107,29 +112,32 @@ bool CVxDaControlMgr::isItemHidden(const VxString& id) const {
 }
 
 void CVxDaControlMgr::onSysVarChanged(const wchar_t* name, BOOL /*success*/) {
-    refreshMaterialModeFor(name);
-    if (equalNoCase(name, L"LIGHTINGUNITS"))
-        refreshLightingUnits();
-    // Kept as it is: this one name counts in exactly this spelling, as the host sends it.
-    if (name == std::wstring_view(L"TILEMODE"))
-        refreshFilterCombos();
+    refreshFamiliesForVariable(name);
 }
 
 void CVxDaControlMgr::onCommandEnded(const wchar_t* name) {
-    refreshMaterialModeFor(name);
-    if (changesLayers(name))
-        refreshFilterCombos();
+    refreshFamiliesForCommand(name);
 }
 
-void CVxDaControlMgr::runWhenQuiescent(std::unique_ptr<InputContextReactor::Callback> callback) {
+int CVxDaControlMgr::handleToolClick(CQrUiToolPanelItem* item) {
+    if (const std::optional<int> answer = clickNavigationTool(item))
+        return *answer;
+    if (const std::optional<int> answer = clickLightingTool(item->GetID()))
+        return *answer;
+    return 1;
+}
+
+void CVxDaControlMgr::runWhenQuiescent(std::unique_ptr<QuiescentAction> action) {
     if (!commandStopped()) {
-        callback->run();
+        action->run();
         return;
     }
+    if (!m_inService)
+        return;
     const VxApDocManager* documents = vxDocManagerPtr();
     VxApDocument* document = documents == nullptr ? nullptr : documents->curDocument();
     if (document != nullptr)
-        documentReactor(document).append(std::move(callback));
+        documentReactor(document).append(std::move(action));
 }
 
 VxDaCmdUtil::InputContextReactor& CVxDaControlMgr::documentReactor(VxApDocument* document) {
@@ -143,9 +151,11 @@ VxDaCmdUtil::InputContextReactor& CVxDaControlMgr::documentReactor(VxApDocument*
 }
 
 void CVxDaControlMgr::removeDocumentReactor(VxApDocument* document) {
-    const auto found = m_documentReactors.find(document);
-    if (found == m_documentReactors.end())
+    auto entry = m_documentReactors.extract(document);
+    if (entry.empty())
         return;
-    removeFrom(*document, *found->second);
-    m_documentReactors.erase(found);
+    removeFrom(*document, *entry.mapped());
+    entry.mapped()->drop();
+    // The document may be closed by one of the actions that the reactor is running.
+    freeAfterCall(std::move(entry.mapped()));
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/roof.h"
+
 #include "controls/input_context_reactor.h"
 
 #include <hostapi/window/wnd.h>
@@ -8,44 +10,37 @@
 #include <memory>
 #include <vector>
 
-class CQrUiToolPanelItem;
 class VxApDocument;
 
 /// The registry of custom controls: makes them by name and owns them, takes the clicks on the
 /// module's own tools, keeps the list of hidden items, and runs actions at quiet moments.
-class CVxDaControlMgr : public CObject {
+class CVxDaControlMgr : public CObject, public ControlRoof {
 public:
     CVxDaControlMgr() = default;
     ~CVxDaControlMgr() override;
 
-    /// A new control in a parent window. Null for an empty or unknown name and if the control could
-    /// not be made.
-    HWND createControl(const VxString& name, CWnd* parent);
-    /// Destroys and deletes all controls.
+    /// Drops what waits for a quiet moment and releases the controls; from then on it makes no control
+    /// and runs no action. The object's end does the same, if it wasn't called before.
+    void leaveService();
+    /// Destroys and deletes all controls; one whose handler is running ends after it.
     void releaseControls();
     /// Brings up the two watchers of visual styles, counted.
     void acquireStyleReactors();
-
-    /// Handles a click on an item of this module. Answers 1 for an item it has no use for.
-    int handleToolClick(CQrUiToolPanelItem* item);
-
-    /// Adds IDs to, or takes them off, the list of hidden items; IDs are exact. Whether the list
-    /// changed.
-    BOOL setItemsHidden(const CStringArray& ids, bool add);
-    /// Whether an ID is on the list of hidden items.
-    bool isItemHidden(const VxString& id) const;
 
     /// A system variable changed.
     void onSysVarChanged(const wchar_t* name, BOOL success);
     /// A command ended.
     void onCommandEnded(const wchar_t* name);
 
-    /// Runs an action at once if no command is active. Otherwise stops the command and queues the
-    /// action until the current document's command processor rests; without a document it is
-    /// dropped.
-    void runWhenQuiescent(std::unique_ptr<VxDaCmdUtil::InputContextReactor::Callback> callback);
     /// Drops a document's reactor with the actions that wait in it.
     void removeDocumentReactor(VxApDocument* document);
+
+    // ControlRoof:
+    HWND createControl(const VxString& name, CWnd* parent) override;
+    int handleToolClick(CQrUiToolPanelItem* item) override;
+    BOOL setItemsHidden(const CStringArray& ids, bool add) override;
+    bool isItemHidden(const VxString& id) const override;
+    void runWhenQuiescent(std::unique_ptr<QuiescentAction> action) override;
 
 private:
     using InputContextReactor = VxDaCmdUtil::InputContextReactor;
@@ -54,6 +49,7 @@ private:
     bool hideItems(const CStringArray& ids);
     bool unhideItems(const CStringArray& ids);
 
+    bool m_inService = true;
     std::vector<std::unique_ptr<CWnd>> m_controls;
     CStringArray m_hiddenItemIds;
     std::map<VxApDocument*, std::unique_ptr<InputContextReactor>> m_documentReactors;

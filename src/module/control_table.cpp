@@ -1,14 +1,19 @@
 #include "module/control_table.h"
 
-#include "controls/toolbar_group_ctrl.h"
-
 #include "core/text.h"
+
+#include "controls/toolbar_controls.h"
+#include "controls/toolbar_group_ctrl.h"
 
 #include "layer/locked_layer_fade_slider.h"
 #include "nav3d/camera_point.h"
 #include "nav3d/step_slider.h"
 #include "nav3d/view_combo.h"
 #include "nav3d/zoom_slider.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
 
 namespace {
 
@@ -34,8 +39,8 @@ std::unique_ptr<CWnd> makeToolbarGroup(CWnd* parent, const CRect& rect, const wc
     return control;
 }
 
-/// In search order.
-constexpr ControlTableRow kControls[] = {
+/// In search order; behind these come the host's own toolbar controls.
+constexpr ControlTableRow kOwnControls[] = {
     {L"LayerLockTransparencySliderControl",
      makePanelControl<CVxDaLockedLayerTransparencySliderCtrl, 601>},
     {L"3DNavZoomSliderControl", makePanelControl<CVxDa3DNavZoomSliderCtrl, 101>},
@@ -44,25 +49,20 @@ constexpr ControlTableRow kControls[] = {
     {L"3DNavViewComboCtrl", makePanelControl<CVxDa3DNavViewComboCtrl, 104>},
     {L"3DNavPointTriplet1", makePanelControl<CVxDa3DNavCameraEyePointCtrl, 105>},
     {L"3DNavPointTriplet2", makePanelControl<CVxDa3DNavCameraTargetPointCtrl, 106>},
-    {L"LayerControl", makeToolbarGroup},
-    {L"LineTypeControl", makeToolbarGroup},
-    {L"OPTColorControl", makeToolbarGroup},
-    {L"LineWeightControl", makeToolbarGroup},
-    {L"RefblknameControl", makeToolbarGroup},
-    {L"ViewControl", makeToolbarGroup},
-    {L"NamedViewControl", makeToolbarGroup},
-    {L"ViewportScaleControl", makeToolbarGroup},
-    {L"PlotStyleControl", makeToolbarGroup},
-    {L"UCSControl", makeToolbarGroup},
-    {L"DimStyleControl", makeToolbarGroup},
-    {L"TxtStyleControl", makeToolbarGroup},
-    {L"TblStyleControl", makeToolbarGroup},
-    {L"WorkspacesControl", makeToolbarGroup},
-    {L"UndoSkinnyButtonControl", makeToolbarGroup},
-    {L"RedoSkinnyButtonControl", makeToolbarGroup},
-    {L"MldStyleControl", makeToolbarGroup},
-    {L"FindTextControl", makeToolbarGroup},
 };
+
+template <std::size_t Own, std::size_t Wrapped>
+constexpr auto allRows(const ControlTableRow (&own)[Own], const ToolbarControlRow (&wrapped)[Wrapped]) {
+    std::array<ControlTableRow, Own + Wrapped> rows{};
+    std::copy(std::begin(own), std::end(own), rows.begin());
+    std::transform(std::begin(wrapped), std::end(wrapped), rows.begin() + Own,
+                   [](const ToolbarControlRow& row) {
+                       return ControlTableRow{row.name, makeToolbarGroup};
+                   });
+    return rows;
+}
+
+constexpr auto kControls = allRows(kOwnControls, kToolbarControls);
 
 }  // namespace
 

@@ -1,10 +1,13 @@
 #include "module/module.h"
 
+#include "core/module_call.h"
+
 #include <hostapi/export.h>
 #include <hostapi/vxdb18/dynamic_linker.h>
 
 /// Takes the host's messages to the module; the answer is 0 to each.
 VXDA_EXPORT int vxrxEntryPoint(int message, void* appPacket) {
+    const ModuleCall call;
     switch (static_cast<VxRxMessage>(message)) {
     case VxRxMessage::kInitApp:
         loadModule(appPacket);

@@ -1,23 +1,19 @@
+#include "module/control_manager.h"
 #include "module/manager.h"
 #include "module/module.h"
 
-#include "module/control_manager.h"
+#include "core/module_call.h"
+#include "core/roof.h"
+
 #include "nav3d/force_update.h"
+
 #include "palette/dashboard.h"
 #include "palette/panel_set.h"
 
 #include <hostapi/vxdashboard.h>
 
-namespace {
-
-CVxDaPanelSet* currentPanelSet() {
-    const VxDaManager* manager = dashboardManager();
-    return manager == nullptr ? nullptr : manager->panelSet();
-}
-
-}  // namespace
-
 VXDA_EXPORT HWND VxDaGetCustomControl(const wchar_t* name, HWND parent) {
+    const ModuleCall call;
     CVxDaControlMgr* controls = controlManager();
     if (controls == nullptr || name == nullptr)
         return nullptr;
@@ -25,16 +21,21 @@ VXDA_EXPORT HWND VxDaGetCustomControl(const wchar_t* name, HWND parent) {
 }
 
 VXDA_EXPORT int VxDaNotifyDashboard(int code) {
+    const ModuleCall call;
     VxDaManager* manager = dashboardManager();
     return manager == nullptr ? 0 : manager->notify(code);
 }
 
 VXDA_EXPORT int VxDaAddOrRemoveReactor(VxDaDashboardReactor* reactor, int add) {
+    const ModuleCall call;
     VxDaManager* manager = dashboardManager();
     return manager == nullptr ? 0 : manager->addOrRemoveReactor(reactor, add != 0);
 }
 
 VXDA_EXPORT int VxDaGetVisiblePanels(VxDaPanelList* panels) {
+    const ModuleCall call;
+    if (panels == nullptr)
+        return 0;
     panels->clear();
     const CVxDaPanelSet* panelSet = currentPanelSet();
     if (panelSet == nullptr)
@@ -44,11 +45,13 @@ VXDA_EXPORT int VxDaGetVisiblePanels(VxDaPanelList* panels) {
 }
 
 VXDA_EXPORT int VxDaSetVisiblePanels(const VxDaPanelList* panels) {
+    const ModuleCall call;
     CVxDaPanelSet* panelSet = currentPanelSet();
-    return panelSet == nullptr ? 0 : panelSet->setVisiblePanels(*panels);
+    return panelSet == nullptr || panels == nullptr ? 0 : panelSet->setVisiblePanels(*panels);
 }
 
 VXDA_EXPORT const VxDaToolPanelItems* VxDaGetToolPanelItems(const wchar_t* itemId) {
+    const ModuleCall call;
     const CVxDaPanelSet* panelSet = currentPanelSet();
     if (panelSet == nullptr || itemId == nullptr)
         return nullptr;
@@ -56,6 +59,7 @@ VXDA_EXPORT const VxDaToolPanelItems* VxDaGetToolPanelItems(const wchar_t* itemI
 }
 
 VXDA_EXPORT int VxDaInvalidateDashboard() {
+    const ModuleCall call;
     const VxDaManager* manager = dashboardManager();
     CVxDaDashboard* dashboard = manager == nullptr ? nullptr : manager->dashboard();
     if (dashboard == nullptr)
@@ -65,5 +69,6 @@ VXDA_EXPORT int VxDaInvalidateDashboard() {
 }
 
 VXDA_EXPORT void setForce3DNavUpdate(bool force) {
+    const ModuleCall call;
     setNavUpdateForced(force);
 }

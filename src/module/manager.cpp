@@ -1,24 +1,30 @@
 #include "module/manager.h"
 
-#include "core/broadcast_messages.h"
-#include "core/constants.h"
-#include "core/host_objects.h"
+#include "module/control_manager.h"
 #include "module/manager_reactors.h"
 #include "module/module.h"
+
+#include "core/broadcast_messages.h"
+#include "core/constants.h"
+#include "core/flag_scope.h"
+#include "core/host_objects.h"
+#include "core/module_call.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/theme.h"
 
-#include "module/control_manager.h"
 #include "controls/variable_access.h"
+
 #include "palette/dashboard.h"
 #include "palette/palette.h"
 #include "palette/panel_set.h"
+
 #include "visualstyle/style_reactors.h"
 
 #include <hostapi/zorq.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -35,12 +41,12 @@ void addTo(Host* host, const std::unique_ptr<Reactor>& reactor) {
         host->addReactor(reactor.get());
 }
 
-/// Takes a reactor off an object of the host, then ends it.
+/// Takes a reactor off an object of the host, and ends it. One of its events may be running.
 template <class Host, class Reactor>
 void removeFrom(Host* host, std::unique_ptr<Reactor>& reactor) {
     if (host != nullptr && reactor != nullptr)
         host->removeReactor(reactor.get());
-    reactor.reset();
+    freeAfterCall(std::move(reactor));
 }
 
 /// Whether one document is open, or is about to be the last one that was.
@@ -58,6 +64,13 @@ bool isCleanScreenOn() {
 VxDaManager::VxDaManager() = default;
 
 VxDaManager::~VxDaManager() {
+    leaveService();
+}
+
+void VxDaManager::leaveService() {
+    if (!m_inService)
+        return;
+    m_inService = false;
     removeFrom(vxProfileManagerPtr(), m_pProfileReactor);
     removeFrom(hostEditor(), m_pEditorReactor);
     removeFrom(vxDocManagerPtr(), m_pDocManagerReactor);
@@ -91,7 +104,7 @@ BOOL VxDaManager::showDashboard() {
     showBar();
     visibilityChanged(1);
     loadPanelsWithNotice();
-    return 1;
+    return m_pDashboard == nullptr ? 0 : 1;
 }
 
 void VxDaManager::createDashboard() {
@@ -102,19 +115,34 @@ void VxDaManager::createDashboard() {
 }
 
 void VxDaManager::loadPanelsWithNotice() {
+    // A listener or a foreign control that asks for the panels while they are built gets those.
+    if (m_loadingPanels || m_pDashboard == nullptr)
+        return;
+    loadPanels();
+    if (m_pDashboard == nullptr)
+        return;
+    m_bPanelsLoaded = true;
+    callListeners([](VxDaDashboardReactor& listener) { listener.panelsLoaded(); });
+    if (m_inService)
+        updateVisualStyleState();
+}
+
+void VxDaManager::loadPanels() {
+    const FlagScope loading(m_loadingPanels);
     callListeners([](VxDaDashboardReactor& listener) { listener.panelsWillLoad(); });
+    if (m_pDashboard == nullptr)
+        return;
     if (CVxDaControlMgr* controls = controlManager())
         controls->acquireStyleReactors();
     m_pDashboard->loadPanels();
-    m_bPanelsLoaded = true;
-    callListeners([](VxDaDashboardReactor& listener) { listener.panelsLoaded(); });
-    updateVisualStyleState();
 }
 
 BOOL VxDaManager::unloadPanels() {
     if (m_pDashboard == nullptr || !IsWindow(m_pDashboard->m_hWnd))
         return 0;
     callListeners([](VxDaDashboardReactor& listener) { listener.panelsWillUnload(); });
+    if (m_pDashboard == nullptr)
+        return 0;
     if (CVxDaPalette* palette = m_pDashboard->palette())
         palette->replacePanelSet();
     m_bPanelsLoaded = false;
@@ -123,7 +151,10 @@ BOOL VxDaManager::unloadPanels() {
 }
 
 void VxDaManager::deleteDashboard() {
-    m_pDashboard.reset();
+    if (std::unique_ptr<CVxDaDashboard> dashboard = std::move(m_pDashboard)) {
+        dashboard->leaveService();
+        freeAfterCall(std::move(dashboard));
+    }
 }
 
 CVxDaPanelSet* VxDaManager::panelSet() const {
@@ -158,6 +189,9 @@ template <class Call>
 void VxDaManager::callListeners(Call call) {
     const std::size_t count = m_reactors.size();
     for (std::size_t i = 0; i < count; ++i) {
+        // A listener that had the module unloaded was the last to be told.
+        if (!m_inService)
+            return;
         // A listener that shrank the list from inside a call is at fault.
         if (i >= m_reactors.size())
             AfxThrowInvalidArgException();
@@ -166,7 +200,7 @@ void VxDaManager::callListeners(Call call) {
 }
 
 void VxDaManager::showBar() {
-    if ((m_pDashboard->GetStyle() & WS_VISIBLE) != 0)
+    if (m_pDashboard == nullptr || (m_pDashboard->GetStyle() & WS_VISIBLE) != 0)
         return;
     CFrameWnd* frame = vxedGetZorqFrame();
     if (frame != nullptr && canShowOrHide(*m_pDashboard)) {
@@ -175,7 +209,7 @@ void VxDaManager::showBar() {
 }
 
 void VxDaManager::hideBar() {
-    if ((m_pDashboard->GetStyle() & WS_VISIBLE) == 0)
+    if (m_pDashboard == nullptr || (m_pDashboard->GetStyle() & WS_VISIBLE) == 0)
         return;
     CFrameWnd* frame = vxedGetZorqFrame();
     if (frame != nullptr && canShowOrHide(*m_pDashboard)) {
@@ -247,9 +281,12 @@ int VxDaManager::releaseControls() {
     if (!m_bPanelsLoaded)
         return 1;
     callListeners([](VxDaDashboardReactor& listener) { listener.controlsWillBeReleased(); });
+    if (!m_inService)
+        return 1;
     if (CVxDaControlMgr* controls = controlManager())
         controls->releaseControls();
-    releaseStyleReactors();
+    if (m_inService)
+        releaseStyleReactors();
     return 1;
 }
 

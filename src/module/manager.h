@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/roof.h"
+
 #include <hostapi/types.h>
 #include <hostapi/vxdashboard.h>
 
@@ -14,16 +16,18 @@ class VxDaProfileManagerReactor;
 
 /// Stands between the host and the dashboard: owns the palette set, which it makes on demand, and
 /// the three host reactors, and keeps the listeners.
-class VxDaManager {
+class VxDaManager : public DashboardRoof {
 public:
     VxDaManager();
     VxDaManager(const VxDaManager&) = delete;
     VxDaManager& operator=(const VxDaManager&) = delete;
-    /// Detaches from the host, then ends the palette set.
     virtual ~VxDaManager();
 
     /// Makes the reactors and adds them to the host. Returns 1.
     BOOL attach();
+    /// Detaches from the host, then ends the palette set; what still runs of it stops at its next
+    /// step. The object's end does the same, if it wasn't called before.
+    void leaveService();
 
     /// The command that shows the dashboard.
     void onShowCommand();
@@ -39,15 +43,9 @@ public:
     int notify(int code);
     /// Adds a listener, once, or takes it off. Returns 0 for null, otherwise 1.
     int addOrRemoveReactor(VxDaDashboardReactor* reactor, bool add);
-    /// Tells the listeners that the palette set went on or off the screen.
-    void visibilityChanged(BOOL visible);
 
     /// The palette set; null before it was first shown.
     CVxDaDashboard* dashboard() const { return m_pDashboard.get(); }
-    /// The panel set; null as soon as one link of the way to it is null.
-    CVxDaPanelSet* panelSet() const;
-    /// Whether the palette set is on screen.
-    bool isDashboardVisible() const;
     /// Whether the panels were built and not taken down since.
     bool panelsLoaded() const { return m_bPanelsLoaded; }
     /// Sends a message to all custom controls; nothing without a panel set.
@@ -63,9 +61,15 @@ public:
     void setQuitting(bool quitting) { m_bQuitting = quitting; }
     bool isQuitting() const { return m_bQuitting; }
 
+    // DashboardRoof:
+    bool isDashboardVisible() const override;
+    CVxDaPanelSet* panelSet() const override;
+    void visibilityChanged(BOOL visible) override;
+
 private:
     void createDashboard();
     void loadPanelsWithNotice();
+    void loadPanels();
     void showBar();
     void hideBar();
     void bringBack();
@@ -76,7 +80,9 @@ private:
     void callListeners(Call call);
 
     std::unique_ptr<CVxDaDashboard> m_pDashboard;  // null until first shown
+    bool m_inService = true;
     bool m_bPanelsLoaded = false;
+    bool m_loadingPanels = false;
     bool m_bWasVisible = false;  // hidden on the host's behalf; to come back
     bool m_bQuitting = false;
     bool m_savedVisible = false;  // on screen when the panels were taken down for a reload

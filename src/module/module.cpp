@@ -1,14 +1,18 @@
 #include "module/module.h"
 
 #include "module/commands.h"
-#include "core/constants.h"
-#include "core/host_objects.h"
+#include "module/control_manager.h"
 #include "module/manager.h"
+
+#include "core/constants.h"
+#include "core/flag_scope.h"
+#include "core/host_objects.h"
+#include "core/module_call.h"
 #include "core/resources.h"
+#include "core/roof.h"
 #include "core/text.h"
 #include "core/theme.h"
 
-#include "module/control_manager.h"
 #include "visualstyle/style_reactors.h"
 
 #include <hostapi/qrui18/palette_set.h>
@@ -17,6 +21,7 @@
 #include <hostapi/window/module.h>
 
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -25,7 +30,7 @@ constexpr const wchar_t* kResourceLoadError =
 
 std::unique_ptr<VxDaManager> s_manager;
 std::unique_ptr<CVxDaControlMgr> s_controlManager;
-HINSTANCE s_iconLibrary = nullptr;  // stays loaded for the life of the process
+bool s_unloading = false;
 
 void announceModule(void* appPacket) {
     VxRxDynamicLinker* linker = dynamicLinker();
@@ -48,14 +53,10 @@ void reportMissingResources() {
 
 void createManagers() {
     s_manager = std::make_unique<VxDaManager>();
+    setDashboardRoof(s_manager.get());
     s_manager->attach();
     s_controlManager = std::make_unique<CVxDaControlMgr>();
-}
-
-void loadIconLibrary() {
-    const VxDbHostApplicationServices* services = vxdbHostApplicationServices();
-    const VxString program = services == nullptr ? VxString() : services->program();
-    s_iconLibrary = LoadLibrary((program + kIconLibrarySuffix).c_str());
+    setControlRoof(s_controlManager.get());
 }
 
 void takeDashboardDown() {
@@ -65,11 +66,27 @@ void takeDashboardDown() {
     s_manager->deleteDashboard();
 }
 
+void deleteControlManager() {
+    setControlRoof(nullptr);
+    if (std::unique_ptr<CVxDaControlMgr> controls = std::move(s_controlManager)) {
+        controls->leaveService();
+        freeAfterCall(std::move(controls));
+    }
+}
+
+void deleteManager() {
+    setDashboardRoof(nullptr);
+    if (std::unique_ptr<VxDaManager> manager = std::move(s_manager)) {
+        manager->leaveService();
+        freeAfterCall(std::move(manager));
+    }
+}
+
 void deleteManagers() {
-    s_controlManager.reset();
+    deleteControlManager();
     // Controls leave the registries of the style reactors as they end, so these go after them.
     deleteStyleReactors();
-    s_manager.reset();
+    deleteManager();
 }
 
 void deleteService() {
@@ -99,6 +116,10 @@ void loadModule(void* appPacket) {
 // Kept as it is: the order differs from the reverse of the load, because strings are needed no more
 // once the panels are down, and the controls still use the theme when they end.
 void unloadModule() {
+    // The message may come back in from what the steps call; the first one does the work.
+    if (s_unloading)
+        return;
+    const FlagScope unloading(s_unloading);
     takeDashboardDown();
     removeCommands();
     dashboardResources().free();
@@ -113,14 +134,6 @@ VxDaManager* dashboardManager() {
     return s_manager.get();
 }
 
-bool isDashboardVisible() {
-    return s_manager != nullptr && s_manager->isDashboardVisible();
-}
-
 CVxDaControlMgr* controlManager() {
     return s_controlManager.get();
-}
-
-HINSTANCE iconLibrary() {
-    return s_iconLibrary;
 }

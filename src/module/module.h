@@ -1,7 +1,5 @@
 #pragma once
 
-#include <hostapi/types.h>
-
 class CVxDaControlMgr;
 class VxDaManager;
 
@@ -12,9 +10,5 @@ void unloadModule();
 
 /// The dashboard manager; null while the module isn't loaded.
 VxDaManager* dashboardManager();
-/// Whether the dashboard is on screen.
-bool isDashboardVisible();
 /// The control manager; null while the module isn't loaded.
 CVxDaControlMgr* controlManager();
-/// The library of tool images; null if the host has none.
-HINSTANCE iconLibrary();

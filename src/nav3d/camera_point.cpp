@@ -1,10 +1,10 @@
 #include "nav3d/camera_point.h"
 
-#include "nav3d/current_view.h"
+#include "controls/current_view.h"
 #include "nav3d/move_view_point.h"
 #include "nav3d/navigation_module.h"
 #include "controls/value_text.h"
-#include "nav3d/view_state.h"
+#include "controls/view_state.h"
 #include "nav3d/white_background.h"
 
 #include "controls/edit_messages.h"
@@ -146,6 +146,7 @@ CWnd* CVxDa3DNavCameraPointCtrl::findField(UINT id) const {
 }
 
 BOOL CVxDa3DNavCameraPointCtrl::PreTranslateMessage(MSG* msg) {
+    const ModuleCall call;
     if (m_toolTip.m_hWnd != nullptr)
         m_toolTip.SendMessage(TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(msg));
     return CVxDaPanelGroupCtrl::PreTranslateMessage(msg);

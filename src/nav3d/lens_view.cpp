@@ -1,9 +1,9 @@
 #include "nav3d/lens_view.h"
 
-#include "nav3d/current_view.h"
+#include "controls/current_view.h"
 #include "nav3d/lens_mapping.h"
 #include "nav3d/navigation_module.h"
-#include "nav3d/view_state.h"
+#include "controls/view_state.h"
 
 #include <hostapi/zorq/views.h>
 

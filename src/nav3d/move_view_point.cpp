@@ -1,7 +1,7 @@
 #include "nav3d/move_view_point.h"
 
-#include "nav3d/current_view.h"
-#include "nav3d/view_state.h"
+#include "controls/current_view.h"
+#include "controls/view_state.h"
 
 #include <hostapi/zorq/views.h>
 

@@ -1,14 +1,14 @@
 #include "nav3d/navigation_tools.h"
 
-#include "controls/cmd_util.h"
-#include "module/control_manager.h"
-#include "light/lighting_tools.h"
+#include "nav3d/navigation_module.h"
 
 #include "core/constants.h"
 #include "core/host_objects.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
+
+#include "controls/cmd_util.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdb18/dynamic_linker.h>
@@ -62,7 +62,7 @@ Function findNavigationSymbol(const char* symbol) {
     const HINSTANCE module = GetModuleHandle(kNavigationModuleFile);
     if (module == nullptr)
         return nullptr;
-    return reinterpret_cast<Function>(GetProcAddress(module, symbol));
+    return findNavigationExport<Function>(module, symbol);
 }
 
 bool isNavigationModuleLoaded() {
@@ -103,15 +103,7 @@ int showWalkSettings(CQrUiToolPanelItem* item) {
 
 }  // namespace
 
-int sendItemMacro(CQrUiToolPanelItem* item) {
-    const VxToolPanelItemData* data = QrUiGetToolPanelItemData(item);
-    if (data == nullptr || data->macro.empty())
-        return 0;
-    sendMenuMacro(data->macro.c_str());
-    return 1;
-}
-
-int CVxDaControlMgr::handleToolClick(CQrUiToolPanelItem* item) {
+std::optional<int> clickNavigationTool(CQrUiToolPanelItem* item) {
     const VxString& id = item->GetID();
     if (const auto* row = findRow(kNavigationModes, id))
         return switchNavigationMode(item, row->mode);
@@ -119,9 +111,5 @@ int CVxDaControlMgr::handleToolClick(CQrUiToolPanelItem* item) {
         return showWalkSettings(item);
     if (const auto* row = findRow(kNavigationFunctions, id))
         return callNavFunction(row->symbol);
-    if (isLightToggle(id))
-        return toggleLight(id, *this);
-    if (isSkylightTool(id))
-        return setSkylight(id, *this);
-    return 1;
+    return {};
 }

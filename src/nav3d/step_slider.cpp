@@ -3,6 +3,7 @@
 #include "nav3d/step_setting.h"
 #include "controls/value_text.h"
 
+#include "controls/doc_lock.h"
 #include "controls/edit_messages.h"
 #include "controls/edit_text.h"
 #include "controls/row_items.h"
@@ -24,7 +25,6 @@
 namespace {
 
 constexpr UINT kSliderStyle = 2;
-constexpr int kLockForWrite = 1;
 constexpr int kPositionWithoutDatabase = 0;  // outside the range
 
 }  // namespace

@@ -1,11 +1,11 @@
 #include "nav3d/toolbar_state.h"
 
 #include "nav3d/navigation_module.h"
-#include "nav3d/view_state.h"
+#include "controls/view_state.h"
 
 #include "core/host_objects.h"
-#include "module/module.h"
 #include "core/resources.h"
+#include "core/roof.h"
 
 #include "palette/tool_items.h"
 

@@ -4,13 +4,14 @@
 #include "nav3d/navigation_module.h"
 #include "nav3d/white_background.h"
 
+#include "controls/doc_lock.h"
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
-#include "module/module.h"
 #include "core/resources.h"
+#include "core/roof.h"
 #include "core/theme.h"
 
 #include <hostapi/qrui18/messages.h>
@@ -32,7 +33,6 @@ constexpr const wchar_t* kItemId = L"TPB_3DNAV_COMBO";
 constexpr const wchar_t* kImage = L"RCDATA_3DNAV_COMBO";
 constexpr UINT kStrItemName = 1238;
 constexpr UINT kStrListTip = 1280;
-constexpr int kLockForWrite = 1;
 
 /// Names are exact.
 constexpr std::wstring_view kRebuildingVariables[] = {L"CVPORT", L"TILEMODE", L"DASHBOARDSTATE"};

@@ -50,7 +50,7 @@ private:
     void restoreByTool(CTool* tool, const ViewComboItem& entry);
     void sendCommandOf(const ViewComboItem& entry);
 
-    CQrUiComboCtrl m_combo;
+    ModuleWindow<CQrUiComboCtrl> m_combo;
     bool m_viewCommandSent = false;  // a restore from this list is under way
     bool m_refreshPending = false;   // the view changed during a command
     bool m_listDropped = false;

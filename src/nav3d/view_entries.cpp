@@ -4,15 +4,11 @@
 #include "core/opened_object.h"
 #include "core/resources.h"
 
-#include <hostapi/qrui18/image.h>
 #include <hostapi/window/wnd.h>
 
 #include <algorithm>
 
 namespace {
-
-constexpr int kPicturePixels = 16;
-constexpr int kToolkitChoice = -1;
 
 struct ViewEntryRow {
     int code;
@@ -90,8 +86,7 @@ std::unique_ptr<ViewComboItem> makeViewEntry(int code) {
     if (const ViewEntryRow* row = findRow(code)) {
         entry->text = loadDashboardString(row->strText);
         if (row->imageKey != nullptr)
-            entry->image = QrUiLoadImageFromResource(dashboardResources().library(), row->imageKey,
-                                                     kPicturePixels, kToolkitChoice);
+            entry->image = loadDashboardPicture(row->imageKey, kSmallPixels);
     }
     return entry;
 }

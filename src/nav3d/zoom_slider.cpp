@@ -4,7 +4,7 @@
 #include "nav3d/lens_view.h"
 #include "nav3d/toolbar_state.h"
 #include "controls/value_text.h"
-#include "nav3d/view_state.h"
+#include "controls/view_state.h"
 
 #include "controls/edit_messages.h"
 #include "controls/edit_text.h"
@@ -12,8 +12,8 @@
 
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
-#include "module/module.h"
 #include "core/resources.h"
+#include "core/roof.h"
 #include "core/string_ids.h"
 #include "core/text.h"
 

@@ -8,9 +8,8 @@
 #include "palette/xml_node.h"
 
 #include "core/constants.h"
-#include "module/manager.h"
-#include "module/module.h"
 #include "core/resources.h"
+#include "core/roof.h"
 #include "core/string_ids.h"
 #include "core/theme.h"
 
@@ -83,13 +82,20 @@ const MessageMap& CVxDaDashboard::GetMessageMap() const {
     return kMessageMap;
 }
 
-CVxDaDashboard::CVxDaDashboard() : CQrUiPaletteSet(0), m_pPalette(new CVxDaPalette) {
+CVxDaDashboard::CVxDaDashboard() : ModuleWindow(0), m_pPalette(new CVxDaPalette) {
     m_notYetAdded.reset(m_pPalette);
 }
 
-CVxDaDashboard::~CVxDaDashboard() {
+CVxDaDashboard::~CVxDaDashboard() = default;
+
+void CVxDaDashboard::leaveService() {
     if (m_hIcon != nullptr)
         DestroyIcon(m_hIcon);
+    m_hIcon = nullptr;
+    if (IsWindow(m_hWnd))
+        DestroyWindow();
+    if (CVxDaPanelSet* panels = panelSet())
+        panels->leaveService();
 }
 
 void CVxDaDashboard::create(const VxString& title) {
@@ -138,6 +144,7 @@ void CVxDaDashboard::resizeToContent(CSize size) {
 }
 
 BOOL CVxDaDashboard::Load(IUnknown* storageNode) {
+    const ModuleCall call;
     return withNodeErrorsCaught([this, storageNode] {
         const NodePtr node = queryNode(storageNode);
         return node == nullptr ? 0 : CQrUiPaletteSet::Load(node.get());
@@ -145,6 +152,7 @@ BOOL CVxDaDashboard::Load(IUnknown* storageNode) {
 }
 
 BOOL CVxDaDashboard::Save(IUnknown* storageNode) {
+    const ModuleCall call;
     return withNodeErrorsCaught([this, storageNode] {
         const NodePtr node = queryNode(storageNode);
         return node == nullptr ? 0 : CQrUiPaletteSet::Save(node.get());
@@ -152,6 +160,7 @@ BOOL CVxDaDashboard::Save(IUnknown* storageNode) {
 }
 
 BOOL CVxDaDashboard::AddContextMenuItems(CMenu& menu) {
+    const ModuleCall call;
     endWithOneSeparator(menu);
     CVxDaPanelSet* panels = panelSet();
     if (panels != nullptr && panels->buildPanelsMenu(&panels->panelsMenu()) != 0) {
@@ -162,12 +171,14 @@ BOOL CVxDaDashboard::AddContextMenuItems(CMenu& menu) {
 }
 
 void CVxDaDashboard::ThemeModified(int element) {
+    const ModuleCall call;
     CQrUiPaletteSet::ThemeModified(element);
     if (CVxDaPanelSet* panels = panelSet())
         sendTheme(*panels, GetTheme());
 }
 
 BOOL CVxDaDashboard::PreTranslateMessage(MSG* msg) {
+    const ModuleCall call;
     if (msg->message != WM_HELP)
         return CQrUiPaletteSet::PreTranslateMessage(msg);
     showHelp();
@@ -202,10 +213,9 @@ void CVxDaDashboard::createPalette(CQrUiTheme* theme) {
 LRESULT CVxDaDashboard::onWindowPosChanged(WPARAM /*unused*/, LPARAM position) {
     const Appearance appearance = Appearance::from(position);
     const LRESULT answer = Default();
-    VxDaManager* manager = dashboardManager();
-    if (manager != nullptr && (appearance.shown || appearance.hidden)) {
-        manager->visibilityChanged(appearance.shown ? 1 : 0);
-    }
+    DashboardRoof* roof = dashboardRoof();
+    if (roof != nullptr && (appearance.shown || appearance.hidden))
+        roof->visibilityChanged(appearance.shown ? 1 : 0);
     return answer;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/module_window.h"
+
 #include <hostapi/qrui18/palette_set.h>
 #include <hostapi/types.h>
 
@@ -9,11 +11,13 @@ class CVxDaPalette;
 class CVxDaPanelSet;
 
 /// The dashboard's window as the host's frame knows it: a dockable palette set with one palette.
-class CVxDaDashboard final : public CQrUiPaletteSet {
+class CVxDaDashboard final : public ModuleWindow<CQrUiPaletteSet> {
 public:
     CVxDaDashboard();
     ~CVxDaDashboard() override;
 
+    /// Ends the window with all that stands in it. To be called before the object ends.
+    void leaveService();
     /// Creates the hidden window and places it in the host's frame. A failure shows as a null
     /// window.
     void create(const VxString& title);

@@ -3,11 +3,10 @@
 #include "palette/foreign_module.h"
 
 #include "core/constants.h"
-#include "module/module.h"
+#include "core/roof.h"
 #include "core/text.h"
 
 #include "controls/cmd_util.h"
-#include "module/control_manager.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>
@@ -18,7 +17,7 @@ namespace {
 
 void runInModule(const VxString& module, CQrUiToolPanelItem* item) {
     if (equalNoCase(module, kModuleFile)) {
-        if (CVxDaControlMgr* controls = controlManager())
+        if (ControlRoof* controls = controlRoof())
             controls->handleToolClick(item);
         return;
     }

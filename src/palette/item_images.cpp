@@ -1,14 +1,10 @@
 #include "palette/item_images.h"
 
-#include "module/module.h"
+#include "core/resources.h"
 
 #include <hostapi/qrui18/image.h>
 
 namespace {
-
-constexpr int kSmallPixels = 16;
-constexpr int kLargePixels = 32;
-constexpr int kToolkitsChoice = -1;  // flags of the toolkit's loader
 
 struct ImageSlot {
     int slot;
@@ -23,10 +19,6 @@ constexpr ImageSlot slotOf(ItemImageSize size) {
 bool hasFileExtension(const VxString& key) {
     const std::size_t dot = key.find_last_of(L"./\\");
     return dot != VxString::npos && key[dot] == L'.' && dot + 1 < key.size();
-}
-
-HBITMAP loadResource(HINSTANCE library, const VxString& key, int pixels) {
-    return QrUiLoadImageFromResource(library, key.c_str(), pixels, kToolkitsChoice);
 }
 
 bool takesImages(const VxToolPanelItemData& data) {
@@ -66,7 +58,7 @@ bool loadItemImage(CQrUiToolPanelItem& item, const VxString& key, HINSTANCE libr
         // second source may replace the picture.
         return false;
     }
-    HBITMAP picture = loadResource(library, key, slot.pixels);
+    HBITMAP picture = loadPicture(library, key.c_str(), slot.pixels);
     if (picture == nullptr)
         return false;
     item.SetImage(slot.slot, picture);
@@ -84,10 +76,10 @@ void loadItemImages(CQrUiToolPanelItem& item, const VxToolPanelItemData& data,
 HBITMAP loadPanelImage(const VxString& key, const VxString& menuGroup) {
     if (key.empty())
         return nullptr;
-    if (HBITMAP picture = loadResource(iconLibrary(), key, kSmallPixels))
+    if (HBITMAP picture = loadPicture(iconLibrary(), key.c_str(), kSmallPixels))
         return picture;
     const HINSTANCE groupModule = vxedGetPanelSetResourceHandle(menuGroup);
-    if (HBITMAP picture = loadResource(groupModule, key, kSmallPixels))
+    if (HBITMAP picture = loadPicture(groupModule, key.c_str(), kSmallPixels))
         return picture;
     return LoadBitmapFileGdiPlus(key.c_str());
 }

@@ -3,9 +3,14 @@
 #include "palette/dashboard.h"
 #include "palette/panel_set.h"
 
+#include "core/flag_scope.h"
 #include "core/theme.h"
 
 #include <hostapi/qrui18/messages.h>
+
+#include <cstddef>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -57,11 +62,12 @@ void CVxDaPalette::createPanelSetWindow(const CRect& rect) {
 }
 
 void CVxDaPalette::replacePanelSet() {
-    if (m_pPanelSet == nullptr)
+    // Asked again while the old set's windows go: the new one is on its way.
+    if (m_pPanelSet == nullptr || m_replacing)
         return;
-    if (IsWindow(m_pPanelSet->m_hWnd))
-        m_pPanelSet->DestroyWindow();
-    m_pPanelSet.reset();
+    const FlagScope replacing(m_replacing);
+    m_pPanelSet->leaveService();
+    freeAfterCall(std::move(m_pPanelSet));
     makePanelSet();
     createPanelSetWindow(GetClientRect());
 }
@@ -71,6 +77,7 @@ bool CVxDaPalette::hasVisiblePanel() const {
 }
 
 bool CVxDaPalette::GetMinimumSize(CSize& size) {
+    const ModuleCall call;
     size = {};
     if (!hasVisiblePanel())
         return false;
@@ -84,6 +91,7 @@ bool CVxDaPalette::GetMinimumSize(CSize& size) {
 }
 
 bool CVxDaPalette::GetMaximumSize(CSize& size) {
+    const ModuleCall call;
     const CQrUiPaletteSet* paletteSet = GetPaletteSet();
     if (paletteSet != nullptr && paletteSet->Anchored() != 0)
         return false;
@@ -97,11 +105,13 @@ bool CVxDaPalette::GetMaximumSize(CSize& size) {
 }
 
 bool CVxDaPalette::CanFrameworkTakeFocus() {
+    const ModuleCall call;
     if (m_pPanelSet == nullptr)
         return true;
-    for (HWND control : m_pPanelSet->controlWindows()) {
+    const std::vector<HWND>& controls = m_pPanelSet->controlWindows();
+    for (std::size_t i = 0; i < controls.size(); ++i) {
         // A control such as a combo with its list open needs the focus.
-        if (::SendMessage(control, WM_QRUI_KEEP_FOCUS, 0, 0) != 0)
+        if (::SendMessage(controls[i], WM_QRUI_KEEP_FOCUS, 0, 0) != 0)
             return false;
     }
     return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/module_window.h"
+
 #include <hostapi/qrui18/palette.h>
 
 #include <memory>
@@ -7,7 +9,7 @@
 class CVxDaPanelSet;
 
 /// The one page of the dashboard: sizes its child, the panel set, and can swap it for a new one.
-class CVxDaPalette final : public CQrUiPalette {
+class CVxDaPalette final : public ModuleWindow<CQrUiPalette> {
 public:
     CVxDaPalette();
     ~CVxDaPalette() override;
@@ -37,4 +39,5 @@ private:
     bool hasVisiblePanel() const;
 
     std::unique_ptr<CVxDaPanelSet> m_pPanelSet;
+    bool m_replacing = false;
 };

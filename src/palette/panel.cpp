@@ -32,13 +32,24 @@ const MessageMap& CVxDaPanel::GetMessageMap() const {
     return kMessageMap;
 }
 
+void CVxDaPanel::leaveService() {
+    if (IsWindow(m_hWnd))
+        DestroyWindow();
+    for (CMenu* menu : {&m_toolPaletteMenu, &m_panelsMenu}) {
+        if (menu->IsMenu() != 0)
+            menu->DestroyMenu();
+    }
+}
+
 BOOL CVxDaPanel::OnActivatePanel() {
+    const ModuleCall call;
     if (m_toolPaletteGroup.isEmpty())
         return 0;
     return openToolPaletteGroup(m_toolPaletteGroup.text());
 }
 
 BOOL CVxDaPanel::AddContextMenuItems(CMenu& menu) {
+    const ModuleCall call;
     if (m_toolPaletteMenu.IsMenu() != 0)
         m_toolPaletteMenu.DestroyMenu();
     if (menu.GetMenuItemCount() > 0)

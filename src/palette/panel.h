@@ -1,14 +1,19 @@
 #pragma once
 
+#include "core/module_window.h"
+
 #include <hostapi/qrui18/panel.h>
 #include <hostapi/vxut.h>
 #include <hostapi/window/menu.h>
 
 /// One panel on screen: a titled block of tool panels, with a context menu, a tie to a tool palette
 /// group, and the dispatch of clicks on its items.
-class CVxDaPanel final : public CQrUiPanel {
+class CVxDaPanel final : public ModuleWindow<CQrUiPanel> {
 public:
     CVxDaPanel() = default;
+
+    /// Ends the window and the menus. To be called before the object ends.
+    void leaveService();
 
     /// The menu group that the panel comes from.
     VxString menuGroup() const { return m_menuGroup; }

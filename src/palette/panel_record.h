@@ -23,4 +23,5 @@ struct PanelRecord {
     bool isOnShow() const { return panel != nullptr && (panel->GetStyle() & WS_VISIBLE) != 0; }
 };
 
-using PanelRecords = std::vector<PanelRecord>;
+/// In the order on screen. Each record keeps its place in memory when the order changes.
+using PanelRecords = std::vector<std::unique_ptr<PanelRecord>>;

@@ -4,6 +4,8 @@
 #include "palette/no_panel_link.h"
 #include "palette/panel_record.h"
 
+#include "core/module_window.h"
+
 #include <hostapi/qrui18/panel_set.h>
 #include <hostapi/types.h>
 #include <hostapi/vxdashboard.h>
@@ -14,11 +16,14 @@
 
 /// The scrolling stack of panels. It knows a record for each panel of the host's menu data, makes a
 /// panel when it is first shown, and sends the host's events to all custom controls.
-class CVxDaPanelSet final : public CQrUiPanelSet {
+class CVxDaPanelSet final : public ModuleWindow<CQrUiPanelSet> {
 public:
     CVxDaPanelSet() = default;
     ~CVxDaPanelSet() override;
 
+    /// Ends the window with all panels and controls. To be called before the object ends; what still
+    /// runs of it stops at its next step.
+    void leaveService();
     /// Reads menu data and saved state, and builds the panels that are to be shown. Returns 0 if
     /// the saved state could not be taken over, otherwise 1.
     BOOL load();
@@ -28,8 +33,7 @@ public:
     /// Writes the state into the current profile. Returns 0 without records and on failure.
     BOOL saveToProfile();
 
-    /// Sends a message to all custom controls, in the order of their creation. A control must not
-    /// end the panel set from inside.
+    /// Sends a message to all custom controls, in the order of their creation.
     void sendToControls(UINT message, WPARAM wParam, LPARAM lParam);
     /// Sends `WM_DA_VIEW_CHANGED` to all custom controls.
     void sendViewChanged();
@@ -84,11 +88,11 @@ private:
     LRESULT onMouseMove(WPARAM keys, LPARAM point);
 
     void readHostData();
-    bool createPanel(std::size_t index);
     void deletePanels();
+    bool makePanel(PanelRecord& record);
+    bool fillPanel(const PanelRecord& record, CVxDaPanel& panel);
     void hideShownPanels();
-    void orderByWorkspace(bool fromWorkspace);
-    void showFromWorkspace(std::size_t index);
+    void showWorkspacePanels();
     void putOnShow(CVxDaPanel& panel);
     void takeOffShow(CVxDaPanel& panel);
 

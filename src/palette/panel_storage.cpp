@@ -25,8 +25,8 @@ class RecordIndex {
 public:
     explicit RecordIndex(PanelRecords& records) {
         m_records.reserve(records.size());
-        for (PanelRecord& record : records)
-            m_records.try_emplace({record.menuGroup, record.id}, &record);
+        for (const auto& record : records)
+            m_records.try_emplace({record->menuGroup, record->id}, record.get());
     }
 
     /// Null for none.
@@ -125,8 +125,8 @@ bool writeSavedPanels(IXMLDOMNode* node, const PanelRecords& records) {
     const NodePtr panelSet = addElement(node, kPanelSetNode);
     if (panelSet == nullptr)
         return false;
-    for (const PanelRecord& record : records) {
-        if (!writePanel(panelSet.get(), record))
+    for (const auto& record : records) {
+        if (!writePanel(panelSet.get(), *record))
             return false;
     }
     return true;

@@ -3,22 +3,14 @@
 #include "palette/item_images.h"
 #include "palette/panel_set.h"
 
-#include "module/manager.h"
-#include "module/module.h"
 #include "core/resources.h"
+#include "core/roof.h"
 #include "core/text.h"
-
-#include "module/control_manager.h"
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>
 
 namespace {
-
-CVxDaPanelSet* currentPanelSet() {
-    const VxDaManager* manager = dashboardManager();
-    return manager == nullptr ? nullptr : manager->panelSet();
-}
 
 const VxDaToolPanelItems* findItems(std::wstring_view id) {
     const CVxDaPanelSet* panelSet = currentPanelSet();
@@ -69,7 +61,7 @@ int SetItemFlag(std::wstring_view id, bool on, UINT mask, const wchar_t* name,
 }
 
 int setItemsHidden(const CStringArray& ids, bool hide) {
-    CVxDaControlMgr* controls = controlManager();
+    ControlRoof* controls = controlRoof();
     if (controls == nullptr)
         return 0;
     if (controls->setItemsHidden(ids, hide) == 0)
@@ -96,7 +88,7 @@ int setItemsHidden(const CStringArray& ids, bool hide) {
 }
 
 bool isItemHidden(const VxString& id) {
-    const CVxDaControlMgr* controls = controlManager();
+    const ControlRoof* controls = controlRoof();
     return controls != nullptr && controls->isItemHidden(id);
 }
 

@@ -5,10 +5,9 @@
 #include "palette/panel.h"
 #include "palette/tool_items.h"
 
-#include "module/module.h"
+#include "core/module_window.h"
+#include "core/roof.h"
 #include "core/text.h"
-
-#include "module/control_manager.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/qrui18/tool_panel_item.h>
@@ -54,7 +53,7 @@ HWND createForeignControl(const VxString& module, const VxString& name, HWND par
 }
 
 HWND createOwnControl(const VxString& name, CQrUiToolPanel& parent) {
-    CVxDaControlMgr* controls = controlManager();
+    ControlRoof* controls = controlRoof();
     return controls == nullptr ? nullptr : controls->createControl(name, &parent);
 }
 
@@ -69,7 +68,7 @@ VxDaToolPanelBuilder::VxDaToolPanelBuilder(VxDaItemIndex& items, std::vector<HWN
       m_rect(rect) {}
 
 void VxDaToolPanelBuilder::addToolPanel(const VxToolPanelData& data, bool hasImage) {
-    auto toolPanel = std::make_unique<CQrUiToolPanel>();
+    auto toolPanel = std::make_unique<ModuleWindow<CQrUiToolPanel>>();
     const UINT toolkitStyle = hasImage ? kIndentedToolPanel : kPlainToolPanel;
     if (toolPanel->Create(WS_CHILD | WS_VISIBLE, m_rect, &m_panel, s_nextToolPanelId++,
                           toolkitStyle) == 0) {

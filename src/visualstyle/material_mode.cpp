@@ -1,7 +1,7 @@
 #include "visualstyle/material_mode.h"
 
 #include "controls/variable_access.h"
-#include "core/text.h"
+
 #include "palette/tool_items.h"
 
 #include <iterator>
@@ -9,6 +9,7 @@
 namespace {
 
 constexpr const wchar_t* kVariable = L"VSMATERIALMODE";
+constexpr std::wstring_view kVariables[] = {kVariable, L"VSCURRENT"};
 constexpr const wchar_t* kFlyout = L"TPL_0023";
 
 /// The flyout's tools, by the variable's value.
@@ -16,19 +17,23 @@ constexpr const wchar_t* kTools[] = {L"ID_VSMM0", L"ID_VSMM1", L"ID_VSMM2"};
 
 bool s_refreshPending = true;  // the state at start is not known yet
 
-void updateMaterialModeFlyout() {
+bool isRefreshPending() {
+    return s_refreshPending;
+}
+
+void refreshMaterialMode() {
     const int mode = readVariableShort(kVariable);
-    if (mode < 0 || mode >= static_cast<int>(std::size(kTools)))
-        return;
-    selectFlyoutTool(kFlyout, kTools[mode]);
+    if (mode >= 0 && mode < static_cast<int>(std::size(kTools)))
+        selectFlyoutTool(kFlyout, kTools[mode]);
+    s_refreshPending = false;
 }
 
 }  // namespace
 
-void refreshMaterialModeFor(std::wstring_view name) {
-    const bool concerns = equalNoCase(name, kVariable) || equalNoCase(name, L"VSCURRENT");
-    if (!concerns && !s_refreshPending)
-        return;
-    updateMaterialModeFlyout();
-    s_refreshPending = false;
-}
+// Kept as it is: a command of a variable's name counts too, because both come by one road.
+const FamilyEvents kMaterialModeEvents{
+    .variables = {kVariables, NameMatch::AnyCase},
+    .commands = {kVariables, NameMatch::AnyCase},
+    .isDue = isRefreshPending,
+    .refresh = refreshMaterialMode,
+};

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <string_view>
+#include "core/family_events.h"
 
-/// Makes the tool of the current material mode the flyout's current one, if `name`, a system
-/// variable's or a command's, stands for a change of it. The first call does so whatever the name.
-void refreshMaterialModeFor(std::wstring_view name);
+/// The flyout of material modes, which shows the tool of the current one. The first event after the
+/// load refreshes it, whatever its name.
+extern const FamilyEvents kMaterialModeEvents;

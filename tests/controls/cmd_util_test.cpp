@@ -1,7 +1,8 @@
 #include "controls/cmd_util.h"
 
 #include "tests/palette/palette_fixture.h"
-#include "workbench/commands/command_processor.h"
+#include "tests/support/call_texts.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -39,6 +40,10 @@ protected:
         }
         return found;
     }
+    /// The host calls of some names since the last look, with their arguments.
+    std::vector<std::string> calls(const std::vector<std::string_view>& names) {
+        return support::callTexts(bench().journal().take("call"), names);
+    }
     void blur() { AfxGetMainWnd()->SetFocus(); }
     void set(const wchar_t* name, int value) { ASSERT_TRUE(bench().editor().set(name, value)); }
     void endCommands() { bench().editor().pump(); }
@@ -68,6 +73,25 @@ TEST_F(CmdUtilTest, RunningCommandIsToldToStopAtTheCommandLine) {
     EXPECT_NE(bench().editor().read(L"CMDACTIVE"), Value(0)) << "it has not stopped yet";
     endCommands();
     EXPECT_EQ(bench().editor().read(L"CMDACTIVE"), Value(0));
+}
+
+TEST_F(CmdUtilTest, CommandLineHasTheFocusBeforeACancelOrACommandIsSent) {
+    const std::vector<std::string_view> names{"CWnd::SetFocus",
+                                              "VxApDocManager::sendToCommandLine"};
+    bench().editor().beginCommand(L"LINE");
+    blur();
+    forget();
+    commandStopped();
+    const Lines cancelled = calls(names);
+    ASSERT_EQ(cancelled.size(), 2U);
+    EXPECT_EQ(cancelled[0].find("CWnd::SetFocus"), 0U);
+    endCommands();
+    blur();
+    forget();
+    sendHostCommand(L"_sunstatus");
+    const Lines sent = calls(names);
+    ASSERT_EQ(sent.size(), 2U);
+    EXPECT_EQ(sent[0].find("CWnd::SetFocus"), 0U);
 }
 
 TEST_F(CmdUtilTest, UnreadableActivityCountsAsRest) {
@@ -114,6 +138,22 @@ TEST_F(CmdUtilTest, WholeCommandHasRunWhenTheCallReturns) {
     const std::string call = lastCall("do_cmd");
     EXPECT_NE(call.find("_defaultlighting"), std::string::npos);
     EXPECT_NE(call.find(",0,0,1]"), std::string::npos) << call;
+}
+
+TEST_F(CmdUtilTest, CommandsFlagIsHandedOn) {
+    for (const int flag : {0, 1}) {
+        forget();
+        runHostCommand(L"_defaultlighting\n1\n", flag);
+        EXPECT_EQ(calls({"do_cmd"}),
+                  (Lines{"do_cmd(\"_defaultlighting\\n1\\n\"," + std::to_string(flag) + ",0,1)"}));
+    }
+}
+
+TEST_F(CmdUtilTest, MacroWithoutTheHostsDocumentsIsQuiet) {
+    bench().faults().fail("vxDocManagerPtr", std::nullopt, 1);
+    forget();
+    sendMenuMacro(L"_regen\n");
+    EXPECT_TRUE(calls({"vxedSendMenuStringToExecute"}).empty());
 }
 
 // Which document is addressed
@@ -189,6 +229,16 @@ TEST_P(ActiveSpaceTest, IsPaperSpaceInTheSheetsOwnViewportAlone) {
 INSTANTIATE_TEST_SUITE_P(Spaces, ActiveSpaceTest,
                          testing::Values(SpaceCase{1, 2, false}, SpaceCase{0, 1, true},
                                          SpaceCase{0, 2, false}));
+
+TEST_F(CmdUtilTest, ViewportIsAskedForInALayoutAlone) {
+    forget();
+    EXPECT_FALSE(isPaperSpaceActive());
+    EXPECT_EQ(calls({"vxedGetVar"}), Lines{"vxedGetVar(\"TILEMODE\")"});
+    set(L"TILEMODE", 0);
+    forget();
+    EXPECT_TRUE(isPaperSpaceActive());
+    EXPECT_EQ(calls({"vxedGetVar"}), (Lines{"vxedGetVar(\"TILEMODE\")", "vxedGetVar(\"CVPORT\")"}));
+}
 
 TEST_F(CmdUtilTest, UnreadableTileModeLeavesTheViewportToDecide) {
     set(L"TILEMODE", 0);

@@ -1,6 +1,9 @@
 #include "controls/doc_lock.h"
 
+#include "core/resources.h"
 #include "tests/palette/palette_fixture.h"
+#include "workbench/base/text.h"
+#include "workbench/editor/document_locks.h"
 #include "workbench/editor/editor.h"
 
 #include <hostapi/zorq.h>
@@ -25,12 +28,36 @@ TEST_F(DocLockTest, LockHoldsForItsScope) {
 
 TEST_F(DocLockTest, LockInsideAWriteLockTakesNone) {
     const VxDaDocLock outer;
+    forget();
     {
         const VxDaDocLock inner;
         EXPECT_EQ(inner.status(), 0);
     }
+    EXPECT_EQ(callCount("VxApDocManager::lockDocument"), 0);
+    EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 0);
     EXPECT_NE(vxDocManagerPtr()->mdiActiveDocument()->lockMode() & kDocLockWrite, 0);
 }
+
+class OtherModeTest : public DocLockTest, public testing::WithParamInterface<int> {};
+
+TEST_P(OtherModeTest, DoesNotStandForALockForWriting) {
+    workbench::DocumentLocks& locks = bench().editor().documents().current()->locks();
+    ASSERT_TRUE(locks.lock(GetParam()));
+    forget();
+    {
+        const VxDaDocLock lock;
+        EXPECT_EQ(lock.status(), 0);
+        EXPECT_EQ(locks.mode(), GetParam() | kDocLockWrite);
+    }
+    EXPECT_EQ(locks.mode(), GetParam());
+    EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, OtherModeTest,
+                         testing::Values(workbench::DocumentLocks::kAutoWrite,
+                                         workbench::DocumentLocks::kProtectedWrite,
+                                         workbench::DocumentLocks::kExclusiveWrite,
+                                         workbench::DocumentLocks::kRead));
 
 TEST_F(DocLockTest, FailedLockKeepsTheHostsStatusAndUnlocksNothing) {
     fail("VxApDocManager::lockDocument", 15);
@@ -57,7 +84,7 @@ TEST_F(DocLockTest, LockIsForWritingUnderTheModulesNamesWithoutAPrompt) {
     const auto& args = made->field("args").asList();
     EXPECT_EQ(args.at(1), workbench::Value(kDocLockWrite));
     EXPECT_EQ(args.at(2), workbench::Value("Dashboard Operation"));
-    EXPECT_FALSE(args.at(3).asString().empty());
+    EXPECT_EQ(args.at(3), workbench::Value(workbench::toUtf8(loadDashboardString(220))));
     EXPECT_EQ(args.at(4), workbench::Value(false));
     EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 1);
 }
@@ -67,6 +94,25 @@ TEST_F(DocLockTest, LockThatWasNotTakenIsNotGivenBack) {
     forget();
     { const VxDaDocLock lock; }
     EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 0);
+}
+
+TEST_F(DocLockTest, LockWhoseDocumentsHaveGoneEndsQuietly) {
+    {
+        const VxDaDocLock lock;
+        forget();
+        fail("vxDocManagerPtr", 0);
+    }
+    EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 0);
+}
+
+TEST_F(DocLockTest, LockIsOfTheActiveDocumentAndNotOfTheCurrentOne) {
+    workbench::DocumentList& documents = bench().editor().documents();
+    workbench::Document& current = *documents.current();
+    workbench::Document& active = documents.create(L"Front");
+    const workbench::CurrentDocument scope(documents, current);
+    const VxDaDocLock lock;
+    EXPECT_EQ(active.locks().mode(), kDocLockWrite);
+    EXPECT_EQ(current.locks().mode(), 0);
 }
 
 TEST_F(DocLockTest, LockWithoutTheHostsDocumentsHasTheStatusOfNone) {

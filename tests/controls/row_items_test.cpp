@@ -1,15 +1,31 @@
 #include "controls/row_items.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "tests/resources/loaded_module.h"
+#include "tests/support/call_texts.h"
+#include "workbench/resources/resource_library.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/picture_table.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/window/frame.h>
 
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace {
+
+/// The bytes of a picture.
+std::string bytesOfAPicture() {
+    const LoadedModule module("VxDashboardRes.dll");
+    const auto picture = workbench::ResourceLibrary(module.directory())
+                             .findPicture("RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON", 16);
+    return {reinterpret_cast<const char*>(picture->data), picture->length};
+}
 
 class RowItemsTest : public PaletteTest {
 protected:
@@ -21,6 +37,13 @@ protected:
         m_panel.reset();
         PaletteTest::TearDown();
     }
+    std::string largeImageOf(const CQrUiToolPanelItem& item) {
+        return bench().toolkit().pictures().source(item.m_record->largeImage);
+    }
+    std::vector<std::string> calls(const std::vector<std::string_view>& names) {
+        return support::callTexts(bench().journal().records(), names);
+    }
+
     std::unique_ptr<CQrUiToolPanel> m_panel = std::make_unique<CQrUiToolPanel>();
     CQrUiToolPanel& m_row = *m_panel;
 };
@@ -36,6 +59,7 @@ TEST_F(RowItemsTest, ItemsAreAppendedWithTheirTypesAndIds) {
     EXPECT_EQ(m_row.GetToolPanelItem(0)->GetID(), L"TPB_VXDA_SLIDER_ROWBREAK");
     EXPECT_EQ(m_row.GetToolPanelItem(1)->GetType(), kItemSeparator);
     EXPECT_EQ(m_row.GetToolPanelItem(1)->GetID(), L"TPB_VXDA_SLIDER_SEPARATOR");
+    EXPECT_EQ(m_row.GetToolPanelItem(1)->m_record->style, 4U) << "drawn as a gap";
     EXPECT_EQ(m_row.GetToolPanelItem(2)->GetType(), kItemControl);
     EXPECT_EQ(m_row.GetToolPanelItem(2)->GetControl(), inner.m_hWnd);
     inner.DestroyWindow();
@@ -57,21 +81,39 @@ TEST_F(RowItemsTest, IconShowsThePictureOfItsKeyInBothSizes) {
     ASSERT_NE(icon, nullptr);
     EXPECT_EQ(icon->GetType(), kItemButton);
     EXPECT_EQ(icon->GetID(), L"TPB_X");
-    EXPECT_EQ(workbench::viewOf(*icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
-    EXPECT_EQ(callCount("QrUiLoadImageFromResource"), 2);
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    const std::string start =
+        "QrUiLoadImageFromResource(\"object\",\"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\",";
+    EXPECT_EQ(calls({"QrUiLoadImageFromResource"}),
+              (std::vector<std::string>{start + "16,-1)", start + "32,-1)"}));
+    EXPECT_EQ(m_row.GetToolPanelItem(0), icon);
+}
+
+TEST_F(RowItemsTest, PictureThatIsMissingLeavesTheEarlierOneInBothSizes) {
+    CQrUiToolPanelItem* icon =
+        addIconItem(&m_row, L"TPB_X", L"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    setItemImages(*icon, L"RCDATA_NO_SUCH_PICTURE");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
 }
 
 TEST_F(RowItemsTest, UnknownKeyLeavesTheIconWithoutAPicture) {
     const CQrUiToolPanelItem* icon = addIconItem(&m_row, L"TPB_X", L"RCDATA_NO_SUCH_PICTURE");
     ASSERT_NE(icon, nullptr);
-    EXPECT_EQ(workbench::viewOf(*icon).image, "");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "");
 }
 
 TEST_F(RowItemsTest, KeyWithAnExtensionNamesAFile) {
+    const std::string file = writeFile("icon.png", bytesOfAPicture()).string();
     forget();
-    addIconItem(&m_row, L"TPB_X", L"nowhere.bmp");
-    EXPECT_EQ(callCount("LoadBitmapFileGdiPlus"), 2);
-    EXPECT_EQ(callCount("QrUiLoadImageFromResource"), 0);
+    const CQrUiToolPanelItem* icon =
+        addIconItem(&m_row, L"TPB_X", VxString(file.begin(), file.end()).c_str());
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, file);
+    EXPECT_EQ(largeImageOf(*icon), file);
+    const std::string call = "LoadBitmapFileGdiPlus(\"" + file + "\")";
+    EXPECT_EQ(calls({"LoadBitmapFileGdiPlus", "QrUiLoadImageFromResource"}),
+              (std::vector<std::string>{call, call}));
 }
 
 }  // namespace

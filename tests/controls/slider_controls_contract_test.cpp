@@ -37,7 +37,7 @@ protected:
     HWND field() { return part(m_control, "edit"); }
     std::wstring text() { return bench().windows().find(field())->text; }
     void focusField() {
-        ASSERT_TRUE(workbench::gestures::focusField(field()));
+        ASSERT_TRUE(workbench::gestures::focusField(bench().toolkit(), field()));
         settle();
         takeJournal();
     }
@@ -83,7 +83,7 @@ TYPED_TEST(SliderContractTest, EnterInTheFieldIsConsumedAndTold) {
 TYPED_TEST(SliderContractTest, EscapeInTheFieldIsConsumedAndRestoresTheText) {
     const std::wstring before = this->text();
     this->focusField();
-    workbench::gestures::replaceText(L"9");
+    workbench::gestures::replaceText(this->bench().toolkit(), L"9");
     this->settle();
     ASSERT_NE(this->text(), before);
     this->takeJournal();
@@ -94,7 +94,7 @@ TYPED_TEST(SliderContractTest, EscapeInTheFieldIsConsumedAndRestoresTheText) {
 }
 
 TYPED_TEST(SliderContractTest, KeysElsewhereGoTheOrdinaryWay) {
-    workbench::gestures::blur();
+    workbench::gestures::blur(this->bench().toolkit());
     this->settle();
     this->takeJournal();
     EXPECT_FALSE(this->offer(VK_RETURN));
@@ -113,7 +113,7 @@ TYPED_TEST(SliderContractTest, ForeignSliderIsIgnored) {
 TYPED_TEST(SliderContractTest, ForeignFieldIsIgnored) {
     constexpr WPARAM kForeignField = 4711;
     this->focusField();
-    workbench::gestures::replaceText(L"9");
+    workbench::gestures::replaceText(this->bench().toolkit(), L"9");
     this->settle();
     const std::wstring typed = this->text();
     this->takeJournal();
@@ -147,7 +147,7 @@ TYPED_TEST(SliderContractTest, ToolkitsQueriesAreAnsweredOne) {
 
 TYPED_TEST(SliderContractTest, ReleaseInTheMiddleOfAnEntryIsHarmless) {
     this->focusField();
-    workbench::gestures::replaceText(L"9");
+    workbench::gestures::replaceText(this->bench().toolkit(), L"9");
     EXPECT_EQ(this->notify(kDashboardReleaseControls), 1);
     EXPECT_EQ(this->control(TypeParam::kName), nullptr);
     this->wait(1000);

@@ -4,10 +4,15 @@
 #include "controls/row_items.h"
 #include "controls/slider_edit_panel_ctrl2.h"
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/call_texts.h"
+#include "tests/support/first_rects.h"
+#include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/window/frame.h>
 
+#include <algorithm>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,8 +21,16 @@ namespace {
 constexpr int kIconWidth = 22;      // pixels, the toolkit's at 16-pixel icons
 constexpr int kSeparatorWidth = 6;  // pixels
 
-/// What stands in the row. In the last two the edit field is there, but is no item of it.
-enum class Row { Whole, NoSeparator, OneItem, OneItemAndField, TwoSeparatorsAndField };
+/// What stands in the row. In the last three the edit field is there, but is no item of it; the last
+/// has no slider.
+enum class Row {
+    Whole,
+    NoSeparator,
+    OneItem,
+    OneItemAndField,
+    TwoSeparatorsAndField,
+    FieldWithoutSlider
+};
 
 bool hasIcon(Row row) {
     return row == Row::Whole || row == Row::NoSeparator;
@@ -43,6 +56,7 @@ public:
         UINT message;
         WPARAM id;
         LPARAM window;
+        friend bool operator==(const Told&, const Told&) = default;
     };
     std::vector<Told> told;
     CQrUiProgSliderCtrl& slider() { return this->m_slider; }
@@ -52,6 +66,10 @@ private:
     LRESULT create(const CREATESTRUCT* creation) {
         if (this->OnCreate(creation) == -1)
             return -1;
+        if (m_row == Row::FieldWithoutSlider) {
+            this->createEdit(this->m_edit, kFirstEditId);
+            return 0;
+        }
         this->m_slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 10, 10}, this, 10001, 2);
         if (hasIcon(m_row))
             addIconItem(this, L"TPB_TEST", L"RCDATA_NONE");
@@ -92,10 +110,27 @@ protected:
         const CRect rect = window.GetWindowRect();
         return window.GetParent()->ScreenToClient({rect.left, rect.top}).x;
     }
+    static CRect rectOf(const CWnd& window) {
+        return workbench::Workbench::current().windows().find(window.m_hWnd)->rect;
+    }
     template <class Control>
-    BOOL press(Control& control, WPARAM key) {
-        MSG msg{control.m_hWnd, WM_KEYDOWN, key, 0};
+    BOOL press(Control& control, WPARAM key, UINT message = WM_KEYDOWN) {
+        MSG msg{control.m_hWnd, message, key, 0};
         return control.PreTranslateMessage(&msg);
+    }
+    /// The host calls of a name since the journal was forgotten.
+    std::vector<std::string> calls(std::string_view name) {
+        return support::callTexts(bench().journal().records(), {name});
+    }
+    /// Lays a control out that stands as it should, and tells how often it was asked to be painted.
+    template <class Control>
+    std::ptrdiff_t repaintsOfLayout(Control& control, BOOL invalidate) {
+        std::vector<HWND> touched;
+        bench().windows().changes().setObserver(
+            [&touched](HWND window) { touched.push_back(window); });
+        EXPECT_EQ(control.UpdateLayout(invalidate), 1);
+        bench().windows().changes().setObserver(nullptr);
+        return std::count(touched.begin(), touched.end(), control.m_hWnd);
     }
 };
 
@@ -137,6 +172,35 @@ TEST_F(SliderEditTest, SecondLayoutChangesNothing) {
     EXPECT_EQ(widthOf(control.edit()), edit);
 }
 
+TEST_F(SliderEditTest, LayoutSizesTheSliderInItsPlaceAndThenSetsTheFieldBehindTheSeparator) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    const CRect slider = rectOf(control.slider());
+    const CRect edit = rectOf(control.edit());
+    ASSERT_NE(edit.top, 0) << "or a lost place would not show";
+    forget();
+    control.UpdateLayout(0);
+    EXPECT_EQ(rectOf(control.slider()), slider);
+    EXPECT_EQ(rectOf(control.edit()), edit);
+    const auto size = [](const CRect& rect) {
+        return std::to_string(rect.Width()) + "," + std::to_string(rect.Height());
+    };
+    EXPECT_EQ(calls("CWnd::SetWindowPos"),
+              (std::vector<std::string>{
+                  "CWnd::SetWindowPos(\"CQrUiProgSliderCtrl\",0,0," + size(slider) + ",22)",
+                  "CWnd::SetWindowPos(\"CQrUiInputEditCtrl\"," + std::to_string(edit.left) + "," +
+                      std::to_string(edit.top) + "," + size(edit) + ",20)"}));
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, LayoutPaintsAnewOnlyIfItIsAskedTo) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    EXPECT_EQ(repaintsOfLayout(control, 0), 0);
+    EXPECT_EQ(repaintsOfLayout(control, 1), 1);
+    control.DestroyWindow();
+}
+
 TEST_F(SliderEditTest, WithoutASeparatorTheFieldBeginsAtTheSlidersRightEdge) {
     OneField control(Row::NoSeparator);
     create(control, 300);
@@ -150,6 +214,16 @@ TEST_F(SliderEditTest, LayoutWithoutAFieldAnswersOneAndLeavesTheSlider) {
     const int before = widthOf(control.slider());
     EXPECT_EQ(control.UpdateLayout(1), 1);
     EXPECT_EQ(widthOf(control.slider()), before);
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, LayoutWithoutASliderAnswersOneAndLeavesTheField) {
+    OneField control(Row::FieldWithoutSlider);
+    create(control, 300);
+    forget();
+    EXPECT_EQ(control.UpdateLayout(1), 1);
+    EXPECT_EQ(calls("CWnd::SetWindowPos"), std::vector<std::string>{});
+    EXPECT_EQ(rectOf(control.edit()), (CRect{0, 0, 16, 16}));
     control.DestroyWindow();
 }
 
@@ -188,13 +262,22 @@ TEST_F(SliderEditTest, EnterAndEscapeInTheFieldReachTheControlAndAreConsumed) {
     OneField control(Row::Whole);
     create(control, 300);
     control.edit().SetFocus();
-    EXPECT_NE(press(control, VK_RETURN), 0);
-    EXPECT_NE(press(control, VK_ESCAPE), 0);
-    ASSERT_EQ(control.told.size(), 2U);
-    EXPECT_EQ(control.told[0].message, WM_DA_EDIT_ENTER);
-    EXPECT_EQ(control.told[1].message, WM_DA_EDIT_ESCAPE);
-    EXPECT_EQ(control.told[0].id, WPARAM{kFirstEditId});
-    EXPECT_EQ(control.told[0].window, reinterpret_cast<LPARAM>(control.edit().m_hWnd));
+    EXPECT_EQ(press(control, VK_RETURN), 1);
+    EXPECT_EQ(press(control, VK_ESCAPE), 1);
+    const auto edit = reinterpret_cast<LPARAM>(control.edit().m_hWnd);
+    EXPECT_EQ(control.told,
+              (std::vector<OneField::Told>{{WM_DA_EDIT_ENTER, WPARAM{kFirstEditId}, edit},
+                                           {WM_DA_EDIT_ESCAPE, WPARAM{kFirstEditId}, edit}}));
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, KeysWhileNothingHasTheFocusGoTheOrdinaryWay) {
+    OneField control(Row::Whole);
+    create(control, 300);
+    bench().windows().setFocus(nullptr);
+    EXPECT_EQ(press(control, VK_RETURN), 0);
+    EXPECT_EQ(press(control, VK_ESCAPE), 0);
+    EXPECT_TRUE(control.told.empty());
     control.DestroyWindow();
 }
 
@@ -202,7 +285,18 @@ TEST_F(SliderEditTest, OtherKeysGoTheOrdinaryWay) {
     OneField control(Row::Whole);
     create(control, 300);
     control.edit().SetFocus();
-    press(control, 'A');
+    EXPECT_EQ(press(control, 'A'), 0);
+    EXPECT_TRUE(control.told.empty());
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, CharactersThatAreNoKeysGoTheOrdinaryWay) {
+    constexpr UINT kCharacter = 0x102;
+    OneField control(Row::Whole);
+    create(control, 300);
+    control.edit().SetFocus();
+    EXPECT_EQ(press(control, VK_RETURN, kCharacter), 0);
+    EXPECT_EQ(press(control, VK_ESCAPE, kCharacter), 0);
     EXPECT_TRUE(control.told.empty());
     control.DestroyWindow();
 }
@@ -227,13 +321,51 @@ TEST_F(SliderEditTest, ControlAnswersTheToolkitsQueries) {
     control.DestroyWindow();
 }
 
-// Failures
+// The edit part
 
-TEST_F(SliderEditTest, FailedFieldAnswersZero) {
+TEST_F(SliderEditTest, FieldIsMadeSmallWithABorderAndATabStop) {
+    const support::FirstRects firstRects(bench().windows());
     OneField control(Row::OneItem);
     create(control, 300);
-    workbench::Workbench::current().faults().fail("CQrUiInputEditCtrl::Create", {}, 1);
+    forget();
+    EXPECT_EQ(control.CreateEditPart(), 1);
+    EXPECT_EQ(
+        calls("CQrUiInputEditCtrl::Create"),
+        std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552,\"object\",10001,0)"});
+    EXPECT_EQ(firstRects.of(control.edit().m_hWnd), (CRect{0, 0, 16, 16}));
+    ASSERT_EQ(control.GetToolPanelItemCount(), 3);
+    EXPECT_EQ(control.GetToolPanelItem(1)->GetType(), kItemSeparator);
+    EXPECT_EQ(control.GetToolPanelItem(2)->GetControl(), control.edit().m_hWnd);
+    control.DestroyWindow();
+}
+
+TEST_F(SliderEditTest, TwoFieldsAreMadeAlikeUnderTheirOwnIds) {
+    const support::FirstRects firstRects(bench().windows());
+    TwoFields control(Row::OneItem);
+    create(control, 300);
+    forget();
+    EXPECT_EQ(control.CreateEditPart(), 1);
+    EXPECT_EQ(
+        calls("CQrUiInputEditCtrl::Create"),
+        (std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552,\"object\",10001,0)",
+                                  "CQrUiInputEditCtrl::Create(1350631552,\"object\",10002,0)"}));
+    ASSERT_EQ(control.GetToolPanelItemCount(), 5);
+    for (const int field : {2, 4}) {
+        EXPECT_EQ(firstRects.of(control.GetToolPanelItem(field)->GetControl()),
+                  (CRect{0, 0, 16, 16}));
+    }
+    control.DestroyWindow();
+}
+
+// Failures
+
+TEST_F(SliderEditTest, FailedFieldAnswersZeroBehindItsSeparator) {
+    OneField control(Row::OneItem);
+    create(control, 300);
+    fail("CQrUiInputEditCtrl::Create");
     EXPECT_EQ(control.CreateEditPart(), 0);
+    ASSERT_EQ(control.GetToolPanelItemCount(), 2);
+    EXPECT_EQ(control.GetToolPanelItem(1)->GetType(), kItemSeparator);
     control.DestroyWindow();
 }
 
@@ -274,17 +406,32 @@ TEST_F(SliderEditTest, TwoFieldsStandInASecondRowAndAreNotSharedOut) {
     control.DestroyWindow();
 }
 
+TEST_F(SliderEditTest, LayoutOfTwoFieldsAnswersOneAndNeverPaintsAnew) {
+    TwoFields control(Row::Whole);
+    create(control, 300);
+    forget();
+    EXPECT_EQ(repaintsOfLayout(control, 1), 0) << "the argument is not looked at";
+    EXPECT_EQ(calls("CWnd::SetWindowPos"), std::vector<std::string>{});
+    control.DestroyWindow();
+}
+
 TEST_F(SliderEditTest, KeysInEitherOfTwoFieldsNameTheirField) {
     TwoFields control(Row::Whole);
     create(control, 300);
     CWnd* second = CWnd::FromHandle(control.GetToolPanelItem(5)->GetControl());
     second->SetFocus();
-    EXPECT_NE(press(control, VK_RETURN), 0);
+    EXPECT_EQ(press(control, VK_RETURN), 1);
+    EXPECT_EQ(press(control, VK_ESCAPE), 1);
     control.edit().SetFocus();
-    EXPECT_NE(press(control, VK_RETURN), 0);
-    ASSERT_EQ(control.told.size(), 2U);
-    EXPECT_EQ(control.told[0].id, WPARAM{kSecondEditId});
-    EXPECT_EQ(control.told[1].id, WPARAM{kFirstEditId});
+    EXPECT_EQ(press(control, VK_RETURN), 1);
+    const auto firstWindow = reinterpret_cast<LPARAM>(control.edit().m_hWnd);
+    const auto secondWindow = reinterpret_cast<LPARAM>(second->m_hWnd);
+    EXPECT_EQ(control.told, (std::vector<TwoFields::Told>{
+                                {WM_DA_EDIT_ENTER, WPARAM{kSecondEditId}, secondWindow},
+                                {WM_DA_EDIT_ESCAPE, WPARAM{kSecondEditId}, secondWindow},
+                                {WM_DA_EDIT_ENTER, WPARAM{kFirstEditId}, firstWindow}}));
+    AfxGetMainWnd()->SetFocus();
+    EXPECT_EQ(press(control, VK_RETURN), 0);
     control.DestroyWindow();
 }
 

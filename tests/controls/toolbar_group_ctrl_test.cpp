@@ -1,4 +1,9 @@
+#include "controls/toolbar_group_ctrl.h"
+
+#include "tests/palette/palette_fixture.h"
+#include "tests/support/call_texts.h"
 #include "tests/support/control_bench.h"
+#include "tests/support/first_rects.h"
 
 #include "workbench/base/text.h"
 #include "workbench/drawing/path_access.h"
@@ -9,7 +14,9 @@
 #include "workbench/toolkit/lookup.h"
 #include "workbench/windows/window_system.h"
 
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -42,6 +49,7 @@ protected:
         useMenu(menuWith(GetParam().name));
         showControl(GetParam().name);
     }
+    CQrUiToolPanel& group() { return *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window())); }
 };
 
 TEST_P(WrappedControlTest, HoldsTheHostsControlAndItsIcon) {
@@ -52,13 +60,20 @@ TEST_P(WrappedControlTest, HoldsTheHostsControlAndItsIcon) {
     EXPECT_TRUE(found);
     EXPECT_EQ(send(kHasIcon), GetParam().icon == nullptr ? 0 : 1);
     // The panel's own item may bear the same ID; the icon stands in the group.
-    const auto* group = dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
-    CQrUiToolPanelItem* const icon = group->GetToolPanelItem(workbench::toWide(GetParam().name));
+    CQrUiToolPanelItem* const icon = group().GetToolPanelItem(workbench::toWide(GetParam().name));
     ASSERT_EQ(icon != nullptr, GetParam().icon != nullptr);
     if (icon != nullptr) {
         EXPECT_EQ(icon->GetType(), kItemIcon);
-        EXPECT_EQ(workbench::viewOf(*icon).image, GetParam().icon);
+        EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, GetParam().icon);
     }
+}
+
+TEST_P(WrappedControlTest, ControlIsTheLastItemBehindTheIcon) {
+    const int last = GetParam().icon == nullptr ? 0 : 1;
+    ASSERT_EQ(group().GetToolPanelItemCount(), last + 1);
+    CQrUiToolPanelItem* const item = group().GetToolPanelItem(last);
+    EXPECT_EQ(item->GetType(), kItemControl);
+    EXPECT_EQ(bench().windows().find(item->GetControl())->id, GetParam().hostId);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -92,14 +107,20 @@ protected:
     LRESULT command(UINT code, LPARAM control) {
         return send(WM_COMMAND, MAKELONG(1111, code), control);
     }
+    /// How the host was asked to handle commands since the last look.
+    std::vector<std::string> asked() {
+        return support::callTexts(takeJournal("call"), {"HandleToolbarComboMessage"});
+    }
 };
+
+using Calls = std::vector<std::string>;
 
 TEST_F(LayerListTest, OpenListKeepsTheFocusUntilItCloses) {
     EXPECT_EQ(send(kKeepFocus), 0);
-    workbench::gestures::openList(list());
+    workbench::gestures::openList(bench().toolkit(), list());
     EXPECT_EQ(send(kKeepFocus), 1);
     EXPECT_EQ(send(kListDropped), 1);
-    workbench::gestures::closeList(list());
+    workbench::gestures::closeList(bench().toolkit(), list());
     EXPECT_EQ(send(kKeepFocus), 0);
     EXPECT_EQ(send(kListDropped), 0);
 }
@@ -107,23 +128,145 @@ TEST_F(LayerListTest, OpenListKeepsTheFocusUntilItCloses) {
 TEST_F(LayerListTest, HostIsAskedUntilItTakesTheCommand) {
     takeCalls();
     fail("HandleToolbarComboMessage", 0, 3);
-    command(7, reinterpret_cast<LPARAM>(list()));
-    EXPECT_EQ(takeCount("HandleToolbarComboMessage"), 4U);
+    EXPECT_EQ(command(7, reinterpret_cast<LPARAM>(list())), 0);
+    const std::string call = "HandleToolbarComboMessage(1111,7,459863)";
+    EXPECT_EQ(asked(), (Calls{call, call, call, call}));
 }
 
-TEST_F(LayerListTest, CommandWithoutAControlGoesToTheFramework) {
+TEST_F(LayerListTest, HostIsAskedOnceForEachNoticeWithItsParameters) {
     takeCalls();
-    command(7, 0);
-    EXPECT_EQ(takeCount("HandleToolbarComboMessage"), 0U);
+    for (const UINT code : {7U, 8U, 9U})
+        EXPECT_EQ(command(code, reinterpret_cast<LPARAM>(list())), 0);
+    EXPECT_EQ(asked(), (Calls{"HandleToolbarComboMessage(1111,7,459863)",
+                              "HandleToolbarComboMessage(1111,8,525399)",
+                              "HandleToolbarComboMessage(1111,9,590935)"}));
+}
+
+TEST_F(LayerListTest, ListCountsAsOpenBeforeTheHostIsAsked) {
+    std::vector<LRESULT> answers;
+    const auto listening =
+        bench().journal().addListener([&](const workbench::JournalRecord& record) {
+            if (record.field("name") == workbench::Value("HandleToolbarComboMessage"))
+                answers.push_back(bench().windows().send(window(), kKeepFocus, 0, 0));
+        });
+    command(7, reinterpret_cast<LPARAM>(list()));
+    command(9, reinterpret_cast<LPARAM>(list()));
+    command(8, reinterpret_cast<LPARAM>(list()));
+    EXPECT_EQ(answers, (std::vector<LRESULT>{1, 1, 0}));
+}
+
+class NoControlTest : public LayerListTest, public testing::WithParamInterface<LPARAM> {};
+
+TEST_P(NoControlTest, CommandWithoutAControlInTheLowWordGoesToTheFramework) {
+    takeCalls();
+    command(7, GetParam());
+    EXPECT_EQ(asked(), Calls{});
+    EXPECT_EQ(send(kKeepFocus), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(LParams, NoControlTest, testing::Values(0, 0x10000, 0x7fff0000));
+
+TEST_F(LayerListTest, CommandWithTheLeastControlIsAskedFor) {
+    takeCalls();
+    command(7, 1);
+    EXPECT_EQ(asked(), Calls{"HandleToolbarComboMessage(1111,7,459863)"});
+    EXPECT_EQ(send(kKeepFocus), 1);
+}
+
+TEST_F(LayerListTest, OtherMessagesAreNoCommands) {
+    constexpr UINT kBeforeCommand = WM_COMMAND - 1;
+    takeCalls();
+    send(kBeforeCommand, MAKELONG(1111, 7), reinterpret_cast<LPARAM>(list()));
+    EXPECT_EQ(asked(), Calls{});
     EXPECT_EQ(send(kKeepFocus), 0);
 }
 
 TEST_F(LayerListTest, ChosenLayerBecomesCurrent) {
     workbench::drawing::setByPath(bench().editor().documents().current()->data(), "layers.Walls",
                                   workbench::Value::Table{});
-    workbench::gestures::openList(list());
-    workbench::gestures::chooseFromList(list(), 1);
+    workbench::gestures::openList(bench().toolkit(), list());
+    workbench::gestures::chooseFromList(bench().toolkit(), list(), 1);
     EXPECT_EQ(var(L"CLAYER"), workbench::Value("Walls"));
+}
+
+class ToolbarCreationTest : public support::ControlBench {
+protected:
+    void SetUp() override {
+        useMenu(menuWith("LineTypeControl"));
+        m_firstRects.emplace(bench().windows());
+    }
+    std::optional<support::FirstRects> m_firstRects;
+};
+
+TEST_F(ToolbarCreationTest, HostsControlIsMadeWiderAndHigherThanTheRow) {
+    std::vector<std::string> made;
+    const auto listening =
+        bench().journal().addListener([&made](const workbench::JournalRecord& record) {
+            for (const std::string& call : support::callTexts({record}, {"getVxToolbarControl"}))
+                made.push_back(call);
+        });
+    showControl("LineTypeControl");
+    const CRect row = m_firstRects->of(window());
+    EXPECT_EQ(made, Calls{"getVxToolbarControl(\"object\",0,0," + std::to_string(row.Width() + 20) +
+                          "," + std::to_string(row.Height() + 300) + ",2222)"});
+}
+
+TEST_F(ToolbarCreationTest, IconIsLoadedSmall) {
+    std::vector<std::string> loaded;
+    const auto listening =
+        bench().journal().addListener([&loaded](const workbench::JournalRecord& record) {
+            for (const std::string& call :
+                 support::callTexts({record}, {"QrUiLoadImageFromResource"})) {
+                if (call.find("RCDATA_OPLTYPE_ICON") != std::string::npos)
+                    loaded.push_back(call);
+            }
+        });
+    showControl("LineTypeControl");
+    EXPECT_EQ(loaded, Calls{"QrUiLoadImageFromResource(\"object\",\"RCDATA_OPLTYPE_ICON\",16,-1)"});
+}
+
+TEST_F(ToolbarCreationTest, MissingPictureLeavesTheIconWithoutOne) {
+    fail("QrUiLoadImageFromResource");
+    showControl("LineTypeControl");
+    EXPECT_EQ(send(kHasIcon), 1);
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *item(L"LineTypeControl", 2)).image, "");
+}
+
+/// A group without a window.
+class UnbornGroupTest : public PaletteTest {
+protected:
+    void SetUp() override { load(); }
+    static LRESULT create(CVxDaToolbarGroupCtrl& group) {
+        const CREATESTRUCT creation{0, 0, 100, 20, WS_CHILD, nullptr};
+        return group.WindowProc(WM_CREATE, 0, reinterpret_cast<LPARAM>(&creation));
+    }
+    std::vector<std::string> calls() {
+        return support::callTexts(bench().journal().records(),
+                                  {"CQrUiToolPanel::OnCreate", "getVxToolbarControl"});
+    }
+};
+
+TEST_F(UnbornGroupTest, NameThatTheTableLacksMakesAnEmptyGroup) {
+    CVxDaToolbarGroupCtrl group(L"NoSuchControl");
+    forget();
+    EXPECT_EQ(create(group), 1);
+    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(\"object\")"});
+    EXPECT_EQ(group.GetToolPanelItemCount(), 0);
+}
+
+TEST_F(UnbornGroupTest, EmptyNameFailsBehindTheToolkitsStep) {
+    CVxDaToolbarGroupCtrl group(L"");
+    forget();
+    EXPECT_EQ(create(group), -1);
+    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(\"object\")"});
+}
+
+TEST_F(UnbornGroupTest, FailureOfTheToolkitsStepIsPassedOn) {
+    CVxDaToolbarGroupCtrl group(L"LayerControl");
+    fail("CQrUiToolPanel::OnCreate");
+    forget();
+    EXPECT_EQ(create(group), -1);
+    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(\"object\")"});
 }
 
 class EmptyRowTest : public support::ControlBench {};
@@ -144,7 +287,7 @@ TEST_F(UndoButtonTest, ClickUndoesTheLastStep) {
     showControl("UndoSkinnyButtonControl");
     set(L"LTSCALE", 3.0);
     const HWND button = bench().windows().descendants(window()).front();
-    workbench::gestures::clickAt(button, {2, 2});
+    workbench::gestures::clickAt(bench().toolkit(), button, {2, 2});
     settle();
     EXPECT_EQ(var(L"LTSCALE"), workbench::Value(1.0));
 }

@@ -1,6 +1,7 @@
 #include "controls/variable_access.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
 
 namespace {
@@ -25,6 +26,17 @@ TEST_F(VariableAccessTest, StrictReadTakesEachTypeOfNumber) {
     EXPECT_EQ(readVariableStrict(L"STEPSIZE"), -7) << "from below too";
 }
 
+TEST_F(VariableAccessTest, StrictReadOfARealBeyondAWholeNumberIsMinusOne) {
+    set(L"STEPSIZE", 2147483647.5);
+    EXPECT_EQ(readVariableStrict(L"STEPSIZE"), -1);
+    set(L"STEPSIZE", 2147483647.0);
+    EXPECT_EQ(readVariableStrict(L"STEPSIZE"), 2147483647);
+    set(L"STEPSIZE", -2147483648.0);
+    EXPECT_EQ(readVariableStrict(L"STEPSIZE"), -2147483647 - 1);
+    set(L"STEPSIZE", -2147483649.0);
+    EXPECT_EQ(readVariableStrict(L"STEPSIZE"), -1);
+}
+
 TEST_F(VariableAccessTest, StrictReadOfATextOrOfNothingIsMinusOne) {
     EXPECT_EQ(readVariableStrict(L"CPROFILE"), -1);
     EXPECT_EQ(readVariableStrict(L"NOSUCHVARIABLE"), -1);
@@ -37,7 +49,8 @@ TEST_F(VariableAccessTest, FlagReadOfNothingIsZero) {
 }
 
 TEST_F(VariableAccessTest, TextReadTakesTextsOnly) {
-    EXPECT_TRUE(readVariableText(L"CPROFILE").has_value());
+    EXPECT_EQ(readVariableText(L"CPROFILE"),
+              workbench::toWide(bench().editor().read(L"CPROFILE").asString()));
     EXPECT_FALSE(readVariableText(L"TILEMODE").has_value());
     EXPECT_FALSE(readVariableText(L"NOSUCHVARIABLE").has_value());
 }
@@ -45,6 +58,8 @@ TEST_F(VariableAccessTest, TextReadTakesTextsOnly) {
 TEST_F(VariableAccessTest, WriteGoesThrough) {
     writeVariableShort(L"LAYLOCKFADECTL", 12);
     EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), 12);
+    writeVariableReal(L"STEPSIZE", 0.25);
+    EXPECT_EQ(bench().editor().read(L"STEPSIZE"), workbench::Value(0.25));
 }
 
 TEST_F(VariableAccessTest, ShortReadLooksAtTheValueAlone) {

@@ -1,40 +1,41 @@
 #include "core/resources.h"
 
 #include "core/string_ids.h"
+#include "module/module.h"
 #include "tests/palette/palette_fixture.h"
+#include "workbench/loader/module_loader.h"
 
 #include <string>
 #include <vector>
 
 namespace {
 
+using Lines = std::vector<std::string>;
+
 constexpr UINT kNoSuchString = 65000;
 
 class ResourcesTest : public PaletteTest {
 protected:
-    std::vector<std::string> takeCalls() {
-        std::vector<std::string> names;
-        for (const workbench::JournalRecord& record : bench().journal().take("call"))
-            names.push_back(record.field("name").asString());
-        return names;
-    }
+    /// Has the framework look for resources in a library of somebody else.
+    void useForeignLibrary() { AfxSetResourceHandle(iconLibrary()); }
 };
 
 TEST_F(ResourcesTest, StringIsLoadedWithTheHandleSwappedAndPutBack) {
     load();
-    const HINSTANCE before = AfxGetResourceHandle();
+    useForeignLibrary();
     forget();
     EXPECT_FALSE(loadDashboardString(kStrDashboardTitle).empty());
-    EXPECT_EQ(takeCalls(), (std::vector<std::string>{"AfxGetResourceHandle", "AfxSetResourceHandle",
-                                                 "LoadString", "AfxSetResourceHandle"}));
-    EXPECT_EQ(AfxGetResourceHandle(), before);
+    EXPECT_EQ(takeLines(),
+              (Lines{"AfxGetResourceHandle()", "AfxSetResourceHandle(\"VxDashboardRes.dll\")",
+                     "LoadString(203)", "AfxSetResourceHandle(\"ZORQbtn.xmx\")"}));
+    EXPECT_EQ(AfxGetResourceHandle(), iconLibrary());
 }
 
 TEST_F(ResourcesTest, UnknownNumberIsAnEmptyTextAndTheHandleIsPutBack) {
     load();
-    const HINSTANCE before = AfxGetResourceHandle();
+    useForeignLibrary();
     EXPECT_TRUE(loadDashboardString(kNoSuchString).empty());
-    EXPECT_EQ(AfxGetResourceHandle(), before);
+    EXPECT_EQ(AfxGetResourceHandle(), iconLibrary());
 }
 
 TEST_F(ResourcesTest, FailedStringIsAnEmptyText) {
@@ -49,10 +50,25 @@ TEST_F(ResourcesTest, LibraryStandsInTheSearchChainOnce) {
     forget();
     resources.attach();
     resources.attach();
+    EXPECT_EQ(takeLines(),
+              (Lines{"AfxGetResourceHandle()", "AfxInitExtensionModule(\"VxDashboardRes.dll\")"}));
+    EXPECT_EQ(bench().modules().resources().attachedCount(), 1U);
+    resources.detach();
+    resources.detach();
+    EXPECT_EQ(takeLines(), Lines{"AfxTermExtensionModule(\"VxDashboardRes.dll\")"});
+    EXPECT_EQ(bench().modules().resources().attachedCount(), 0U);
+    resources.free();
+}
+
+TEST_F(ResourcesTest, LibraryThatWasTakenOutOfTheChainCanStandInItAgain) {
+    VxDaResources resources;
+    ASSERT_TRUE(resources.load());
+    resources.attach();
+    resources.detach();
+    forget();
+    resources.attach();
     EXPECT_EQ(callCount("AfxInitExtensionModule"), 1);
     resources.detach();
-    resources.detach();
-    EXPECT_EQ(callCount("AfxTermExtensionModule"), 1);
     resources.free();
 }
 
@@ -60,9 +76,12 @@ TEST_F(ResourcesTest, HandleKeepsItsValueWhenTheLibraryIsGivenBack) {
     VxDaResources resources;
     ASSERT_TRUE(resources.load());
     const HINSTANCE library = resources.library();
+    ASSERT_NE(library, nullptr);
+    forget();
     resources.free();
+    EXPECT_EQ(takeLines(), Lines{"FreeLibrary(\"VxDashboardRes.dll\")"});
+    EXPECT_EQ(bench().modules().libraries().find(L"VxDashboardRes.dll"), nullptr);
     EXPECT_EQ(resources.library(), library);
-    EXPECT_NE(library, nullptr);
 }
 
 TEST_F(ResourcesTest, MissingLibraryIsNoneAndNothingIsGivenBack) {
@@ -74,7 +93,7 @@ TEST_F(ResourcesTest, MissingLibraryIsNoneAndNothingIsGivenBack) {
     forget();
     resources.free();
     resources.detach();
-    EXPECT_TRUE(takeCalls().empty());
+    EXPECT_TRUE(takeLines().empty());
 }
 
 }  // namespace

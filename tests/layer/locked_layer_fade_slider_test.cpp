@@ -31,7 +31,7 @@ protected:
     HWND edit() { return field(); }
     void clickButton() { clickIcon(); }
     std::string buttonImage() {
-        return workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).image;
+        return workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1")).image;
     }
     /// How often the variable was written by the module since the last look at the journal.
     std::size_t writes() { return takeCount("vxedSetVar"); }
@@ -64,13 +64,15 @@ TEST_F(FadeSliderTest, PartsBearTheirIds) {
 }
 
 TEST_F(FadeSliderTest, ButtonHasItsPictureAndName) {
-    const workbench::ItemView button = workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1"));
+    const workbench::ItemView button =
+        workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1"));
     EXPECT_EQ(button.image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_FALSE(button.name.empty());
 }
 
 TEST_F(FadeSliderTest, ButtonSliderAndEditHaveATipEach) {
-    EXPECT_EQ(workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).name, stringOf(3995));
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1")).name,
+              stringOf(3995));
     EXPECT_EQ(tipOf(slider()), stringOf(3996));
     EXPECT_EQ(tipOf(edit()), stringOf(3997));
 }
@@ -88,7 +90,7 @@ TEST_F(FadeSliderCreationTest, UnreadableVariableShowsAsOneAndOff) {
     EXPECT_EQ(bench().windows().find(edit)->text, L"       1%");
     EXPECT_FALSE(bench().windows().takesInput(slider));
     EXPECT_FALSE(bench().windows().takesInput(edit));
-    EXPECT_EQ(workbench::viewOf(*item(L"TPB_LAYER_SLIDERCONTROL1")).image,
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1")).image,
               "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF");
 }
 

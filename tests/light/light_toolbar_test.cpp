@@ -10,7 +10,9 @@ namespace {
 class LightToolbarTest : public support::Bench {
 protected:
     void SetUp() override { showDashboard(); }
-    workbench::ItemView view(const wchar_t* id) { return workbench::viewOf(*item(id)); }
+    workbench::ItemView view(const wchar_t* id) {
+        return workbench::viewOf(bench().toolkit(), *item(id));
+    }
 };
 
 TEST_F(LightToolbarTest, GenericUnitsOfferTheDistantLightAndHideTheSkyFlyout) {

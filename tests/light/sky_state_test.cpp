@@ -7,7 +7,7 @@
 #include "workbench/drawing/records/sun.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/sky_status.h"
+#include "workbench/editor/variables/sky_status.h"
 #include "workbench/loader/module_loader.h"
 
 namespace {

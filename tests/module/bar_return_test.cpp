@@ -1,11 +1,14 @@
 #include "tests/module/manager_fixture.h"
 #include "workbench/editor/editor.h"
-#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
+
+using Lines = std::vector<std::string>;
 
 /// The bar leaves the screen by itself, and comes back.
 class BarReturnTest : public ManagerTest {};
@@ -29,7 +32,7 @@ TEST_F(BarReturnTest, CleanScreenNameIsTakenWithoutRegardToCase) {
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
     EXPECT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     EXPECT_FALSE(isOnScreen());
     bench().editor().reactors().sysVarChanged(L"CLEANSCREENSTATE", true);
@@ -40,11 +43,45 @@ TEST_F(BarReturnTest, CleanScreenEnteredWithTheBarHiddenDoesNotBringItUpLater) {
     showDashboard();
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     set(L"CleanScreenState", 1);
     set(L"CleanScreenState", 0);
     EXPECT_FALSE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, FloatingBarIsHiddenByCleanScreenAndBroughtBackToo) {
+    showWithListener();
+    bench().toolkit().frame().floatAt(*paletteSet(), {100, 100, 340, 500});
+    takeJournal();
+    set(L"CleanScreenState", 1);
+    EXPECT_FALSE(isOnScreen());
+    EXPECT_EQ(takeBarCalls(), Lines{"CFrameWnd::ShowControlBar(object, 0, 0)"});
+    set(L"CleanScreenState", 0);
+    EXPECT_TRUE(isOnScreen());
+    EXPECT_EQ(takeBarCalls(), Lines{"CFrameWnd::ShowControlBar(object, 1, 0)"});
+}
+
+TEST_F(BarReturnTest, CleanScreenStateIsNotEvenReadBeforeTheFirstShow) {
+    loadWithListener();
+    set(L"LTSCALE", 2.0);
+    takeJournal();
+    set(L"CleanScreenState", 1);
+    set(L"CleanScreenState", 0);
+    EXPECT_EQ(support::callLines(takeJournal()), Lines{});
+    EXPECT_TRUE(m_listener.take().empty());
+}
+
+TEST_F(BarReturnTest, EndOfACleanScreenThatHidNothingTellsNobody) {
+    showWithListener();
+    bench().toolkit().frame().close(*paletteSet());
+    settle();
+    m_listener.take();
+    takeJournal();
+    set(L"CleanScreenState", 1);
+    set(L"CleanScreenState", 0);
+    EXPECT_TRUE(m_listener.take().empty());
+    EXPECT_EQ(takeBarCalls(), Lines{});
 }
 
 TEST_F(BarReturnTest, CleanScreenWithoutAFrameLeavesTheBarAndIsStillTold) {
@@ -87,6 +124,62 @@ TEST_F(BarReturnTest, LastDocumentTakesTheBarAlongAndTheNextBringsItBack) {
     EXPECT_FALSE(isOnScreen());
     newDocument(L"B");
     EXPECT_TRUE(isOnScreen());
+}
+
+TEST_F(BarReturnTest, LastDocumentHidesTheBarThenTellsTheListenersThenTheControls) {
+    showWithListener();
+    m_listener.act = [this](std::string_view event) {
+        bench().journal().add("heard", {{"event", std::string(event)}});
+    };
+    closeDocument(L"A");
+    Lines road;
+    for (const workbench::JournalRecord& record : takeJournal()) {
+        if (record.field("name") == workbench::Value("CFrameWnd::ShowControlBar"))
+            road.push_back(support::callLine(record));
+        if (record.kind == "heard")
+            road.push_back(record.field("event").asString());
+        if (record.field("number") == workbench::Value(1725) &&
+            record.field("control") == workbench::Value(kControl))
+            road.push_back("1725 " + record.field("lparam").asString());
+    }
+    EXPECT_EQ(road, (Lines{"CFrameWnd::ShowControlBar(object, 0, 0)", "off", "off", "1725 A"}));
+}
+
+TEST_F(BarReturnTest, LastDocumentWithTheBarHiddenByTheUserTellsTheControlsAloneAndNoneComesBack) {
+    showWithListener();
+    closeDocument(L"A");
+    newDocument(L"B");
+    ASSERT_TRUE(isOnScreen());
+    bench().toolkit().frame().close(*paletteSet());
+    settle();
+    m_listener.take();
+    takeJournal();
+    closeDocument(L"B");
+    EXPECT_TRUE(got(1725));
+    newDocument(L"C");
+    EXPECT_FALSE(isOnScreen());
+    EXPECT_TRUE(m_listener.take().empty());
+}
+
+TEST_F(BarReturnTest, LastDocumentBeforeTheFirstShowIsNoMatter) {
+    loadWithListener();
+    closeDocument(L"A");
+    newDocument(L"B");
+    EXPECT_EQ(paletteSet(), nullptr);
+    EXPECT_TRUE(m_listener.take().empty());
+}
+
+TEST_F(BarReturnTest, SecondDocumentBringsNothingBackThatTheUserClosed) {
+    showWithListener();
+    closeDocument(L"A");
+    newDocument(L"B");
+    ASSERT_TRUE(isOnScreen());
+    bench().toolkit().frame().close(*paletteSet());
+    settle();
+    m_listener.take();
+    newDocument(L"C");
+    EXPECT_FALSE(isOnScreen());
+    EXPECT_TRUE(m_listener.take().empty());
 }
 
 TEST_F(BarReturnTest, BarStaysHiddenForTheNextDocumentInCleanScreen) {
@@ -142,7 +235,7 @@ TEST_F(BarReturnTest, ReturnWithADocumentIsRememberedPastTheUsersClose) {
     closeDocument(L"A");
     newDocument(L"B");
     ASSERT_TRUE(isOnScreen());
-    workbench::closePaletteSet(*paletteSet());
+    bench().toolkit().frame().close(*paletteSet());
     settle();
     ASSERT_FALSE(isOnScreen());
     bench().editor().reactors().sysVarChanged(L"CleanScreenState", true);

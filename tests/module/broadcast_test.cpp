@@ -1,53 +1,16 @@
 #include "tests/module/manager_fixture.h"
+#include "tests/support/window_tap.h"
 #include "workbench/editor/editor.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 #include <string>
 #include <vector>
 
 namespace {
 
-/// Stands between a control and its window: notes each message and hands it on.
-class Tap final : public CWnd {
-public:
-    struct Message {
-        UINT number;
-        WPARAM wParam;
-        LPARAM lParam;
-        friend bool operator==(const Message&, const Message&) = default;
-    };
-
-    Tap(workbench::WindowSystem& windows, HWND window)
-        : m_windows(windows),
-          m_window(window),
-          m_control(windows.find(window)->object) {
-        m_windows.find(m_window)->object = this;
-    }
-    ~Tap() override {
-        if (workbench::Window* window = m_windows.find(m_window))
-            window->object = m_control;
-    }
-
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override {
-        m_messages.push_back({message, wParam, lParam});
-        return m_control->WindowProc(message, wParam, lParam);
-    }
-    /// The messages of a number.
-    std::vector<Message> of(UINT number) const {
-        std::vector<Message> found;
-        std::copy_if(m_messages.begin(), m_messages.end(), std::back_inserter(found),
-                     [number](const Message& message) { return message.number == number; });
-        return found;
-    }
-
-private:
-    workbench::WindowSystem& m_windows;
-    HWND m_window;
-    CWnd* m_control;  // not owned
-    std::vector<Message> m_messages;
-};
+using support::TapMessages;
+using support::WindowTap;
 
 class BroadcastTest : public ManagerTest {
 protected:
@@ -134,13 +97,13 @@ INSTANTIATE_TEST_SUITE_P(Table, EventTest,
 
 TEST_F(BroadcastTest, DocumentEventsCarryTheDocumentItself) {
     showDashboard();
-    const Tap tap(bench().windows(), control(kControl));
+    const WindowTap tap(bench().windows(), control(kControl));
     newDocument(L"B");
     const auto carried = reinterpret_cast<LPARAM>(document(L"B"));
-    EXPECT_EQ(tap.of(1724), (std::vector<Tap::Message>{{1724, 0, carried}}));
-    EXPECT_EQ(tap.of(1726), (std::vector<Tap::Message>{{1726, 0, carried}}));
+    EXPECT_EQ(tap.of(1724), (TapMessages{{1724, 0, carried}}));
+    EXPECT_EQ(tap.of(1726), (TapMessages{{1726, 0, carried}}));
     closeDocument(L"B");
-    EXPECT_EQ(tap.of(1737), (std::vector<Tap::Message>{{1737, 0, carried}}));
+    EXPECT_EQ(tap.of(1737), (TapMessages{{1737, 0, carried}}));
 }
 
 TEST_F(BroadcastTest, FailedCommandIsToldLikeAStartAndNotLikeAnEnd) {

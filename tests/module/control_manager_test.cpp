@@ -2,15 +2,22 @@
 
 #include "layer/filter_refresh.h"
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/call_lines.h"
 #include "workbench/editor/editor.h"
+#include "workbench/gestures/key_gestures.h"
+#include "workbench/windows/window_parts.h"
+#include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/window/frame.h>
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace {
+
+using Lines = std::vector<std::string>;
 
 /// Counts the refreshes of layer filter lists.
 class CountingView final : public LayerFilterView {
@@ -32,6 +39,17 @@ protected:
         m_parent.DestroyWindow();
         PaletteTest::TearDown();
     }
+    /// Writes into the control's field and leaves the entry unfinished.
+    void typeEntry(HWND control, const wchar_t* text) {
+        // Parts are found in windows with names.
+        bench().windows().setName(control, "control");
+        ASSERT_TRUE(workbench::gestures::focusField(
+            bench().toolkit(), workbench::findPart(bench().windows(), control, "edit")));
+        workbench::gestures::replaceText(bench().toolkit(), text);
+    }
+    /// Opens a document behind whose command actions wait.
+    void beginCommand() { bench().editor().beginCommand(L"LINE"); }
+
     CQrUiToolPanel m_parent;
     CVxDaControlMgr m_controls;
 };
@@ -50,7 +68,19 @@ TEST_F(ControlManagerTest, ControlFillsTheParentsClientArea) {
 }
 
 TEST_F(ControlManagerTest, EmptyNameGivesNullWithoutTouchingTheParent) {
-    EXPECT_EQ(m_controls.createControl(L"", nullptr), nullptr);
+    // No window stands at this address: whoever looks at it breaks.
+    auto* const untouchable = reinterpret_cast<CWnd*>(alignof(CWnd));
+    EXPECT_EQ(m_controls.createControl(L"", untouchable), nullptr);
+}
+
+TEST_F(ControlManagerTest, ControlWithoutAParentIsNotMade) {
+    EXPECT_EQ(m_controls.createControl(L"LayerLockTransparencySliderControl", nullptr), nullptr);
+}
+
+TEST_F(ControlManagerTest, HostsControlIsFoundWithoutRegardToCase) {
+    const HWND control = m_controls.createControl(L"LINETYPECONTROL", &m_parent);
+    ASSERT_NE(control, nullptr);
+    EXPECT_EQ(takeLines({"getVxToolbarControl"}), Lines{"getVxToolbarControl(object, 0, 0, 220, 360, 2222)"});
 }
 
 TEST_F(ControlManagerTest, UnknownNameGivesNull) {
@@ -76,6 +106,36 @@ TEST_F(ControlManagerTest, ReleaseCopesWithControlsWhoseWindowsDied) {
     CWnd::FromHandle(control)->DestroyWindow();
     m_controls.releaseControls();
     EXPECT_FALSE(IsWindow(control));
+}
+
+TEST_F(ControlManagerTest, ReleaseEndsTheControlsInTheOrderOfTheirCreation) {
+    m_controls.createControl(L"LayerLockTransparencySliderControl", &m_parent);
+    m_controls.createControl(L"3DNavZoomSliderControl", &m_parent);
+    int number = 0;
+    for (const HWND child : bench().windows().find(m_parent.m_hWnd)->children)
+        bench().windows().setName(child, "control " + std::to_string(++number));
+    forget();
+    m_controls.releaseControls();
+    Lines ended = takeLines({"CWnd::DestroyWindow"});
+    std::erase(ended, "CWnd::DestroyWindow(\"\")");
+    EXPECT_EQ(ended,
+              (Lines{"CWnd::DestroyWindow(\"control 1\")", "CWnd::DestroyWindow(\"control 2\")"}));
+}
+
+TEST_F(ControlManagerTest, ReleaseTakesAnEntryOverThatTheUserHadNotFinished) {
+    typeEntry(m_controls.createControl(L"LayerLockTransparencySliderControl", &m_parent), L"70");
+    ASSERT_EQ(bench().editor().read(L"LAYLOCKFADECTL"), workbench::Value(50));
+    m_controls.releaseControls();
+    EXPECT_EQ(bench().editor().read(L"LAYLOCKFADECTL"), workbench::Value(70));
+}
+
+TEST_F(ControlManagerTest, EndOfTheManagerReleasesItsControls) {
+    auto controls = std::make_unique<CVxDaControlMgr>();
+    const HWND control = controls->createControl(L"LayerLockTransparencySliderControl", &m_parent);
+    typeEntry(control, L"70");
+    controls.reset();
+    EXPECT_FALSE(IsWindow(control));
+    EXPECT_EQ(bench().editor().read(L"LAYLOCKFADECTL"), workbench::Value(70));
 }
 
 // Hidden items
@@ -167,10 +227,37 @@ TEST_F(ControlManagerTest, ActionBehindACommandThatNeverEndsIsDeletedUnrunWithIt
     editor.beginCommand(L"LINE");
     m_controls.runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
     EXPECT_EQ(runs, 0);
+    forget();
     m_controls.removeDocumentReactor(editor.documents().current());
+    EXPECT_EQ(takeLines({"VxEdInputManager::removeReactor"}),
+              Lines{"VxEdInputManager::removeReactor(object)"});
     EXPECT_EQ(runs, 0);
     EXPECT_EQ(ends, 1);
     editor.pump();
+    EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ControlManagerTest, DocumentThatNeverQueuedAnActionHasNoReactorToTakeOff) {
+    forget();
+    m_controls.removeDocumentReactor(bench().editor().documents().current());
+    EXPECT_EQ(takeLines(), Lines{});
+}
+
+TEST_F(ControlManagerTest, EndOfOneDocumentLeavesTheActionsOfTheOther) {
+    int runs = 0;
+    int ends = 0;
+    workbench::Editor& editor = bench().editor();
+    workbench::Document* first = editor.documents().current();
+    beginCommand();
+    m_controls.runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
+    editor.documents().create(L"B");
+    beginCommand();
+    m_controls.runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
+    m_controls.removeDocumentReactor(first);
+    EXPECT_EQ(ends, 1);
+    editor.pump();
+    EXPECT_EQ(runs, 1);
+    EXPECT_EQ(ends, 2);
 }
 
 TEST_F(ControlManagerTest, ActionBehindACommandWithoutACurrentDocumentIsDeletedUnrun) {
@@ -222,10 +309,30 @@ TEST_F(ControlManagerTest, EndOfTheManagerTakesItsReactorsAwayAndDeletesWhatWait
     controls->runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
     forget();
     controls.reset();
-    EXPECT_EQ(callCount("VxEdInputManager::removeReactor"), 1);
+    EXPECT_EQ(takeLines({"VxEdInputManager::removeReactor"}),
+              Lines{"VxEdInputManager::removeReactor(object)"});
     EXPECT_EQ(ends, 1);
     editor.pump();
     EXPECT_EQ(runs, 0);
+}
+
+TEST_F(ControlManagerTest, EndOfTheManagerEndsWhatWaitsBeforeTheControls) {
+    int runs = 0;
+    int ends = 0;
+    auto controls = std::make_unique<CVxDaControlMgr>();
+    const HWND control = controls->createControl(L"LayerLockTransparencySliderControl", &m_parent);
+    bench().windows().setName(control, "control");
+    beginCommand();
+    controls->runWhenQuiescent(std::make_unique<RecordingCallback>(runs, ends));
+    std::vector<int> endsAtDestruction;
+    const auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        if (record.kind == "call" &&
+            support::callLine(record) == "CWnd::DestroyWindow(\"control\")")
+            endsAtDestruction.push_back(ends);
+    });
+    controls.reset();
+    EXPECT_EQ(endsAtDestruction, std::vector<int>{1});
+    bench().editor().pump();
 }
 
 }  // namespace

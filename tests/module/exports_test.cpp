@@ -1,6 +1,8 @@
 #include "tests/module/manager_fixture.h"
+#include "workbench/gestures/key_gestures.h"
+#include "workbench/gestures/slider_gestures.h"
 #include "workbench/menu/menu_host.h"
-#include "workbench/toolkit/palette_set_widget.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <string>
 #include <string_view>
@@ -27,8 +29,18 @@ protected:
     int addOrRemove(VxDaDashboardReactor* listener, int add) {
         return exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(listener, add);
     }
+    HWND customControl(const wchar_t* name, HWND parent) {
+        return exported<VxDaGetCustomControlFn>("VxDaGetCustomControl")(name, parent);
+    }
+    /// Types into the control's field and leaves the entry unfinished.
+    void typeEntry(const std::wstring& text) {
+        ASSERT_TRUE(
+            workbench::gestures::focusField(bench().toolkit(), part(control(kControl), "edit")));
+        workbench::gestures::replaceText(bench().toolkit(), text);
+        settle();
+    }
     void closeBar() {
-        workbench::closePaletteSet(*paletteSet());
+        bench().toolkit().frame().close(*paletteSet());
         settle();
     }
 };
@@ -62,6 +74,30 @@ INSTANTIATE_TEST_SUITE_P(Codes, CodeBeforeShowTest,
                                          CodeCase{kDashboardReload, 0}, CodeCase{3, 1},
                                          CodeCase{-1, 1}, CodeCase{99, 1}));
 
+// Custom controls
+
+TEST_F(ExportsTest, CustomControlIsMadeInTheParentThatIsNamed) {
+    ASSERT_TRUE(load());
+    newDocument(L"A");
+    {
+        CQrUiToolPanel parent;
+        ASSERT_NE(parent.Create(WS_CHILD | WS_VISIBLE, {0, 0, 200, 100}, AfxGetMainWnd(), 1, 0), 0);
+        const HWND made = customControl(L"LayerLockTransparencySliderControl", parent.m_hWnd);
+        ASSERT_NE(made, nullptr);
+        EXPECT_EQ(bench().windows().find(made)->parent, parent.m_hWnd);
+        EXPECT_EQ(customControl(L"", parent.m_hWnd), nullptr);
+        EXPECT_EQ(customControl(L"NoSuchControl", parent.m_hWnd), nullptr);
+    }
+    EXPECT_TRUE(unload());
+}
+
+TEST_F(ExportsTest, CustomControlOfNoNameOrInNoWindowIsNull) {
+    ASSERT_TRUE(load());
+    EXPECT_EQ(customControl(nullptr, AfxGetMainWnd()->m_hWnd), nullptr);
+    EXPECT_EQ(customControl(nullptr, nullptr), nullptr);
+    EXPECT_EQ(customControl(L"LayerLockTransparencySliderControl", nullptr), nullptr);
+}
+
 // Codes
 
 TEST_F(ExportsTest, ReleaseEndsTheControlsAndKeepsThePanels) {
@@ -80,6 +116,14 @@ TEST_F(ExportsTest, ReleaseIsToldWhileTheControlsStillLive) {
     EXPECT_EQ(m_listener.take(), Heard{"release"});
     EXPECT_TRUE(lives);
     EXPECT_EQ(control(kControl), nullptr);
+}
+
+TEST_F(ExportsTest, ReleaseTakesAnEntryOverThatTheUserHadNotFinished) {
+    showWithListener();
+    typeEntry(L"70");
+    ASSERT_EQ(var(L"LAYLOCKFADECTL"), workbench::Value(50));
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(var(L"LAYLOCKFADECTL"), workbench::Value(70));
 }
 
 TEST_F(ExportsTest, ReleaseTwiceIsHarmlessAndIsToldTwice) {
@@ -187,6 +231,16 @@ TEST_F(ExportsTest, ItemsOfAnIdAreHandedOut) {
     EXPECT_EQ(walls->size(), 2U) << "a button and a tool in a flyout";
     EXPECT_EQ(items(L"ht_wall"), nullptr) << "IDs are exact";
     EXPECT_EQ(items(nullptr), nullptr);
+}
+
+TEST_F(ExportsTest, InvalidateAsksForARepaintOfTheBarAlone) {
+    showDashboard();
+    std::vector<HWND> repainted;
+    bench().windows().changes().setObserver(
+        [&repainted](HWND window) { repainted.push_back(window); });
+    EXPECT_EQ(exported<VxDaInvalidateDashboardFn>("VxDaInvalidateDashboard")(), 1);
+    bench().windows().changes().setObserver(nullptr);
+    EXPECT_EQ(repainted, std::vector<HWND>{paletteSet()->m_hWnd});
 }
 
 TEST_F(ExportsTest, InvalidateWorksWithoutPanels) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/bench.h"
+#include "tests/support/call_lines.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/vxdashboard.h>
@@ -74,6 +75,10 @@ protected:
     }
     void show() { type(L"DASHBOARDOLD\n"); }
     bool isOnScreen() { return paletteSet() != nullptr && paletteSet()->IsWindowVisible(); }
+    /// What the frame was asked to do with the bar since the journal was taken.
+    std::vector<std::string> takeBarCalls() {
+        return support::callLines(takeJournal(), {"CFrameWnd::ShowControlBar"});
+    }
     bool got(std::int64_t number) {
         const auto messages = takeMessagesOf(kControl);
         return std::find(messages.begin(), messages.end(), number) != messages.end();

@@ -1,11 +1,12 @@
 #include "module/manager_reactors.h"
 
+#include "layer/filter_refresh.h"
 #include "module/control_manager.h"
 #include "module/module.h"
-#include "layer/filter_refresh.h"
 #include "tests/palette/palette_fixture.h"
 #include "visualstyle/material_mode.h"
 #include "workbench/editor/editor.h"
+#include "workbench/profiles/profile_store.h"
 
 #include <algorithm>
 #include <string>
@@ -23,12 +24,18 @@ public:
     void refreshFilters() override { workbench::Workbench::current().journal().add("filters", {}); }
 };
 
+/// An action that does nothing.
+class IdleCallback final : public VxDaCmdUtil::InputContextReactor::Callback {
+public:
+    void run() override {}
+};
+
 class ManagerReactorsTest : public PaletteTest {
 protected:
     /// Shows the dashboard, with the material mode read: the first event of all would read it.
     void show() {
         PaletteTest::show();
-        refreshMaterialModeFor(L"VSCURRENT");
+        kMaterialModeEvents.refresh();
         road();
     }
     workbench::EditorReactors& editor() { return bench().editor().reactors(); }
@@ -133,6 +140,66 @@ TEST_F(ManagerReactorsTest, EventsBeforeTheFirstShowFindNoPanelSet) {
     editor().viewChanged();
     EXPECT_TRUE(road().empty());
     EXPECT_EQ(callCount("VxApProfileManager::profileStorage"), 0);
+}
+
+// Profiles
+
+class ProfileEventTest : public ManagerReactorsTest {
+protected:
+    /// Ties the panel of layers to the n-th line of its menu of tool palette groups.
+    void chooseGroup(UINT line) {
+        menuOf(*panel(L"MAIN", L"Layers"));
+        panel(L"MAIN", L"Layers")->SendMessage(WM_COMMAND, 53246 + line);
+    }
+    VxString group() { return panel(L"MAIN", L"Layers")->toolPaletteGroup().text(); }
+};
+
+TEST_F(ProfileEventTest, SwitchTakesWhatTheNewProfileHasSavedAndTouchesNoPanelOnScreen) {
+    show();
+    chooseGroup(0);
+    bench().profiles().save();
+    chooseGroup(2);
+    ASSERT_EQ(group(), L"Windows");
+    bench().profiles().switchTo("Other");
+    EXPECT_EQ(group(), L"Windows") << "nothing is saved there";
+    const std::vector<std::string> before = shown();
+    panelSet().togglePanel(53501);
+    bench().profiles().switchTo("Default");
+    EXPECT_EQ(group(), L"Doors");
+    EXPECT_EQ(shown().size(), before.size() - 1) << "what is saved shows at the next refresh";
+    panelSet().refreshPanels(0);
+    EXPECT_EQ(shown(), std::vector<std::string>{before[1]});
+}
+
+TEST_F(ProfileEventTest, SaveWritesWhatIsOnShowUnlessTheApplicationQuits) {
+    show();
+    chooseGroup(0);
+    editor().beginQuit();
+    bench().profiles().save();
+    EXPECT_EQ(callCount("VxUt::SetAttributeValue"), 0);
+    editor().quitAborted();
+    bench().profiles().save();
+    EXPECT_EQ(callCount("VxUt::SetAttributeValue"), 12) << "three of each of the four panels";
+}
+
+// Documents
+
+TEST_F(ManagerReactorsTest, EndOfADocumentIsToldToTheControlsBeforeItsReactorIsTakenOff) {
+    show();
+    bench().editor().documents().create(L"B");
+    bench().editor().beginCommand(L"LINE");
+    controlManager()->runWhenQuiescent(std::make_unique<IdleCallback>());
+    forget();
+    bench().editor().documents().close(*bench().editor().documents().current());
+    Road steps;
+    for (const workbench::JournalRecord& record : bench().journal().take()) {
+        if (record.field("name") == workbench::Value("VxEdInputManager::removeReactor"))
+            steps.push_back("reactor off");
+        if (record.field("control") == workbench::Value(kControl) &&
+            record.field("number") == workbench::Value(1737))
+            steps.push_back("1737");
+    }
+    EXPECT_EQ(steps, (Road{"1737", "reactor off"}));
 }
 
 }  // namespace

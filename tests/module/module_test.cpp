@@ -1,26 +1,41 @@
-#include "tests/support/bench.h"
+#include "module/module.h"
 
+#include "module/manager.h"
+#include "tests/module/manager_fixture.h"
+#include "tests/palette/palette_fixture.h"
+#include "tests/support/bench.h"
+#include "tests/support/call_lines.h"
+#include "visualstyle/style_reactors.h"
 #include "workbench/loader/module_loader.h"
+#include "workbench/loader/service_entry.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
-#include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace {
 
-/// Whether names stand in a list in this order, others between them.
-testing::AssertionResult standInOrder(const std::vector<std::string>& all,
-                                      const std::vector<std::string>& wanted) {
-    auto from = all.begin();
-    for (const std::string& name : wanted) {
-        from = std::find(from, all.end(), name);
-        if (from == all.end())
-            return testing::AssertionFailure() << name << " is missing there";
-        ++from;
-    }
-    return testing::AssertionSuccess();
+using Lines = std::vector<std::string>;
+
+/// One panel with a button and a control.
+constexpr const char* kSmallMenu = R"({
+  "menuGroups": [{"name": "MAIN"}],
+  "panels": [{"menuGroup": "MAIN", "id": "P", "title": "Panel", "toolPanels": ["T"]}],
+  "workspaces": [{"name": "Work", "panels": [{"panel": "P", "menuGroup": "MAIN"}]}],
+  "currentWorkspace": "Work",
+  "toolPanels": [{"menuGroup": "MAIN", "id": "T", "items": [
+    {"type": "button", "id": "B"},
+    {"type": "control", "id": "C", "control": "LayerLockTransparencySliderControl"}]}]
+})";
+
+/// Whether a call only looks an object of the host up.
+bool isLookUp(const std::string& line) {
+    return line.starts_with("vxrxSysRegistry(") || line.starts_with("VxRxDictionary::at(") ||
+           line.starts_with("VxRxObject::isKindOf(") || line == "vxProfileManagerPtr()" ||
+           line == "vxDocManagerPtr()" || line == "QrUiGetThemeManager()" ||
+           line == "vxdbHostApplicationServices()";
 }
 
 class ModuleTest : public support::Bench {
@@ -35,6 +50,24 @@ protected:
         ASSERT_TRUE(load());
         m_calls = takeCalls();
     }
+    /// The host calls since the journal was taken, with their arguments, but for look-ups.
+    Lines takeSteps() {
+        Lines steps = support::callLines(takeJournal());
+        std::erase_if(steps, isLookUp);
+        return steps;
+    }
+    /// A window with a control that stands outside of the dashboard.
+    void makeControlOutside() {
+        constexpr CRect kPlace{0, 0, 200, 100};
+        m_outside = std::make_unique<CQrUiToolPanel>();
+        ASSERT_NE(m_outside->Create(WS_CHILD | WS_VISIBLE, kPlace, AfxGetMainWnd(), 1, 0), 0);
+        const auto make = exported<VxDaGetCustomControlFn>("VxDaGetCustomControl");
+        ASSERT_NE(make(L"LayerLockTransparencySliderControl", m_outside->m_hWnd), nullptr);
+    }
+    void TearDown() override {
+        m_outside.reset();
+        Bench::TearDown();
+    }
     /// The arguments of each call of a name since the journal was taken.
     std::vector<workbench::Value::List> argumentsOf(const std::string& call) {
         std::vector<workbench::Value::List> found;
@@ -45,21 +78,43 @@ protected:
         return found;
     }
     std::vector<std::string> m_calls;
+    std::unique_ptr<CQrUiToolPanel> m_outside;  // null until it is needed
 };
 
 using Arguments = workbench::Value::List;
 
-TEST_F(ModuleTest, LoadKeepsItsOrder) {
+TEST_F(ModuleTest, LoadTakesItsStepsInOrder) {
     env("ENABLEDASHBOARD", "1");
-    loadAndTakeCalls();
-    EXPECT_TRUE(standInOrder(
-        m_calls,
-        {"VxRxDynamicLinker::unlockApplication", "VxRxDynamicLinker::registerAppMDIAware",
-         "vxrxServiceIsRegistered", "vxrxRegisterService", "LoadLibrary", "AfxInitExtensionModule",
-         "VxEdCommandStack::addCommand", "VxEdCommandStack::addCommand",
-         "CQrUiThemeManager::GetTheme", "CQrUiTheme::RegisterReactor", "CQrUiTheme::SetDataPtr",
-         "VxApProfileManager::addReactor", "VxEditor::addReactor", "VxApDocManager::addReactor",
-         "QrUiRegisterTool", "LoadLibrary"}));
+    takeJournal();
+    ASSERT_TRUE(load());
+    EXPECT_EQ(takeSteps(),
+              (Lines{"VxRxDynamicLinker::unlockApplication(object)",
+                     "VxRxDynamicLinker::registerAppMDIAware(object)",
+                     "vxrxServiceIsRegistered(\"ZorqVxDashboard\")",
+                     "vxrxRegisterService(\"ZorqVxDashboard\")",
+                     "LoadLibrary(\"VxDashboardRes.dll\")",
+                     "AfxGetResourceHandle()",
+                     "AfxInitExtensionModule(\"VxDashboardRes.dll\")",
+                     "AfxGetResourceHandle()",
+                     "AfxSetResourceHandle(\"VxDashboardRes.dll\")",
+                     "LoadString(201)",
+                     "AfxSetResourceHandle(\"\")",
+                     "VxEdCommandStack::addCommand(\"ZorqVxDashboard\", \"DASHBOARDOLD\", "
+                     "\"DASHBOARDOLD\", 3, true, null, -1, false)",
+                     "VxEdCommandStack::addCommand(\"ZorqVxDashboard\", \"VIEWBACK\", "
+                     "\"VIEWBACK\", 1, true, null, -1, false)",
+                     "CQrUiThemeManager::GetTheme(\"ToolPanel\")",
+                     "CQrUiTheme::RegisterReactor(object)",
+                     "CQrUiTheme::GetFont(3)",
+                     "CFont::CreateFontIndirect(\"DejaVu Sans\", 11, 400)",
+                     "CQrUiTheme::SetDataPtr(2, object)",
+                     "CQrUiTheme::ResumeModifiedNotifications()",
+                     "VxApProfileManager::addReactor(object)",
+                     "VxEditor::addReactor(object)",
+                     "VxApDocManager::addReactor(object)",
+                     "QrUiRegisterTool(\"VxDashboard.qlx\", \"DASHBOARDOLD\")",
+                     "VxDbHostApplicationServices::program()",
+                     "LoadLibrary(\"ZORQbtn.xmx\")"}));
 }
 
 TEST_F(ModuleTest, LoadMakesNoWindow) {
@@ -112,16 +167,53 @@ TEST_F(ModuleTest, ServiceThatIsThereIsNotRegisteredTwice) {
     EXPECT_EQ(count("vxrxRegisterService"), 0U);
 }
 
-TEST_F(ModuleTest, UnloadKeepsItsOrder) {
-    showDashboard();
-    takeCalls();
+TEST_F(ModuleTest, UnloadWithoutADashboardTakesItsStepsInOrder) {
+    ASSERT_TRUE(load());
+    takeJournal();
     ASSERT_TRUE(unload());
-    EXPECT_TRUE(standInOrder(
-        takeCalls(),
-        {"DestroyIcon", "VxEdCommandStack::removeGroup", "FreeLibrary", "AfxTermExtensionModule",
-         "VxApProfileManager::removeReactor", "VxEditor::removeReactor",
-         "VxApDocManager::removeReactor", "CQrUiTheme::UnregisterReactor",
-         "CQrUiThemeManager::ReleaseTheme", "VxRxDictionary::remove"}));
+    EXPECT_EQ(
+        takeSteps(),
+        (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
+               "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
+               "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
+               "VxApDocManager::removeReactor(object)", "CQrUiTheme::UnregisterReactor(object)",
+               "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
+}
+
+TEST_F(ModuleTest, UnloadEndsPanelsAndBarFirstAndTheControlsOutsideBeforeTheManager) {
+    useMenu(kSmallMenu);
+    showDashboard();
+    makeControlOutside();
+    takeJournal();
+    ASSERT_TRUE(unload());
+    Lines steps = takeSteps();
+    // The end of an object asks once more for the end of its window, which has gone by then.
+    std::erase(steps, "CWnd::DestroyWindow(\"\")");
+    EXPECT_EQ(
+        steps,
+        (Lines{"CWnd::DestroyWindow(\"CQrUiPanelSet\")",
+               "CQrUiPanelSet::Create(1342177280, object, 1)", "DestroyIcon()",
+               "CWnd::DestroyWindow(\"CQrUiPaletteSet\")",
+               "VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
+               "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
+               "CWnd::DestroyWindow(\"CQrUiToolPanel\")",
+               "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
+               "VxApDocManager::removeReactor(object)", "CQrUiTheme::UnregisterReactor(object)",
+               "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
+}
+
+TEST_F(ModuleTest, FontLivesUntilTheManagersHaveEndedAndIsGoneBeforeTheThemeIsLeft) {
+    ASSERT_TRUE(load());
+    Lines fonts;
+    const auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        const std::string name = record.kind == "call" ? record.field("name").asString() : "";
+        if (name == "VxApDocManager::removeReactor" || name == "CQrUiTheme::UnregisterReactor")
+            fonts.push_back(name + ' ' + std::to_string(bench().windows().gdi().fontCount()));
+    });
+    ASSERT_TRUE(unload());
+    EXPECT_EQ(fonts, (Lines{"VxApDocManager::removeReactor 1", "CQrUiTheme::UnregisterReactor 0"}));
 }
 
 TEST_F(ModuleTest, UnloadRemovesTheCommandGroupAlsoWithoutCommands) {
@@ -139,16 +231,52 @@ TEST_F(ModuleTest, UnloadTakesTheServiceAway) {
     EXPECT_FALSE(vxrxServiceIsRegistered(L"ZorqVxDashboard"));
 }
 
-TEST_F(ModuleTest, UnloadWithThePanelsDownDeletesThePaletteSetAfterTheCommandGroup) {
+TEST_F(ModuleTest, UnloadWithThePanelsDownDeletesThePaletteSetWithTheManager) {
+    useMenu(kSmallMenu);
     showDashboard();
     EXPECT_EQ(notify(kDashboardUnload), 1);
     const HWND bar = paletteSet()->m_hWnd;
     takeJournal();
     ASSERT_TRUE(unload());
-    EXPECT_FALSE(bench().windows().find(bar) != nullptr);
-    EXPECT_TRUE(
-        standInOrder(takeCalls(), {"VxEdCommandStack::removeGroup", "VxApDocManager::removeReactor",
-                               "DestroyIcon", "CQrUiTheme::UnregisterReactor"}));
+    EXPECT_EQ(bench().windows().find(bar), nullptr);
+    Lines steps = takeSteps();
+    std::erase(steps, "CWnd::DestroyWindow(\"\")");
+    EXPECT_EQ(
+        steps,
+        (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
+               "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
+               "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
+               "VxApDocManager::removeReactor(object)", "DestroyIcon()",
+               "CWnd::DestroyWindow(\"CQrUiPaletteSet\")", "CQrUiTheme::UnregisterReactor(object)",
+               "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
+}
+
+TEST_F(ModuleTest, LoadWithoutTheResourceLibraryEndsWithTheBox) {
+    env("ENABLEDASHBOARD", "1");
+    bench().faults().hide("VxDashboardRes.dll");
+    takeJournal();
+    EXPECT_TRUE(load());
+    EXPECT_EQ(takeTexts("box").size(), 1U);
+    EXPECT_EQ(
+        takeSteps(),
+        (Lines{"VxRxDynamicLinker::unlockApplication(object)",
+               "VxRxDynamicLinker::registerAppMDIAware(object)",
+               "vxrxServiceIsRegistered(\"ZorqVxDashboard\")",
+               "vxrxRegisterService(\"ZorqVxDashboard\")", "LoadLibrary(\"VxDashboardRes.dll\")",
+               "GetLastError()", "VxUt::GetSystemErrorMessage(2)",
+               "AfxMessageBox(\"FATAL ERROR: Unable to load file 'VxDashboardRes.dll'. The "
+               "specified file cannot be found.\nPress OK to abort.\", 16)"}));
+}
+
+TEST_F(ModuleTest, UnloadAfterAFailedLoadOnlyRemovesTheCommandGroupAndTheService) {
+    bench().faults().hide("VxDashboardRes.dll");
+    EXPECT_TRUE(load());
+    EXPECT_EQ(takeTexts("box").size(), 1U);
+    takeJournal();
+    EXPECT_TRUE(unload());
+    EXPECT_EQ(takeSteps(), (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
+                                  "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
 }
 
 TEST_F(ModuleTest, MissingResourceLibraryGivesTheOneBox) {
@@ -183,7 +311,13 @@ TEST_F(ModuleTest, AfterAFailedLoadNothingElseIsThereAndUnloadStillRuns) {
     EXPECT_EQ(exported<VxDaGetVisiblePanelsFn>("VxDaGetVisiblePanels")(&panels), 0);
     EXPECT_TRUE(panels.empty());
     EXPECT_EQ(exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(&panels), 0);
-    EXPECT_EQ(exported<VxDaGetCustomControlFn>("VxDaGetCustomControl")(L"x", nullptr), nullptr);
+    const auto make = exported<VxDaGetCustomControlFn>("VxDaGetCustomControl");
+    EXPECT_EQ(make(L"LayerLockTransparencySliderControl", AfxGetMainWnd()->m_hWnd), nullptr);
+    EXPECT_EQ(make(nullptr, nullptr), nullptr);
+    DashboardListener listener;
+    const auto addOrRemove = exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor");
+    EXPECT_EQ(addOrRemove(&listener, 1), 0);
+    EXPECT_EQ(addOrRemove(&listener, 0), 0);
     newDocument(L"A");
     type(L"DASHBOARDOLD\n");
     EXPECT_EQ(paletteSet(), nullptr);
@@ -238,6 +372,29 @@ TEST_F(ModuleTest, ChangeOfThemeBuildsTheFontAnew) {
     EXPECT_EQ(bench().windows().gdi().fontCount(), before);
 }
 
+TEST_F(ModuleTest, SecondLoadDoesWhatTheFirstDidCallForCall) {
+    useMenu(kSmallMenu);
+    env("ENABLEDASHBOARD", "1");
+    newDocument(L"A");
+    const auto loadAndShow = [this] {
+        takeJournal();
+        EXPECT_TRUE(load());
+        type(L"DASHBOARDOLD\n");
+        set(L"LTSCALE", 2.0);
+        set(L"LTSCALE", 1.0);
+        return support::callLines(takeJournal());
+    };
+    const Lines first = loadAndShow();
+    // Whatever the first load had in mind is to be forgotten.
+    makeControlOutside();
+    EXPECT_EQ(notify(kDashboardReleaseControls), 1);
+    EXPECT_EQ(notify(kDashboardUnload), 1);
+    EXPECT_EQ(notify(kDashboardReload), 1);
+    exported<SetForce3DNavUpdateFn>("setForce3DNavUpdate")(true);
+    ASSERT_TRUE(unload());
+    EXPECT_EQ(loadAndShow(), first);
+}
+
 TEST_F(ModuleTest, SecondLoadStartsFresh) {
     showDashboard();
     ASSERT_TRUE(unload());
@@ -263,6 +420,68 @@ TEST_F(ModuleTest, ManyRoundsOfLoadShowAndUnloadLeaveNothingBehind) {
         ASSERT_EQ(bench().toolkit().liveItems(), 0);
         takeJournal();
     }
+}
+
+// The module, linked into the test
+
+class LinkedModuleTest : public PaletteTest {
+protected:
+    bool isServiceThere() { return vxrxServiceIsRegistered(L"ZorqVxDashboard"); }
+    /// Whether the watcher of visual styles is there: it looks at the space when asked to update.
+    bool areStylesWatched() {
+        forget();
+        updateVisualStyleState();
+        return callCount("vxedGetVar") > 0;
+    }
+};
+
+TEST_F(LinkedModuleTest, UnloadTakesTheServiceOutItselfAndDeletesIt) {
+    const int before = workbench::ServiceEntry::liveCount();
+    load();
+    ASSERT_TRUE(isServiceThere());
+    EXPECT_EQ(workbench::ServiceEntry::liveCount(), before + 1);
+    unloadModule();
+    EXPECT_FALSE(isServiceThere());
+    EXPECT_EQ(workbench::ServiceEntry::liveCount(), before);
+}
+
+TEST_F(LinkedModuleTest, UnloadWithoutTheDictionaryOfServicesLeavesTheService) {
+    load();
+    fail("VxRxDictionary::at", 100);
+    unloadModule();
+    EXPECT_TRUE(isServiceThere());
+    EXPECT_EQ(callCount("VxRxDictionary::remove"), 0);
+    bench().faults().unfail("VxRxDictionary::at");
+}
+
+TEST_F(LinkedModuleTest, ManagersAndThemeLiveFromTheLoadToTheUnload) {
+    EXPECT_EQ(dashboardManager(), nullptr);
+    EXPECT_EQ(controlManager(), nullptr);
+    load();
+    EXPECT_NE(dashboardManager(), nullptr);
+    EXPECT_NE(controlManager(), nullptr);
+    unloadModule();
+    EXPECT_EQ(dashboardManager(), nullptr);
+    EXPECT_EQ(controlManager(), nullptr);
+}
+
+TEST_F(LinkedModuleTest, DashboardCountsAsVisibleOnlyWhileTheBarIsOnScreen) {
+    EXPECT_FALSE(isDashboardVisible());
+    load();
+    EXPECT_FALSE(isDashboardVisible());
+    showLoaded();
+    EXPECT_TRUE(isDashboardVisible());
+    dashboard().show(0);
+    EXPECT_FALSE(isDashboardVisible());
+}
+
+TEST_F(LinkedModuleTest, UnloadEndsTheWatchersOfVisualStylesHoweverOftenTheyWereCounted) {
+    show();
+    dashboardManager()->notify(kDashboardUnload);
+    dashboardManager()->notify(kDashboardReload);
+    ASSERT_TRUE(areStylesWatched());
+    unloadModule();
+    EXPECT_FALSE(areStylesWatched());
 }
 
 }  // namespace

@@ -45,8 +45,9 @@ protected:
     void noteEnds() {
         m_listener.act = [this](std::string_view event) {
             if (event == "willUnload" || event == "unloaded")
-                m_ends.push_back(std::string(event) + " with " +
-                                 (workbench::allPanels().empty() ? "none" : "panels"));
+                m_ends.push_back(
+                    std::string(event) + " with " +
+                    (workbench::allPanels(bench().windows()).empty() ? "none" : "panels"));
         };
     }
 
@@ -86,7 +87,7 @@ TEST_F(PanelNoticesTest, FirstShowSendsEachPanelTheThemeAtItsEndAndThroughThePan
     const auto through = std::find(names.begin(), names.end(), "PanelSet");
     ASSERT_NE(through, names.end());
     const std::vector<std::string> made(names.begin(), through);
-    EXPECT_EQ(made.size(), workbench::allPanels().size());
+    EXPECT_EQ(made.size(), workbench::allPanels(bench().windows()).size());
     EXPECT_EQ(std::vector<std::string>(through + 1, names.end()), made);
 }
 

@@ -55,7 +55,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_P(CameraPointTest, PartsHaveTheirIdsAndTexts) {
     EXPECT_EQ(bench().windows().find(window())->id, GetParam().windowId);
-    const workbench::ItemView icon = workbench::viewOf(*item(GetParam().itemId));
+    const workbench::ItemView icon = workbench::viewOf(bench().toolkit(), *item(GetParam().itemId));
     EXPECT_EQ(icon.image, GetParam().image);
     EXPECT_EQ(icon.name, stringOf(GetParam().itemName));
     EXPECT_EQ(bench().windows().find(field("x"))->id, 5001);
@@ -171,7 +171,7 @@ TEST_P(CameraPointTest, TabCommitsOneFieldAndKeepsTheTextOfTheNext) {
     EXPECT_DOUBLE_EQ(own("x"), 50.0);
     EXPECT_TRUE(hasFocus(field("y")));
     const std::wstring y = text("y");
-    workbench::gestures::replaceText(L"99");
+    workbench::gestures::replaceText(bench().toolkit(), L"99");
     press("escape");
     EXPECT_EQ(text("y"), y);
     leave();

@@ -104,7 +104,7 @@ TEST_P(StepSliderTest, PartsHaveTheirIdsRangeAndTexts) {
     EXPECT_EQ(bench().windows().find(field())->id, 10001);
     EXPECT_EQ(widget().lowest(), row.lowest);
     EXPECT_EQ(widget().highest(), row.highest);
-    const workbench::ItemView icon = workbench::viewOf(*item(row.itemId));
+    const workbench::ItemView icon = workbench::viewOf(bench().toolkit(), *item(row.itemId));
     EXPECT_EQ(icon.image, row.image);
     EXPECT_EQ(icon.name, stringOf(row.label));
     EXPECT_EQ(tipOf(field()), stringOf(row.label));

@@ -19,12 +19,14 @@ protected:
         takeJournal();
     }
     bool disabled(const wchar_t* id, std::size_t n = 1) {
-        return workbench::viewOf(*item(id, n)).disabled;
+        return workbench::viewOf(bench().toolkit(), *item(id, n)).disabled;
     }
     bool checked(const wchar_t* id, std::size_t n = 1) {
-        return workbench::viewOf(*item(id, n)).checked;
+        return workbench::viewOf(bench().toolkit(), *item(id, n)).checked;
     }
-    std::wstring name(const wchar_t* id) { return workbench::viewOf(*item(id)).name; }
+    std::wstring name(const wchar_t* id) {
+        return workbench::viewOf(bench().toolkit(), *item(id)).name;
+    }
     void expectEnabled(bool play, bool record, bool pause, bool save) {
         EXPECT_EQ(disabled(kPlay), !play);
         EXPECT_EQ(disabled(kRecord), !record);

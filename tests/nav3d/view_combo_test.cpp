@@ -58,7 +58,9 @@ protected:
         setDb("viewports.current.eye", workbench::Value::List{7.0, 8.0, 9.0});
         settle();
     }
-    bool backDisabled() { return workbench::viewOf(*item(L"TPB_3DNAV_COMBO")).disabled; }
+    bool backDisabled() {
+        return workbench::viewOf(bench().toolkit(), *item(L"TPB_3DNAV_COMBO")).disabled;
+    }
 };
 
 std::vector<std::wstring> withPresets(std::vector<std::wstring> first) {

@@ -30,7 +30,8 @@ TEST_F(ZoomSliderTest, PartsBearTheirIds) {
 }
 
 TEST_F(ZoomSliderTest, ItemAndFieldsBearTheirTexts) {
-    const workbench::ItemView icon = workbench::viewOf(*item(L"TPB_3DNAV_SLIDERCONTROL1"));
+    const workbench::ItemView icon =
+        workbench::viewOf(bench().toolkit(), *item(L"TPB_3DNAV_SLIDERCONTROL1"));
     EXPECT_EQ(icon.image, "RCDATA_3DNAV_SLIDERCONTROL1");
     EXPECT_EQ(icon.name, stringOf(1245));
     EXPECT_EQ(tipOf(field("edit")), stringOf(1241));

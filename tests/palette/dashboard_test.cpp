@@ -4,6 +4,9 @@
 #include "module/module.h"
 #include "palette/xml_node.h"
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/answer_in_place.h"
+#include "tests/support/call_lines.h"
+#include "tests/support/window_tap.h"
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -15,7 +18,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <map>
 
 namespace {
 
@@ -45,16 +47,6 @@ protected:
         return NodePtr(vxProfileManagerPtr()->profileStorage(L"Default", true)->createNode(L"Bar"));
     }
     bool hasVisibleStyle() { return (dashboard().GetStyle() & WS_VISIBLE) != 0; }
-    /// Of the named host calls those that were made since the journal was forgotten, in order.
-    Names callsAmong(const Names& names) {
-        Names made;
-        for (const auto& record : bench().journal().take("call")) {
-            const std::string& name = record.field("name").asString();
-            if (std::find(names.begin(), names.end(), name) != names.end())
-                made.push_back(name);
-        }
-        return made;
-    }
     Names menuBehind(const std::vector<UINT>& begun) {
         CMenu menu;
         menu.CreatePopupMenu();
@@ -74,16 +66,6 @@ TEST_F(DashboardTest, IsDockedAtTheRightWithItsTitleIconAndTheme) {
     EXPECT_EQ(bench().windows().gdi().iconCount(), 1U);
 }
 
-TEST_F(DashboardTest, DocksAtTheLeftAndRightEdgesOnly) {
-    load();
-    forget();
-    dashboardManager()->showDashboard();
-    EXPECT_NE(lastCall("CQrUiDockControlBar::EnableDocking").find("20480"), std::string::npos);
-    EXPECT_NE(lastCall("CQrUiDockControlBar::RestoreControlBar").find("59421"), std::string::npos);
-    EXPECT_NE(lastCall("CQrUiPaletteSet::Create").find("4194304"), std::string::npos);
-    EXPECT_NE(lastCall("CQrUiPaletteSet::Create").find("46"), std::string::npos);
-}
-
 TEST_F(DashboardTest, TakesTheWidthOfItsFirstRectangleAndHasItRemembered) {
     constexpr CRect kFirst{50, 50, 285, 350};
     show();
@@ -95,22 +77,36 @@ TEST_F(DashboardTest, TakesTheWidthOfItsFirstRectangleAndHasItRemembered) {
 }
 
 TEST_F(DashboardTest, IsCreatedDockedPlacedAndThemedInThisOrder) {
-    const Names steps{"CQrUiPaletteSet::Create",
-                      "CQrUiPaletteSet::AddPalette",
-                      "CQrUiDockControlBar::EnableDocking",
-                      "CQrUiDockControlBar::RestoreControlBar",
-                      "CWnd::SetFocus",
-                      "CQrUiPaletteSet::SetTheme",
-                      "CFrameWnd::ShowControlBar"};
     load();
     forget();
     dashboardManager()->showDashboard();
     // The theme comes twice: the palette inside the window is created with it already.
-    EXPECT_EQ(callsAmong(steps),
-              (Names{"CQrUiPaletteSet::Create", "CQrUiPaletteSet::SetTheme",
-                     "CQrUiPaletteSet::AddPalette", "CQrUiDockControlBar::EnableDocking",
-                     "CQrUiDockControlBar::RestoreControlBar", "CWnd::SetFocus",
-                     "CQrUiPaletteSet::SetTheme", "CFrameWnd::ShowControlBar"}));
+    EXPECT_EQ(
+        takeLines({"LoadString", "CQrUiPaletteSet::Create", "CQrUiPaletteSet::OnCreate", "LoadIcon",
+                   "CQrUiPaletteSet::SetTheme", "CQrUiPalette::Create", "CQrUiPanelSet::Create",
+                   "CQrUiPaletteSet::AddPalette", "CQrUiDockControlBar::EnableDocking",
+                   "CQrUiDockControlBar::RestoreControlBar", "CWnd::SetFocus",
+                   "CFrameWnd::ShowControlBar", "vxedGetPanelSetData"}),
+        (Names{
+            "LoadString(203)", "CQrUiPaletteSet::Create(\"Dashboard\", 4194304, object, 46)",
+            "CQrUiPaletteSet::OnCreate(object)", "LoadIcon(\"VxDashboardRes.dll\", 220)",
+            "CQrUiPaletteSet::SetTheme(object)", "CQrUiPalette::Create(object)",
+            "CQrUiPanelSet::Create(1342177280, object, 1)", "CQrUiPaletteSet::AddPalette(object)",
+            "LoadString(208)", "CQrUiDockControlBar::EnableDocking(20480)",
+            "CQrUiDockControlBar::RestoreControlBar(59421)", "CWnd::SetFocus(\"CFrameWnd\")",
+            "CQrUiPaletteSet::SetTheme(object)", "CFrameWnd::ShowControlBar(object, 1, 0)",
+            "vxedGetPanelSetData()", "LoadString(3996)", "LoadString(3997)", "LoadString(3995)"}));
+}
+
+TEST_F(DashboardTest, HasItsToolIdBeforeItsWindowIsFinished) {
+    load();
+    std::vector<GUID> ids;
+    auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        if (record.field("name") == workbench::Value("CQrUiPaletteSet::OnCreate"))
+            ids.push_back(bench().toolkit().paletteSets().of(&dashboard()).toolId);
+    });
+    dashboardManager()->showDashboard();
+    EXPECT_EQ(ids, std::vector<GUID>{kBarTool});
 }
 
 TEST_F(DashboardTest, GivesTheFrameTheFocus) {
@@ -130,14 +126,18 @@ TEST_F(DashboardTest, ItsIconIsTheLargeAndTheSmallOneOfItsWindow) {
     });
     dashboardManager()->showDashboard();
     naming = {};
-    std::map<std::int64_t, std::int64_t> iconBySize;
+    std::vector<std::int64_t> sizes;
+    std::vector<std::int64_t> icons;
     for (const auto& record : bench().journal().take("message")) {
-        if (record.field("control") == "Bar" && record.field("number").asInteger() == WM_SETICON)
-            iconBySize[record.field("wparam").asInteger()] = record.field("lparam").asInteger();
+        if (record.field("control") != "Bar" || record.field("number").asInteger() != WM_SETICON)
+            continue;
+        sizes.push_back(record.field("wparam").asInteger());
+        icons.push_back(record.field("lparam").asInteger());
     }
-    ASSERT_EQ(iconBySize.size(), 2U);
-    EXPECT_NE(iconBySize[ICON_SMALL], 0);
-    EXPECT_EQ(iconBySize[ICON_SMALL], iconBySize[ICON_BIG]);
+    EXPECT_EQ(sizes, (std::vector<std::int64_t>{ICON_BIG, ICON_SMALL}));
+    ASSERT_EQ(icons.size(), 2U);
+    EXPECT_NE(icons[0], 0);
+    EXPECT_EQ(icons[0], icons[1]);
 }
 
 TEST_F(DashboardTest, AMissingIconLeavesTheDefault) {
@@ -192,7 +192,9 @@ TEST_F(DashboardTest, ShowsAndHidesThroughTheFrame) {
     EXPECT_EQ(dashboard().GetStyle() & WS_VISIBLE, 0U);
     EXPECT_EQ(dashboard().show(1), 1);
     EXPECT_NE(dashboard().GetStyle() & WS_VISIBLE, 0U);
-    EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 2);
+    EXPECT_EQ(takeLines({"CFrameWnd::ShowControlBar"}),
+              (Names{"CFrameWnd::ShowControlBar(object, 0, 0)",
+                     "CFrameWnd::ShowControlBar(object, 1, 0)"}));
 }
 
 TEST_F(DashboardTest, WithoutAFrameShowsAndHidesNothing) {
@@ -202,6 +204,35 @@ TEST_F(DashboardTest, WithoutAFrameShowsAndHidesNothing) {
     EXPECT_EQ(dashboard().show(1), 0);
     EXPECT_TRUE(hasVisibleStyle());
     EXPECT_EQ(callCount("CFrameWnd::ShowControlBar"), 0);
+}
+
+TEST_F(DashboardTest, FloatingInAFrameOfItsOwnShowsAndHidesToo) {
+    show();
+    frame().floatAt(dashboard(), {100, 100, 340, 500});
+    EXPECT_EQ(dashboard().show(0), 1);
+    EXPECT_FALSE(hasVisibleStyle());
+    EXPECT_EQ(dashboard().show(1), 1);
+    EXPECT_TRUE(hasVisibleStyle());
+}
+
+TEST_F(DashboardTest, IsToldToTheListenersOnceTheToolkitKnowsAndGivesItsAnswer) {
+    show();
+    Listener listener;
+    dashboardManager()->addOrRemoveReactor(&listener, true);
+    const support::AnswerInPlace toolkit(bench().windows(), dashboard().m_hWnd, WM_WINDOWPOSCHANGED,
+                                         7);
+    const auto change = [this](UINT flags) {
+        const WINDOWPOS position{dashboard().m_hWnd, 0, 0, 0, 0, flags};
+        return dashboard().SendMessage(WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&position));
+    };
+    EXPECT_EQ(change(0), 7);
+    EXPECT_EQ(change(SWP_NOMOVE | SWP_NOZORDER), 7);
+    EXPECT_TRUE(listener.told.empty());
+    EXPECT_EQ(change(SWP_HIDEWINDOW), 7);
+    EXPECT_EQ(change(SWP_SHOWWINDOW), 7);
+    EXPECT_EQ(change(SWP_SHOWWINDOW | SWP_HIDEWINDOW), 7);
+    EXPECT_EQ(listener.told, (std::vector<BOOL>{0, 1, 1}));
+    dashboardManager()->addOrRemoveReactor(&listener, false);
 }
 
 /// A bar that floats without a frame around it, because the toolkit never placed it.
@@ -286,7 +317,12 @@ TEST_F(DashboardTest, AFloatingBarFollowsTheContentsHeightKeepingItsWidth) {
     show();
     frame().floatAt(dashboard(), {100, 100, 340, 500});
     const CRect before = dashboard().GetParentFrame()->GetWindowRect();
+    forget();
     dashboard().resizeToContent({200, 120});
+    const Names calls = takeLines({"CWnd::SetWindowPos", "QrUiResizeControlBarVerticalSize"});
+    ASSERT_FALSE(calls.empty());
+    EXPECT_EQ(Names{calls.front()}, Names{"CWnd::SetWindowPos(\"FloatingFrame\", 0, 0, " +
+                                          std::to_string(before.Width()) + ", 120, 22)"});
     const CRect after = dashboard().GetParentFrame()->GetWindowRect();
     EXPECT_EQ(after.Width(), before.Width());
     EXPECT_EQ(after.Height(), 120);
@@ -297,7 +333,10 @@ TEST_F(DashboardTest, AFloatingBarFollowsTheContentsHeightKeepingItsWidth) {
 TEST_F(DashboardTest, ADockedBarAsksForTheContentsHeightPlusThirteen) {
     show();
     dashboard().resizeToContent({200, 120});
-    EXPECT_NE(lastCall("QrUiResizeControlBarVerticalSize").find("133"), std::string::npos);
+    EXPECT_EQ(takeLines({"QrUiResizeControlBarVerticalSize"}),
+              Names{"QrUiResizeControlBarVerticalSize(133)"});
+    EXPECT_EQ(bench().toolkit().paletteSets().of(&dashboard()).dockedHeight, 133)
+        << "it is asked for under the bar's own tool";
 }
 
 /// Lines that the toolkit has begun the context menu with, and what they look like before the
@@ -322,6 +361,17 @@ INSTANTIATE_TEST_SUITE_P(Menus, BegunMenuTest,
                                          BegunMenu{{MF_STRING, MF_SEPARATOR, MF_SEPARATOR},
                                                    {"Begun", "-"}},
                                          BegunMenu{{MF_SEPARATOR}, {}}));
+
+TEST_F(DashboardTest, ItsLinesOfTheContextMenuHaveTheirCommands) {
+    show();
+    const std::vector<workbench::MenuLine> lines = menuOfDashboard();
+    EXPECT_EQ(labels(lines), (Names{"Panels", "Help"}));
+    EXPECT_EQ(lines[1].command, 37330U);
+    std::vector<UINT> commands;
+    for (const workbench::MenuLine& line : lines[0].children)
+        commands.push_back(line.command);
+    EXPECT_EQ(commands, (std::vector<UINT>{53500, 53501, 53502, 53503}));
+}
 
 TEST_F(DashboardTest, APanelsMenuThatCannotBeBuiltIsLeftOut) {
     show();
@@ -378,6 +428,38 @@ TEST_F(DashboardTest, AChangeOfTheThemeGoesToThePanelSet) {
     ASSERT_FALSE(probe.got.empty());
     EXPECT_EQ(probe.got.front(),
               (ProbeWindow::Message{1565, 0, reinterpret_cast<LPARAM>(dashboard().GetTheme())}));
+}
+
+TEST_F(DashboardTest, AChangeOfTheThemeReachesTheToolkitBeforeThePanelSet) {
+    show();
+    std::vector<HWND> repainted;
+    bench().windows().changes().setObserver(
+        [&repainted](HWND window) { repainted.push_back(window); });
+    dashboard().ThemeModified(3);
+    bench().windows().changes().setObserver(nullptr);
+    ASSERT_FALSE(repainted.empty());
+    EXPECT_EQ(repainted.front(), dashboard().m_hWnd);
+}
+
+TEST_F(DashboardTest, ABuildOfThePanelsEndsWithTheThemeForThePanelSetAndHasItsAnswer) {
+    show();
+    ASSERT_NE(dashboard().GetTheme(), nullptr);
+    bench().windows().setName(panelSet().m_hWnd, "PanelSet");
+    const Names theme{"1565(0, object)"};
+    EXPECT_EQ(dashboard().loadPanels(), 1);
+    EXPECT_EQ(support::messageLines(bench().journal().take(), "PanelSet", 1565), theme);
+    ASSERT_EQ(panelSet().saveToProfile(), 1);
+    fail("IXMLDOMNode::QueryInterface");
+    forget();
+    EXPECT_EQ(dashboard().loadPanels(), 0) << "what is saved could not be read";
+    EXPECT_EQ(support::messageLines(bench().journal().take(), "PanelSet", 1565), theme);
+}
+
+TEST_F(DashboardTest, TheIdleUpdateReachesAControlWithoutItsArguments) {
+    show();
+    const support::WindowTap tap(bench().windows(), panelSet().controlWindows().at(0));
+    dashboard().SendMessage(WM_IDLEUPDATECMDUI, 7, 9);
+    EXPECT_EQ(tap.of(867), (support::TapMessages{{867, 0, 0}}));
 }
 
 TEST_F(DashboardTest, TheIdleUpdateGoesToTheControlsAndAnswersZero) {

@@ -4,12 +4,34 @@
 
 namespace {
 
-class ForeignModuleTest : public PaletteTest {};
+using Lines = std::vector<std::string>;
 
-TEST_F(ForeignModuleTest, IsLoadedOnceForItsExports) {
+class ForeignModuleTest : public PaletteTest {
+protected:
+    /// What was asked of the loader since the journal was forgotten.
+    Lines takeLoaderCalls() {
+        return takeLines({"GetModuleHandle", "vxrxLoadModule", "GetProcAddress"});
+    }
+};
+
+TEST_F(ForeignModuleTest, IsLoadedAtItsFirstUseWithoutAWordAndAsACommand) {
+    forget();
     EXPECT_NE(findModuleExport(L"VxExampleTools.qlx", "VxDaButtonClicked"), nullptr);
+    EXPECT_EQ(takeLoaderCalls(),
+              (Lines{"GetModuleHandle(\"VxExampleTools.qlx\")",
+                     "vxrxLoadModule(\"VxExampleTools.qlx\", false, true)",
+                     "GetModuleHandle(\"VxExampleTools.qlx\")",
+                     "GetProcAddress(\"VxExampleTools.qlx\", \"VxDaButtonClicked\")"}));
     EXPECT_NE(findModuleExport(L"VxExampleTools.qlx", "VxDaGetCustomControl"), nullptr);
-    EXPECT_EQ(callCount("vxrxLoadModule"), 1);
+    EXPECT_EQ(takeLoaderCalls(),
+              (Lines{"GetModuleHandle(\"VxExampleTools.qlx\")",
+                     "GetProcAddress(\"VxExampleTools.qlx\", \"VxDaGetCustomControl\")"}));
+}
+
+TEST_F(ForeignModuleTest, ThatCannotBeFoundOnceItIsLoadedGivesNull) {
+    fail("GetModuleHandle", 2);
+    EXPECT_EQ(findModuleExport(L"VxExampleTools.qlx", "VxDaButtonClicked"), nullptr);
+    EXPECT_EQ(callCount("GetProcAddress"), 0);
 }
 
 TEST_F(ForeignModuleTest, WithoutTheExportGivesNull) {
@@ -17,8 +39,10 @@ TEST_F(ForeignModuleTest, WithoutTheExportGivesNull) {
 }
 
 TEST_F(ForeignModuleTest, ThatIsMissingGivesNull) {
+    forget();
     EXPECT_EQ(findModuleExport(L"Gone.qlx", "VxDaButtonClicked"), nullptr);
-    EXPECT_EQ(callCount("GetProcAddress"), 0);
+    EXPECT_EQ(takeLoaderCalls(), (Lines{"GetModuleHandle(\"Gone.qlx\")",
+                                        "vxrxLoadModule(\"Gone.qlx\", false, true)"}));
 }
 
 }  // namespace

@@ -9,6 +9,8 @@
 
 namespace {
 
+using Lines = std::vector<std::string>;
+
 class ItemClickTest : public PaletteTest {
 protected:
     /// A click as the toolkit reports it to the panel.
@@ -31,8 +33,10 @@ class DeadTypeTest : public ItemClickTest, public testing::WithParamInterface<in
 TEST_P(DeadTypeTest, DoesNothing) {
     show();
     item(L"ID_Line")->SetType(GetParam());
+    forget();
     EXPECT_EQ(click(item(L"ID_Line")), 1);
     EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(takeLines(), Lines{});
 }
 
 INSTANTIATE_TEST_SUITE_P(SeparatorAndRowBreak, DeadTypeTest, testing::Values(3, 4));
@@ -43,6 +47,16 @@ TEST_F(ItemClickTest, AMacroIsSentAfterTheDrawingViewGotTheFocus) {
     EXPECT_NE(onlySent().find("\"_line\\n\""), std::string::npos);
     EXPECT_NE(onlySent().find("\"menu\""), std::string::npos);
     EXPECT_EQ(bench().windows().focus(), bench().toolkit().frame().drawingView().m_hWnd);
+}
+
+TEST_F(ItemClickTest, AMacroIsSentToTheActiveDocumentByOneCallBehindTheFocus) {
+    show();
+    click(item(L"ID_Line"));
+    EXPECT_EQ(takeLines({"vxedGetZorqDwgView", "CWnd::SetFocus",
+                         "VxApDocManager::mdiActiveDocument", "vxedSendMenuStringToExecute"}),
+              (Lines{"vxedGetZorqDwgView()", "CWnd::SetFocus(\"DrawingView\")",
+                     "VxApDocManager::mdiActiveDocument()",
+                     "vxedSendMenuStringToExecute(object, \"_line\n\", 1)"}));
 }
 
 TEST_F(ItemClickTest, WithoutADrawingViewTheMacroIsSentAllTheSame) {
@@ -79,7 +93,7 @@ TEST_F(ItemClickTest, AnItemWithNeitherModuleNorMacroDoesNothing) {
     show();
     EXPECT_EQ(click(item(L"ID_Idle")), 1);
     EXPECT_TRUE(sent().empty());
-    EXPECT_EQ(callCount("CWnd::SetFocus"), 0);
+    EXPECT_EQ(takeLines(), Lines{});
 }
 
 TEST_F(ItemClickTest, AToolOfThisModuleDoesNotRunItsMacro) {
@@ -87,6 +101,27 @@ TEST_F(ItemClickTest, AToolOfThisModuleDoesNotRunItsMacro) {
     EXPECT_EQ(click(item(L"ID_Own")), 1);
     EXPECT_TRUE(sent().empty());
     EXPECT_EQ(callCount("vxrxLoadModule"), 0);
+}
+
+TEST_F(ItemClickTest, AToolOfThisModuleGoesToTheControlManager) {
+    show();
+    itemData(L"MAIN", L"LayerTools", 3).id = L"ID_DefaultLighting";
+    item(L"ID_Own")->SetID(L"ID_DefaultLighting");
+    EXPECT_EQ(click(item(L"ID_Own")), 1);
+    EXPECT_EQ(takeLines({"do_cmd"}).size(), 1U) << "the tool's own command";
+}
+
+TEST_F(ItemClickTest, AFlyoutWithACurrentToolOfAnotherModuleGivesItThatTool) {
+    VxToolPanelItemData& tool = itemData(L"MAIN", L"TPL_A", 1);
+    tool.id = L"ID_ExampleCount";
+    tool.module = L"VxExampleTools.qlx";
+    show();
+    CQrUiToolPanelItem* flyout = item(L"TPL_A");
+    CQrUiToolPanelItem* inside = (*flyout->GetFlyoutItems())[1];
+    ASSERT_NE(flyout->SetCurrentFlyoutTool(inside), 0);
+    EXPECT_EQ(click(flyout), 1);
+    EXPECT_EQ(inside->GetName(), L"1 click");
+    EXPECT_TRUE(sent().empty());
 }
 
 TEST_F(ItemClickTest, AForeignModuleGetsTheItem) {
@@ -105,8 +140,9 @@ TEST_F(ItemClickTest, AForeignModuleWithoutTheExportIgnoresTheClick) {
 TEST_F(ItemClickTest, AModuleThatCannotBeLoadedEndsTheClick) {
     show();
     EXPECT_EQ(click(item(L"ID_Lost")), 1);
-    EXPECT_EQ(callCount("vxrxLoadModule"), 1);
     EXPECT_TRUE(sent().empty());
+    EXPECT_EQ(takeLines(), (Lines{"GetModuleHandle(\"Gone.qlx\")",
+                                  "vxrxLoadModule(\"Gone.qlx\", false, true)"}));
 }
 
 }  // namespace

@@ -1,11 +1,13 @@
 #include "palette/item_images.h"
 
-#include "module/module.h"
+#include "core/resources.h"
 #include "tests/palette/palette_fixture.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
 
 namespace {
+
+using Lines = std::vector<std::string>;
 
 /// A picture of one transparent pixel, as a PNG file has it.
 constexpr unsigned char kOnePixel[] = {
@@ -62,6 +64,111 @@ TEST_F(ItemImagesTest, PanelsHaveATitleImageFromEitherLibrary) {
     EXPECT_EQ(titleImage(L"MAIN", L"Layers"), "");
 }
 
+// Where pictures are looked for
+
+/// The questions for pictures since the journal was forgotten.
+class PictureSourceTest : public ItemImagesTest {
+protected:
+    Lines takeQuestions() {
+        return takeLines({"QrUiLoadImageFromResource", "vxedGetPanelSetResourceHandle",
+                          "LoadBitmapFileGdiPlus"});
+    }
+    void loadImages(const wchar_t* menuGroup, const wchar_t* smallKey, const wchar_t* largeKey) {
+        CQrUiToolPanelItem plain(nullptr);
+        VxToolPanelItemData data;
+        data.smallImage = smallKey;
+        data.largeImage = largeKey;
+        forget();
+        loadItemImages(plain, data, menuGroup);
+        m_small = small(plain);
+        m_large = large(plain);
+    }
+
+    std::string m_small;
+    std::string m_large;
+};
+
+TEST_F(PictureSourceTest, TheLibraryOfToolImagesComesFirstThenTheGroupsModuleForEachSize) {
+    show();
+    loadImages(L"OTHER", L"SMALL", L"LARGE");
+    EXPECT_EQ(takeQuestions(), (Lines{"QrUiLoadImageFromResource(object, \"SMALL\", 16, -1)",
+                                      "vxedGetPanelSetResourceHandle(\"OTHER\")",
+                                      "QrUiLoadImageFromResource(object, \"SMALL\", 16, -1)",
+                                      "QrUiLoadImageFromResource(object, \"LARGE\", 32, -1)",
+                                      "vxedGetPanelSetResourceHandle(\"OTHER\")",
+                                      "QrUiLoadImageFromResource(object, \"LARGE\", 32, -1)"}));
+}
+
+TEST_F(PictureSourceTest, AGroupWithoutAModuleIsNoSource) {
+    show();
+    loadImages(L"MAIN", L"SMALL", L"LARGE");
+    EXPECT_EQ(takeQuestions(), (Lines{"QrUiLoadImageFromResource(object, \"SMALL\", 16, -1)",
+                                      "vxedGetPanelSetResourceHandle(\"MAIN\")",
+                                      "QrUiLoadImageFromResource(object, \"LARGE\", 32, -1)",
+                                      "vxedGetPanelSetResourceHandle(\"MAIN\")"}));
+}
+
+TEST_F(PictureSourceTest, WhatTheLibraryHasIsLookedForNowhereElse) {
+    show();
+    loadImages(L"OTHER", L"RCDATA_TOOL_ID_LINE", L"RCDATA_TOOL_ID_ERASE");
+    EXPECT_EQ(takeQuestions(),
+              (Lines{"QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_LINE\", 16, -1)",
+                     "QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_ERASE\", 32, -1)"}));
+    EXPECT_EQ(m_small, "RCDATA_TOOL_ID_LINE");
+    EXPECT_EQ(m_large, "RCDATA_TOOL_ID_ERASE");
+}
+
+TEST_F(PictureSourceTest, ASizeWithoutAKeyAsksForNothing) {
+    show();
+    loadImages(L"OTHER", L"", L"RCDATA_TOOL_ID_LINE");
+    EXPECT_EQ(takeQuestions(),
+              Lines{"QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_LINE\", 32, -1)"});
+    EXPECT_EQ(m_small, "");
+    loadImages(L"OTHER", L"RCDATA_TOOL_ID_LINE", L"");
+    EXPECT_EQ(takeQuestions(),
+              Lines{"QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_LINE\", 16, -1)"});
+    EXPECT_EQ(m_large, "");
+    loadImages(L"OTHER", L"", L"");
+    EXPECT_EQ(takeQuestions(), Lines{});
+}
+
+TEST_F(PictureSourceTest, OneLibraryAnswersWhetherItHasThePicture) {
+    show();
+    CQrUiToolPanelItem plain(nullptr);
+    EXPECT_TRUE(loadItemImage(plain, L"RCDATA_TOOL_ID_LINE", iconLibrary(), ItemImageSize::Small));
+    EXPECT_TRUE(loadItemImage(plain, L"RCDATA_TOOL_ID_ERASE", iconLibrary(), ItemImageSize::Large));
+    EXPECT_FALSE(loadItemImage(plain, L"RCDATA_NOWHERE", iconLibrary(), ItemImageSize::Small));
+    EXPECT_FALSE(loadItemImage(plain, L"RCDATA_TOOL_ID_LINE", nullptr, ItemImageSize::Small));
+    EXPECT_EQ(small(plain), "RCDATA_TOOL_ID_LINE");
+    EXPECT_EQ(large(plain), "RCDATA_TOOL_ID_ERASE");
+}
+
+TEST_F(PictureSourceTest, APanelsImageIsLookedForInTheLibraryThenTheGroupThenAsAFile) {
+    show();
+    EXPECT_NE(loadPanelImage(L"RCDATA_PANEL_DRAW", L"OTHER"), nullptr);
+    EXPECT_EQ(takeQuestions(),
+              Lines{"QrUiLoadImageFromResource(object, \"RCDATA_PANEL_DRAW\", 16, -1)"});
+    EXPECT_NE(loadPanelImage(L"RCDATA_PANEL_HOUSETOOLS", L"OTHER"), nullptr);
+    EXPECT_EQ(takeQuestions(),
+              (Lines{"QrUiLoadImageFromResource(object, \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
+                     "vxedGetPanelSetResourceHandle(\"OTHER\")",
+                     "QrUiLoadImageFromResource(object, \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)"}));
+    EXPECT_EQ(loadPanelImage(L"RCDATA_NOWHERE", L"OTHER"), nullptr);
+    EXPECT_EQ(takeQuestions(),
+              (Lines{"QrUiLoadImageFromResource(object, \"RCDATA_NOWHERE\", 16, -1)",
+                     "vxedGetPanelSetResourceHandle(\"OTHER\")",
+                     "QrUiLoadImageFromResource(object, \"RCDATA_NOWHERE\", 16, -1)",
+                     "LoadBitmapFileGdiPlus(\"RCDATA_NOWHERE\")"}));
+}
+
+TEST_F(PictureSourceTest, APanelsImageMayBeAFile) {
+    show();
+    const std::string png(reinterpret_cast<const char*>(kOnePixel), sizeof kOnePixel);
+    const std::filesystem::path file = writeFile("panel.png", png);
+    HBITMAP picture = loadPanelImage(file.wstring(), L"MAIN");
+    EXPECT_EQ(bench().toolkit().pictures().source(picture), file.string());
+}
+
 /// A type of item without pictures.
 class TypeWithoutImageTest : public ItemImagesTest, public testing::WithParamInterface<int> {};
 
@@ -71,8 +178,11 @@ TEST_P(TypeWithoutImageTest, TakesNone) {
     VxToolPanelItemData data;
     data.type = GetParam();
     data.smallImage = L"RCDATA_TOOL_ID_LINE";
+    data.largeImage = L"RCDATA_TOOL_ID_LINE";
+    forget();
     loadItemImages(plain, data, L"MAIN");
     EXPECT_EQ(small(plain), "");
+    EXPECT_EQ(takeLines(), Lines{});
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, TypeWithoutImageTest, testing::Values(1, 2, 3, 4));
@@ -132,13 +242,6 @@ TEST_F(ItemImagesTest, AnEmptyKeyLoadsNothing) {
     EXPECT_FALSE(loadItemImage(plain, L"", iconLibrary(), ItemImageSize::Small));
     EXPECT_EQ(loadPanelImage(L"", L"MAIN"), nullptr);
     EXPECT_EQ(callCount("QrUiLoadImageFromResource"), 0);
-}
-
-TEST_F(ItemImagesTest, APanelsImageIsLookedForAsAFileLast) {
-    show();
-    EXPECT_EQ(loadPanelImage(L"RCDATA_NOWHERE", L"OTHER"), nullptr);
-    EXPECT_EQ(callCount("QrUiLoadImageFromResource"), 2);
-    EXPECT_EQ(callCount("LoadBitmapFileGdiPlus"), 1);
 }
 
 }  // namespace

@@ -14,9 +14,14 @@ TEST_F(MenuLinesTest, AreLabelledFromTheResourceLibrary) {
     CMenu sub;
     menu.CreatePopupMenu();
     sub.CreatePopupMenu();
+    forget();
     appendCommand(menu, 7, kStrHelp);
     appendPopup(menu, sub, kStrPanelsMenu);
     appendCommand(sub, 8, kStrHidePanel);
+    EXPECT_EQ(takeLines({"CMenu::AppendMenu", "LoadString"}),
+              (std::vector<std::string>{"LoadString(205)", "CMenu::AppendMenu(0, 7, \"Help\")",
+                                        "LoadString(204)", "CMenu::AppendMenu(16, 0, \"Panels\")",
+                                        "LoadString(207)", "CMenu::AppendMenu(0, 8, \"Hide\")"}));
     const auto lines = bench().windows().menus().read(menu.m_hMenu);
     EXPECT_EQ(labels(lines), (std::vector<std::string>{"Help", "Panels"}));
     EXPECT_EQ(lines[0].command, 7U);

@@ -2,6 +2,7 @@
 
 #include "module/manager.h"
 #include "module/module.h"
+#include "tests/support/call_lines.h"
 #include "workbench/base/text.h"
 #include "workbench/core/journal.h"
 #include "workbench/editor/editor.h"
@@ -73,7 +74,7 @@ PaletteTest::Folder::~Folder() {
 
 std::filesystem::path PaletteTest::Folder::write(const std::string& name,
                                                  const std::string& text) const {
-    std::ofstream(m_path / name) << text;
+    std::ofstream(m_path / name, std::ios::binary) << text;
     return m_path / name;
 }
 
@@ -185,6 +186,14 @@ bool isCall(const workbench::JournalRecord& record, std::string_view name) {
 }
 
 }  // namespace
+
+std::vector<std::string> PaletteTest::takeLines() {
+    return support::callLines(bench().journal().take());
+}
+
+std::vector<std::string> PaletteTest::takeLines(const std::vector<std::string_view>& names) {
+    return support::callLines(bench().journal().take(), names);
+}
 
 int PaletteTest::callCount(std::string_view name) {
     const auto& records = bench().journal().records();

@@ -4,7 +4,7 @@
 #include "palette/palette.h"
 #include "palette/panel.h"
 #include "palette/panel_set.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/windows/menu_table.h"
 
 #include <hostapi/xmldom.h>
@@ -60,6 +60,9 @@ protected:
     void settle();
     /// Forgets what the journal has.
     void forget();
+    /// The host calls since the journal was forgotten, which forgets them: all, or those of names.
+    std::vector<std::string> takeLines();
+    std::vector<std::string> takeLines(const std::vector<std::string_view>& names);
     /// How often a host call was made since the journal was forgotten.
     int callCount(std::string_view name);
     /// The last host call of a name as a JSON line; empty for none.

@@ -3,24 +3,17 @@
 #include "module/manager.h"
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/answer_in_place.h"
+#include "tests/support/window_tap.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18/messages.h>
+#include <hostapi/window/frame.h>
 
 namespace {
 
-/// A control's list that is open, and needs the focus.
-class OpenList final : public workbench::Widget {
-public:
-    bool handle(workbench::Window& /*window*/, UINT message, WPARAM /*wParam*/, LPARAM /*lParam*/,
-                LRESULT& answer) override {
-        if (message != WM_QRUI_KEEP_FOCUS)
-            return false;
-        answer = 1;
-        return true;
-    }
-};
+using Lines = std::vector<std::string>;
 
 class PaletteWindowTest : public PaletteTest {
 protected:
@@ -105,18 +98,75 @@ TEST_F(PaletteWindowTest, WithNoPanelOnShowTheLargestSizeIsLeftToTheToolkit) {
 TEST_F(PaletteWindowTest, AControlKeepsTheFocusFromTheFrameworkAsLongAsItNeedsIt) {
     show();
     EXPECT_TRUE(palette().CanFrameworkTakeFocus());
-    workbench::Window* control = bench().windows().find(panelSet().controlWindows().at(1));
-    std::unique_ptr<workbench::Widget> other = std::make_unique<OpenList>();
-    control->widget.swap(other);
-    EXPECT_FALSE(palette().CanFrameworkTakeFocus());
-    control->widget.swap(other);
+    {
+        const support::AnswerInPlace list(bench().windows(), panelSet().controlWindows().at(1),
+                                          WM_QRUI_KEEP_FOCUS, 2);
+        EXPECT_FALSE(palette().CanFrameworkTakeFocus());
+    }
     EXPECT_TRUE(palette().CanFrameworkTakeFocus());
+}
+
+TEST_F(PaletteWindowTest, ControlsAreAskedInOrderUntilOneNeedsTheFocus) {
+    show();
+    const support::WindowTap first(bench().windows(), panelSet().controlWindows().at(0));
+    const support::WindowTap second(bench().windows(), panelSet().controlWindows().at(1));
+    palette().CanFrameworkTakeFocus();
+    const support::TapMessages question{{WM_QRUI_KEEP_FOCUS, 0, 0}};
+    EXPECT_EQ(first.of(WM_QRUI_KEEP_FOCUS), question);
+    EXPECT_EQ(second.of(WM_QRUI_KEEP_FOCUS), question);
+    const support::AnswerInPlace list(bench().windows(), panelSet().controlWindows().at(0),
+                                      WM_QRUI_KEEP_FOCUS, 1);
+    EXPECT_FALSE(palette().CanFrameworkTakeFocus());
+    EXPECT_EQ(first.of(WM_QRUI_KEEP_FOCUS).size(), 2U);
+    EXPECT_EQ(second.of(WM_QRUI_KEEP_FOCUS), question) << "the answer was known before its turn";
 }
 
 TEST_F(PaletteWindowTest, TheReportedSizeGoesToTheBar) {
     show();
-    palette().SendMessage(WM_QRUI_POSITION, MAKELONG(200, 120));
-    EXPECT_NE(lastCall("QrUiResizeControlBarVerticalSize").find("133"), std::string::npos);
+    EXPECT_EQ(palette().SendMessage(WM_QRUI_POSITION, MAKELONG(200, 120)), 0);
+    EXPECT_EQ(takeLines({"QrUiResizeControlBarVerticalSize"}),
+              Lines{"QrUiResizeControlBarVerticalSize(133)"});
+}
+
+TEST_F(PaletteWindowTest, InAPaletteSetOfAnotherKindTheReportedSizeGoesNowhere) {
+    show();
+    CQrUiPaletteSet other(0);
+    ASSERT_NE(other.Create(L"Other", 0, {0, 0, 200, 300}, AfxGetMainWnd(), 0), 0);
+    auto* lone = new CVxDaPalette;
+    ASSERT_NE(lone->Create(&other), 0);
+    other.AddPalette(lone);  // which takes it over
+    forget();
+    EXPECT_EQ(lone->SendMessage(WM_QRUI_POSITION, MAKELONG(200, 120)), 0);
+    EXPECT_EQ(takeLines(), Lines{});
+}
+
+TEST_F(PaletteWindowTest, ASizeMessageHasTheToolkitsAnswer) {
+    show();
+    const support::AnswerInPlace toolkit(bench().windows(), palette().m_hWnd, WM_SIZE, 7);
+    EXPECT_EQ(palette().SendMessage(WM_SIZE), 7);
+}
+
+TEST_F(PaletteWindowTest, WithoutAPanelSetsWindowASizeMessageMovesNothing) {
+    show();
+    panelSet().DestroyWindow();
+    forget();
+    palette().MoveWindow({0, 0, 200, 300});
+    EXPECT_EQ(takeLines(), Lines{"CWnd::MoveWindow(\"CQrUiPalette\", 0, 0, 200, 300)"});
+}
+
+TEST_F(PaletteWindowTest, ThePanelSetBeginsAtThePalettesPlaceOnTheScreen) {
+    load();
+    std::vector<CRect> places;
+    const auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        if (record.field("name") == workbench::Value("CQrUiPaletteSet::AddPalette")) {
+            places.push_back(bench().windows().find(panelSet().m_hWnd)->rect);
+            places.push_back(palette().GetWindowRect());
+        }
+    });
+    dashboardManager()->showDashboard();
+    ASSERT_EQ(places.size(), 2U);
+    EXPECT_EQ(places[0], places[1]);
+    EXPECT_NE(places[0], CRect());
 }
 
 TEST_F(PaletteWindowTest, AReplacedPanelSetIsEmptyAndTheOldOnesWindowsAreGone) {
@@ -131,7 +181,18 @@ TEST_F(PaletteWindowTest, AReplacedPanelSetIsEmptyAndTheOldOnesWindowsAreGone) {
     EXPECT_TRUE(panelSet().controlWindows().empty());
     EXPECT_EQ(panelSet().findToolPanelItems(L"ID_Line"), nullptr);
     EXPECT_EQ(panelSet().GetTheme(), dashboard().GetTheme());
+    EXPECT_NE(panelSet().GetTheme(), nullptr);
     EXPECT_EQ(bench().toolkit().panels().size(), 0U);
+}
+
+TEST_F(PaletteWindowTest, AReplacedPanelSetFillsThePalette) {
+    show();
+    forget();
+    palette().replacePanelSet();
+    EXPECT_EQ(takeLines({"CQrUiPanelSet::Create"}),
+              Lines{"CQrUiPanelSet::Create(1342177280, object, 1)"});
+    EXPECT_EQ(bench().windows().find(panelSet().m_hWnd)->rect, palette().GetClientRect());
+    EXPECT_EQ(panelSet().GetParent(), &palette());
 }
 
 TEST_F(PaletteWindowTest, WithoutAWindowTheReplacedPanelSetHasNoneEither) {

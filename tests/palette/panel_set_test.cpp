@@ -5,6 +5,8 @@
 #include "core/broadcast_messages.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/allocation_counter.h"
+#include "tests/support/answer_in_place.h"
+#include "tests/support/window_tap.h"
 #include "workbench/core/journal.h"
 #include "workbench/profiles/profile_store.h"
 
@@ -57,6 +59,19 @@ TEST_F(PanelSetTest, SendsAMessageToAllControlsInTheOrderOfTheirCreation) {
     EXPECT_NE(receivers[0].find("LayerLockTransparencySliderControl"), std::string::npos);
 }
 
+TEST_F(PanelSetTest, AMessageGoesToEachControlWithBothItsParameters) {
+    show();
+    const support::WindowTap first(bench().windows(), panelSet().controlWindows().at(0));
+    const support::WindowTap second(bench().windows(), panelSet().controlWindows().at(1));
+    panelSet().sendToControls(1736, 3, 4);
+    panelSet().sendViewChanged();
+    panelSet().sendIdleUpdate();
+    for (const support::WindowTap* tap : {&first, &second}) {
+        EXPECT_EQ(tap->of(1736), (support::TapMessages{{1736, 3, 4}, {1736, 0, 0}}));
+        EXPECT_EQ(tap->of(867), (support::TapMessages{{867, 0, 0}}));
+    }
+}
+
 TEST_F(PanelSetTest, AControlThatIsGoneIsPassedOver) {
     show();
     CWnd::FromHandle(panelSet().controlWindows()[0])->DestroyWindow();
@@ -87,6 +102,83 @@ TEST_F(PanelSetTest, WhatIsSavedDecidesAtTheNextLoadWhatIsShown) {
     EXPECT_EQ(panelSet().saveToProfile(), 1);
     rebuild();
     EXPECT_EQ(shown(), (Names{"MAIN/Layers", "OTHER/Draw", "MAIN/Spare"}));
+}
+
+TEST_F(PanelSetTest, ALoadAnswersOneAndReadsMenuThenWorkspaceThenWhatIsSaved) {
+    show();
+    EXPECT_EQ(panelSet().load(), 1);
+    EXPECT_EQ(
+        takeLines({"vxedGetPanelSetData", "vxedGetWorkspacePanelData", "vxedGetVar",
+                   "VxApProfileManager::profileStorage", "VxApProfileStorage::openNode",
+                   "vxedGetPanelRefreshFromWS"}),
+        (Names{"vxedGetPanelSetData()", "vxedGetWorkspacePanelData()", "vxedGetVar(\"CPROFILE\")",
+               "VxApProfileManager::profileStorage(\"Default\", false)",
+               "VxApProfileStorage::openNode(\"Dashboard\")", "vxedGetPanelRefreshFromWS()",
+               "vxedGetVar(\"LAYLOCKFADECTL\")", "vxedGetVar(\"LTSCALE\")"}));
+}
+
+TEST_F(PanelSetTest, ASaveClearsTheNodeAndWritesEachPanelsAttributesInOrder) {
+    show();
+    panelSet().togglePanel(53501);
+    chooseGroup(L"MAIN", L"Layers", 0);
+    forget();
+    EXPECT_EQ(panelSet().saveToProfile(), 1);
+    EXPECT_EQ(takeLines(), (Names{"vxedGetVar(\"CPROFILE\")",
+                                  "vxProfileManagerPtr()",
+                                  "VxApProfileManager::profileStorage(\"Default\", true)",
+                                  "VxApProfileStorage::createNode(\"Dashboard\")",
+                                  "VxUt::RemoveChildren(object)",
+                                  "IXMLDOMNode::QueryInterface()",
+                                  "VxUt::AddChildNode(object, \"CVxDaPanelSet\", 1)",
+                                  "VxUt::AddChildNode(object, \"CVxDaPanel\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"ID\", \"Layers\")",
+                                  "VxUt::SetAttributeValue(object, \"Visible\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"MenuGroupName\", \"MAIN\")",
+                                  "VxUt::AddChildNode(object, \"ToolPaletteGroupName\", 1)",
+                                  "VxUtResString::Save(object, \"Doors\")",
+                                  "VxUt::AddChildNode(object, \"CVxDaPanel\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"ID\", \"Draw\")",
+                                  "VxUt::SetAttributeValue(object, \"Visible\", 0)",
+                                  "VxUt::SetAttributeValue(object, \"MenuGroupName\", \"MAIN\")",
+                                  "VxUt::AddChildNode(object, \"CVxDaPanel\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"ID\", \"Draw\")",
+                                  "VxUt::SetAttributeValue(object, \"Visible\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"MenuGroupName\", \"OTHER\")",
+                                  "VxUt::AddChildNode(object, \"CVxDaPanel\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"ID\", \"Spare\")",
+                                  "VxUt::SetAttributeValue(object, \"Visible\", 1)",
+                                  "VxUt::SetAttributeValue(object, \"MenuGroupName\", \"MAIN\")"}));
+}
+
+TEST_F(PanelSetTest, AnElementForTheGroupThatIsRefusedCostsThatGroupAlone) {
+    show();
+    chooseGroup(L"MAIN", L"Layers", 0);
+    int elements = 0;
+    const auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        if (record.field("name") == workbench::Value("VxUt::AddChildNode") && ++elements == 2)
+            bench().faults().fail("VxUt::AddChildNode", {}, 1);
+    });
+    EXPECT_EQ(panelSet().saveToProfile(), 1);
+    EXPECT_EQ(savedPanels(), 4);
+    rebuild();
+    EXPECT_TRUE(panel(L"MAIN", L"Layers")->toolPaletteGroup().isEmpty());
+}
+
+TEST_F(PanelSetTest, WithoutTheHostsProfilesNothingIsSavedAndNothingRead) {
+    show();
+    fail("vxProfileManagerPtr");
+    EXPECT_EQ(panelSet().loadFromProfile(), 1);
+    fail("vxProfileManagerPtr");
+    EXPECT_EQ(panelSet().saveToProfile(), 0);
+}
+
+TEST_F(PanelSetTest, LoadAndSaveOfANodeAnswerOne) {
+    show();
+    const NodePtr node(
+        vxProfileManagerPtr()->profileStorage(L"Default", true)->createNode(L"Elsewhere"));
+    EXPECT_EQ(panelSet().Load(node.get()), 1) << "without anything in it too";
+    EXPECT_EQ(panelSet().Save(node.get()), 1);
+    EXPECT_EQ(panelSet().Load(node.get()), 1);
 }
 
 TEST_F(PanelSetTest, TheToolPaletteGroupOfThePanelsMenuIsSaved) {
@@ -238,6 +330,29 @@ TEST_F(PanelSetTest, ThePanelsMenuNeedsAMenu) {
     EXPECT_EQ(menu.GetMenuItemCount(), 4);
     EXPECT_EQ(panelSet().buildPanelsMenu(&menu), 1);
     EXPECT_EQ(menu.GetMenuItemCount(), 4);
+}
+
+TEST_F(PanelSetTest, ThePanelsMenuHasALineForEachRecordCheckedWhileItIsOnShow) {
+    show();
+    panelSet().togglePanel(53501);
+    CMenu menu;
+    forget();
+    EXPECT_EQ(panelSet().buildPanelsMenu(&menu), 1);
+    EXPECT_EQ(
+        takeLines(),
+        (Names{"CMenu::CreatePopupMenu()", "CMenu::AppendMenu(8, 53500, \"Layers\")",
+               "CMenu::AppendMenu(0, 53501, \"Drawing\")", "CMenu::AppendMenu(8, 53502, \"House\")",
+               "CMenu::AppendMenu(8, 53503, \"Spare\")"}));
+}
+
+TEST_F(PanelSetTest, ASizeOrMouseMessageHasTheToolkitsAnswer) {
+    show();
+    {
+        const support::AnswerInPlace toolkit(bench().windows(), panelSet().m_hWnd, WM_SIZE, 7);
+        EXPECT_EQ(panelSet().SendMessage(WM_SIZE), 7);
+    }
+    const support::AnswerInPlace toolkit(bench().windows(), panelSet().m_hWnd, WM_MOUSEMOVE, 8);
+    EXPECT_EQ(panelSet().SendMessage(WM_MOUSEMOVE), 8);
 }
 
 TEST_F(PanelSetTest, TheMenuOfPanelsGoesWithTheWindow) {

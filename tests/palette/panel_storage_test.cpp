@@ -9,10 +9,10 @@
 
 namespace {
 
-PanelRecord recordOf(const wchar_t* menuGroup, const wchar_t* id) {
-    PanelRecord record;
-    record.id = id;
-    record.menuGroup = menuGroup;
+std::unique_ptr<PanelRecord> recordOf(const wchar_t* menuGroup, const wchar_t* id) {
+    auto record = std::make_unique<PanelRecord>();
+    record->id = id;
+    record->menuGroup = menuGroup;
     return record;
 }
 
@@ -46,8 +46,8 @@ protected:
     std::vector<bool> readVisible() {
         readSavedPanels(m_root.get(), m_records);
         std::vector<bool> flags;
-        for (const PanelRecord& record : m_records)
-            flags.push_back(record.visible);
+        for (const auto& record : m_records)
+            flags.push_back(record->visible);
         return flags;
     }
 
@@ -88,6 +88,36 @@ TEST_F(PanelStorageTest, AnElementWithoutIdOrMenuGroupIsIgnoredAndTheFollowingOn
     addPanel(set, nullptr, L"A", L"0");
     addPanel(set, L"MAIN", L"B", L"0");
     EXPECT_EQ(readVisible(), (Flags{true, false, true}));
+}
+
+TEST_F(PanelStorageTest, AnElementWithoutIdOrMenuGroupIsNotThatOfARecordWithEmptyOnes) {
+    m_records[0]->id.clear();
+    m_records[1]->menuGroup.clear();
+    const NodePtr set = addSet();
+    addPanel(set, L"MAIN", nullptr, L"0");
+    addPanel(set, nullptr, L"B", L"0");
+    EXPECT_EQ(readVisible(), (Flags{true, true, true}));
+}
+
+TEST_F(PanelStorageTest, AnElementIsReadAttributeByAttributeAndEndsAtTheFirstThatIsMissing) {
+    const NodePtr set = addSet();
+    addPanel(set, L"MAIN", L"A", L"1");
+    addPanel(set, nullptr, L"A", L"1");
+    addPanel(set, L"MAIN", nullptr, L"1");
+    addPanel(set, L"MAIN", L"A", L"1", L"Else");
+    forget();
+    readSavedPanels(m_root.get(), m_records);
+    EXPECT_EQ(takeLines({"VxUt::GetChildNode", "VxUt::GetChildNodes", "VxUt::GetNodeName",
+                         "VxUt::GetAttributeValue"}),
+              (std::vector<std::string>{
+                  "VxUt::GetChildNode(object, \"CVxDaPanelSet\")", "VxUt::GetChildNodes(object)",
+                  "VxUt::GetNodeName(object)", "VxUt::GetAttributeValue(object, \"ID\")",
+                  "VxUt::GetAttributeValue(object, \"MenuGroupName\")",
+                  "VxUt::GetAttributeValue(object, \"Visible\")",
+                  "VxUt::GetChildNode(object, \"ToolPaletteGroupName\")",
+                  "VxUt::GetNodeName(object)", "VxUt::GetAttributeValue(object, \"ID\")",
+                  "VxUt::GetAttributeValue(object, \"MenuGroupName\")", "VxUt::GetNodeName(object)",
+                  "VxUt::GetAttributeValue(object, \"ID\")", "VxUt::GetNodeName(object)"}));
 }
 
 TEST_F(PanelStorageTest, AnElementCountsWhateverTheCaseOfItsName) {
@@ -142,14 +172,14 @@ TEST_F(PanelStorageTest, AGroupIsTakenOverAndAMissingOneEmptiesTheRecords) {
     VxUtResString group;
     group.setText(L"Doors");
     group.Save(add(panel, L"ToolPaletteGroupName").get());
-    m_records[1].toolPaletteGroup.setText(L"Old");
+    m_records[1]->toolPaletteGroup.setText(L"Old");
     readSavedPanels(m_root.get(), m_records);
-    EXPECT_EQ(m_records[0].toolPaletteGroup.text(), L"Doors");
-    EXPECT_EQ(m_records[1].toolPaletteGroup.text(), L"");
+    EXPECT_EQ(m_records[0]->toolPaletteGroup.text(), L"Doors");
+    EXPECT_EQ(m_records[1]->toolPaletteGroup.text(), L"");
 }
 
 TEST_F(PanelStorageTest, WritesAnElementForEachRecordInOrder) {
-    m_records[1].toolPaletteGroup.setText(L"Doors");
+    m_records[1]->toolPaletteGroup.setText(L"Doors");
     ASSERT_TRUE(writeSavedPanels(m_root.get(), m_records));
     const NodePtr set(VxUt::GetChildNode(m_root.get(), L"CVxDaPanelSet"));
     std::vector<VxString> written;
@@ -177,8 +207,8 @@ TEST_F(PanelStorageTest, APanelThatWasNeverMadeIsSavedAsHiddenWhateverItsFlagSay
 }
 
 TEST_F(PanelStorageTest, ARecordWithAnEmptyIdOrMenuGroupIsNotWritten) {
-    m_records[0].id.clear();
-    m_records[1].menuGroup.clear();
+    m_records[0]->id.clear();
+    m_records[1]->menuGroup.clear();
     ASSERT_TRUE(writeSavedPanels(m_root.get(), m_records));
     const NodePtr set(VxUt::GetChildNode(m_root.get(), L"CVxDaPanelSet"));
     std::size_t count = 0;

@@ -2,9 +2,13 @@
 
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/allocation_counter.h"
+#include "tests/support/call_lines.h"
 #include "workbench/core/journal.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
+
+#include <hostapi/qrui18/tool_panel.h>
 
 namespace {
 
@@ -20,6 +24,16 @@ protected:
             states.push_back(item->GetState());
         }
         return states;
+    }
+    /// How often the tool panel of an item is to be drawn anew during some work.
+    int repaintsOf(std::wstring_view id, void (*work)()) {
+        const HWND toolPanel = item(id)->m_record->toolPanel->m_hWnd;
+        int repaints = 0;
+        bench().windows().changes().setObserver(
+            [&repaints, toolPanel](HWND window) { repaints += window == toolPanel ? 1 : 0; });
+        work();
+        bench().windows().changes().setObserver(nullptr);
+        return repaints;
     }
     VxString currentTool(std::wstring_view flyout) {
         const CQrUiToolPanelItem* tool = item(flyout)->GetCurrentFlyoutTool();
@@ -74,6 +88,29 @@ TEST_F(ToolItemsTest, AFlagThatChangesNothingTakesNoMemory) {
     EXPECT_EQ(support::allocationCount(), before);
 }
 
+TEST_F(ToolItemsTest, AnItemIsDrawnAnewOnlyIfItsStateOrPictureChanged) {
+    show();
+    EXPECT_EQ(repaintsOf(L"ID_Idle", [] { SetItemFlag(L"ID_Idle", false, kChecked); }), 0);
+    EXPECT_EQ(repaintsOf(L"ID_Idle", [] { SetItemFlag(L"ID_Idle", false, kChecked, L"Rest"); }), 0);
+    // The toolkit draws it anew for the state itself, the dashboard once more.
+    EXPECT_EQ(repaintsOf(L"ID_Idle", [] { SetItemFlag(L"ID_Idle", true, kChecked); }), 2);
+    EXPECT_EQ(repaintsOf(L"ID_Idle", [] { SetItemFlag(L"ID_Idle", true, kChecked); }), 0);
+    // A picture that isn't there is not set.
+    EXPECT_EQ(repaintsOf(L"ID_Idle",
+                         [] { SetItemFlag(L"ID_Idle", true, kChecked, nullptr, L"RCDATA_NONE"); }),
+              1);
+}
+
+TEST_F(ToolItemsTest, APictureComesSmallFromTheDashboardsOwnLibrary) {
+    show();
+    SetItemFlag(L"ID_Line", true, kChecked, nullptr, L"RCDATA_LIGHT_SUN_ON");
+    const std::string question =
+        "QrUiLoadImageFromResource(object, \"RCDATA_LIGHT_SUN_ON\", 16, -1)";
+    EXPECT_EQ(takeLines(), (std::vector<std::string>{question, question})) << "one for each item";
+    EXPECT_EQ(item(L"ID_Line")->m_record->largeImage, nullptr);
+    EXPECT_EQ(item(L"ID_Line")->GetName(), L"");
+}
+
 TEST_F(ToolItemsTest, ANameIsSetOnAllItems) {
     show();
     EXPECT_EQ(setItemName(L"ID_Line", L"Straight"), 1);
@@ -100,6 +137,38 @@ TEST_F(ToolItemsTest, HidingWhatIsHiddenAnswersOneAndPostsNothing) {
     EXPECT_EQ(setItemsHidden({L"ID_Line"}, true), 1);
     EXPECT_EQ(setItemsHidden({}, true), 1);
     EXPECT_EQ(callCount("CWnd::PostMessage"), 0);
+}
+
+TEST_F(ToolItemsTest, HidingPostsThePanelSetItsThemeOnceForAllItems) {
+    show();
+    ASSERT_NE(panelSet().GetTheme(), nullptr);
+    bench().windows().setName(panelSet().m_hWnd, "PanelSet");
+    const auto themes = [this] {
+        return support::messageLines(bench().journal().records(), "PanelSet", 1565);
+    };
+    forget();
+    setItemsHidden({L"ID_Line", L"ID_Idle"}, true);
+    EXPECT_EQ(themes(), std::vector<std::string>{}) << "it is posted, not sent";
+    settle();
+    EXPECT_EQ(themes(), std::vector<std::string>{"1565(0, object)"});
+}
+
+TEST_F(ToolItemsTest, HidingAnIdWhoseOnlyControlCouldNotBeMadePostsNothing) {
+    show();
+    ASSERT_TRUE(panelSet().findToolPanelItems(L"Broken")->empty());
+    EXPECT_EQ(setItemsHidden({L"Broken"}, true), 1);
+    EXPECT_EQ(takeLines(), std::vector<std::string>{});
+    EXPECT_TRUE(isItemHidden(L"Broken"));
+}
+
+TEST_F(ToolItemsTest, ShowingAnIdAgainOnlyTakesTheHiddenBitAway) {
+    show();
+    item(L"ID_Idle")->SetState(kChecked);
+    setItemsHidden({L"ID_Idle"}, true);
+    EXPECT_EQ(statesOf(L"ID_Idle"), States{kChecked | kHidden});
+    EXPECT_EQ(setItemsHidden({L"ID_Idle"}, false), 1);
+    EXPECT_EQ(statesOf(L"ID_Idle"), States{kChecked});
+    EXPECT_EQ(setItemsHidden({L"ID_Idle"}, false), 1) << "nothing to do";
 }
 
 TEST_F(ToolItemsTest, HidingStopsAtAnIdWithoutItems) {
@@ -129,6 +198,30 @@ TEST_F(ToolItemsTest, AToolThatIsNotInTheFlyoutLeavesItAlone) {
     const VxString before = currentTool(L"TPL_Inner");
     EXPECT_EQ(selectFlyoutTool(L"TPL_Inner", L"ID_A1"), 1);
     EXPECT_EQ(currentTool(L"TPL_Inner"), before);
+}
+
+TEST_F(ToolItemsTest, AToolThatIsChosenHasItsFlyoutDrawnAnewOnce) {
+    show();
+    EXPECT_EQ(repaintsOf(L"TPL_Own", [] { selectFlyoutTool(L"TPL_Own", L"ID_B1"); }), 1);
+    EXPECT_EQ(repaintsOf(L"TPL_Own", [] { selectFlyoutTool(L"TPL_Own", L"ID_A1"); }), 0);
+}
+
+TEST_F(ToolItemsTest, AFlyoutWithoutToolsAnswersOne) {
+    itemData(L"MAIN", L"DrawTools", 4).flyoutId = L"Nowhere";
+    show();
+    EXPECT_EQ(selectFlyoutTool(L"TPL_Own", L"ID_B1"), 1);
+    EXPECT_EQ(item(L"TPL_Own")->GetCurrentFlyoutTool(), nullptr);
+}
+
+TEST_F(ToolItemsTest, AToolOnAllFlyoutsOfAKeyIsChosenOnEach) {
+    itemData(L"MAIN", L"DrawTools", 4).id = L"TPL_Twice";
+    itemData(L"MAIN", L"TPL_A", 2).id = L"TPL_Twice";
+    itemData(L"MAIN", L"TPL_B", 0).id = L"ID_First";
+    show();
+    ASSERT_EQ(panelSet().findToolPanelItems(L"TPL_Twice")->size(), 2U);
+    EXPECT_EQ(selectFlyoutTool(L"TPL_Twice", L"ID_First"), 1);
+    for (std::size_t n = 0; n < 2; ++n)
+        EXPECT_EQ(item(L"TPL_Twice", n)->GetCurrentFlyoutTool()->GetID(), L"ID_First");
 }
 
 TEST_F(ToolItemsTest, AKeyWithoutItemsAnswersOne) {

@@ -2,20 +2,41 @@
 
 #include "palette/tool_items.h"
 
+#include "module/manager.h"
+#include "module/module.h"
 #include "tests/palette/palette_fixture.h"
+#include "workbench/base/text.h"
+#include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/object_states.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
 
 namespace {
 
 class ToolPanelBuilderTest : public PaletteTest {
 protected:
+    using PaletteTest::PaletteTest;
     CQrUiToolPanel& toolPanel(CVxDaPanel* panel, std::size_t n) {
         return *bench().toolkit().panels().of(panel).toolPanels.at(n);
     }
     /// Where the first item of a panel's first tool panel begins, in pixels.
     int firstItemLeft(CVxDaPanel* panel) {
         return toolPanel(panel, 0).GetToolPanelItem(0)->GetPosition().x;
+    }
+    /// Shows the dashboard with the panel of the house alone.
+    void raiseOnlyHouse() {
+        bench().menu().switchWorkspace("House");
+        load();
+        dashboardManager()->showDashboard();
+    }
+    /// The command that toggles a panel.
+    UINT commandOf(const std::string& title) {
+        for (const workbench::MenuLine& line : popup(menuOfDashboard(), L"Panels")) {
+            if (workbench::toUtf8(line.text) == title)
+                return line.command;
+        }
+        return 0;
     }
     /// The IDs in a flyout, in order.
     static std::vector<VxString> tools(const CQrUiToolPanelItem* flyout) {
@@ -41,6 +62,35 @@ TEST_F(ToolPanelBuilderTest, ItemsStandInTheirOrderWithTheirTypes) {
     EXPECT_EQ(types, (std::vector<int>{0, 3, 1, 4, 1}));
 }
 
+/// An ID of the menu data, and the ID of its item on the panel.
+struct RenamedRow {
+    const wchar_t* dataId;
+    const wchar_t* itemId;
+};
+
+class RenamedItemTest : public ToolPanelBuilderTest,
+                        public testing::WithParamInterface<RenamedRow> {};
+
+TEST_P(RenamedItemTest, HasItsOwnIdOnThePanelAndThatOfTheDataInTheIndex) {
+    itemData(L"MAIN", L"LayerTools", 4).id = GetParam().dataId;
+    show();
+    ASSERT_NE(item(GetParam().dataId), nullptr);
+    EXPECT_EQ(item(GetParam().dataId)->GetID(), GetParam().itemId);
+    EXPECT_EQ(panelSet().findToolPanelItems(L"ID_Idle"), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Ids, RenamedItemTest,
+                         testing::Values(RenamedRow{L"LineTypeControl", L"Line Type Control"},
+                                         RenamedRow{L"linetypecontrol", L"Line Type Control"},
+                                         RenamedRow{L"OPTColorControl", L"OPT Color Control"},
+                                         RenamedRow{L"optCOLORcontrol", L"OPT Color Control"},
+                                         RenamedRow{L"LineWeightControl", L"Line Weight Control"},
+                                         RenamedRow{L"LINEWEIGHTCONTROL", L"Line Weight Control"},
+                                         RenamedRow{L"PlotStyleControl", L"Plot Style Control"},
+                                         RenamedRow{L"plotstylecontrol", L"Plot Style Control"},
+                                         RenamedRow{L"LayerControl", L"LayerControl"},
+                                         RenamedRow{L"LineTypeControls", L"LineTypeControls"}));
+
 TEST_F(ToolPanelBuilderTest, TheHostsControlsGetTheirOwnIdsOnThePanel) {
     show();
     // The index goes on using the ID of the menu data.
@@ -65,6 +115,36 @@ TEST_F(ToolPanelBuilderTest, AControlOfAnotherModuleStandsOnThePanelAndGetsBroad
     show();
     ASSERT_NE(item(L"Foreign"), nullptr);
     EXPECT_EQ(panelSet().controlWindows().at(1), item(L"Foreign")->GetControl());
+    EXPECT_EQ(CWnd::FromHandle(item(L"Foreign")->GetControl())->GetParent(),
+              &toolPanel(panel(L"MAIN", L"Draw"), 1));
+}
+
+TEST_F(ToolPanelBuilderTest, AnOwnControlStandsOnThePanelAndGetsBroadcasts) {
+    show();
+    ASSERT_NE(item(L"LINETYPEcontrol"), nullptr);
+    const HWND control = item(L"LINETYPEcontrol")->GetControl();
+    EXPECT_EQ(panelSet().controlWindows(),
+              (std::vector<HWND>{control, item(L"Foreign")->GetControl()}));
+    EXPECT_EQ(CWnd::FromHandle(control)->GetParent(), &toolPanel(panel(L"MAIN", L"Draw"), 1));
+}
+
+TEST_F(ToolPanelBuilderTest, ToolPanelsAndTheirControlsBeginInThePanelSetsClientArea) {
+    load();
+    std::vector<CRect> rects;
+    CRect client;
+    const auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        if (record.field("name") != workbench::Value("CQrUiProgSliderCtrl::Create"))
+            return;
+        client = panelSet().GetClientRect();
+        for (const HWND window : bench().windows().descendants(panelSet().m_hWnd)) {
+            const workbench::Window& found = *bench().windows().find(window);
+            if (found.className == "CQrUiToolPanel" && found.rect == client)
+                rects.push_back(found.rect);
+        }
+    });
+    dashboardManager()->showDashboard();
+    ASSERT_NE(client, CRect());
+    EXPECT_GE(rects.size(), 2U) << "that of the control and the one that it stands on";
 }
 
 TEST_F(ToolPanelBuilderTest, AModuleWithoutTheExportMakesNoControl) {
@@ -83,6 +163,68 @@ TEST_F(ToolPanelBuilderTest, FlyoutsAreBuiltToAnyDepth) {
     show();
     EXPECT_EQ(tools(item(L"TPL_A")), (Ids{L"ID_A1", L"ID_A2", L"TPL_Inner", L"ID_A3"}));
     EXPECT_EQ(tools(item(L"TPL_Inner")), Ids{L"ID_B1"});
+}
+
+TEST_F(ToolPanelBuilderTest, OneFlyoutTwiceOnALevelIsBuiltTwice) {
+    // No flyout leads back to itself here: the second is not inside the first.
+    VxToolPanelItemData& again = itemData(L"MAIN", L"TPL_A", 3);
+    again.id = L"TPL_Again";
+    again.type = 1;
+    again.flyoutId = L"TPL_B";
+    show();
+    EXPECT_EQ(tools(item(L"TPL_A")), (Ids{L"ID_A1", L"ID_A2", L"TPL_Inner", L"TPL_Again"}));
+    EXPECT_EQ(tools(item(L"TPL_Inner")), Ids{L"ID_B1"});
+    EXPECT_EQ(tools(item(L"TPL_Again")), Ids{L"ID_B1"});
+}
+
+TEST_F(ToolPanelBuilderTest, AnInnerFlyoutWithoutDataHasNoToolsAndTheLevelGoesOn) {
+    itemData(L"MAIN", L"TPL_A", 2).flyoutId = L"Nowhere";
+    show();
+    EXPECT_EQ(tools(item(L"TPL_A")), (Ids{L"ID_A1", L"ID_A2", L"TPL_Inner", L"ID_A3"}));
+    EXPECT_EQ(tools(item(L"TPL_Inner")), Ids{});
+}
+
+TEST_F(ToolPanelBuilderTest, AHoleInTheItemsIsPassedOver) {
+    load();
+    for (const wchar_t* toolPanel : {L"DrawTools", L"TPL_A"}) {
+        auto& items = const_cast<VxToolPanelData&>(*vxedGetToolPanelData(L"MAIN", toolPanel));
+        items.insert(items.begin(), nullptr);
+    }
+    showLoaded();
+    EXPECT_EQ(toolPanel(panel(L"MAIN", L"Draw"), 0).GetToolPanelItemCount(), 5);
+    EXPECT_EQ(tools(item(L"TPL_A")), (Ids{L"ID_A1", L"ID_A2", L"TPL_Inner", L"ID_A3"}));
+}
+
+/// Four levels of flyouts, of another group than the first.
+const char* const kDeepMenu = R"({
+  "menuGroups": [{"name": "OTHER", "resourceModule": "HouseTools.xmx"}],
+  "panels": [{"menuGroup": "OTHER", "id": "P", "title": "P", "toolPanels": ["T"]}],
+  "toolPanels": [
+    {"menuGroup": "OTHER", "id": "T", "items": [
+      {"type": "flyout", "id": "Level1", "flyout": "L1"}]},
+    {"menuGroup": "OTHER", "id": "L1", "items": [
+      {"type": "flyout", "id": "Level2", "flyout": "L2"}]},
+    {"menuGroup": "OTHER", "id": "L2", "items": [
+      {"type": "flyout", "id": "Level3", "flyout": "L3"}]},
+    {"menuGroup": "OTHER", "id": "L3", "items": [
+      {"type": "flyout", "id": "Level4", "flyout": "L4"}, {"type": "button", "id": "Behind"}]},
+    {"menuGroup": "OTHER", "id": "L4", "items": [
+      {"type": "button", "id": "Deepest", "image": "RCDATA_TOOL_HT_WALL"}]}]
+})";
+
+class DeepFlyoutTest : public ToolPanelBuilderTest {
+protected:
+    DeepFlyoutTest() : ToolPanelBuilderTest(kDeepMenu) {}
+};
+
+TEST_F(DeepFlyoutTest, IsBuiltToItsEndWithThePicturesOfItsGroup) {
+    show();
+    EXPECT_EQ(tools(item(L"Level1")), Ids{L"Level2"});
+    EXPECT_EQ(tools(item(L"Level2")), Ids{L"Level3"});
+    EXPECT_EQ(tools(item(L"Level3")), (Ids{L"Level4", L"Behind"}));
+    EXPECT_EQ(tools(item(L"Level4")), Ids{L"Deepest"});
+    EXPECT_EQ(bench().toolkit().pictures().source(item(L"Deepest")->m_record->smallImage),
+              "RCDATA_TOOL_HT_WALL");
 }
 
 TEST_F(ToolPanelBuilderTest, OnlyToolsOfAFlyoutAreMarkedInTheMenuData) {
@@ -158,6 +300,18 @@ TEST_F(ToolPanelBuilderTest, ToolPanelsHaveWindowIdsOfTheirOwn) {
     const int first = toolPanel(panel(L"MAIN", L"Layers"), 0).GetDlgCtrlID();
     EXPECT_EQ(toolPanel(panel(L"MAIN", L"Draw"), 0).GetDlgCtrlID(), first + 1);
     EXPECT_EQ(toolPanel(panel(L"MAIN", L"Draw"), 1).GetDlgCtrlID(), first + 2);
+}
+
+TEST_F(ToolPanelBuilderTest, ToolPanelsAreVisibleChildrenWithTheIndentWhereThePanelHasAnImage) {
+    raiseOnlyHouse();
+    const int house = toolPanel(panel(L"OTHER", L"Draw"), 0).GetDlgCtrlID();
+    EXPECT_EQ(takeLines({"CQrUiToolPanel::Create"}),
+              std::vector<std::string>{"CQrUiToolPanel::Create(1342177280, object, " +
+                                       std::to_string(house) + ", 2)"});
+    panelSet().togglePanel(commandOf("Layers"));
+    EXPECT_EQ(takeLines({"CQrUiToolPanel::Create"}),
+              std::vector<std::string>{"CQrUiToolPanel::Create(1342177280, object, " +
+                                       std::to_string(house + 1) + ", 0)"});
 }
 
 }  // namespace

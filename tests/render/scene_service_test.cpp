@@ -1,10 +1,10 @@
 #include "render/scene_service.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
 #include "workbench/loader/module_loader.h"
 
 #include <hostapi/vxdb18.h>
@@ -14,11 +14,18 @@ namespace {
 constexpr Zorq::ErrorStatus kNoService = 3;
 constexpr Zorq::ErrorStatus kNoActiveSun = 600;
 
+using Lines = std::vector<std::string>;
+
 class SceneServiceTest : public PaletteTest {
 protected:
     void TearDown() override {
         bench().modules().unloadAll();
         PaletteTest::TearDown();
+    }
+    /// The host calls on the road to the service since the journal was forgotten.
+    Lines takeSteps() {
+        return takeLines(
+            {"vxrxServiceIsRegistered", "vxrxLoadModule", "VxRxDynamicLinker::getSymbolAddress"});
     }
     workbench::drawing::Database& data() { return bench().editor().documents().current()->data(); }
 
@@ -30,6 +37,26 @@ TEST_F(SceneServiceTest, ServiceIsLoadedAtItsFirstUse) {
     EXPECT_EQ(getActiveSun(m_sun, true), Zorq::eOk);
     EXPECT_TRUE(vxrxServiceIsRegistered(L"SceneUI_Service"));
     EXPECT_EQ(m_sun, workbench::toHostId(workbench::drawing::activeSun(data())));
+}
+
+TEST_F(SceneServiceTest, ServiceIsLoadedWithoutAWordAndAsACommandAndAskedForAgain) {
+    forget();
+    getActiveSun(m_sun, true);
+    EXPECT_EQ(takeSteps(), (Lines{"vxrxServiceIsRegistered(\"SceneUI_Service\")",
+                                  "vxrxLoadModule(\"VxSceneUI.qlx\", false, true)",
+                                  "vxrxServiceIsRegistered(\"SceneUI_Service\")",
+                                  "VxRxDynamicLinker::getSymbolAddress(\"SceneUI_Service\", "
+                                  "\"getActiveSun\")"}));
+}
+
+TEST_F(SceneServiceTest, ServiceThatIsThereIsNotLoaded) {
+    ASSERT_TRUE(vxrxLoadModule(L"VxSceneUI.qlx", false, true));
+    forget();
+    EXPECT_EQ(getActiveSun(m_sun, true), Zorq::eOk);
+    EXPECT_EQ(takeSteps(), (Lines{"vxrxServiceIsRegistered(\"SceneUI_Service\")",
+                                  "vxrxServiceIsRegistered(\"SceneUI_Service\")",
+                                  "VxRxDynamicLinker::getSymbolAddress(\"SceneUI_Service\", "
+                                  "\"getActiveSun\")"}));
 }
 
 TEST_F(SceneServiceTest, EntryPointIsLookedUpAtEachUseAndTheModuleLoadedOnce) {
@@ -55,9 +82,12 @@ TEST_F(SceneServiceTest, MissingSunIsTheServicesStatus) {
 
 TEST_F(SceneServiceTest, MissingModuleIsTheFailureValueWithoutABox) {
     bench().faults().hide("VxSceneUI.qlx");
+    forget();
     EXPECT_EQ(getActiveSun(m_sun, true), kNoService);
     EXPECT_TRUE(m_sun.isNull());
-    EXPECT_EQ(callCount("AfxMessageBox"), 0);
+    EXPECT_EQ(takeLines(), (Lines{"vxrxServiceIsRegistered(\"SceneUI_Service\")",
+                                  "vxrxLoadModule(\"VxSceneUI.qlx\", false, true)",
+                                  "vxrxServiceIsRegistered(\"SceneUI_Service\")"}));
 }
 
 TEST_F(SceneServiceTest, MissingEntryPointIsTheFailureValue) {

@@ -1,7 +1,8 @@
 #include "tests/support/bench.h"
 
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
+#include "workbench/base/turn.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/loader/module_loader.h"
@@ -9,6 +10,8 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
+
+#include <unistd.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -29,8 +32,10 @@ class Bench::File {
 public:
     explicit File(const std::string& text) {
         std::string name = (std::filesystem::temp_directory_path() / "vxtest-XXXXXX").string();
-        if (mkstemp(name.data()) < 0)
+        const int file = mkstemp(name.data());
+        if (file < 0)
             throw std::runtime_error("no temporary file");
+        close(file);
         m_path = name;
         std::ofstream(m_path) << text;
     }
@@ -119,7 +124,11 @@ void* Bench::exportedSymbol(const char* name) {
 }
 
 int Bench::notify(int code) {
-    const int answer = exported<VxDaNotifyDashboardFn>("VxDaNotifyDashboard")(code);
+    int answer = 0;
+    {
+        const workbench::Turn turn;
+        answer = exported<VxDaNotifyDashboardFn>("VxDaNotifyDashboard")(code);
+    }
     settle();
     return answer;
 }
@@ -219,12 +228,12 @@ CQrUiPaletteSet* Bench::paletteSet() {
 }
 
 CQrUiToolPanelItem* Bench::item(const std::wstring& id, std::size_t number) {
-    const auto items = workbench::findItems(id);
+    const auto items = workbench::findItems(bench().windows(), id);
     return number <= items.size() ? items[number - 1] : nullptr;
 }
 
 CQrUiPanel* Bench::panel(const std::wstring& id, std::size_t number) {
-    const auto panels = workbench::findPanels(id);
+    const auto panels = workbench::findPanels(bench().windows(), id);
     return number <= panels.size() ? panels[number - 1] : nullptr;
 }
 
@@ -238,7 +247,7 @@ HWND Bench::part(HWND control, const std::string& part) {
 
 std::vector<std::wstring> Bench::panelsOnScreen() {
     std::vector<std::wstring> ids;
-    for (const CQrUiPanel* panel : workbench::allPanels()) {
+    for (const CQrUiPanel* panel : workbench::allPanels(bench().windows())) {
         if (bench().windows().isOnScreen(panel->m_hWnd))
             ids.push_back(panel->GetID());
     }
@@ -247,7 +256,7 @@ std::vector<std::wstring> Bench::panelsOnScreen() {
 
 void Bench::click(CQrUiToolPanelItem* item) {
     ASSERT_NE(item, nullptr);
-    workbench::gestures::clickItem(*item);
+    workbench::gestures::clickItem(bench().toolkit(), *item);
     settle();
 }
 

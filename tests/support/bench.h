@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/qrui18.h>
 #include <hostapi/vxdashboard.h>

@@ -35,33 +35,33 @@ void ControlBench::rebuildControl() {
 }
 
 void ControlBench::drag(const std::vector<int>& positions) {
-    gestures::dragSlider(slider(), positions);
+    gestures::dragSlider(bench().toolkit(), slider(), positions);
     settle();
 }
 
 void ControlBench::release() {
-    gestures::releaseSlider(slider());
+    gestures::releaseSlider(bench().toolkit(), slider());
     settle();
 }
 
 void ControlBench::clickIcon() {
-    gestures::clickIcon(m_control);
+    gestures::clickIcon(bench().toolkit(), m_control);
     settle();
 }
 
 void ControlBench::focusField(const std::string& name) {
-    ASSERT_TRUE(gestures::focusField(field(name)));
+    ASSERT_TRUE(gestures::focusField(bench().toolkit(), field(name)));
     settle();
 }
 
 void ControlBench::put(const std::wstring& text, const std::string& name) {
     focusField(name);
-    gestures::replaceText(text);
+    gestures::replaceText(bench().toolkit(), text);
     settle();
 }
 
 void ControlBench::press(const std::string& key) {
-    gestures::pressKey(key);
+    gestures::pressKey(bench().toolkit(), key);
     settle();
 }
 
@@ -71,7 +71,7 @@ void ControlBench::enter(const std::wstring& text, const std::string& name) {
 }
 
 void ControlBench::leave() {
-    gestures::blur();
+    gestures::blur(bench().toolkit());
     settle();
 }
 

@@ -15,7 +15,7 @@ struct ModeCase {
 class MaterialModeTest : public support::Bench {
 protected:
     void SetUp() override { showDashboard(); }
-    std::wstring tool() { return workbench::viewOf(*item(L"TPL_0023")).tool; }
+    std::wstring tool() { return workbench::viewOf(bench().toolkit(), *item(L"TPL_0023")).tool; }
     /// How often the mode was read since the last look at the journal.
     int reads() {
         int count = 0;

@@ -11,7 +11,9 @@ namespace {
 
 class StyleLockTest : public support::Bench {
 protected:
-    bool isDisabled(const wchar_t* id) { return workbench::viewOf(*item(id)).disabled; }
+    bool isDisabled(const wchar_t* id) {
+        return workbench::viewOf(bench().toolkit(), *item(id)).disabled;
+    }
     void rebuild() {
         ASSERT_EQ(notify(kDashboardUnload), 1);
         ASSERT_EQ(notify(kDashboardReload), 1);

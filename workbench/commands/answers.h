@@ -1,7 +1,7 @@
 #pragma once
 
 #include "workbench/base/value.h"
-#include "workbench/drawing/geometry.h"
+#include "workbench/drawing/database/geometry.h"
 
 #include <optional>
 #include <string>

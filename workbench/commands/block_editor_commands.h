@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/commands/command_registry.h"
+#include "workbench/editor/command_registry.h"
 
 namespace workbench {
 

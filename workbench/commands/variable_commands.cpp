@@ -3,7 +3,7 @@
 #include "workbench/base/text.h"
 #include "workbench/commands/answers.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/variables/system_variables.h"
+#include "workbench/editor/system_variables.h"
 
 #include <optional>
 
@@ -54,7 +54,7 @@ CommandState SetVariableCommand::feed(const CommandScope& scope, std::wstring_vi
 CommandState SetVariableCommand::choose(const CommandScope& scope, std::wstring_view name) {
     if (name.empty())
         return CommandState::Ended;
-    m_variable = SystemVariables::find(name);
+    m_variable = findVariable(name);
     return m_variable == nullptr ? CommandState::Waiting : askForValue(scope);
 }
 
@@ -78,7 +78,7 @@ bool SetVariableCommand::takesBlanks() const {
 }
 
 std::shared_ptr<const CommandDefinition> defineVariableCommand(std::wstring_view name) {
-    const VariableDefinition* variable = SystemVariables::find(name);
+    const VariableDefinition* variable = findVariable(name);
     if (variable == nullptr)
         return nullptr;
     return std::make_shared<const CommandDefinition>(define(kSetVariable, variable));
@@ -87,7 +87,8 @@ std::shared_ptr<const CommandDefinition> defineVariableCommand(std::wstring_view
 void addVariableCommands(CommandRegistry& registry) {
     registry.add(define(kSetVariable, nullptr));
     for (const wchar_t* name : kNamedAfterVariable)
-        registry.add(define(name, SystemVariables::find(name)));
+        registry.add(define(name, findVariable(name)));
+    registry.setFallback(defineVariableCommand);
 }
 
 }  // namespace workbench

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "workbench/commands/command.h"
-#include "workbench/commands/command_registry.h"
+#include "workbench/editor/command.h"
+#include "workbench/editor/command_registry.h"
 #include "workbench/editor/variables/variable_definition.h"
 
 #include <memory>
@@ -35,6 +35,7 @@ private:
 /// variable of the name.
 std::shared_ptr<const CommandDefinition> defineVariableCommand(std::wstring_view name);
 
+/// Adds SETVAR, the commands that bear a variable's name, and SETVAR for any other variable's name.
 void addVariableCommands(CommandRegistry& registry);
 
 }  // namespace workbench

@@ -4,13 +4,12 @@
 #include "workbench/commands/answers.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/core/answers.h"
-#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/preset_views.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/editor.h"
-#include "workbench/navigation/preset_views.h"
 
 #include <algorithm>
 #include <iterator>
@@ -21,6 +20,7 @@ namespace {
 
 using drawing::Database;
 using drawing::ObjectId;
+using drawing::PresetView;
 using drawing::RecordKind;
 using drawing::View;
 using drawing::Viewport;
@@ -160,7 +160,7 @@ public:
 
     CommandState start(const CommandScope& scope) override {
         scope.editor.journal().add("dialog", {{"name", m_dialog}});
-        const std::optional<Value> answer = Workbench::current().answers().take("dialog");
+        const std::optional<Value> answer = scope.editor.answers().take("dialog");
         const Value* const name = answer ? answer->member("name") : nullptr;
         if (name == nullptr || !name->isString())
             return CommandState::Cancelled;

@@ -1,8 +1,7 @@
 #include "workbench/core/host_call.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/journal.h"
-#include "workbench/core/workbench.h"
+#include "workbench/core/call_desk.h"
 
 namespace workbench {
 
@@ -31,8 +30,8 @@ Value CallValue::toValue() const {
 }
 
 HostCall::HostCall(const char* name, std::initializer_list<CallValue> arguments)
-    : m_fault(Workbench::current().faults().take(name)) {
-    Journal& journal = Workbench::current().journal();
+    : m_fault(CallDesk::current().faults().take(name)) {
+    Journal& journal = CallDesk::current().journal();
     if (!journal.isRecording())
         return;
     Value::List shown;
@@ -43,7 +42,7 @@ HostCall::HostCall(const char* name, std::initializer_list<CallValue> arguments)
 }
 
 void HostCall::noteResult(const CallValue& result) {
-    Workbench::current().journal().complete(m_record, "result", result.toValue());
+    CallDesk::current().journal().complete(m_record, "result", result.toValue());
 }
 
 }  // namespace workbench

@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

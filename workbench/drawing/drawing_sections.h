@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "workbench/drawing/record_kind.h"
+#include "workbench/drawing/database/record_kind.h"
 
 namespace workbench::drawing {
 

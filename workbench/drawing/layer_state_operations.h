@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

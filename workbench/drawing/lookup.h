@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

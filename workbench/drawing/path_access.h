@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

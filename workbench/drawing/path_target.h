@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

@@ -1,6 +1,6 @@
 #include "workbench/drawing/record_factory.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/drawing/records/background.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/entity.h"

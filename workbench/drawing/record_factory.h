@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "workbench/drawing/db_object.h"
+#include "workbench/drawing/database/db_object.h"
 
 namespace workbench::drawing {
 

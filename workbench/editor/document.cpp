@@ -1,21 +1,20 @@
 #include "workbench/editor/document.h"
 
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
 #include "workbench/core/host_call.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/variables/system_variables.h"
 
 namespace workbench {
 
 namespace {
 
 /// The variables that a drawing's file carries; those that don't fit keep their initial value.
-Document::VariableValues readHeader(const drawing::Drawing& drawing) {
-    Document::VariableValues values;
+VariableValues readHeader(const drawing::Drawing& drawing) {
+    VariableValues values;
     for (const auto& [name, value] : drawing.variables) {
-        const VariableDefinition* variable = SystemVariables::find(toWide(name));
+        const VariableDefinition* variable = findVariable(toWide(name));
         if (variable == nullptr || variable->home != VariableHome::Drawing)
             continue;
         const std::optional<Value> fitted = fitToType(variable->type, value);
@@ -30,7 +29,7 @@ Document::VariableValues readHeader(const drawing::Drawing& drawing) {
 Document::Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::Drawing> drawing)
     : m_name(std::move(name)),
       m_drawing(std::move(drawing)),
-      m_hostDatabase(std::make_unique<DatabaseAdapter>(*this)),
+      m_hostDatabase(std::make_unique<DatabaseAdapter>(m_drawing->db, m_variables, m_openObjects)),
       m_variables(readHeader(*m_drawing)),
       m_viewHistory(std::make_unique<ViewHistory>(m_drawing->db,
                                                   [this, &editor](drawing::ObjectId viewport) {
@@ -39,7 +38,7 @@ Document::Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::D
                                                               drawing::activeViewport(data()))
                                                           editor.viewChanged();
                                                   })),
-      m_openObjects(std::make_unique<OpenObjects>(m_drawing->db)),
+      m_openObjects(m_drawing->db),
       m_processor(std::make_unique<CommandProcessor>(editor, *this)) {}
 
 Document::~Document() = default;

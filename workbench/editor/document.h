@@ -1,21 +1,22 @@
 #pragma once
 
+#include "workbench/adapters/database_adapter.h"
+#include "workbench/adapters/open_objects.h"
 #include "workbench/drawing/drawing.h"
 #include "workbench/editor/document_locks.h"
 #include "workbench/editor/input_manager.h"
-#include "workbench/editor/object_adapters.h"
 #include "workbench/editor/variables/variable_definition.h"
 #include "workbench/editor/view_history.h"
 
 #include <hostapi/zorq/documents.h>
 
-#include <map>
 #include <memory>
 #include <string>
 
 namespace workbench {
 
 class CommandProcessor;
+class Editor;
 
 /// An open document: a drawing with what the editor keeps for it.
 class Document final : public VxApDocument {
@@ -41,11 +42,11 @@ public:
     DocumentLocks& locks() { return m_locks; }
     const DocumentLocks& locks() const { return m_locks; }
     ViewHistory& viewHistory() { return *m_viewHistory; }
-    OpenObjects& openObjects() { return *m_openObjects; }
+    OpenObjects& openObjects() { return m_openObjects; }
 
-    using VariableValues = std::map<const VariableDefinition*, Value>;
     /// The values of the variables that live with the document, as far as they were written.
     VariableValues& variables() { return m_variables; }
+    const VariableValues& variables() const { return m_variables; }
 
 private:
     std::wstring m_name;
@@ -55,7 +56,7 @@ private:
     InputManager m_input;
     DocumentLocks m_locks;
     std::unique_ptr<ViewHistory> m_viewHistory;
-    std::unique_ptr<OpenObjects> m_openObjects;
+    OpenObjects m_openObjects;
     std::unique_ptr<CommandProcessor> m_processor;
 };
 

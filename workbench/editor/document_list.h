@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/reactor_list.h"
+#include "workbench/drawing/database/reactor_list.h"
 #include "workbench/editor/document.h"
 
 #include <hostapi/zorq/documents.h>
@@ -27,15 +27,19 @@ public:
     ~DocumentList() override;
 
     /// Makes a document with a new drawing and activates it. The name must not be that of an open
-    /// document; throws std::invalid_argument otherwise.
+    /// document; throws std::invalid_argument otherwise. A reactor may close it before the return:
+    /// outside of a turn the result is then gone.
     Document& create(std::wstring name);
     /// Opens a drawing file and activates its document, which is named after the file. A file that
-    /// is open already is only activated. Throws InputError for a file that can't be taken.
+    /// is open already is only activated. Throws InputError for a file that can't be taken. The
+    /// result may be gone as that of `create`.
     Document& open(const std::filesystem::path& file);
     /// Brings a document to the front.
     void activate(Document& document);
     /// Closes a document; what was typed or queued for it is dropped. If it was the active one, the
-    /// one that was made last becomes active.
+    /// one that was made last becomes active. Nothing happens if it is closed or being closed.
+    ///
+    /// Code that works on the document may close it: the object stays until the turn is over.
     void close(Document& document);
 
     /// The document of a name, without regard to case; null for none.
@@ -70,6 +74,10 @@ private:
     friend class CurrentDocument;
 
     Document& adopt(std::unique_ptr<Document> document);
+    bool isOpen(const Document& document) const;
+    bool isClosing(const Document& document) const;
+    std::unique_ptr<Document> take(Document& document);
+    void tellDestroyed(const std::wstring& name);
     /// Makes a document current without activating it, with the event.
     void makeCurrent(Document* document);
 
@@ -79,7 +87,8 @@ private:
     Document* m_current = nullptr;    // null: none is open
     Document* m_active = nullptr;     // null: none is open
     std::vector<Document*> m_scopes;  // of `CurrentDocument`, the innermost last; null: it went
-    int m_going = 0;                  // documents whose end is being told
+    std::vector<const Document*> m_closing;  // still open, but on their way out
+    int m_going = 0;                         // documents whose end is being told
     std::uint32_t m_lastSerial = 0;
 };
 

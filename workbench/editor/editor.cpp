@@ -1,15 +1,15 @@
 #include "workbench/editor/editor.h"
 
-#include "workbench/commands/command_processor.h"
-#include "workbench/commands/host_commands.h"
+#include "workbench/editor/command_processor.h"
 
 namespace workbench {
 
-Editor::Editor(Journal& journal, ProfileValues& profileValues, SystemRegistry& registry)
+Editor::Editor(Journal& journal, Answers& answers, ProfileValues& profileValues,
+               SystemRegistry& registry)
     : m_journal(journal),
+      m_answers(answers),
       m_profileValues(profileValues),
       m_objects(*this, registry) {
-    addHostCommands(m_commands);
     // From now on a profile that brings other values is a change.
     m_variables.announceOutsideChanges();
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "workbench/commands/command_registry.h"
+#include "workbench/core/answers.h"
 #include "workbench/core/journal.h"
+#include "workbench/editor/command_registry.h"
 #include "workbench/editor/document_list.h"
 #include "workbench/editor/editor_objects.h"
 #include "workbench/editor/editor_reactors.h"
 #include "workbench/editor/profile_values.h"
-#include "workbench/editor/variables/system_variables.h"
+#include "workbench/editor/system_variables.h"
 
 #include <string_view>
 
@@ -17,7 +18,8 @@ namespace workbench {
 class Editor {
 public:
     /// All of them must outlive the editor, whose objects are in the registry meanwhile.
-    Editor(Journal& journal, ProfileValues& profileValues, SystemRegistry& registry);
+    Editor(Journal& journal, Answers& answers, ProfileValues& profileValues,
+           SystemRegistry& registry);
     Editor(const Editor&) = delete;
     Editor& operator=(const Editor&) = delete;
 
@@ -27,6 +29,7 @@ public:
     EditorReactors& reactors() { return m_reactors; }
     EditorObjects& objects() { return m_objects; }
     Journal& journal() { return m_journal; }
+    Answers& answers() { return m_answers; }
     ProfileValues& profileValues() { return m_profileValues; }
 
     // The session, as scripts and the desktop drive it.
@@ -56,6 +59,7 @@ private:
     bool runNow(std::wstring_view text);
 
     Journal& m_journal;
+    Answers& m_answers;
     ProfileValues& m_profileValues;
     EditorReactors m_reactors;
     CommandRegistry m_commands;

@@ -1,8 +1,8 @@
 #include "workbench/editor/editor_objects.h"
 
-#include "workbench/commands/module_command.h"
 #include "workbench/core/host_call.h"
 #include "workbench/editor/editor.h"
+#include "workbench/editor/module_command.h"
 #include "workbench/editor/statuses.h"
 
 namespace workbench {

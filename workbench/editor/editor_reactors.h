@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/reactor_list.h"
+#include "workbench/drawing/database/reactor_list.h"
 
 #include <hostapi/zorq/editor.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "workbench/drawing/database.h"
-#include "workbench/drawing/reactors.h"
+#include "workbench/drawing/database/database.h"
+#include "workbench/drawing/database/reactors.h"
 #include "workbench/drawing/records/viewport.h"
 
 #include <functional>

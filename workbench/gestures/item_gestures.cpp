@@ -1,7 +1,6 @@
 #include "workbench/gestures/item_gestures.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/flyout_menu.h"
@@ -32,67 +31,69 @@ CQrUiToolPanelItem& outermostOf(CQrUiToolPanelItem& item) {
 }
 
 /// Raises `GestureError` unless the item can be seen, and returns the window that it stands on.
-HWND requirePlace(const CQrUiToolPanelItem& item) {
+HWND requirePlace(Toolkit& toolkit, const CQrUiToolPanelItem& item) {
     const CQrUiToolPanel* const panel = item.m_record->toolPanel;
-    requireOnScreen(panel == nullptr ? nullptr : panel->m_hWnd);
+    requireOnScreen(toolkit, panel == nullptr ? nullptr : panel->m_hWnd);
     if (item.m_record->rect.Width() <= 0)
         throw GestureError("item \"" + toUtf8(knownId(item)) + "\" has no place on its panel");
     return panel->m_hWnd;
 }
 
-bool chooseFromFlyout(CQrUiToolPanelItem& flyout, const CQrUiToolPanelItem& tool) {
-    const std::vector<CQrUiToolPanelItem*> tools = offeredTools(flyout);
+bool chooseFromFlyout(Toolkit& toolkit, CQrUiToolPanelItem& flyout,
+                      const CQrUiToolPanelItem& tool) {
+    const std::vector<CQrUiToolPanelItem*> tools = offeredTools(toolkit, flyout);
     const auto found = std::find(tools.begin(), tools.end(), &tool);
     if (found == tools.end())
         return false;
-    const HWND panel = requirePlace(flyout);
+    const HWND panel = requirePlace(toolkit, flyout);
     const auto place = static_cast<UINT>(found - tools.begin()) + 1;
-    Workbench::current().toolkit().menus().answerNext(
+    toolkit.menus().answerNext(
         [place](const std::vector<MenuLine>&) { return std::optional<UINT>(place); });
     const CRect& rect = flyout.m_record->rect;
     const bool clicked =
-        clickAt(panel, {rect.right - kFlyoutArrowWidth / 2, (rect.top + rect.bottom) / 2});
-    Workbench::current().toolkit().menus().answerNext(nullptr);
+        clickAt(toolkit, panel, {rect.right - kFlyoutArrowWidth / 2, (rect.top + rect.bottom) / 2});
+    toolkit.menus().answerNext(nullptr);
     return clicked;
 }
 
 }  // namespace
 
-bool clickItem(CQrUiToolPanelItem& item) {
+bool clickItem(Toolkit& toolkit, CQrUiToolPanelItem& item) {
     CQrUiToolPanelItem& outermost = outermostOf(item);
     if (!takesClicks(item) || !takesClicks(outermost))
         return false;
     if (&outermost != &item)
-        return chooseFromFlyout(outermost, item);
-    const HWND panel = requirePlace(item);
+        return chooseFromFlyout(toolkit, outermost, item);
+    const HWND panel = requirePlace(toolkit, item);
     CRect rect = item.m_record->rect;
     if (item.GetType() == kItemFlyout)
         rect.right -= kFlyoutArrowWidth;
-    return clickAt(panel, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
+    return clickAt(toolkit, panel, {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2});
 }
 
-bool clickIcon(HWND control) {
-    requireOnScreen(control);
-    const Window& window = *Workbench::current().windows().find(control);
+bool clickIcon(Toolkit& toolkit, HWND control) {
+    requireOnScreen(toolkit, control);
+    const Window& window = *toolkit.windows().find(control);
     if (dynamic_cast<const ToolPanelWidget*>(window.widget.get()) != nullptr) {
         const auto& panel = *static_cast<const CQrUiToolPanel*>(window.object);
         for (int index = 0; index < panel.GetToolPanelItemCount(); ++index) {
             CQrUiToolPanelItem& item = *panel.GetToolPanelItem(index);
             if (item.GetType() == kItemButton)
-                return clickItem(item);
+                return clickItem(toolkit, item);
         }
     }
-    return clickAt(control, middleOf(control));
+    return clickAt(toolkit, control, middleOf(toolkit, control));
 }
 
-bool clickTitle(CQrUiPanel& panel) {
-    requireOnScreen(panel.m_hWnd);
-    return clickAt(panel.m_hWnd, {middleOf(panel.m_hWnd).x, PanelWidget::kTitleHeight / 2});
+bool clickTitle(Toolkit& toolkit, CQrUiPanel& panel) {
+    requireOnScreen(toolkit, panel.m_hWnd);
+    return clickAt(toolkit, panel.m_hWnd,
+                   {middleOf(toolkit, panel.m_hWnd).x, PanelWidget::kTitleHeight / 2});
 }
 
-bool doubleClickImage(CQrUiPanel& panel) {
-    requireOnScreen(panel.m_hWnd);
-    return doubleClickAt(panel.m_hWnd,
+bool doubleClickImage(Toolkit& toolkit, CQrUiPanel& panel) {
+    requireOnScreen(toolkit, panel.m_hWnd);
+    return doubleClickAt(toolkit, panel.m_hWnd,
                          {PanelWidget::kImageAreaWidth / 2, PanelWidget::kTitleHeight / 2});
 }
 

@@ -1,6 +1,5 @@
 #include "workbench/gestures/key_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/input_messages.h"
@@ -29,42 +28,42 @@ constexpr NamedKey kKeys[] = {
     {"delete", WM_KEYDOWN, kKeyDelete},     {"f1", WM_HELP, 0},
 };
 
-void typeCharacter(wchar_t character) {
-    Workbench::current().windows().input(nullptr, kCharMessage, static_cast<WPARAM>(character), 0);
+void typeCharacter(Toolkit& toolkit, wchar_t character) {
+    toolkit.windows().input(nullptr, kCharMessage, static_cast<WPARAM>(character), 0);
 }
 
 }  // namespace
 
-bool focusField(HWND field) {
-    requireOnScreen(field);
-    return clickAt(field, middleOf(field)) && Workbench::current().windows().focus() == field;
+bool focusField(Toolkit& toolkit, HWND field) {
+    requireOnScreen(toolkit, field);
+    return clickAt(toolkit, field, middleOf(toolkit, field)) && toolkit.windows().focus() == field;
 }
 
-void typeText(std::wstring_view text) {
+void typeText(Toolkit& toolkit, std::wstring_view text) {
     for (const wchar_t character : text)
-        typeCharacter(character);
+        typeCharacter(toolkit, character);
 }
 
-void replaceText(std::wstring_view text) {
-    typeCharacter(kCharSelectAll);
+void replaceText(Toolkit& toolkit, std::wstring_view text) {
+    typeCharacter(toolkit, kCharSelectAll);
     if (text.empty())
-        typeCharacter(kCharBackspace);
-    typeText(text);
+        typeCharacter(toolkit, kCharBackspace);
+    typeText(toolkit, text);
 }
 
-void pressKey(std::string_view name, HWND window) {
+void pressKey(Toolkit& toolkit, std::string_view name, HWND window) {
     const auto* const key =
         std::find_if(std::begin(kKeys), std::end(kKeys),
                      [name](const NamedKey& each) { return name == each.name; });
     if (key == std::end(kKeys))
         throw GestureError("there is no key \"" + std::string(name) + "\"");
-    Workbench::current().windows().input(window, key->message, key->key, 0);
+    toolkit.windows().input(window, key->message, key->key, 0);
 }
 
-void holdKey(std::string_view name, bool down) {
+void holdKey(Toolkit& toolkit, std::string_view name, bool down) {
     if (name != "shift")
         throw GestureError("there is no key \"" + std::string(name) + "\" to hold");
-    Workbench::current().windows().keys().hold(VK_SHIFT, down);
+    toolkit.windows().keys().hold(VK_SHIFT, down);
 }
 
 std::vector<std::string> keyNames() {
@@ -74,9 +73,9 @@ std::vector<std::string> keyNames() {
     return names;
 }
 
-void blur() {
-    const HWND view = Workbench::current().toolkit().frame().drawingView().m_hWnd;
-    clickAt(view, middleOf(view));
+void blur(Toolkit& toolkit) {
+    const HWND view = toolkit.frame().drawingView().m_hWnd;
+    clickAt(toolkit, view, middleOf(toolkit, view));
 }
 
 }  // namespace workbench::gestures

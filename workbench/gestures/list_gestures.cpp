@@ -1,9 +1,9 @@
 #include "workbench/gestures/list_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/combo_widget.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <string>
@@ -17,8 +17,8 @@ struct List {
     ComboWidget& combo;
 };
 
-List listOf(HWND handle) {
-    Window* const window = Workbench::current().windows().find(handle);
+List listOf(Toolkit& toolkit, HWND handle) {
+    Window* const window = toolkit.windows().find(handle);
     auto* const combo =
         window == nullptr ? nullptr : dynamic_cast<ComboWidget*>(window->widget.get());
     if (combo == nullptr)
@@ -28,24 +28,24 @@ List listOf(HWND handle) {
 
 }  // namespace
 
-bool openList(HWND combo) {
-    const List list = listOf(combo);
-    return list.combo.isOpen() || clickAt(combo, middleOf(combo));
+bool openList(Toolkit& toolkit, HWND combo) {
+    const List list = listOf(toolkit, combo);
+    return list.combo.isOpen() || clickAt(toolkit, combo, middleOf(toolkit, combo));
 }
 
-bool chooseFromList(HWND combo, int index) {
-    if (!openList(combo))
+bool chooseFromList(Toolkit& toolkit, HWND combo, int index) {
+    if (!openList(toolkit, combo))
         return false;
-    const List list = listOf(combo);
+    const List list = listOf(toolkit, combo);
     if (list.combo.choose(list.window, index))
         return true;
-    closeList(combo);
+    closeList(toolkit, combo);
     throw GestureError("the list has no entry " + std::to_string(index) + " that can be chosen");
 }
 
-bool closeList(HWND combo) {
-    const List list = listOf(combo);
-    return !list.combo.isOpen() || clickAt(combo, middleOf(combo));
+bool closeList(Toolkit& toolkit, HWND combo) {
+    const List list = listOf(toolkit, combo);
+    return !list.combo.isOpen() || clickAt(toolkit, combo, middleOf(toolkit, combo));
 }
 
 }  // namespace workbench::gestures

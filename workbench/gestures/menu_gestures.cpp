@@ -1,7 +1,6 @@
 #include "workbench/gestures/menu_gestures.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/toolkit.h"
@@ -15,9 +14,8 @@ namespace {
 
 constexpr CPoint kOnTitle{40, 6};  // on the title bar of panels and palette sets
 
-void openMenu(HWND window, PopupMenus::Chooser chooser) {
-    requireOnScreen(window);
-    Toolkit& toolkit = Workbench::current().toolkit();
+void openMenu(Toolkit& toolkit, HWND window, PopupMenus::Chooser chooser) {
+    requireOnScreen(toolkit, window);
     toolkit.menus().answerNext(std::move(chooser));
     toolkit.mouse().contextMenu(window, kOnTitle);
     if (!toolkit.menus().isAnswerWaiting())
@@ -28,18 +26,18 @@ void openMenu(HWND window, PopupMenus::Chooser chooser) {
 
 }  // namespace
 
-std::vector<MenuLine> readContextMenu(HWND window) {
+std::vector<MenuLine> readContextMenu(Toolkit& toolkit, HWND window) {
     std::vector<MenuLine> read;
-    openMenu(window, [&read](const std::vector<MenuLine>& lines) {
+    openMenu(toolkit, window, [&read](const std::vector<MenuLine>& lines) {
         read = lines;
         return std::optional<UINT>();
     });
     return read;
 }
 
-void chooseFromContextMenu(HWND window, const std::wstring& path) {
+void chooseFromContextMenu(Toolkit& toolkit, HWND window, const std::wstring& path) {
     bool found = false;
-    openMenu(window, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
+    openMenu(toolkit, window, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
         const MenuLine* const line = findMenuLine(lines, path);
         found = line != nullptr;
         if (line == nullptr || line->disabled || line->command == 0)

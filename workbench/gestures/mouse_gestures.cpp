@@ -1,6 +1,5 @@
 #include "workbench/gestures/mouse_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -9,13 +8,8 @@ namespace workbench::gestures {
 
 namespace {
 
-Mouse& mouse() {
-    return Workbench::current().toolkit().mouse();
-}
-
 /// The words by which a user knows a window.
-std::string nameOf(HWND window) {
-    const WindowSystem& windows = Workbench::current().windows();
+std::string nameOf(const WindowSystem& windows, HWND window) {
     const Window* const found = windows.find(window);
     if (found == nullptr)
         return "a window that is gone";
@@ -24,45 +18,45 @@ std::string nameOf(HWND window) {
 }
 
 /// The deepest window at a point, which is changed to its client coordinates.
-HWND target(HWND window, CPoint& point) {
-    requireOnScreen(window);
-    return mouse().windowAt(window, point);
+HWND target(Toolkit& toolkit, HWND window, CPoint& point) {
+    requireOnScreen(toolkit, window);
+    return toolkit.mouse().windowAt(window, point);
 }
 
 }  // namespace
 
-void requireOnScreen(HWND window) {
-    if (!Workbench::current().windows().isOnScreen(window))
-        throw GestureError(nameOf(window) + " is not on show");
+void requireOnScreen(Toolkit& toolkit, HWND window) {
+    if (!toolkit.windows().isOnScreen(window))
+        throw GestureError(nameOf(toolkit.windows(), window) + " is not on show");
 }
 
-CPoint middleOf(HWND window) {
-    const CRect client = Workbench::current().windows().clientRect(window);
+CPoint middleOf(Toolkit& toolkit, HWND window) {
+    const CRect client = toolkit.windows().clientRect(window);
     return {client.Width() / 2, client.Height() / 2};
 }
 
-bool clickAt(HWND window, CPoint point) {
-    const HWND deepest = target(window, point);
-    return mouse().press(deepest, point) && mouse().release(deepest, point);
+bool clickAt(Toolkit& toolkit, HWND window, CPoint point) {
+    const HWND deepest = target(toolkit, window, point);
+    return toolkit.mouse().press(deepest, point) && toolkit.mouse().release(deepest, point);
 }
 
-bool doubleClickAt(HWND window, CPoint point) {
-    const HWND deepest = target(window, point);
-    return mouse().doubleClick(deepest, point);
+bool doubleClickAt(Toolkit& toolkit, HWND window, CPoint point) {
+    const HWND deepest = target(toolkit, window, point);
+    return toolkit.mouse().doubleClick(deepest, point);
 }
 
-bool hoverAt(HWND window, CPoint point) {
-    const HWND deepest = target(window, point);
-    return mouse().move(deepest, point);
+bool hoverAt(Toolkit& toolkit, HWND window, CPoint point) {
+    const HWND deepest = target(toolkit, window, point);
+    return toolkit.mouse().move(deepest, point);
 }
 
-void leave() {
-    mouse().leave();
+void leave(Toolkit& toolkit) {
+    toolkit.mouse().leave();
 }
 
-bool turnWheel(HWND window, CPoint point, int notches) {
-    const HWND deepest = target(window, point);
-    return mouse().wheel(deepest, point, notches);
+bool turnWheel(Toolkit& toolkit, HWND window, CPoint point, int notches) {
+    const HWND deepest = target(toolkit, window, point);
+    return toolkit.mouse().wheel(deepest, point, notches);
 }
 
 }  // namespace workbench::gestures

@@ -1,6 +1,5 @@
 #include "workbench/gestures/slider_gestures.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/input_messages.h"
@@ -19,8 +18,8 @@ struct Grip {
     CPoint at(int x) const { return {x, window.rect.Height() / 2}; }
 };
 
-Grip gripOf(HWND handle) {
-    Window* const window = Workbench::current().windows().find(handle);
+Grip gripOf(Toolkit& toolkit, HWND handle) {
+    Window* const window = toolkit.windows().find(handle);
     auto* const slider =
         window == nullptr ? nullptr : dynamic_cast<SliderWidget*>(window->widget.get());
     if (slider == nullptr)
@@ -28,46 +27,42 @@ Grip gripOf(HWND handle) {
     return {*window, *slider};
 }
 
-Mouse& mouse() {
-    return Workbench::current().toolkit().mouse();
-}
-
-bool takeThumb(HWND handle) {
-    const Grip grip = gripOf(handle);
+bool takeThumb(Toolkit& toolkit, HWND handle) {
+    const Grip grip = gripOf(toolkit, handle);
     if (grip.slider.isDragging())
         return true;
     const int thumb = grip.slider.scale(grip.window).middleAt(grip.slider.position());
-    return mouse().press(handle, grip.at(thumb));
+    return toolkit.mouse().press(handle, grip.at(thumb));
 }
 
-bool moveThumb(HWND handle, int position) {
-    const Grip grip = gripOf(handle);
+bool moveThumb(Toolkit& toolkit, HWND handle, int position) {
+    const Grip grip = gripOf(toolkit, handle);
     const SliderScale scale = grip.slider.scale(grip.window);
     const int x = scale.middleAt(position);
     if (scale.positionAt(x) == position)
-        return mouse().move(handle, grip.at(x), kLeftButtonHeld);
+        return toolkit.mouse().move(handle, grip.at(x), kLeftButtonHeld);
     const int fine = grip.slider.dragX() + position - grip.slider.position();
-    return mouse().move(handle, grip.at(fine), kLeftButtonHeld | kControlHeld);
+    return toolkit.mouse().move(handle, grip.at(fine), kLeftButtonHeld | kControlHeld);
 }
 
 }  // namespace
 
-bool dragSlider(HWND slider, const std::vector<int>& positions) {
-    requireOnScreen(slider);
-    if (!takeThumb(slider))
+bool dragSlider(Toolkit& toolkit, HWND slider, const std::vector<int>& positions) {
+    requireOnScreen(toolkit, slider);
+    if (!takeThumb(toolkit, slider))
         return false;
     for (const int position : positions) {
-        if (!moveThumb(slider, position))
+        if (!moveThumb(toolkit, slider, position))
             return false;
     }
     return true;
 }
 
-bool releaseSlider(HWND slider) {
-    const Grip grip = gripOf(slider);
+bool releaseSlider(Toolkit& toolkit, HWND slider) {
+    const Grip grip = gripOf(toolkit, slider);
     if (!grip.slider.isDragging())
         return false;
-    return mouse().release(slider, grip.at(grip.slider.dragX()));
+    return toolkit.mouse().release(slider, grip.at(grip.slider.dragX()));
 }
 
 }  // namespace workbench::gestures

@@ -1,8 +1,10 @@
 #include "workbench/loader/module_loader.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace workbench {
 
@@ -20,15 +22,17 @@ private:
     ModuleLoader& m_loader;
 };
 
-ModuleLoader::ModuleLoader(const WorkbenchOptions& options, const Faults& faults)
-    : m_libraries(options.libraryDir, faults),
+ModuleLoader::ModuleLoader(std::filesystem::path folder, const Faults& faults)
+    : m_libraries(std::move(folder), faults),
       m_resources(m_libraries),
-      m_linker(*this) {
+      m_linker(*this),
+      m_self(std::make_shared<ModuleLoader*>(this)) {
     m_registry.add(L"DynamicLinker", L"VxRxDynamicLinker", m_linker);
 }
 
 ModuleLoader::~ModuleLoader() {
     unloadAll();
+    *m_self = nullptr;
 }
 
 bool ModuleLoader::loadModule(std::wstring_view fileName) {
@@ -99,6 +103,7 @@ ModuleLoader::Modules::const_iterator ModuleLoader::find(std::wstring_view fileN
 }
 
 int ModuleLoader::send(HostModule& module, VxRxMessage message) {
+    const Turn turn;
     const EntryScope running(*this, module);
     return module.send(message);
 }
@@ -108,7 +113,14 @@ void ModuleLoader::forget(const HostModule& module) {
     // A service whose module is gone would hand out the addresses of nothing.
     m_registry.dropServicesOf(library);
     std::erase_if(m_modules, [&module](const auto& known) { return known.get() == &module; });
-    m_libraries.free(library);
+    close(library);
+}
+
+void ModuleLoader::close(HINSTANCE library) {
+    Turn::putOff([self = m_self, library] {
+        if (*self != nullptr)
+            (*self)->m_libraries.free(library);
+    });
 }
 
 void ModuleLoader::unload(HostModule& module) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
 #include "workbench/loader/host_dynamic_linker.h"
 #include "workbench/loader/host_module.h"
 #include "workbench/loader/library_table.h"
@@ -9,6 +8,7 @@
 #include "workbench/loader/resource_search.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,7 +21,8 @@ namespace workbench {
 /// system registry, the resources and the environment that modules see.
 class ModuleLoader {
 public:
-    ModuleLoader(const WorkbenchOptions& options, const Faults& faults);
+    /// Modules and resource libraries are found in `folder`. The faults must outlive the loader.
+    ModuleLoader(std::filesystem::path folder, const Faults& faults);
     ModuleLoader(const ModuleLoader&) = delete;
     ModuleLoader& operator=(const ModuleLoader&) = delete;
     /// Ends as `unloadAll` does.
@@ -39,7 +40,10 @@ public:
     /// afterwards, which it also is if it was before; otherwise `failureText` tells why.
     bool loadModule(std::wstring_view fileName);
     /// Sends a module the unload message and closes its library. False, with `failureText`, if it
-    /// isn't loaded, has not let itself be unloaded, or is unloaded but stays in the process.
+    /// isn't loaded, has not let itself be unloaded, is handling a message of the loader, or is
+    /// unloaded but stays in the process.
+    ///
+    /// Inside a turn the library is closed at its end: the module may be among those that run.
     bool unloadModule(std::wstring_view fileName);
     /// Unloads all modules, the locked ones too, latest first.
     void unloadAll();
@@ -61,6 +65,7 @@ private:
     Modules::const_iterator find(std::wstring_view fileName) const;
     int send(HostModule& module, VxRxMessage message);
     void forget(const HostModule& module);
+    void close(HINSTANCE library);
     void unload(HostModule& module);
     bool fail(std::wstring_view fileName, const std::string& reason);
 
@@ -72,6 +77,7 @@ private:
     Modules m_modules;                         // in order of loading
     std::vector<const HostModule*> m_entries;  // running entry points, innermost last; not owned
     std::string m_failureText;
+    std::shared_ptr<ModuleLoader*> m_self;  // for what is put off: null inside once this ended
 };
 
 }  // namespace workbench

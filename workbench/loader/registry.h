@@ -13,7 +13,7 @@
 namespace workbench {
 
 /// The system registry: the dictionary in which the host's own objects stand by name, with the
-/// dictionaries of services and classes in it. Reached by `Workbench::current().modules()`.
+/// dictionaries of services and classes in it.
 class SystemRegistry {
 public:
     SystemRegistry();

@@ -40,8 +40,8 @@ void showGestureRoad(Workbench& workbench, const std::string& drawing, std::ostr
     }
     workbench.journal().take();
     out << "The road of one gesture: " << kControl << " is dragged to " << kFade << " and rests.\n";
-    gestures::dragSlider(slider, {kFade});
-    gestures::releaseSlider(slider);
+    gestures::dragSlider(workbench.toolkit(), slider, {kFade});
+    gestures::releaseSlider(workbench.toolkit(), slider);
     letHostRun(workbench);
     workbench.windows().advance(kRest);
     letHostRun(workbench);

@@ -12,8 +12,8 @@ MenuHost::Menu::Menu(MenuData data)
       records(catalog),
       workspaces(catalog.data()) {}
 
-MenuHost::MenuHost(const WorkbenchOptions& options, LibraryTable& libraries)
-    : m_file(options.panelFile),
+MenuHost::MenuHost(std::filesystem::path menuFile, LibraryTable& libraries)
+    : m_file(std::move(menuFile)),
       m_libraries(libraries) {
     reload();
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
 #include "workbench/loader/library_table.h"
 #include "workbench/menu/customization_dialog.h"
 #include "workbench/menu/menu_catalog.h"
@@ -22,7 +21,7 @@ namespace workbench {
 class MenuHost {
 public:
     /// Reads the menu file; an empty name stands for a host without menu data. Throws `InputError`.
-    MenuHost(const WorkbenchOptions& options, LibraryTable& libraries);
+    MenuHost(std::filesystem::path menuFile, LibraryTable& libraries);
     MenuHost(const MenuHost&) = delete;
     MenuHost& operator=(const MenuHost&) = delete;
     ~MenuHost();

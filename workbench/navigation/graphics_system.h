@@ -1,8 +1,8 @@
 #pragma once
 
-#include "workbench/drawing/object_id.h"
+#include "workbench/drawing/database/object_id.h"
+#include "workbench/drawing/database/undo_log.h"
 #include "workbench/drawing/records/view_parameters.h"
-#include "workbench/drawing/undo_log.h"
 
 #include <hostapi/zorq/views.h>
 

@@ -1,6 +1,5 @@
 #include "workbench/navigation/navigation_tool.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
@@ -30,8 +29,9 @@ const char* nameOf(AnimationState state) {
 
 }  // namespace
 
-NavigationTool::NavigationTool(Editor& editor, Journal& journal)
+NavigationTool::NavigationTool(Editor& editor, ModuleLoader& modules, Journal& journal)
     : m_editor(editor),
+      m_modules(modules),
       m_journal(journal),
       m_graphics(editor.documents()) {
     addNavigationCommands(editor.commands(), *this);
@@ -51,7 +51,7 @@ bool NavigationTool::start(int mode) {
     if (isRunning())
         return false;
     // The host's module of the tools comes with the first of them; without it the tool runs bare.
-    Workbench::current().modules().loadModule(L"VxVmTools.qlx");
+    m_modules.loadModule(L"VxVmTools.qlx");
     m_tool.emplace(mode);
     noteMode();
     return true;
@@ -110,7 +110,7 @@ void NavigationTool::setLens(double lens) {
     show(*view);
 }
 
-void NavigationTool::restorePreset(PresetView preset) {
+void NavigationTool::restorePreset(drawing::PresetView preset) {
     std::optional<drawing::ViewParameters> view = shown();
     if (!view)
         return;

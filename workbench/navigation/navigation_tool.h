@@ -1,8 +1,8 @@
 #pragma once
 
 #include "workbench/core/journal.h"
+#include "workbench/drawing/preset_views.h"
 #include "workbench/navigation/graphics_system.h"
-#include "workbench/navigation/preset_views.h"
 #include "workbench/navigation/tool.h"
 
 #include <optional>
@@ -10,6 +10,7 @@
 namespace workbench {
 
 class Editor;
+class ModuleLoader;
 
 /// How far the recording of an animation is.
 enum class AnimationState { None, Recording, Paused, Playing };
@@ -33,8 +34,8 @@ public:
     static constexpr int kPerspectiveProjection = 4316;  ///< likewise
     /// @}
 
-    /// Adds the commands that start the tool to the editor's. The editor must outlive it.
-    NavigationTool(Editor& editor, Journal& journal);
+    /// Adds the commands that start the tool to the editor's. All of them must outlive it.
+    NavigationTool(Editor& editor, ModuleLoader& modules, Journal& journal);
     NavigationTool(const NavigationTool&) = delete;
     NavigationTool& operator=(const NavigationTool&) = delete;
     ~NavigationTool();
@@ -59,7 +60,7 @@ public:
 
     /// Millimetres; nothing for a lens that isn't above 0.
     void setLens(double lens);
-    void restorePreset(PresetView preset);
+    void restorePreset(drawing::PresetView preset);
     /// Takes the parameters of a named view; nothing for another object.
     void restoreNamed(drawing::ObjectId view);
     /// Moves one end of the line of sight, at the same angle of view; nothing if it met the other.
@@ -90,6 +91,7 @@ private:
     void noteMode();
 
     Editor& m_editor;
+    ModuleLoader& m_modules;
     Journal& m_journal;
     GraphicsSystem m_graphics;
     std::optional<CTool> m_tool;  // nothing: none runs

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "workbench/core/journal.h"
-#include "workbench/drawing/reactor_list.h"
+#include "workbench/drawing/database/reactor_list.h"
 #include "workbench/editor/profile_values.h"
 #include "workbench/profiles/profile.h"
 

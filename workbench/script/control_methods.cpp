@@ -55,14 +55,14 @@ int drag(Session& session, Arguments& arguments) {
     if (arguments.count() == 0)
         throw ScriptError("say where to drag the thumb to");
     const HWND slider = partOf(session, arguments, kSlider);
-    const bool taken = gestures::dragSlider(slider, arguments.int32sFrom(1));
+    const bool taken = gestures::dragSlider(session.toolkit(), slider, arguments.int32sFrom(1));
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }
 
 int release(Session& session, Arguments& arguments) {
     const HWND slider = partOf(session, arguments, kSlider);
-    const bool held = gestures::releaseSlider(slider);
+    const bool held = gestures::releaseSlider(session.toolkit(), slider);
     session.settle();
     return pushTruth(arguments.lua(), held);
 }
@@ -99,9 +99,10 @@ int click(Session& session, Arguments& arguments) {
     const HWND control = controlOf(session, arguments);
     bool taken = false;
     if (arguments.count() == 0) {
-        taken = gestures::clickIcon(control);
+        taken = gestures::clickIcon(session.toolkit(), control);
     } else {
-        taken = gestures::clickAt(control, {arguments.int32(1), arguments.int32(2)});
+        taken =
+            gestures::clickAt(session.toolkit(), control, {arguments.int32(1), arguments.int32(2)});
     }
     session.settle();
     return pushTruth(arguments.lua(), taken);
@@ -109,7 +110,7 @@ int click(Session& session, Arguments& arguments) {
 
 int focus(Session& session, Arguments& arguments) {
     const HWND field = fieldOf(session, arguments, 1);
-    const bool taken = gestures::focusField(field);
+    const bool taken = gestures::focusField(session.toolkit(), field);
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }
@@ -122,11 +123,11 @@ int text(Session& session, Arguments& arguments) {
 
 void putText(Session& session, const Arguments& arguments) {
     const std::string entry = arguments.text(1);
-    if (!gestures::focusField(fieldOf(session, arguments, 2))) {
+    if (!gestures::focusField(session.toolkit(), fieldOf(session, arguments, 2))) {
         throw ScriptError("the field is disabled");
     }
     session.settle();
-    gestures::replaceText(toWide(entry));
+    gestures::replaceText(session.toolkit(), toWide(entry));
     session.settle();
 }
 
@@ -137,7 +138,7 @@ int put(Session& session, Arguments& arguments) {
 
 int enter(Session& session, Arguments& arguments) {
     putText(session, arguments);
-    gestures::pressKey("enter");
+    gestures::pressKey(session.toolkit(), "enter");
     session.settle();
     return 0;
 }
@@ -147,14 +148,14 @@ int key(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
     controlOf(session, arguments);
     const HWND field = arguments.has(2) ? fieldOf(session, arguments, 2) : nullptr;
-    gestures::pressKey(name, field);
+    gestures::pressKey(session.toolkit(), name, field);
     session.settle();
     return 0;
 }
 
 int blur(Session& session, Arguments& arguments) {
     controlOf(session, arguments);
-    gestures::blur();
+    gestures::blur(session.toolkit());
     session.settle();
     return 0;
 }
@@ -163,7 +164,9 @@ int wheel(Session& session, Arguments& arguments) {
     const HWND control = controlOf(session, arguments);
     const HWND main = findPart(windows(session), control, kSlider);
     const HWND target = main == nullptr ? control : main;
-    const bool taken = gestures::turnWheel(target, gestures::middleOf(target), arguments.int32(1));
+    const bool taken =
+        gestures::turnWheel(session.toolkit(), target,
+                            gestures::middleOf(session.toolkit(), target), arguments.int32(1));
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }
@@ -215,30 +218,30 @@ int indexArgument(const ComboWidget& combo, const Arguments& arguments) {
 
 int pick(Session& session, Arguments& arguments) {
     const HWND list = listOf(session, arguments);
-    bool taken = gestures::openList(list);
+    bool taken = gestures::openList(session.toolkit(), list);
     session.settle();
     if (taken) {
         int index = 0;
         try {
             index = indexArgument(comboOf(session, arguments), arguments);
         } catch (const ScriptError&) {
-            gestures::closeList(list);
+            gestures::closeList(session.toolkit(), list);
             throw;
         }
-        taken = gestures::chooseFromList(list, index);
+        taken = gestures::chooseFromList(session.toolkit(), list, index);
         session.settle();
     }
     return pushTruth(arguments.lua(), taken);
 }
 
 int open(Session& session, Arguments& arguments) {
-    const bool taken = gestures::openList(listOf(session, arguments));
+    const bool taken = gestures::openList(session.toolkit(), listOf(session, arguments));
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }
 
 int close(Session& session, Arguments& arguments) {
-    const bool taken = gestures::closeList(listOf(session, arguments));
+    const bool taken = gestures::closeList(session.toolkit(), listOf(session, arguments));
     session.settle();
     return pushTruth(arguments.lua(), taken);
 }

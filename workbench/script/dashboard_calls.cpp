@@ -28,16 +28,18 @@ int pushHandleIf(bool exists, HandleKind kind, const Arguments& arguments) {
     return 1;
 }
 
-int item(Session& /*session*/, Arguments& arguments) {
+int item(Session& session, Arguments& arguments) {
     const auto number = static_cast<std::size_t>(numberArgument(arguments));
-    return pushHandleIf(findItems(toWide(arguments.text(1))).size() >= number, HandleKind::Item,
-                        arguments);
+    return pushHandleIf(
+        findItems(session.workbench().windows(), toWide(arguments.text(1))).size() >= number,
+        HandleKind::Item, arguments);
 }
 
-int panel(Session& /*session*/, Arguments& arguments) {
+int panel(Session& session, Arguments& arguments) {
     const auto number = static_cast<std::size_t>(numberArgument(arguments));
-    return pushHandleIf(findPanels(toWide(arguments.text(1))).size() >= number, HandleKind::Panel,
-                        arguments);
+    return pushHandleIf(
+        findPanels(session.workbench().windows(), toWide(arguments.text(1))).size() >= number,
+        HandleKind::Panel, arguments);
 }
 
 int control(Session& session, Arguments& arguments) {

@@ -1,4 +1,5 @@
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/editor/editor.h"
 #include "workbench/script/calls.h"
@@ -37,16 +38,21 @@ Document& currentDocument(Session& session) {
 
 int newDocument(Session& session, Arguments& arguments) {
     session.noteDocumentMade();
-    const Document& document = editor(session).documents().create(toWide(arguments.text(1)));
+    const std::wstring name = toWide(arguments.text(1));
+    editor(session).documents().create(name);
     session.settle();
-    return pushText(arguments.lua(), document.name());
+    return pushText(arguments.lua(), name);
 }
 
 int open(Session& session, Arguments& arguments) {
     session.noteDocumentMade();
-    const Document& document = editor(session).documents().open(arguments.text(1));
+    std::wstring name;
+    {
+        const Turn turn;
+        name = editor(session).documents().open(arguments.text(1)).name();
+    }
     session.settle();
-    return pushText(arguments.lua(), document.name());
+    return pushText(arguments.lua(), name);
 }
 
 int activate(Session& session, Arguments& arguments) {
@@ -99,7 +105,7 @@ int finish(Session& session, Arguments& arguments) {
 int var(Session& session, Arguments& arguments) {
     const std::wstring name = toWide(arguments.text(1));
     Value value = editor(session).read(name);
-    if (value.isNil() && SystemVariables::find(name) != nullptr) {
+    if (value.isNil() && findVariable(name) != nullptr) {
         session.needDocument();
         value = editor(session).read(name);
     }
@@ -109,7 +115,7 @@ int var(Session& session, Arguments& arguments) {
 
 int set(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
-    if (SystemVariables::find(toWide(name)) == nullptr) {
+    if (findVariable(toWide(name)) == nullptr) {
         throw ScriptError("there is no system variable \"" + name + "\"");
     }
     const Value value = arguments.value(2);

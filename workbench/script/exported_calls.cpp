@@ -1,6 +1,7 @@
 #include "workbench/script/exported_calls.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/script/calls.h"
 #include "workbench/script/lua_listener.h"
@@ -40,7 +41,7 @@ int pushInteger(lua_State* lua, int value) {
 
 /// The window of a name: a panel's ID or a control's name.
 HWND windowOf(Session& session, const std::string& name) {
-    const std::vector<CQrUiPanel*> panels = findPanels(toWide(name));
+    const std::vector<CQrUiPanel*> panels = findPanels(session.workbench().windows(), toWide(name));
     if (!panels.empty())
         return panels.front()->m_hWnd;
     return session.workbench().windows().findByName(name);
@@ -172,10 +173,12 @@ int callExport(Session& session, const std::string& name, Arguments& arguments) 
                                     [&name](const Call& call) { return call.name == name; });
     if (found == std::end(kExports))
         throw ScriptError("the module exports no " + name);
+    const Turn turn;
     return found->function(session, arguments);
 }
 
 int callNotify(Session& session, int code, lua_State* lua) {
+    const Turn turn;
     const int answer = find<VxDaNotifyDashboardFn>(session, "VxDaNotifyDashboard")(code);
     session.settle();
     return pushInteger(lua, answer);

@@ -86,14 +86,16 @@ void pushHandle(lua_State* lua, HandleKind kind, const std::string& name, int nu
     luaL_setmetatable(lua, wordsOf(kind).type);
 }
 
-CQrUiToolPanelItem& itemOf(const Arguments& arguments) {
+CQrUiToolPanelItem& itemOf(Session& session, const Arguments& arguments) {
     const Handle& handle = handleOf(arguments, HandleKind::Item);
-    return pick(findItems(toWide(handle.name)), HandleKind::Item, handle);
+    return pick(findItems(session.workbench().windows(), toWide(handle.name)), HandleKind::Item,
+                handle);
 }
 
-CQrUiPanel& panelOf(const Arguments& arguments) {
+CQrUiPanel& panelOf(Session& session, const Arguments& arguments) {
     const Handle& handle = handleOf(arguments, HandleKind::Panel);
-    return pick(findPanels(toWide(handle.name)), HandleKind::Panel, handle);
+    return pick(findPanels(session.workbench().windows(), toWide(handle.name)), HandleKind::Panel,
+                handle);
 }
 
 HWND controlOf(Session& session, const Arguments& arguments) {

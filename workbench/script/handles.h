@@ -19,8 +19,8 @@ void pushHandle(lua_State* lua, HandleKind kind, const std::string& name, int nu
 
 /// The thing that the handle in front of a method's arguments names. Throws ScriptError if it is
 /// gone or the handle is of another kind.
-CQrUiToolPanelItem& itemOf(const Arguments& arguments);
-CQrUiPanel& panelOf(const Arguments& arguments);
+CQrUiToolPanelItem& itemOf(Session& session, const Arguments& arguments);
+CQrUiPanel& panelOf(Session& session, const Arguments& arguments);
 HWND controlOf(Session& session, const Arguments& arguments);
 
 /// Words for the handle's thing in gestures, such as `item ID_3DWalk`.

@@ -13,14 +13,14 @@ namespace {
 
 /// Result: whether the click found the item enabled.
 int click(Session& session, Arguments& arguments) {
-    CQrUiToolPanelItem& item = itemOf(arguments);
-    lua_pushboolean(arguments.lua(), gestures::clickItem(item) ? 1 : 0);
+    CQrUiToolPanelItem& item = itemOf(session, arguments);
+    lua_pushboolean(arguments.lua(), gestures::clickItem(session.toolkit(), item) ? 1 : 0);
     session.settle();
     return 1;
 }
 
-int state(Session& /*session*/, Arguments& arguments) {
-    const ItemView view = viewOf(itemOf(arguments));
+int state(Session& session, Arguments& arguments) {
+    const ItemView view = viewOf(session.toolkit(), itemOf(session, arguments));
     Value::Table table{{"checked", view.checked},
                        {"disabled", view.disabled},
                        {"hidden", view.hidden},

@@ -25,23 +25,23 @@ void addLines(const std::vector<MenuLine>& lines, const std::string& path, Value
 
 /// Results without a path: the lines, and a table with true for each checked one.
 int menu(Session& session, Arguments& arguments) {
-    const HWND window = panelOf(arguments).m_hWnd;
+    const HWND window = panelOf(session, arguments).m_hWnd;
     const auto path = arguments.optionalText(1);
     if (path) {
-        gestures::chooseFromContextMenu(window, toWide(*path));
+        gestures::chooseFromContextMenu(session.toolkit(), window, toWide(*path));
         session.settle();
         return 0;
     }
     Value::List texts;
     Value::Table checked;
-    addLines(gestures::readContextMenu(window), "", texts, checked);
+    addLines(gestures::readContextMenu(session.toolkit(), window), "", texts, checked);
     push(arguments.lua(), Value(std::move(texts)));
     push(arguments.lua(), Value(std::move(checked)));
     return 2;
 }
 
 int visible(Session& session, Arguments& arguments) {
-    const HWND window = panelOf(arguments).m_hWnd;
+    const HWND window = panelOf(session, arguments).m_hWnd;
     lua_pushboolean(arguments.lua(), session.workbench().windows().isOnScreen(window) ? 1 : 0);
     return 1;
 }

@@ -1,6 +1,6 @@
 #include "workbench/script/session.h"
 
-#include "workbench/commands/command_processor.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_system.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 
 #include <string>
 #include <vector>
@@ -16,6 +16,8 @@ public:
     ~Session() = default;
 
     Workbench& workbench() { return m_workbench; }
+    /// What the gestures of the script go to.
+    Toolkit& toolkit() { return m_workbench.toolkit(); }
 
     /// Lets run what a gesture has set going: posted messages, and command text unless a command is
     /// running in the current document. Text that is queued behind a running command, the cancel

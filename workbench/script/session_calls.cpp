@@ -48,8 +48,8 @@ int answer(Session& session, Arguments& arguments) {
     return 0;
 }
 
-int hold(Session& /*session*/, Arguments& arguments) {
-    gestures::holdKey(arguments.text(1), arguments.truth(2));
+int hold(Session& session, Arguments& arguments) {
+    gestures::holdKey(session.toolkit(), arguments.text(1), arguments.truth(2));
     return 0;
 }
 

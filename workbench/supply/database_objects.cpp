@@ -1,7 +1,7 @@
+#include "workbench/adapters/host_values.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/vxdb18/database.h>
 

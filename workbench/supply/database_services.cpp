@@ -1,8 +1,8 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
 #include "workbench/editor/angle_text.h"
 #include "workbench/editor/distance_text.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/vxdb18/host_services.h>
 #include <hostapi/zorq/variables.h>

@@ -1,7 +1,7 @@
-#include "workbench/commands/command_processor.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/zorq/commands.h>
 #include <hostapi/zorq/variables.h>

@@ -1,9 +1,9 @@
-#include "workbench/commands/command_processor.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/document_list.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/statuses.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/zorq/documents.h>
 

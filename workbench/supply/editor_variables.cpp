@@ -1,8 +1,8 @@
 #include "workbench/base/text.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/variables/result_buffer.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/zorq/variables.h>
 
@@ -31,7 +31,7 @@ int vxedGetVar(const wchar_t* name, VxResultBuffer* result) {
     HostCall call("vxedGetVar", {name});
     if (call.failed())
         return call.returns(call.status(kRtError));
-    const VariableDefinition* variable = name == nullptr ? nullptr : SystemVariables::find(name);
+    const VariableDefinition* variable = name == nullptr ? nullptr : workbench::findVariable(name);
     if (variable == nullptr || result == nullptr)
         return call.returns(kRtError);
     if (const auto fault = takeFaultOf("vxedGetVar", *variable))
@@ -45,7 +45,7 @@ int vxedSetVar(const wchar_t* name, const VxResultBuffer* value) {
     const workbench::Value written =
         value == nullptr ? workbench::Value() : workbench::valueOf(*value);
     HostCall call("vxedSetVar", {name, workbench::shownValue(written)});
-    const VariableDefinition* variable = name == nullptr ? nullptr : SystemVariables::find(name);
+    const VariableDefinition* variable = name == nullptr ? nullptr : workbench::findVariable(name);
     if (variable == nullptr || value == nullptr)
         return call.returns(call.status(kRtError));
     SystemVariables& variables = Workbench::current().editor().variables();

@@ -1,8 +1,9 @@
+#include "workbench/adapters/host_values.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/navigation/navigation_tool.h"
 
 #include <hostapi/zorq/views.h>

@@ -1,6 +1,6 @@
 #include "workbench/core/host_call.h"
 #include "workbench/core/invalid_argument.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -14,7 +14,7 @@ int AfxMessageBox(const VxString& text, UINT type) {
         return call.returns(call.status(0));
     // A box outside the palette sets belongs to the main frame, which bears no name.
     const HWND focus = workbench.windows().focus();
-    const std::string owner = workbench::paletteSetAbove(focus) == nullptr
+    const std::string owner = workbench::paletteSetAbove(workbench.windows(), focus) == nullptr
                                   ? std::string()
                                   : workbench.windows().ownerName(focus);
     return call.returns(workbench.toolkit().boxes().show(text, type, owner));

@@ -1,6 +1,6 @@
 #include "workbench/base/text.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/menu/menu_host.h"
 
 #include <hostapi/zorq/menu_data.h>

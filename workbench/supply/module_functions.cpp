@@ -1,6 +1,6 @@
 #include "workbench/base/input_error.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/resources/png_picture.h"
 #include "workbench/windows/window_system.h"

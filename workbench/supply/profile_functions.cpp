@@ -1,5 +1,5 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/profiles/profile_store.h"
 
 #include <hostapi/zorq/profiles.h>

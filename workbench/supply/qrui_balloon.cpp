@@ -1,6 +1,5 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
-#include "workbench/toolkit/toolkit.h"
+#include "workbench/supply/qrui_window.h"
 
 #include <hostapi/qrui18/balloon.h>
 
@@ -8,12 +7,12 @@ void QrUiShowBalloonTip(CWnd* owner, CWnd* target, const VxString& text, UINT fl
     const workbench::HostCall call("QrUiShowBalloonTip", {owner, target, text, flags});
     if (call.failed() || owner == nullptr)
         return;
-    workbench::Workbench::current().toolkit().balloons().show(
+    workbench::supply::toolkit().balloons().show(
         owner->m_hWnd, target == nullptr ? nullptr : target->m_hWnd, text);
 }
 
 void QrUiHideBalloonTip(CWnd* owner) {
     const workbench::HostCall call("QrUiHideBalloonTip", {owner});
     if (!call.failed() && owner != nullptr)
-        workbench::Workbench::current().toolkit().balloons().hide(owner->m_hWnd);
+        workbench::supply::toolkit().balloons().hide(owner->m_hWnd);
 }

@@ -24,7 +24,8 @@ BOOL CQrUiComboCtrl::Create(DWORD style, const CRect& rect, CWnd* parent, UINT i
     // The height that is asked for is the list's.
     const CRect field{rect.left, rect.top, rect.right, rect.top + ComboWidget::kHeight};
     auto creation = creationOf("CQrUiComboCtrl", style, field, parent, id);
-    const bool made = createChild(*this, std::move(creation), std::make_unique<ComboWidget>());
+    const bool made =
+        createChild(*this, std::move(creation), std::make_unique<ComboWidget>(toolkit()));
     return call.returns(made ? 1 : 0);
 }
 

@@ -26,7 +26,8 @@ BOOL CQrUiCtrlContainer::Create(DWORD style, const CRect& rect, CWnd* parent, UI
         return call.returns(0);
     using namespace workbench::supply;
     auto creation = creationOf("CQrUiCtrlContainer", style, rect, parent, id);
-    const bool made = createChild(*this, std::move(creation), std::make_unique<ContainerWidget>());
+    const bool made =
+        createChild(*this, std::move(creation), std::make_unique<ContainerWidget>(windows()));
     return call.returns(made ? 1 : 0);
 }
 

@@ -1,7 +1,7 @@
 #include "workbench/base/input_error.h"
 #include "workbench/base/text.h"
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/toolkit/toolkit.h"
 

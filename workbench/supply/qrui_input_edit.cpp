@@ -14,7 +14,8 @@ BOOL CQrUiInputEditCtrl::Create(DWORD style, const CRect& rect, CWnd* parent, UI
         return call.returns(0);
     using namespace workbench::supply;
     auto creation = creationOf("CQrUiInputEditCtrl", style, rect, parent, id);
-    const bool made = createChild(*this, std::move(creation), std::make_unique<EditWidget>());
+    const bool made =
+        createChild(*this, std::move(creation), std::make_unique<EditWidget>(toolkit()));
     return call.returns(made ? 1 : 0);
 }
 

@@ -10,7 +10,6 @@
 
 using workbench::HostCall;
 using workbench::PaletteSetState;
-using workbench::Workbench;
 
 BOOL CQrUiPalette::Create(CWnd* paletteSet) {
     HostCall call("CQrUiPalette::Create", {paletteSet});
@@ -19,8 +18,8 @@ BOOL CQrUiPalette::Create(CWnd* paletteSet) {
     using namespace workbench::supply;
     auto creation =
         creationOf("CQrUiPalette", WS_CHILD | WS_VISIBLE, clientOf(paletteSet), paletteSet, 0);
-    const bool made =
-        createChild(*this, std::move(creation), std::make_unique<workbench::PaletteWidget>());
+    const bool made = createChild(*this, std::move(creation),
+                                  std::make_unique<workbench::PaletteWidget>(windows()));
     return call.returns(made ? 1 : 0);
 }
 
@@ -30,7 +29,7 @@ CQrUiPaletteSet* CQrUiPalette::GetPaletteSet() const {
                            [this](const auto& palette) { return palette.get() == this; });
     };
     return const_cast<CQrUiPaletteSet*>(
-        Workbench::current().toolkit().paletteSets().findIf(holdsThis));
+        workbench::supply::toolkit().paletteSets().findIf(holdsThis));
 }
 
 bool CQrUiPalette::GetMinimumSize(CSize& /*size*/) {

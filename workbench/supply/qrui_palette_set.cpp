@@ -10,15 +10,10 @@
 using workbench::FloatingFrame;
 using workbench::HostCall;
 using workbench::PaletteSetState;
-using workbench::Toolkit;
-using workbench::Workbench;
+using workbench::supply::toolkit;
 using workbench::supply::windows;
 
 namespace {
-
-Toolkit& toolkit() {
-    return Workbench::current().toolkit();
-}
 
 PaletteSetState& stateOf(const CQrUiPaletteSet* set) {
     return toolkit().paletteSets().of(set);
@@ -29,7 +24,8 @@ PaletteSetState& stateOf(const CQrUiPaletteSet* set) {
 CQrUiPaletteSet::CQrUiPaletteSet(UINT /*reserved*/) {}
 
 CQrUiPaletteSet::~CQrUiPaletteSet() {
-    DestroyWindow();
+    if (m_hWnd != nullptr)
+        DestroyWindow();
     toolkit().paletteSets().erase(this);
     toolkit().frame().layout();
 }
@@ -46,7 +42,7 @@ BOOL CQrUiPaletteSet::Create(const VxString& title, DWORD style, const CRect& re
     auto creation =
         workbench::supply::creationOf("CQrUiPaletteSet", style & ~WS_VISIBLE, rect, parent, 0);
     creation.text = title;
-    creation.widget = std::make_unique<workbench::PaletteSetWidget>();
+    creation.widget = std::make_unique<workbench::PaletteSetWidget>(toolkit());
     stateOf(this).place.rect = rect;
     if (!windows().create(*this, std::move(creation)))
         return call.returns(0);

@@ -1,5 +1,5 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/supply/qrui_window.h"
 #include "workbench/toolkit/bar_place.h"
 #include "workbench/toolkit/toolkit.h"
 
@@ -10,14 +10,9 @@
 using workbench::BarPlace;
 using workbench::HostCall;
 using workbench::PaletteSetState;
-using workbench::Toolkit;
-using workbench::Workbench;
+using workbench::supply::toolkit;
 
 namespace {
-
-Toolkit& toolkit() {
-    return Workbench::current().toolkit();
-}
 
 /// The node interface of a storage node, counted; null for none.
 IXMLDOMNode* nodeOf(IUnknown* storageNode) {

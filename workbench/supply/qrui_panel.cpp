@@ -9,20 +9,12 @@
 
 using workbench::HostCall;
 using workbench::PanelState;
-using workbench::Toolkit;
-using workbench::Workbench;
+using workbench::supply::toolkit;
 using workbench::supply::windows;
 
-namespace {
-
-Toolkit& toolkit() {
-    return Workbench::current().toolkit();
-}
-
-}  // namespace
-
 CQrUiPanel::~CQrUiPanel() {
-    DestroyWindow();
+    if (m_hWnd != nullptr)
+        DestroyWindow();
     if (const PanelState* const state = toolkit().panels().find(this); state != nullptr) {
         for (const auto& image : state->images)
             toolkit().pictures().release(image.second);
@@ -39,7 +31,7 @@ BOOL CQrUiPanel::Create(DWORD style, const VxString& title, CWnd* panelSet) {
     auto creation = workbench::supply::creationOf("CQrUiPanel", style, rect, panelSet, 0);
     creation.text = title;
     if (!workbench::supply::createChild(*this, std::move(creation),
-                                        std::make_unique<workbench::PanelWidget>()))
+                                        std::make_unique<workbench::PanelWidget>(toolkit())))
         return call.returns(0);
     windows().setName(m_hWnd, workbench::toUtf8(m_id));
     return call.returns(1);

@@ -11,20 +11,21 @@
 using workbench::HostCall;
 using workbench::PanelSetState;
 using workbench::PanelSetWidget;
-using workbench::Workbench;
+using workbench::supply::toolkit;
 using workbench::supply::windows;
 
 namespace {
 
 PanelSetState& stateOf(const CQrUiPanelSet* set) {
-    return Workbench::current().toolkit().panelSets().of(set);
+    return toolkit().panelSets().of(set);
 }
 
 }  // namespace
 
 CQrUiPanelSet::~CQrUiPanelSet() {
-    DestroyWindow();
-    Workbench::current().toolkit().panelSets().erase(this);
+    if (m_hWnd != nullptr)
+        DestroyWindow();
+    toolkit().panelSets().erase(this);
 }
 
 BOOL CQrUiPanelSet::Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) {
@@ -33,7 +34,7 @@ BOOL CQrUiPanelSet::Create(DWORD style, const CRect& rect, CWnd* parent, UINT id
         return call.returns(0);
     using namespace workbench::supply;
     const bool made = createChild(*this, creationOf("CQrUiPanelSet", style, rect, parent, id),
-                                  std::make_unique<PanelSetWidget>());
+                                  std::make_unique<PanelSetWidget>(toolkit()));
     return call.returns(made ? 1 : 0);
 }
 

@@ -7,6 +7,7 @@
 
 using workbench::HostCall;
 using workbench::SliderWidget;
+using workbench::supply::toolkit;
 using workbench::supply::windows;
 
 namespace {
@@ -24,7 +25,7 @@ BOOL CQrUiProgSliderCtrl::Create(DWORD style, const CRect& rect, CWnd* parent, U
         return call.returns(0);
     using namespace workbench::supply;
     auto creation = creationOf("CQrUiProgSliderCtrl", style, rect, parent, id);
-    auto widget = std::make_unique<SliderWidget>();
+    auto widget = std::make_unique<SliderWidget>(toolkit());
     widget->setStyle(toolkitStyle);
     const bool made = createChild(*this, std::move(creation), std::move(widget));
     return call.returns(made ? 1 : 0);
@@ -74,5 +75,5 @@ void CQrUiProgSliderCtrl::SetControlStyle(UINT style) {
 void CQrUiProgSliderCtrl::ShowToolTip() {
     const HostCall call("CQrUiProgSliderCtrl::ShowToolTip");
     if (const SliderWidget* const slider = widgetOf(*this))
-        workbench::Workbench::current().toolkit().toolTips().show(m_hWnd, slider->tip());
+        toolkit().toolTips().show(m_hWnd, slider->tip());
 }

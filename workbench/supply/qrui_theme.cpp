@@ -1,13 +1,12 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
-#include "workbench/toolkit/toolkit.h"
+#include "workbench/supply/qrui_window.h"
 
 #include <hostapi/qrui18/theme.h>
 
 CQrUiThemeManager* QrUiGetThemeManager() {
     workbench::HostCall call("QrUiGetThemeManager");
     workbench::ThemeManager* const manager =
-        call.failed() ? nullptr : &workbench::Workbench::current().toolkit().themes();
+        call.failed() ? nullptr : &workbench::supply::toolkit().themes();
     call.returns(static_cast<const void*>(manager));
     return manager;
 }

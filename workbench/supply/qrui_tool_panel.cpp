@@ -11,20 +11,21 @@
 using workbench::HostCall;
 using workbench::ToolPanelState;
 using workbench::ToolPanelWidget;
-using workbench::Workbench;
+using workbench::supply::toolkit;
 using workbench::supply::windows;
 
 namespace {
 
 ToolPanelState& stateOf(const CQrUiToolPanel* panel) {
-    return Workbench::current().toolkit().toolPanels().of(panel);
+    return toolkit().toolPanels().of(panel);
 }
 
 }  // namespace
 
 CQrUiToolPanel::~CQrUiToolPanel() {
-    DestroyWindow();
-    Workbench::current().toolkit().toolPanels().erase(this);
+    if (m_hWnd != nullptr)
+        DestroyWindow();
+    toolkit().toolPanels().erase(this);
 }
 
 BOOL CQrUiToolPanel::Create(DWORD style, const CRect& rect, CWnd* parent, UINT id,
@@ -34,7 +35,7 @@ BOOL CQrUiToolPanel::Create(DWORD style, const CRect& rect, CWnd* parent, UINT i
         return call.returns(0);
     using namespace workbench::supply;
     const bool made = createChild(*this, creationOf("CQrUiToolPanel", style, rect, parent, id),
-                                  std::make_unique<ToolPanelWidget>(toolkitStyle));
+                                  std::make_unique<ToolPanelWidget>(toolkit(), toolkitStyle));
     return call.returns(made ? 1 : 0);
 }
 

@@ -1,5 +1,5 @@
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/supply/qrui_window.h"
 #include "workbench/toolkit/item_notes.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
@@ -13,17 +13,9 @@
 
 using workbench::noteItem;
 using workbench::PictureTable;
-using workbench::Toolkit;
 using workbench::toUtf8;
-using workbench::Workbench;
-
-namespace {
-
-Toolkit& toolkit() {
-    return Workbench::current().toolkit();
-}
-
-}  // namespace
+using workbench::supply::toolkit;
+using workbench::supply::windows;
 
 CQrUiToolPanelItem::CQrUiToolPanelItem(CQrUiToolPanel* toolPanel) : m_record(new Record) {
     m_record->toolPanel = toolPanel;
@@ -62,8 +54,8 @@ const VxString& CQrUiToolPanelItem::GetName() const {
 void CQrUiToolPanelItem::SetName(const VxString& name) {
     if (m_record->name == name)
         return;
-    if (workbench::isNoted(*this))
-        noteItem(*this, "name", toUtf8(m_record->name), toUtf8(name));
+    if (workbench::isNoted(toolkit().journal(), *this))
+        noteItem(toolkit().journal(), *this, "name", toUtf8(m_record->name), toUtf8(name));
     m_record->name = name;
 }
 
@@ -76,8 +68,8 @@ void CQrUiToolPanelItem::SetState(UINT state) {
         return;
     const UINT before = m_record->state;
     m_record->state = state;
-    if (workbench::isNoted(*this))
-        workbench::noteItemState(*this, before, state);
+    if (workbench::isNoted(toolkit().journal(), *this))
+        workbench::noteItemState(toolkit().journal(), *this, before, state);
     Invalidate();
 }
 
@@ -89,8 +81,9 @@ void CQrUiToolPanelItem::SetImage(int slot, HBITMAP picture) {
     PictureTable& pictures = toolkit().pictures();
     HBITMAP& present = slot == kItemLargeImage ? m_record->largeImage : m_record->smallImage;
     // The small picture is the one that scripts and journals know an item by.
-    if (slot != kItemLargeImage && workbench::isNoted(*this))
-        noteItem(*this, "image", pictures.source(present), pictures.source(picture));
+    if (slot != kItemLargeImage && workbench::isNoted(toolkit().journal(), *this))
+        noteItem(toolkit().journal(), *this, "image", pictures.source(present),
+                 pictures.source(picture));
     pictures.release(present);
     present = picture;
     Invalidate();
@@ -103,7 +96,7 @@ HWND CQrUiToolPanelItem::GetControl() const {
 void CQrUiToolPanelItem::SetControl(HWND control) {
     m_record->control = control;
     if (m_record->data != nullptr && !m_record->data->controlName.empty())
-        Workbench::current().windows().setName(control, toUtf8(m_record->data->controlName));
+        windows().setName(control, toUtf8(m_record->data->controlName));
 }
 
 void CQrUiToolPanelItem::GetRect(CRect& rect, int /*which*/) const {
@@ -121,7 +114,7 @@ void CQrUiToolPanelItem::SetPosition(CPoint position) {
 
 void CQrUiToolPanelItem::Invalidate() {
     if (m_record->laidOut && m_record->toolPanel != nullptr)
-        Workbench::current().windows().invalidate(m_record->toolPanel->m_hWnd);
+        windows().invalidate(m_record->toolPanel->m_hWnd);
 }
 
 void CQrUiToolPanelItem::AppendFlyoutItem(CQrUiToolPanelItem* item) {
@@ -146,8 +139,8 @@ BOOL CQrUiToolPanelItem::SetCurrentFlyoutTool(CQrUiToolPanelItem* item) {
     if (std::find(items.begin(), items.end(), item) == items.end())
         return 0;
     const CQrUiToolPanelItem* const before = m_record->currentTool;
-    if (item != before && workbench::isNoted(*this))
-        noteItem(*this, "tool", toUtf8(workbench::knownId(*before)),
+    if (item != before && workbench::isNoted(toolkit().journal(), *this))
+        noteItem(toolkit().journal(), *this, "tool", toUtf8(workbench::knownId(*before)),
                  toUtf8(workbench::knownId(*item)));
     m_record->currentTool = item;
     return 1;

@@ -1,12 +1,24 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/supply/qrui_window.h"
 #include "workbench/toolbar/toolbar_window.h"
 
 #include <hostapi/qrui18/toolbar_control.h>
 
+namespace {
+
+workbench::ToolbarScope scope() {
+    workbench::Workbench& workbench = workbench::Workbench::current();
+    return {workbench.editor(), workbench.menu()};
+}
+
+}  // namespace
+
 CWnd* getVxToolbarControl(CWnd* parent, const CRect& rect, UINT id) {
-    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), id});
-    CWnd* control = call.failed() ? nullptr : workbench::makeToolbarWindow(parent, rect, id);
+    workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), rect.left,
+                                                     rect.top, rect.right, rect.bottom, id});
+    CWnd* control = call.failed() ? nullptr
+                                  : workbench::makeToolbarWindow(workbench::supply::toolkit(),
+                                                                 scope(), parent, rect, id);
     return call.returns(control);
 }
 
@@ -18,6 +30,7 @@ int HandleToolbarComboMessage(UINT id, UINT notification, WPARAM wParam, LPARAM 
         return call.returns(call.status(0));
     }
     // A command of no control of the host is taken too: nobody else waits for it.
-    workbench::handleToolbarNotice(reinterpret_cast<HWND>(lParam), id, notification);
+    workbench::handleToolbarNotice(workbench::supply::windows(), scope(),
+                                   reinterpret_cast<HWND>(lParam), id, notification);
     return call.returns(1);
 }

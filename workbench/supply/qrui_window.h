@@ -1,6 +1,7 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/window.h>
@@ -14,6 +15,11 @@ namespace workbench::supply {
 /// The window system of the workbench that lives now.
 inline WindowSystem& windows() {
     return Workbench::current().windows();
+}
+
+/// Its toolkit.
+inline Toolkit& toolkit() {
+    return Workbench::current().toolkit();
 }
 
 /// What a window of the toolkit is made with; the widget is added by the caller.

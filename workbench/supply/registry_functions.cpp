@@ -1,5 +1,5 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
 #include <hostapi/vxdb18/rx_object.h>

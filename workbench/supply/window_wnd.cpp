@@ -1,5 +1,5 @@
 #include "workbench/core/host_call.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/window.h>

@@ -1,7 +1,6 @@
 #include "workbench/toolbar/toolbar_list.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/text_style.h"
@@ -19,9 +18,9 @@ namespace {
 using Entries = std::vector<std::wstring>;
 
 template <class Data>
-Entries namesOf(Workbench& workbench) {
+Entries namesOf(const ToolbarScope& scope) {
     Entries names;
-    const Document* const document = workbench.editor().documents().current();
+    const Document* const document = scope.editor.documents().current();
     if (document == nullptr)
         return names;
     for (const drawing::ObjectId id : document->data().ids(Data::kKind))
@@ -37,14 +36,14 @@ int indexOf(const Entries& entries, std::wstring_view text) {
 
 /// A list that shows and sets a system variable that holds the text.
 template <const auto& Name>
-int currentOf(Workbench& workbench, const Entries& entries) {
-    const Value value = workbench.editor().read(Name);
+int currentOf(const ToolbarScope& scope, const Entries& entries) {
+    const Value value = scope.editor.read(Name);
     return value.isString() ? indexOf(entries, toWide(value.asString())) : -1;
 }
 
 template <const auto& Name>
-void assign(Workbench& workbench, const std::wstring& text) {
-    workbench.editor().variables().write(Name, toUtf8(text), VariableWriter::Program);
+void assign(const ToolbarScope& scope, const std::wstring& text) {
+    scope.editor.variables().write(Name, toUtf8(text), VariableWriter::Program);
 }
 
 constexpr wchar_t kCurrentLayer[] = L"CLAYER";
@@ -53,9 +52,9 @@ constexpr wchar_t kCurrentColour[] = L"CECOLOR";
 constexpr wchar_t kCurrentLineweight[] = L"CELWEIGHT";
 constexpr wchar_t kTextStyle[] = L"TEXTSTYLE";
 
-Entries linetypes(Workbench& workbench) {
+Entries linetypes(const ToolbarScope& scope) {
     Entries names{L"ByLayer", L"ByBlock", L"Continuous"};
-    const Document* const document = workbench.editor().documents().current();
+    const Document* const document = scope.editor.documents().current();
     if (document == nullptr)
         return names;
     for (const drawing::ObjectId id : document->data().ids(drawing::RecordKind::Layer)) {
@@ -66,69 +65,69 @@ Entries linetypes(Workbench& workbench) {
     return names;
 }
 
-Entries colours(Workbench& /*workbench*/) {
+Entries colours(const ToolbarScope& /*scope*/) {
     return {L"ByLayer", L"ByBlock", L"Red",     L"Yellow", L"Green",
             L"Cyan",    L"Blue",    L"Magenta", L"White"};
 }
 
-Entries lineweights(Workbench& /*workbench*/) {
+Entries lineweights(const ToolbarScope& /*scope*/) {
     return {L"ByLayer", L"ByBlock", L"Default", L"0.13 mm", L"0.18 mm",
             L"0.25 mm", L"0.35 mm", L"0.50 mm", L"0.70 mm", L"1.00 mm"};
 }
 
-Entries scales(Workbench& /*workbench*/) {
+Entries scales(const ToolbarScope& /*scope*/) {
     return {L"Scale to fit", L"1:1", L"1:2", L"1:5", L"1:10", L"1:20", L"1:50", L"1:100"};
 }
 
-Entries standard(Workbench& /*workbench*/) {
+Entries standard(const ToolbarScope& /*scope*/) {
     return {L"Standard"};
 }
 
-Entries plotStyles(Workbench& /*workbench*/) {
+Entries plotStyles(const ToolbarScope& /*scope*/) {
     return {L"ByLayer", L"ByBlock", L"Normal"};
 }
 
-Entries coordinateSystems(Workbench& /*workbench*/) {
+Entries coordinateSystems(const ToolbarScope& /*scope*/) {
     return {L"World", L"View"};
 }
 
-Entries none(Workbench& /*workbench*/) {
+Entries none(const ToolbarScope& /*scope*/) {
     return {};
 }
 
-Entries presets(Workbench& /*workbench*/) {
+Entries presets(const ToolbarScope& /*scope*/) {
     return {L"Top", L"Bottom", L"Front", L"Back", L"Left", L"Right"};
 }
 
-Entries workspaces(Workbench& workbench) {
+Entries workspaces(const ToolbarScope& scope) {
     Entries names;
-    for (const auto& workspace : workbench.menu().workspaces().all())
+    for (const auto& workspace : scope.menu.workspaces().all())
         names.push_back(toWide(workspace.name));
     return names;
 }
 
-void switchWorkspace(Workbench& workbench, const std::wstring& name) {
-    workbench.menu().switchWorkspace(toUtf8(name));
+void switchWorkspace(const ToolbarScope& scope, const std::wstring& name) {
+    scope.menu.switchWorkspace(toUtf8(name));
 }
 
-drawing::Viewport const* activeViewport(Workbench& workbench) {
-    const Document* const document = workbench.editor().documents().current();
+drawing::Viewport const* activeViewport(const ToolbarScope& scope) {
+    const Document* const document = scope.editor.documents().current();
     return document == nullptr ? nullptr
                                : document->data().look<drawing::Viewport>(
                                      drawing::activeViewport(document->data()));
 }
 
-int appliedView(Workbench& workbench, const Entries& entries) {
-    const drawing::Viewport* const viewport = activeViewport(workbench);
+int appliedView(const ToolbarScope& scope, const Entries& entries) {
+    const drawing::Viewport* const viewport = activeViewport(scope);
     if (viewport == nullptr)
         return -1;
-    const auto* const view = workbench.editor().documents().current()->data().look<drawing::View>(
-        viewport->appliedView.id);
+    const auto* const view =
+        scope.editor.documents().current()->data().look<drawing::View>(viewport->appliedView.id);
     return view == nullptr ? -1 : indexOf(entries, toWide(view->name));
 }
 
-void restoreView(Workbench& workbench, const std::wstring& name) {
-    Document* const document = workbench.editor().documents().current();
+void restoreView(const ToolbarScope& scope, const std::wstring& name) {
+    Document* const document = scope.editor.documents().current();
     if (document == nullptr)
         return;
     drawing::Database& database = document->data();
@@ -141,12 +140,12 @@ void restoreView(Workbench& workbench, const std::wstring& name) {
     viewport->appliedView.id = id;
 }
 
-void undo(Workbench& workbench, const std::wstring& /*text*/) {
-    workbench.editor().undo();
+void undo(const ToolbarScope& scope, const std::wstring& /*text*/) {
+    scope.editor.undo();
 }
 
-void redo(Workbench& workbench, const std::wstring& /*text*/) {
-    workbench.editor().redo();
+void redo(const ToolbarScope& scope, const std::wstring& /*text*/) {
+    scope.editor.redo();
 }
 
 constexpr ToolbarControl kControls[] = {

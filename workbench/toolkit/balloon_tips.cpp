@@ -1,7 +1,6 @@
 #include "workbench/toolkit/balloon_tips.h"
 
 #include "workbench/base/text.h"
-#include "workbench/toolkit/notes.h"
 
 namespace workbench {
 
@@ -12,7 +11,7 @@ void BalloonTips::show(HWND owner, HWND target, const std::wstring& text) {
         return;
     const std::wstring before = textOf(owner);
     m_balloons[owner] = {target, text};
-    noteText(m_journal, "balloon", text, m_windows.ownerName(owner));
+    m_notes.note("balloon", text, m_windows.ownerName(owner));
     m_windows.changes().note(owner, "balloon", toUtf8(before), toUtf8(text));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/toolkit/text_notes.h"
 #include "workbench/windows/window_system.h"
 
 #include <map>
@@ -10,7 +11,9 @@ namespace workbench {
 /// Balloons: at most one an owner, pointing at a window.
 class BalloonTips {
 public:
-    BalloonTips(WindowSystem& windows, Journal& journal) : m_windows(windows), m_journal(journal) {}
+    BalloonTips(WindowSystem& windows, const TextNotes& notes)
+        : m_windows(windows),
+          m_notes(notes) {}
 
     /// Shows a balloon in place of the owner's earlier one.
     void show(HWND owner, HWND target, const std::wstring& text);
@@ -27,7 +30,7 @@ private:
         std::wstring text;
     };
     WindowSystem& m_windows;
-    Journal& m_journal;
+    const TextNotes& m_notes;
     std::map<HWND, Balloon> m_balloons;  // by owner; those of dead owners are left out
 };
 

@@ -1,6 +1,5 @@
 #include "workbench/toolkit/click_focus_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/windows/window_system.h"
 
@@ -10,7 +9,7 @@ bool ClickFocusWidget::handle(Window& window, UINT message, WPARAM /*wParam*/, L
                               LRESULT& /*answer*/) {
     if (message != kLeftButtonDown)
         return false;
-    Workbench::current().windows().setFocus(window.handle);
+    m_windows.setFocus(window.handle);
     return true;
 }
 

@@ -1,7 +1,6 @@
 #include "workbench/toolkit/combo_widget.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"
@@ -14,18 +13,6 @@ namespace workbench {
 
 namespace {
 
-WindowSystem& windows() {
-    return Workbench::current().windows();
-}
-
-void tellParent(HWND combo, UINT notification) {
-    const Window* const window = windows().find(combo);
-    if (window == nullptr || window->parent == nullptr)
-        return;
-    const UINT words = MAKELONG(static_cast<UINT>(window->id), notification);
-    windows().send(window->parent, WM_COMMAND, words, reinterpret_cast<LPARAM>(combo));
-}
-
 Value textOf(const QRUI_COMBO_CTRL_ITEM* entry) {
     return entry == nullptr ? Value() : Value(toUtf8(entry->text));
 }
@@ -37,16 +24,23 @@ ComboWidget::~ComboWidget() {
 }
 
 void ComboWidget::releaseImages() {
-    if (Workbench* const workbench = Workbench::living()) {
-        for (const auto& entry : m_entries)
-            workbench->toolkit().pictures().release(entry->image);
-    }
+    for (const auto& entry : m_entries)
+        m_toolkit.pictures().release(entry->image);
+}
+
+void ComboWidget::tellParent(HWND combo, UINT notification) {
+    WindowSystem& windows = m_toolkit.windows();
+    const Window* const window = windows.find(combo);
+    if (window == nullptr || window->parent == nullptr)
+        return;
+    const UINT words = MAKELONG(static_cast<UINT>(window->id), notification);
+    windows.send(window->parent, WM_COMMAND, words, reinterpret_cast<LPARAM>(combo));
 }
 
 int ComboWidget::add(Window& window, std::unique_ptr<QRUI_COMBO_CTRL_ITEM> entry) {
     const int before = count();
     m_entries.push_back(std::move(entry));
-    windows().changes().note(window.handle, "items", before, count());
+    m_toolkit.windows().changes().note(window.handle, "items", before, count());
     return before;
 }
 
@@ -56,7 +50,7 @@ void ComboWidget::clear(Window& window) {
     m_entries.clear();
     m_selected = -1;
     m_highlighted = -1;
-    windows().changes().note(window.handle, "items", before, 0);
+    m_toolkit.windows().changes().note(window.handle, "items", before, 0);
 }
 
 QRUI_COMBO_CTRL_ITEM* ComboWidget::entry(int index) const {
@@ -68,19 +62,22 @@ void ComboWidget::select(Window& window, int index) {
     const Value before = textOf(entry(m_selected));
     m_selected = entry(index) == nullptr ? -1 : index;
     m_highlighted = m_selected;
-    windows().changes().note(window.handle, "selected", before, textOf(entry(m_selected)));
+    m_toolkit.windows().changes().note(window.handle, "selected", before,
+                                       textOf(entry(m_selected)));
 }
 
 bool ComboWidget::open(Window& window) {
     if (m_open)
         return false;
     const HWND combo = window.handle;
-    m_focusBefore = windows().focus();
+    m_focusBefore = m_toolkit.windows().focus();
     m_open = true;
-    windows().setFocus(combo);
+    m_toolkit.windows().setFocus(combo);
     tellParent(combo, CBN_DROPDOWN);
+    if (m_toolkit.windows().find(combo) == nullptr)
+        return true;
     m_highlighted = m_selected;
-    windows().invalidate(combo);
+    m_toolkit.windows().invalidate(combo);
     return true;
 }
 
@@ -96,9 +93,9 @@ bool ComboWidget::choose(Window& window, int index) {
     const bool another = index != m_selected;
     select(window, index);
     tellParent(combo, CBN_SELENDOK);
-    if (Window* const still = windows().find(combo); still != nullptr && m_open)
+    if (Window* const still = m_toolkit.windows().find(combo); still != nullptr && m_open)
         close(*still);
-    if (another && windows().find(combo) != nullptr)
+    if (another && m_toolkit.windows().find(combo) != nullptr)
         tellParent(combo, CBN_SELCHANGE);
     return true;
 }
@@ -107,10 +104,11 @@ bool ComboWidget::close(Window& window) {
     if (!m_open)
         return false;
     const HWND combo = window.handle;
+    const HWND focusBefore = std::exchange(m_focusBefore, nullptr);
     m_open = false;
-    windows().invalidate(combo);
+    m_toolkit.windows().invalidate(combo);
     tellParent(combo, CBN_CLOSEUP);
-    giveFocusBack(combo, std::exchange(m_focusBefore, nullptr));
+    giveFocusBack(m_toolkit, combo, focusBefore);
     return true;
 }
 
@@ -122,7 +120,7 @@ bool ComboWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPa
         return true;
     case WM_KEYDOWN:
         if (!key(window, wParam))
-            passKeyOn(wParam, lParam);
+            passKeyOn(m_toolkit, wParam, lParam);
         return true;
     default:
         return false;
@@ -156,7 +154,7 @@ bool ComboWidget::key(Window& window, WPARAM key) {
         next = nextFrom(count() - 1, -1);
     else
         return false;
-    windows().invalidate(window.handle);
+    m_toolkit.windows().invalidate(window.handle);
     if (next && m_open)
         m_highlighted = *next;
     else if (next)

@@ -10,6 +10,8 @@
 
 namespace workbench {
 
+class Toolkit;
+
 /// A field with a list that drops down. A click opens the list; a choice in it selects an entry and
 /// closes it. Arrow keys move through the open list, Enter chooses, Escape closes; in the closed field
 /// arrow keys choose the next entry at once. The parent is told: `CBN_DROPDOWN` before the list is on
@@ -19,6 +21,9 @@ class ComboWidget : public ControlWidget {
 public:
     static constexpr int kHeight = 22;  ///< Pixels, of the field.
 
+    explicit ComboWidget(Toolkit& toolkit) : m_toolkit(toolkit) {}
+    ComboWidget(const ComboWidget&) = delete;
+    ComboWidget& operator=(const ComboWidget&) = delete;
     ~ComboWidget() override;
 
     int add(Window& window, std::unique_ptr<QRUI_COMBO_CTRL_ITEM> entry);
@@ -48,11 +53,13 @@ public:
     int naturalHeight(const Window& window, int width) const override;
 
 private:
+    void tellParent(HWND combo, UINT notification);
     bool key(Window& window, WPARAM key);
     std::optional<int> nextFrom(int index, int step) const;
     bool canBeChosen(int index) const;
     void releaseImages();
 
+    Toolkit& m_toolkit;
     std::vector<std::unique_ptr<QRUI_COMBO_CTRL_ITEM>> m_entries;
     int m_selected = -1;
     int m_highlighted = -1;  // in the open list

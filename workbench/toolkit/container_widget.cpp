@@ -1,19 +1,10 @@
 #include "workbench/toolkit/container_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>
 
 namespace workbench {
-
-namespace {
-
-WindowSystem& windows() {
-    return Workbench::current().windows();
-}
-
-}  // namespace
 
 void ContainerWidget::add(Window& window, std::unique_ptr<CWnd> control) {
     m_controls.push_back(std::move(control));
@@ -43,19 +34,19 @@ void ContainerWidget::layOut(const Window& window) {
         return;
     const int width = window.rect.Width() - m_margin * (count() - 1);
     for (int i = 0; i < count(); ++i) {
-        const Window* const control = windows().find(this->control(i)->m_hWnd);
+        const Window* const control = m_windows.find(this->control(i)->m_hWnd);
         if (control == nullptr)
             continue;
         const int left = width * i / count() + m_margin * i;
         const int right = width * (i + 1) / count() + m_margin * i;
-        windows().place(control->handle, {left, 0, right, control->rect.Height()});
+        m_windows.place(control->handle, {left, 0, right, control->rect.Height()});
     }
 }
 
 int ContainerWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
     int height = 0;
     for (const auto& control : m_controls) {
-        if (const Window* const found = windows().find(control->m_hWnd))
+        if (const Window* const found = m_windows.find(control->m_hWnd))
             height = std::max(height, found->rect.Height());
     }
     return height;

@@ -7,10 +7,14 @@
 
 namespace workbench {
 
+class WindowSystem;
+
 /// A strip of controls side by side that share its width evenly. Their objects end
 /// with the strip's window.
 class ContainerWidget final : public ControlWidget {
 public:
+    explicit ContainerWidget(WindowSystem& windows) : m_windows(windows) {}
+
     void add(Window& window, std::unique_ptr<CWnd> control);
     void setMargin(Window& window, int pixels);
     int count() const { return static_cast<int>(m_controls.size()); }
@@ -25,6 +29,7 @@ public:
 private:
     void layOut(const Window& window);
 
+    WindowSystem& m_windows;
     std::vector<std::unique_ptr<CWnd>> m_controls;
     int m_margin = 0;  // pixels between two controls
 };

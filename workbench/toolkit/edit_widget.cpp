@@ -1,8 +1,8 @@
 #include "workbench/toolkit/edit_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>
@@ -24,7 +24,7 @@ const LineEditor& EditWidget::editor(const Window& window) {
 void EditWidget::selectAll(Window& window) {
     editor(window);
     m_editor.selectAll();
-    Workbench::current().windows().invalidate(window.handle);
+    m_toolkit.windows().invalidate(window.handle);
 }
 
 bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
@@ -47,7 +47,7 @@ bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPar
         return true;
     case WM_KEYDOWN:
         if (!key(window, wParam))
-            passKeyOn(wParam, lParam);
+            passKeyOn(m_toolkit, wParam, lParam);
         return true;
     default:
         return false;
@@ -61,7 +61,7 @@ int EditWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
 std::size_t EditWidget::scrolled(const Window& window) {
     const int room = std::max(1, (window.rect.Width() - 2 * kTextMargin) / kCharacterWidth);
     const std::size_t caret = editor(window).caret();
-    const bool isTyping = Workbench::current().windows().focus() == window.handle;
+    const bool isTyping = m_toolkit.windows().focus() == window.handle;
     const auto shown = static_cast<std::size_t>(room);
     return isTyping && caret > shown ? caret - shown : 0;
 }
@@ -71,8 +71,8 @@ void EditWidget::press(Window& window, CPoint point) {
     const int along = std::max(0, point.x - kTextMargin);
     const int place = (along + kCharacterWidth / 2) / kCharacterWidth;
     m_editor.moveTo(first + static_cast<std::size_t>(place), false);
-    Workbench::current().windows().invalidate(window.handle);
-    Workbench::current().windows().setFocus(window.handle);
+    m_toolkit.windows().invalidate(window.handle);
+    m_toolkit.windows().setFocus(window.handle);
 }
 
 void EditWidget::character(Window& window, wchar_t character) {
@@ -88,7 +88,7 @@ void EditWidget::character(Window& window, wchar_t character) {
 
 /// Edits by a key. False for a key that means nothing here.
 bool EditWidget::key(Window& window, WPARAM key) {
-    WindowSystem& windows = Workbench::current().windows();
+    WindowSystem& windows = m_toolkit.windows();
     const bool extend = windows.keys().isHeld(VK_SHIFT);
     editor(window);
     windows.invalidate(window.handle);
@@ -116,7 +116,7 @@ bool EditWidget::key(Window& window, WPARAM key) {
 
 void EditWidget::showText(Window& window) {
     if (window.text != m_editor.text())
-        Workbench::current().windows().state().setText(window.handle, m_editor.text());
+        m_toolkit.windows().state().setText(window.handle, m_editor.text());
 }
 
 }  // namespace workbench

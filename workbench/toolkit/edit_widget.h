@@ -5,6 +5,8 @@
 
 namespace workbench {
 
+class Toolkit;
+
 /// An edit field of one line. A click gives it the focus; the focus coming and going is reported to
 /// its parent.
 class EditWidget final : public ControlWidget {
@@ -12,6 +14,8 @@ public:
     static constexpr int kHeight = 20;         ///< Pixels.
     static constexpr int kTextMargin = 3;      ///< Pixels left and right of the text.
     static constexpr int kCharacterWidth = 6;  ///< Pixels: each character has the same room.
+
+    explicit EditWidget(Toolkit& toolkit) : m_toolkit(toolkit) {}
 
     /// The text with caret and selection, as they stand now.
     const LineEditor& editor(const Window& window);
@@ -34,6 +38,7 @@ private:
     bool key(Window& window, WPARAM key);
     void showText(Window& window);
 
+    Toolkit& m_toolkit;
     LineEditor m_editor;
     COLORREF m_background = 0xffffff;
 };

@@ -6,12 +6,15 @@
 
 namespace workbench {
 
+class Toolkit;
+
 /// Opens the list of a flyout's tools and makes the chosen one the current tool, in nested flyouts
 /// at each level. False if none was chosen.
-bool openFlyout(CQrUiToolPanelItem& flyout);
+bool openFlyout(Toolkit& toolkit, CQrUiToolPanelItem& flyout);
 
 /// The tools that a flyout's list offers, those of nested flyouts in their place. The commands of
 /// the list's lines count them from 1.
-std::vector<CQrUiToolPanelItem*> offeredTools(const CQrUiToolPanelItem& flyout);
+std::vector<CQrUiToolPanelItem*> offeredTools(const Toolkit& toolkit,
+                                              const CQrUiToolPanelItem& flyout);
 
 }  // namespace workbench

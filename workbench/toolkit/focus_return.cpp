@@ -1,11 +1,8 @@
 #include "workbench/toolkit/focus_return.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
-
-#include <algorithm>
 
 namespace workbench {
 
@@ -16,54 +13,62 @@ bool isField(const WindowSystem& windows, HWND window) {
     return found != nullptr && found->widget != nullptr && found->widget->reportsFocus();
 }
 
-bool palettesAgree(const PaletteSetState& state) {
-    return std::all_of(state.palettes.begin(), state.palettes.end(),
-                       [](const auto& palette) { return palette->CanFrameworkTakeFocus(); });
+/// Whether all palettes of a set let the focus go. A palette asks its controls, which may end the
+/// set: one that is gone doesn't agree.
+bool palettesAgree(Toolkit& toolkit, const CQrUiPaletteSet& set) {
+    const auto& sets = toolkit.paletteSets();
+    for (std::size_t index = 0;; ++index) {
+        const PaletteSetState* const state = sets.find(&set);
+        if (state == nullptr)
+            return false;
+        if (index >= state->palettes.size())
+            return true;
+        if (!state->palettes[index]->CanFrameworkTakeFocus())
+            return false;
+    }
 }
 
 /// Takes the focus from within a set to the drawing view, if its palettes agree.
-void takeFocusFrom(const CQrUiPaletteSet& set) {
-    Toolkit& toolkit = Workbench::current().toolkit();
-    const PaletteSetState* const state = toolkit.paletteSets().find(&set);
-    if (state != nullptr && palettesAgree(*state))
-        Workbench::current().windows().setFocus(toolkit.frame().drawingView().m_hWnd);
+void takeFocusFrom(Toolkit& toolkit, const CQrUiPaletteSet& set) {
+    if (palettesAgree(toolkit, set))
+        toolkit.windows().setFocus(toolkit.frame().drawingView().m_hWnd);
 }
 
 }  // namespace
 
-void giveFocusBack(HWND from, HWND before) {
-    const WindowSystem& windows = Workbench::current().windows();
-    const CQrUiPaletteSet* const set = paletteSetAbove(from);
+void giveFocusBack(Toolkit& toolkit, HWND from, HWND before) {
+    const WindowSystem& windows = toolkit.windows();
+    const CQrUiPaletteSet* const set = paletteSetAbove(windows, from);
     const HWND focus = windows.focus();
     if (set == nullptr || focus == nullptr || !windows.isWithin(focus, set->m_hWnd))
         return;
     if (isField(windows, focus) && focus != before)
         return;
-    takeFocusFrom(*set);
+    takeFocusFrom(toolkit, *set);
 }
 
-void giveFocusBackFromControl(HWND control, HWND before) {
-    const WindowSystem& windows = Workbench::current().windows();
+void giveFocusBackFromControl(Toolkit& toolkit, HWND control, HWND before) {
+    const WindowSystem& windows = toolkit.windows();
     const HWND focus = windows.focus();
     if (!isField(windows, focus) || !windows.isWithin(focus, control))
-        giveFocusBack(control, before);
+        giveFocusBack(toolkit, control, before);
 }
 
-void giveFocusBackOnPress(HWND pressed) {
-    const WindowSystem& windows = Workbench::current().windows();
+void giveFocusBackOnPress(Toolkit& toolkit, HWND pressed) {
+    const WindowSystem& windows = toolkit.windows();
     const HWND focus = windows.focus();
     if (isField(windows, focus) && !isField(windows, pressed))
-        giveFocusBack(pressed, focus);
+        giveFocusBack(toolkit, pressed, focus);
 }
 
-void giveFocusBackOnLeave(HWND paletteSet) {
-    const WindowSystem& windows = Workbench::current().windows();
-    const CQrUiPaletteSet* const set = paletteSetAbove(paletteSet);
+void giveFocusBackOnLeave(Toolkit& toolkit, HWND paletteSet) {
+    const WindowSystem& windows = toolkit.windows();
+    const CQrUiPaletteSet* const set = paletteSetAbove(windows, paletteSet);
     const HWND focus = windows.focus();
     if (set == nullptr || focus == nullptr || !windows.isWithin(focus, paletteSet) ||
         isField(windows, focus))
         return;
-    takeFocusFrom(*set);
+    takeFocusFrom(toolkit, *set);
 }
 
 }  // namespace workbench

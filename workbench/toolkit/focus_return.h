@@ -4,20 +4,22 @@
 
 namespace workbench {
 
+class Toolkit;
+
 /// The toolkit takes the keyboard focus back to the drawing view after a gesture in a palette set,
 /// if all palettes of the set agree. `from` is the window of the gesture, `before` the window that
 /// had the focus when it began. An edit field keeps the focus if the gesture gave it to the field.
-void giveFocusBack(HWND from, HWND before);
+void giveFocusBack(Toolkit& toolkit, HWND from, HWND before);
 
 /// The same after a click within a custom control: its own edit fields keep the focus, since the
 /// click may have been meant to bring the user there.
-void giveFocusBackFromControl(HWND control, HWND before);
+void giveFocusBackFromControl(Toolkit& toolkit, HWND control, HWND before);
 
 /// The same when the mouse presses on something other than a field: the user leaves the field with
 /// the focus before anything comes of the press.
-void giveFocusBackOnPress(HWND pressed);
+void giveFocusBackOnPress(Toolkit& toolkit, HWND pressed);
 
 /// The same when the mouse leaves a palette set: a field that the user types in keeps the focus.
-void giveFocusBackOnLeave(HWND paletteSet);
+void giveFocusBackOnLeave(Toolkit& toolkit, HWND paletteSet);
 
 }  // namespace workbench

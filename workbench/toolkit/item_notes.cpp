@@ -1,7 +1,6 @@
 #include "workbench/toolkit/item_notes.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 
 #include <hostapi/zorq/menu_data.h>
@@ -34,22 +33,23 @@ bool isSeen(const CQrUiToolPanelItem& item) {
     return outermost->m_record->laidOut;
 }
 
-bool isNoted(const CQrUiToolPanelItem& item) {
-    return Workbench::current().journal().isRecording() && isSeen(item);
+bool isNoted(const Journal& journal, const CQrUiToolPanelItem& item) {
+    return journal.isRecording() && isSeen(item);
 }
 
-void noteItem(const CQrUiToolPanelItem& item, std::string_view field, Value before, Value after) {
-    if (!isNoted(item) || before == after)
+void noteItem(Journal& journal, const CQrUiToolPanelItem& item, std::string_view field,
+              Value before, Value after) {
+    if (!isNoted(journal, item) || before == after)
         return;
-    Workbench::current().journal().add("item", {{"id", toUtf8(knownId(item))},
-                                                {"field", std::string(field)},
-                                                {"old", std::move(before)},
-                                                {"new", std::move(after)}});
+    journal.add("item", {{"id", toUtf8(knownId(item))},
+                         {"field", std::string(field)},
+                         {"old", std::move(before)},
+                         {"new", std::move(after)}});
 }
 
-void noteItemState(const CQrUiToolPanelItem& item, UINT before, UINT after) {
+void noteItemState(Journal& journal, const CQrUiToolPanelItem& item, UINT before, UINT after) {
     for (const StateField& field : kStateFields)
-        noteItem(item, field.name, (before & field.bit) != 0, (after & field.bit) != 0);
+        noteItem(journal, item, field.name, (before & field.bit) != 0, (after & field.bit) != 0);
 }
 
 }  // namespace workbench

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/base/value.h"
+#include "workbench/core/journal.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 
@@ -11,10 +11,11 @@ namespace workbench {
 /// Whether changes of an item are visible: it, or the flyout around it, stands on a panel.
 bool isSeen(const CQrUiToolPanelItem& item);
 /// Whether a change of the item has to be noted now.
-bool isNoted(const CQrUiToolPanelItem& item);
+bool isNoted(const Journal& journal, const CQrUiToolPanelItem& item);
 /// Notes a change of a field in the journal; equal values are left out.
-void noteItem(const CQrUiToolPanelItem& item, std::string_view field, Value before, Value after);
+void noteItem(Journal& journal, const CQrUiToolPanelItem& item, std::string_view field,
+              Value before, Value after);
 /// Notes the bits of the state that differ.
-void noteItemState(const CQrUiToolPanelItem& item, UINT before, UINT after);
+void noteItemState(Journal& journal, const CQrUiToolPanelItem& item, UINT before, UINT after);
 
 }  // namespace workbench

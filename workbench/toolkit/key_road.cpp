@@ -1,6 +1,5 @@
 #include "workbench/toolkit/key_road.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/lookup.h"
@@ -14,9 +13,8 @@ namespace workbench {
 
 namespace {
 
-void moveToNextField() {
-    WindowSystem& windows = Workbench::current().windows();
-    const HWND next = nextField(windows.focus(), windows.keys().isHeld(VK_SHIFT));
+void moveToNextField(WindowSystem& windows) {
+    const HWND next = nextField(windows, windows.focus(), windows.keys().isHeld(VK_SHIFT));
     if (next == nullptr || !windows.setFocus(next))
         return;
     Window& window = *windows.find(next);
@@ -26,19 +24,16 @@ void moveToNextField() {
 
 }  // namespace
 
-void passKeyOn(WPARAM key, LPARAM details) {
+void passKeyOn(Toolkit& toolkit, WPARAM key, LPARAM details) {
     if (key == kKeyTab) {
-        moveToNextField();
+        moveToNextField(toolkit.windows());
         return;
     }
-    Workbench& workbench = Workbench::current();
-    workbench.windows().send(workbench.toolkit().frame().commandLine().m_hWnd, WM_KEYDOWN, key,
-                             details);
+    toolkit.windows().send(toolkit.frame().commandLine().m_hWnd, WM_KEYDOWN, key, details);
 }
 
-HWND nextField(HWND from, bool backwards) {
-    WindowSystem& windows = Workbench::current().windows();
-    const CQrUiPaletteSet* const set = paletteSetAbove(from);
+HWND nextField(const WindowSystem& windows, HWND from, bool backwards) {
+    const CQrUiPaletteSet* const set = paletteSetAbove(windows, from);
     if (set == nullptr)
         return nullptr;
     std::vector<HWND> all = windows.descendants(set->m_hWnd);

@@ -1,7 +1,5 @@
 #include "workbench/toolkit/lookup.h"
 
-#include "workbench/core/workbench.h"
-#include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -17,8 +15,7 @@ namespace {
 
 /// The object of the nearest window at or above with a widget of a type.
 template <class Object, class Type>
-Object* objectAbove(HWND window) {
-    const WindowSystem& windows = Workbench::current().windows();
+Object* objectAbove(const WindowSystem& windows, HWND window) {
     for (const Window* found = windows.find(window); found != nullptr;
          found = windows.find(found->parent)) {
         if (dynamic_cast<const Type*>(found->widget.get()) != nullptr)
@@ -29,8 +26,7 @@ Object* objectAbove(HWND window) {
 
 /// The objects of all windows with a widget of a type, in the order of the window tree.
 template <class Object, class Type>
-std::vector<Object*> allWith() {
-    const WindowSystem& windows = Workbench::current().windows();
+std::vector<Object*> allWith(const WindowSystem& windows) {
     std::vector<Object*> found;
     for (const HWND top : windows.topWindows()) {
         for (const HWND handle : windows.descendants(top)) {
@@ -50,35 +46,35 @@ void appendWithTools(CQrUiToolPanelItem& item, std::vector<CQrUiToolPanelItem*>&
 
 }  // namespace
 
-CQrUiPaletteSet* paletteSetAbove(HWND window) {
-    return objectAbove<CQrUiPaletteSet, PaletteSetWidget>(window);
+CQrUiPaletteSet* paletteSetAbove(const WindowSystem& windows, HWND window) {
+    return objectAbove<CQrUiPaletteSet, PaletteSetWidget>(windows, window);
 }
 
-CQrUiPanel* panelAbove(HWND window) {
-    return objectAbove<CQrUiPanel, PanelWidget>(window);
+CQrUiPanel* panelAbove(const WindowSystem& windows, HWND window) {
+    return objectAbove<CQrUiPanel, PanelWidget>(windows, window);
 }
 
-std::vector<CQrUiPanel*> allPanels() {
-    return allWith<CQrUiPanel, PanelWidget>();
+std::vector<CQrUiPanel*> allPanels(const WindowSystem& windows) {
+    return allWith<CQrUiPanel, PanelWidget>(windows);
 }
 
-std::vector<CQrUiPanel*> findPanels(std::wstring_view id) {
-    std::vector<CQrUiPanel*> panels = allPanels();
+std::vector<CQrUiPanel*> findPanels(const WindowSystem& windows, std::wstring_view id) {
+    std::vector<CQrUiPanel*> panels = allPanels(windows);
     std::erase_if(panels, [id](const CQrUiPanel* panel) { return panel->GetID() != id; });
     return panels;
 }
 
-std::vector<CQrUiToolPanelItem*> allItems() {
+std::vector<CQrUiToolPanelItem*> allItems(const WindowSystem& windows) {
     std::vector<CQrUiToolPanelItem*> items;
-    for (const CQrUiToolPanel* panel : allWith<CQrUiToolPanel, ToolPanelWidget>()) {
+    for (const CQrUiToolPanel* panel : allWith<CQrUiToolPanel, ToolPanelWidget>(windows)) {
         for (int index = 0; index < panel->GetToolPanelItemCount(); ++index)
             appendWithTools(*panel->GetToolPanelItem(index), items);
     }
     return items;
 }
 
-std::vector<CQrUiToolPanelItem*> findItems(std::wstring_view id) {
-    std::vector<CQrUiToolPanelItem*> items = allItems();
+std::vector<CQrUiToolPanelItem*> findItems(const WindowSystem& windows, std::wstring_view id) {
+    std::vector<CQrUiToolPanelItem*> items = allItems(windows);
     std::erase_if(items, [id](const CQrUiToolPanelItem* item) {
         return knownId(*item) != id && item->GetID() != id;
     });
@@ -92,14 +88,14 @@ CQrUiToolPanel* toolPanelOf(const CQrUiToolPanelItem& item) {
     return outermost->m_record->toolPanel;
 }
 
-std::wstring shownName(const CQrUiToolPanelItem& item) {
+std::wstring shownName(const Toolkit& toolkit, const CQrUiToolPanelItem& item) {
     const VxString& name = item.GetName();
     if (!name.empty())
         return name;
-    return Workbench::current().menu().labelOf(QrUiGetToolPanelItemData(&item));
+    return toolkit.texts().labelOf(QrUiGetToolPanelItemData(&item));
 }
 
-ItemView viewOf(const CQrUiToolPanelItem& item) {
+ItemView viewOf(const Toolkit& toolkit, const CQrUiToolPanelItem& item) {
     const CQrUiToolPanelItem::Record& record = *item.m_record;
     ItemView view;
     view.id = knownId(item);
@@ -107,7 +103,7 @@ ItemView viewOf(const CQrUiToolPanelItem& item) {
     view.disabled = (record.state & kItemDisabled) != 0;
     view.hidden = (record.state & kItemHidden) != 0;
     view.name = record.name;
-    view.image = Workbench::current().toolkit().pictures().source(record.smallImage);
+    view.image = toolkit.pictures().source(record.smallImage);
     if (record.currentTool != nullptr)
         view.tool = knownId(*record.currentTool);
     return view;

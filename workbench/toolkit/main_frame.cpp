@@ -61,7 +61,7 @@ void MainFrame::makeWindow(CWnd& object, const char* className, const char* name
     creation.id = static_cast<int>(id);
     if (creation.parent != nullptr)
         creation.style |= WS_CHILD;
-    creation.widget = std::make_unique<ClickFocusWidget>();
+    creation.widget = std::make_unique<ClickFocusWidget>(m_windows);
     m_windows.create(object, std::move(creation));
     if (*name != '\0')
         m_windows.setName(object.m_hWnd, name);
@@ -111,8 +111,11 @@ void MainFrame::put(CQrUiPaletteSet& set, BarPlace place) {
     state.place = place;
     state.rolledOut = false;
     m_tools.rememberPlace(state.toolId, place);
+    const HWND window = set.m_hWnd;
     stand(set);
-    showPalettes(set);
+    // Moved and sized, its controls may have ended it.
+    if (m_windows.find(window) != nullptr)
+        showPalettes(set);
 }
 
 bool MainFrame::dock(CQrUiPaletteSet& set, Edge edge) {
@@ -127,14 +130,16 @@ bool MainFrame::dock(CQrUiPaletteSet& set, Edge edge) {
 }
 
 void MainFrame::floatAt(CQrUiPaletteSet& set, const CRect& rect) {
-    PaletteSetState& state = m_sets.of(&set);
-    BarPlace place = state.place;
+    const HWND window = set.m_hWnd;
+    BarPlace place = m_sets.of(&set).place;
     place.floating = true;
     place.anchored = false;
     place.rect = rect;
     put(set, place);
+    if (m_windows.find(window) == nullptr)
+        return;
     // The palettes answer for the set as it stands now: their limits differ while it floats.
-    const CSize size = limited(state, {rect.Width(), rect.Height()});
+    const CSize size = limited(m_sets.of(&set), {rect.Width(), rect.Height()});
     place.rect.right = rect.left + size.cx;
     place.rect.bottom = rect.top + size.cy;
     put(set, place);
@@ -159,11 +164,16 @@ void MainFrame::rollOut(CQrUiPaletteSet& set, bool out) {
 
 void MainFrame::show(CQrUiPaletteSet& set, bool shown, bool delay) {
     const auto floating = m_floating.find(&set);
+    const HWND window = set.m_hWnd;
     if (floating != m_floating.end())
         m_windows.show(floating->second->frame().m_hWnd, shown);
-    m_windows.show(set.m_hWnd, shown);
+    m_windows.show(window, shown);
     if (!delay)
         layout();
+}
+
+void MainFrame::close(CQrUiPaletteSet& set) {
+    show(set, false, false);
 }
 
 void MainFrame::setDockedHeight(CQrUiPaletteSet& set, int height) {
@@ -203,18 +213,20 @@ bool MainFrame::isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const {
 
 /// Moves the set's window to where its place says.
 void MainFrame::stand(CQrUiPaletteSet& set) {
-    const Window* const window = m_windows.find(set.m_hWnd);
+    const HWND handle = set.m_hWnd;
+    const Window* const window = m_windows.find(handle);
     if (window == nullptr)
         return;
     const bool shown = window->hasVisibleStyle();
-    const BarPlace& place = m_sets.of(&set).place;
-    reparent(m_windows, set.m_hWnd, homeOf(set));
+    const BarPlace place = m_sets.of(&set).place;
+    reparent(m_windows, handle, homeOf(set));
     if (place.floating) {
         FloatingFrame& floating = *m_floating.at(&set);
         const HWND frame = floating.frame().m_hWnd;
+        const HWND dockBar = floating.dockBar().m_hWnd;
         m_windows.place(frame, place.rect, SWP_NOZORDER | SWP_NOACTIVATE);
-        const CRect inside = m_windows.clientRect(floating.dockBar().m_hWnd);
-        m_windows.place(set.m_hWnd, inside, SWP_NOZORDER | SWP_NOACTIVATE);
+        const CRect inside = m_windows.clientRect(dockBar);
+        m_windows.place(handle, inside, SWP_NOZORDER | SWP_NOACTIVATE);
         m_windows.show(frame, shown);
     } else if (const auto left = m_floating.find(&set); left != m_floating.end()) {
         m_orphans.push_back(std::move(left->second));
@@ -225,10 +237,13 @@ void MainFrame::stand(CQrUiPaletteSet& set) {
 
 /// Palettes of an anchored set are on show only while it is rolled out.
 void MainFrame::showPalettes(CQrUiPaletteSet& set) {
-    const PaletteSetState& state = m_sets.of(&set);
-    const bool shown = !state.place.anchored || state.rolledOut;
-    for (const auto& palette : state.palettes)
-        m_windows.show(palette->m_hWnd, shown);
+    const PaletteSetState* state = m_sets.find(&set);
+    const bool shown = state == nullptr || !state->place.anchored || state->rolledOut;
+    for (std::size_t index = 0; state != nullptr && index < state->palettes.size(); ++index) {
+        m_windows.show(state->palettes[index]->m_hWnd, shown);
+        // A field that is hidden loses the focus, and its control may end the set.
+        state = m_sets.find(&set);
+    }
 }
 
 /// The window that a set is to be a child of.

@@ -61,6 +61,8 @@ public:
     void rollOut(CQrUiPaletteSet& set, bool out);
     /// Shows or hides a set; the frame is laid out anew unless `delay`.
     void show(CQrUiPaletteSet& set, bool shown, bool delay);
+    /// Closes a set as its user does: it is only hidden.
+    void close(CQrUiPaletteSet& set);
     /// Gives a docked set a height in pixels, as far as its edge has room.
     void setDockedHeight(CQrUiPaletteSet& set, int height);
     /// Lays out docks, docked sets, drawing view and command line.

@@ -1,7 +1,5 @@
 #include "workbench/toolkit/message_boxes.h"
 
-#include "workbench/toolkit/notes.h"
-
 #include <algorithm>
 #include <iterator>
 #include <stdexcept>
@@ -22,7 +20,7 @@ constexpr NamedAnswer kAnswers[] = {{"ok", MessageBoxes::kOk},
 }  // namespace
 
 int MessageBoxes::show(const std::wstring& text, UINT type, const std::string& owner) {
-    noteText(m_journal, "box", text, owner);
+    m_notes.note("box", text, owner);
     if (const std::optional<int> queued = queuedAnswer(); queued)
         return *queued;
     return m_presenter ? m_presenter(text, type) : kOk;

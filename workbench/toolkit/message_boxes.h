@@ -1,7 +1,7 @@
 #pragma once
 
 #include "workbench/core/answers.h"
-#include "workbench/core/journal.h"
+#include "workbench/toolkit/text_notes.h"
 
 #include <hostapi/types.h>
 
@@ -20,7 +20,7 @@ public:
     static constexpr int kYes = 6;
     static constexpr int kNo = 7;
 
-    MessageBoxes(Answers& answers, Journal& journal) : m_answers(answers), m_journal(journal) {}
+    MessageBoxes(Answers& answers, const TextNotes& notes) : m_answers(answers), m_notes(notes) {}
 
     /// Shows a box and returns its answer. `owner` is the name of the window that it belongs to.
     int show(const std::wstring& text, UINT type, const std::string& owner);
@@ -33,7 +33,7 @@ private:
     std::optional<int> queuedAnswer();
 
     Answers& m_answers;
-    Journal& m_journal;
+    const TextNotes& m_notes;
     Presenter m_presenter;
 };
 

@@ -1,6 +1,5 @@
 #include "workbench/toolkit/mouse.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
@@ -10,6 +9,8 @@
 #include <cstdint>
 
 namespace workbench {
+
+Mouse::Mouse(Toolkit& toolkit) : m_toolkit(toolkit), m_windows(toolkit.windows()) {}
 
 HWND Mouse::windowAt(HWND window, CPoint& point) const {
     const Window* const found = m_windows.find(window);
@@ -32,8 +33,8 @@ bool Mouse::move(HWND window, CPoint point, WPARAM held) {
 
 bool Mouse::press(HWND window, CPoint point) {
     noteOver(window, point);
-    Workbench::current().toolkit().toolTips().hide();
-    giveFocusBackOnPress(window);
+    m_toolkit.toolTips().hide();
+    giveFocusBackOnPress(m_toolkit, window);
     return send(window, kLeftButtonDown, kLeftButtonHeld | heldKeys(), point);
 }
 
@@ -49,7 +50,7 @@ bool Mouse::doubleClick(HWND window, CPoint point) {
 
 bool Mouse::contextMenu(HWND window, CPoint point) {
     noteOver(window, point);
-    Workbench::current().toolkit().toolTips().hide();
+    m_toolkit.toolTips().hide();
     return send(window, kContextMenuMessage, 0, point);
 }
 
@@ -59,13 +60,13 @@ bool Mouse::wheel(HWND window, CPoint point, int notches) {
 }
 
 void Mouse::leave() {
-    Workbench::current().toolkit().toolTips().hide();
-    const CQrUiPaletteSet* const set = paletteSetAbove(m_over);
+    m_toolkit.toolTips().hide();
+    const CQrUiPaletteSet* const set = paletteSetAbove(m_windows, m_over);
     const HWND left = m_over;
     m_over = nullptr;
     send(left, kMouseLeave, 0, {});
     if (set != nullptr)
-        giveFocusBackOnLeave(set->m_hWnd);
+        giveFocusBackOnLeave(m_toolkit, set->m_hWnd);
 }
 
 WPARAM Mouse::heldKeys() const {
@@ -88,8 +89,8 @@ bool Mouse::send(HWND window, UINT message, WPARAM wParam, CPoint point) {
 
 /// Keeps the window that the mouse is over, and its tooltip, up to date.
 void Mouse::noteOver(HWND window, CPoint point) {
-    const CQrUiPaletteSet* const before = paletteSetAbove(m_over);
-    if (before != nullptr && before != paletteSetAbove(window))
+    const CQrUiPaletteSet* const before = paletteSetAbove(m_windows, m_over);
+    if (before != nullptr && before != paletteSetAbove(m_windows, window))
         leave();
     m_over = window;
     m_point = point;
@@ -97,7 +98,7 @@ void Mouse::noteOver(HWND window, CPoint point) {
     if (found == nullptr)
         return;
     const auto* const control = dynamic_cast<const ControlWidget*>(found->widget.get());
-    Workbench::current().toolkit().toolTips().mouseOver(
+    m_toolkit.toolTips().mouseOver(
         window, control == nullptr ? std::wstring() : control->tipAt(*found, point));
 }
 

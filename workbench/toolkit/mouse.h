@@ -6,11 +6,14 @@
 
 namespace workbench {
 
+class Toolkit;
+
 /// The user's mouse: hands its gestures to the windows as input messages. Windows that take no input
 /// get none. While a window holds the mouse all moves and releases go to it.
 class Mouse {
 public:
-    explicit Mouse(WindowSystem& windows) : m_windows(windows) {}
+    /// A part of the toolkit, of which it asks only later.
+    explicit Mouse(Toolkit& toolkit);
 
     /// The deepest window on screen at a client point of a window, the window itself if there is
     /// none deeper. `point` is changed to that window's client coordinates.
@@ -39,6 +42,7 @@ private:
     bool send(HWND window, UINT message, WPARAM wParam, CPoint point);
     void noteOver(HWND window, CPoint point);
 
+    Toolkit& m_toolkit;
     WindowSystem& m_windows;
     HWND m_over = nullptr;      // null: over none of ours
     CPoint m_point;             // in its client area

@@ -1,6 +1,5 @@
 #include "workbench/toolkit/palette_set_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/context_menu.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/toolkit.h"
@@ -17,16 +16,8 @@ constexpr UINT kSizeCommand = 2;
 constexpr UINT kCloseCommand = 3;
 constexpr UINT kAllowDockingCommand = 4;
 
-WindowSystem& windowSystem() {
-    return Workbench::current().windows();
-}
-
 CQrUiPaletteSet& setOf(const Window& window) {
     return *static_cast<CQrUiPaletteSet*>(window.object);
-}
-
-PaletteSetState& stateOf(const Window& window) {
-    return Workbench::current().toolkit().paletteSets().of(&setOf(window));
 }
 
 /// A number of the user's answer to a question for a place or a size; the present one without.
@@ -35,23 +26,15 @@ int numberOf(const Value& answer, const char* name, int present) {
     return given == nullptr ? present : static_cast<int>(given->asInteger());
 }
 
-/// Moves or sizes a set by the user's answer, a table of "x" and "y", or "width" and "height".
-/// Without an answer the set stays where it is.
-void moveOrSize(const Window& window) {
-    const std::optional<Value> answer = Workbench::current().answers().take("dialog");
-    if (!answer)
-        return;
-    MainFrame& frame = Workbench::current().toolkit().frame();
-    const BarPlace place = frame.placeOf(setOf(window));
-    const CRect present = place.floating ? place.rect : windowSystem().screenRect(window.handle);
-    const int x = numberOf(*answer, "x", present.left);
-    const int y = numberOf(*answer, "y", present.top);
-    const int width = numberOf(*answer, "width", present.Width());
-    const int height = numberOf(*answer, "height", present.Height());
-    frame.floatAt(setOf(window), {x, y, x + width, y + height});
+}  // namespace
+
+WindowSystem& PaletteSetWidget::windows() const {
+    return m_toolkit.windows();
 }
 
-}  // namespace
+PaletteSetState& PaletteSetWidget::stateOf(const Window& window) const {
+    return m_toolkit.paletteSets().of(&setOf(window));
+}
 
 void PaletteSetWidget::layout(const Window& window) {
     const PaletteSetState& state = stateOf(window);
@@ -59,8 +42,8 @@ void PaletteSetWidget::layout(const Window& window) {
     const CRect inside{0, top, window.rect.Width(), std::max(top, window.rect.Height())};
     const HWND handle = window.handle;
     for (std::size_t index = 0; index < state.palettes.size(); ++index) {
-        windowSystem().place(state.palettes[index]->m_hWnd, inside, SWP_NOZORDER | SWP_NOACTIVATE);
-        if (windowSystem().find(handle) == nullptr)
+        windows().place(state.palettes[index]->m_hWnd, inside, SWP_NOZORDER | SWP_NOACTIVATE);
+        if (windows().find(handle) == nullptr)
             return;
     }
 }
@@ -72,7 +55,7 @@ bool PaletteSetWidget::handle(Window& window, UINT message, WPARAM /*wParam*/, L
         layout(window);
         return true;
     case WM_DESTROY:
-        Workbench::current().toolkit().frame().forget(setOf(window));
+        m_toolkit.frame().forget(setOf(window));
         return true;
     case kContextMenuMessage:
         openContextMenu(window);
@@ -103,8 +86,24 @@ void PaletteSetWidget::openContextMenu(Window& window) {
     menu.AppendMenu(MF_SEPARATOR);
     if (setOf(window).AddContextMenuItems(menu) == 0)
         return;
-    runContextMenu(window.handle, menu,
+    runContextMenu(m_toolkit, window.handle, menu,
                    [this](Window& living, UINT command) { return runOwnCommand(living, command); });
+}
+
+/// Moves or sizes a set by the user's answer, a table of "x" and "y", or "width" and "height".
+/// Without an answer the set stays where it is.
+void PaletteSetWidget::moveOrSize(const Window& window) {
+    const std::optional<Value> answer = m_toolkit.answers().take("dialog");
+    if (!answer)
+        return;
+    MainFrame& frame = m_toolkit.frame();
+    const BarPlace place = frame.placeOf(setOf(window));
+    const CRect present = place.floating ? place.rect : windows().screenRect(window.handle);
+    const int x = numberOf(*answer, "x", present.left);
+    const int y = numberOf(*answer, "y", present.top);
+    const int width = numberOf(*answer, "width", present.Width());
+    const int height = numberOf(*answer, "height", present.Height());
+    frame.floatAt(setOf(window), {x, y, x + width, y + height});
 }
 
 bool PaletteSetWidget::runOwnCommand(Window& window, UINT command) {
@@ -114,7 +113,7 @@ bool PaletteSetWidget::runOwnCommand(Window& window, UINT command) {
         moveOrSize(window);
         return true;
     case kCloseCommand:
-        closePaletteSet(setOf(window));
+        m_toolkit.frame().close(setOf(window));
         return true;
     case kAllowDockingCommand:
         stateOf(window).dockingAllowed = !stateOf(window).dockingAllowed;
@@ -122,10 +121,6 @@ bool PaletteSetWidget::runOwnCommand(Window& window, UINT command) {
     default:
         return false;
     }
-}
-
-void closePaletteSet(CQrUiPaletteSet& set) {
-    Workbench::current().toolkit().frame().show(set, false, false);
 }
 
 }  // namespace workbench

@@ -6,11 +6,17 @@
 
 namespace workbench {
 
+class Toolkit;
+class WindowSystem;
+struct PaletteSetState;
+
 /// A palette set: keeps its palettes as large as its client area, below the grip of a docked set,
 /// and offers the context menu of its title bar.
 class PaletteSetWidget final : public Widget {
 public:
     static constexpr int kGripHeight = 13;  ///< Pixels at the top of a docked set.
+
+    explicit PaletteSetWidget(Toolkit& toolkit) : m_toolkit(toolkit) {}
 
     /// Sizes the palettes.
     void layout(const Window& window);
@@ -21,11 +27,13 @@ public:
     std::string describe(const Window& window) const override;
 
 private:
+    WindowSystem& windows() const;
+    PaletteSetState& stateOf(const Window& window) const;
+    void moveOrSize(const Window& window);
     void openContextMenu(Window& window);
     bool runOwnCommand(Window& window, UINT command);
-};
 
-/// Closes a set as its user does: it is only hidden.
-void closePaletteSet(CQrUiPaletteSet& set);
+    Toolkit& m_toolkit;
+};
 
 }  // namespace workbench

@@ -1,6 +1,5 @@
 #include "workbench/toolkit/palette_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/windows/window_system.h"
 
@@ -10,7 +9,7 @@ bool PaletteWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM l
                            LRESULT& answer) {
     if (message != kContextMenuMessage && message != kMouseWheel)
         return false;
-    answer = Workbench::current().windows().send(window.parent, message, wParam, lParam);
+    answer = m_windows.send(window.parent, message, wParam, lParam);
     return true;
 }
 

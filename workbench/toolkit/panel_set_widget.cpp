@@ -1,6 +1,5 @@
 #include "workbench/toolkit/panel_set_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -16,37 +15,37 @@ namespace {
 constexpr UINT kPlaceFlags = SWP_NOZORDER | SWP_NOACTIVATE;
 constexpr int kPixelsOfANotch = 60;
 
-WindowSystem& windowSystem() {
-    return Workbench::current().windows();
-}
-
 CQrUiPanelSet& setOf(const Window& window) {
     return *static_cast<CQrUiPanelSet*>(window.object);
 }
 
-PanelSetState& stateOf(const Window& window) {
-    return Workbench::current().toolkit().panelSets().of(&setOf(window));
+}  // namespace
+
+WindowSystem& PanelSetWidget::windows() const {
+    return m_toolkit.windows();
+}
+
+PanelSetState& PanelSetWidget::stateOf(const Window& window) const {
+    return m_toolkit.panelSets().of(&setOf(window));
 }
 
 /// The pixels of the set that its parent shows.
-int shownHeight(const Window& window) {
-    const Window* const parent = windowSystem().find(window.parent);
+int PanelSetWidget::shownHeight(const Window& window) const {
+    const Window* const parent = windows().find(window.parent);
     const int own = window.rect.Height();
     return parent == nullptr ? own : std::min(own, parent->rect.Height() - window.rect.top);
 }
 
-}  // namespace
-
 void PanelSetWidget::layout(Window& window) {
     const HWND handle = window.handle;
     stack(window);
-    if (windowSystem().find(handle) == nullptr)
+    if (windows().find(handle) == nullptr)
         return;
     const int height = std::max(kEmptyHeight, stateOf(window).contentHeight);
-    windowSystem().place(
+    windows().place(
         handle, {window.rect.left, window.rect.top, window.rect.right, window.rect.top + height},
         kPlaceFlags);
-    if (windowSystem().find(handle) != nullptr)
+    if (windows().find(handle) != nullptr)
         scrollTo(window, stateOf(window).scroll);
 }
 
@@ -72,7 +71,7 @@ bool PanelSetWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM 
         return true;
     }
     case kContextMenuMessage:
-        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        answer = windows().send(window.parent, message, wParam, lParam);
         return true;
     case WM_QRUI_THEME_CHANGED:
         changeTheme(window, wParam, lParam);
@@ -95,15 +94,18 @@ void PanelSetWidget::stack(Window& window) {
     state.laidOutWidth = width;
     int height = 0;
     for (std::size_t index = 0; index < state.panels.size(); ++index) {
-        Window* const panel = windowSystem().find(state.panels[index]->m_hWnd);
-        if (panel == nullptr || !panel->hasVisibleStyle())
+        const HWND panel = state.panels[index]->m_hWnd;
+        Window* const below = windows().find(panel);
+        if (below == nullptr || !below->hasVisibleStyle())
             continue;
-        auto& widget = static_cast<PanelWidget&>(*panel->widget);
-        const int panelHeight = widget.layout(*panel, width);
-        if (windowSystem().find(handle) == nullptr)
+        auto& widget = static_cast<PanelWidget&>(*below->widget);
+        const int panelHeight = widget.layout(*below, width);
+        if (windows().find(handle) == nullptr)
             return;
         const int top = height - state.scroll;
-        windowSystem().place(panel->handle, {0, top, width, top + panelHeight}, kPlaceFlags);
+        windows().place(panel, {0, top, width, top + panelHeight}, kPlaceFlags);
+        if (windows().find(handle) == nullptr)
+            return;
         height += panelHeight;
     }
     state.contentHeight = height;
@@ -116,15 +118,15 @@ void PanelSetWidget::changeTheme(Window& window, WPARAM wParam, LPARAM lParam) {
     const int before = window.rect.Height();
     const std::vector<HWND> children = window.children;
     for (const HWND child : children)
-        windowSystem().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
-    if (windowSystem().find(handle) == nullptr)
+        windows().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
+    if (windows().find(handle) == nullptr)
         return;
     setOf(window).UpdateLayout();
-    if (windowSystem().find(handle) == nullptr || window.rect.Height() == before)
+    if (windows().find(handle) == nullptr || window.rect.Height() == before)
         return;
     const auto size =
         MAKELONG(static_cast<UINT>(window.rect.Width()), static_cast<UINT>(window.rect.Height()));
-    windowSystem().post(window.parent, WM_QRUI_POSITION, size, 0);
+    windows().queue().post(window.parent, WM_QRUI_POSITION, size, 0);
 }
 
 }  // namespace workbench

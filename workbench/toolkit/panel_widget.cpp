@@ -1,6 +1,5 @@
 #include "workbench/toolkit/panel_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/context_menu.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_set_widget.h"
@@ -13,16 +12,8 @@ namespace {
 
 constexpr UINT kCollapseCommand = 1;
 
-WindowSystem& windowSystem() {
-    return Workbench::current().windows();
-}
-
 CQrUiPanel& panelOf(const Window& window) {
     return *static_cast<CQrUiPanel*>(window.object);
-}
-
-PanelState& stateOf(const Window& window) {
-    return Workbench::current().toolkit().panels().of(&panelOf(window));
 }
 
 bool isOnTitle(CPoint point) {
@@ -35,21 +26,31 @@ bool isOnImage(CPoint point) {
 
 }  // namespace
 
+WindowSystem& PanelWidget::windows() const {
+    return m_toolkit.windows();
+}
+
+PanelState& PanelWidget::stateOf(const Window& window) const {
+    return m_toolkit.panels().of(&panelOf(window));
+}
+
 int PanelWidget::layout(Window& window, int width) {
     const HWND handle = window.handle;
     const PanelState& state = stateOf(window);
     int bottom = kTitleHeight;
     for (std::size_t index = 0; index < state.toolPanels.size() && !state.collapsed; ++index) {
         CQrUiToolPanel& toolPanel = *state.toolPanels[index];
-        const Window* const below = windowSystem().find(toolPanel.m_hWnd);
+        const Window* const below = windows().find(toolPanel.m_hWnd);
         if (below == nullptr)
             continue;
-        windowSystem().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
-                             SWP_NOZORDER | SWP_NOACTIVATE);
-        toolPanel.UpdateLayout(0);
-        if (windowSystem().find(handle) == nullptr)
+        windows().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
+                        SWP_NOZORDER | SWP_NOACTIVATE);
+        if (windows().find(handle) == nullptr)
             return 0;
-        bottom += windowSystem().screenRect(toolPanel.m_hWnd).Height();
+        toolPanel.UpdateLayout(0);
+        if (windows().find(handle) == nullptr)
+            return 0;
+        bottom += windows().screenRect(toolPanel.m_hWnd).Height();
     }
     return bottom;
 }
@@ -59,12 +60,17 @@ void PanelWidget::collapse(Window& window, bool collapsed) {
     if (state.collapsed == collapsed)
         return;
     state.collapsed = collapsed;
-    windowSystem().noteChange(window.handle, "collapsed", !collapsed, collapsed);
+    windows().changes().note(window.handle, "collapsed", !collapsed, collapsed);
     CQrUiPanel& panel = panelOf(window);
+    const HWND handle = window.handle;
     const HWND parent = window.parent;
-    for (const auto& toolPanel : state.toolPanels)
-        windowSystem().show(toolPanel->m_hWnd, !collapsed);
-    const Window* const set = windowSystem().find(parent);
+    for (std::size_t index = 0; index < state.toolPanels.size(); ++index) {
+        // A field that is hidden loses the focus, and its control may do anything then.
+        windows().show(state.toolPanels[index]->m_hWnd, !collapsed);
+        if (windows().find(handle) == nullptr)
+            return;
+    }
+    const Window* const set = windows().find(parent);
     if (set == nullptr || dynamic_cast<const PanelSetWidget*>(set->widget.get()) == nullptr)
         return;
     auto& panelSet = *static_cast<CQrUiPanelSet*>(set->object);
@@ -93,7 +99,7 @@ bool PanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPa
         openContextMenu(window);
         return true;
     case kMouseWheel:
-        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        answer = windows().send(window.parent, message, wParam, lParam);
         return true;
     case WM_QRUI_THEME_CHANGED:
         changeTheme(window, wParam, lParam);
@@ -115,7 +121,7 @@ void PanelWidget::openContextMenu(Window& window) {
     menu.AppendMenu(MF_STRING, kCollapseCommand, collapsed ? L"Expand" : L"Collapse");
     if (panelOf(window).AddContextMenuItems(menu) == 0)
         return;
-    runContextMenu(window.handle, menu, [this, collapsed](Window& panel, UINT command) {
+    runContextMenu(m_toolkit, window.handle, menu, [this, collapsed](Window& panel, UINT command) {
         if (command == kCollapseCommand)
             collapse(panel, !collapsed);
         return command == kCollapseCommand;
@@ -125,7 +131,7 @@ void PanelWidget::openContextMenu(Window& window) {
 void PanelWidget::changeTheme(const Window& window, WPARAM wParam, LPARAM lParam) {
     const std::vector<HWND> children = window.children;
     for (const HWND child : children)
-        windowSystem().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
+        windows().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
 }
 
 }  // namespace workbench

@@ -6,12 +6,18 @@
 
 namespace workbench {
 
+class Toolkit;
+class WindowSystem;
+struct PanelState;
+
 /// A panel: a title bar with an image, below it the tool panels. A click on the title rolls the
 /// panel up or down, a double click on the image opens what the panel is tied to.
 class PanelWidget final : public Widget {
 public:
     static constexpr int kTitleHeight = 20;     ///< Pixels.
     static constexpr int kImageAreaWidth = 20;  ///< Pixels of the title, at the left.
+
+    explicit PanelWidget(Toolkit& toolkit) : m_toolkit(toolkit) {}
 
     /// Gives the panel a width and stacks its tool panels. Returns the height it takes.
     int layout(Window& window, int width);
@@ -24,9 +30,12 @@ public:
     std::string describe(const Window& window) const override;
 
 private:
+    WindowSystem& windows() const;
+    PanelState& stateOf(const Window& window) const;
     void openContextMenu(Window& window);
     void changeTheme(const Window& window, WPARAM wParam, LPARAM lParam);
 
+    Toolkit& m_toolkit;
     bool m_titlePressed = false;
 };
 

@@ -1,6 +1,5 @@
 #include "workbench/toolkit/slider_widget.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"
@@ -29,7 +28,7 @@ void SliderWidget::setRange(Window& window, int lowest, int highest) {
 void SliderWidget::setPosition(Window& window, int position) {
     const int before = m_position;
     m_position = scale(window).clamp(position);
-    Workbench::current().windows().changes().note(window.handle, "position", before, m_position);
+    m_toolkit.windows().changes().note(window.handle, "position", before, m_position);
 }
 
 SliderScale SliderWidget::scale(const Window& window) const {
@@ -55,7 +54,7 @@ bool SliderWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lP
     }
     case WM_KEYDOWN:
         if (!key(window, wParam))
-            passKeyOn(wParam, lParam);
+            passKeyOn(m_toolkit, wParam, lParam);
         return true;
     default:
         return false;
@@ -72,12 +71,12 @@ int SliderWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
 }
 
 void SliderWidget::press(Window& window, CPoint point) {
-    WindowSystem& windows = Workbench::current().windows();
+    WindowSystem& windows = m_toolkit.windows();
     const SliderScale places = scale(window);
     const bool onThumb = places.isOnThumb(point.x, m_position);
     const int grip = onThumb ? point.x - places.middleAt(m_position) : 0;
     m_drag = Drag{grip, point.x, windows.focus()};
-    Workbench::current().toolkit().mouse().capture(window.handle);
+    m_toolkit.mouse().capture(window.handle);
     const HWND slider = window.handle;
     windows.setFocus(slider);
     // Whoever lost the focus may have ended this window.
@@ -101,8 +100,8 @@ void SliderWidget::release(Window& window) {
         return;
     const HWND before = m_drag->focus;
     m_drag.reset();
-    Workbench::current().toolkit().mouse().capture(nullptr);
-    giveFocusBack(window.handle, before);
+    m_toolkit.mouse().capture(nullptr);
+    giveFocusBack(m_toolkit, window.handle, before);
 }
 
 /// Moves the thumb by a key. False for a key that means nothing here.
@@ -140,8 +139,8 @@ void SliderWidget::moveByGesture(Window& window, int position) {
     if (m_position == before)
         return;
     const auto low = static_cast<std::uint16_t>(m_position);
-    Workbench::current().windows().send(window.parent, WM_QRUI_POSITION, low,
-                                        reinterpret_cast<LPARAM>(window.handle));
+    m_toolkit.windows().send(window.parent, WM_QRUI_POSITION, low,
+                             reinterpret_cast<LPARAM>(window.handle));
 }
 
 }  // namespace workbench

@@ -8,12 +8,16 @@
 
 namespace workbench {
 
+class Toolkit;
+
 /// A slider with tick marks. The mouse drags its thumb, a click on its track moves the thumb there;
 /// with the control key held a drag moves one position a pixel, however long the range is. Arrow
 /// keys and the wheel move by lines, page keys by five lines, Home and End to the ends.
 class SliderWidget final : public ControlWidget {
 public:
     static constexpr int kHeight = 16;  ///< Pixels.
+
+    explicit SliderWidget(Toolkit& toolkit) : m_toolkit(toolkit) {}
 
     int position() const { return m_position; }
     int lowest() const { return m_lowest; }
@@ -55,6 +59,7 @@ private:
     bool key(Window& window, WPARAM key);
     void moveByGesture(Window& window, int position);
 
+    Toolkit& m_toolkit;
     int m_lowest = 0;
     int m_highest = 100;
     int m_position = 0;

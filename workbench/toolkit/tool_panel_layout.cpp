@@ -1,6 +1,5 @@
 #include "workbench/toolkit/tool_panel_layout.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/tool_panel_widget.h"
@@ -28,8 +27,7 @@ RowItem::Kind kindOf(int type) {
 
 /// Hides the control of a hidden item. Shows only what was hidden here: a control that its owner
 /// hid stays so.
-void showControl(CQrUiToolPanelItem::Record& record, bool shown) {
-    WindowSystem& windows = Workbench::current().windows();
+void showControl(WindowSystem& windows, CQrUiToolPanelItem::Record& record, bool shown) {
     const Window* const window = windows.find(record.control);
     if (!shown && window->hasVisibleStyle()) {
         record.controlHidden = true;
@@ -40,8 +38,8 @@ void showControl(CQrUiToolPanelItem::Record& record, bool shown) {
     }
 }
 
-void placeControl(HWND control, const CRect& rect) {
-    WindowSystem& windows = Workbench::current().windows();
+void placeControl(Toolkit& toolkit, HWND control, const CRect& rect) {
+    WindowSystem& windows = toolkit.windows();
     constexpr UINT kFlags = SWP_NOZORDER | SWP_NOACTIVATE;
     const Window* const window = windows.find(control);
     if (dynamic_cast<const ToolPanelWidget*>(window->widget.get()) == nullptr) {
@@ -49,7 +47,7 @@ void placeControl(HWND control, const CRect& rect) {
         return;
     }
     auto& panel = *static_cast<CQrUiToolPanel*>(window->object);
-    auto& states = Workbench::current().toolkit().toolPanels();
+    auto& states = toolkit.toolPanels();
     states.of(&panel).beingPlaced = true;
     windows.place(control, rect, kFlags);
     if (windows.find(control) == nullptr)
@@ -70,25 +68,25 @@ std::vector<RowItem> rowItemsOf(const CQrUiToolPanel& panel) {
     return items;
 }
 
-int controlHeight(const CQrUiToolPanelItem& item, int width) {
-    const Window* const window = Workbench::current().windows().find(item.GetControl());
+int controlHeight(const WindowSystem& windows, const CQrUiToolPanelItem& item, int width) {
+    const Window* const window = windows.find(item.GetControl());
     if (window == nullptr)
         return 0;
     const auto* const control = dynamic_cast<const ControlWidget*>(window->widget.get());
     return control == nullptr ? window->rect.Height() : control->naturalHeight(*window, width);
 }
 
-void placeItem(CQrUiToolPanelItem& item, const CRect& rect) {
+void placeItem(Toolkit& toolkit, CQrUiToolPanelItem& item, const CRect& rect) {
     CQrUiToolPanelItem::Record& record = *item.m_record;
     record.rect = rect;
     record.laidOut = true;
-    if (Workbench::current().windows().find(record.control) == nullptr)
+    if (toolkit.windows().find(record.control) == nullptr)
         return;
     const bool shown = (record.state & kItemHidden) == 0;
     const HWND control = record.control;
-    showControl(record, shown);
-    if (shown && Workbench::current().windows().find(control) != nullptr)
-        placeControl(control, rect);
+    showControl(toolkit.windows(), record, shown);
+    if (shown && toolkit.windows().find(control) != nullptr)
+        placeControl(toolkit, control, rect);
 }
 
 }  // namespace workbench

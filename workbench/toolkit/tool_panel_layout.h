@@ -8,12 +8,15 @@
 
 namespace workbench {
 
+class Toolkit;
+class WindowSystem;
+
 /// The items of a tool panel as its row layout takes them.
 std::vector<RowItem> rowItemsOf(const CQrUiToolPanel& panel);
 /// The height that the window of a control item wants at a width; 0 without a window.
-int controlHeight(const CQrUiToolPanelItem& item, int width);
+int controlHeight(const WindowSystem& windows, const CQrUiToolPanelItem& item, int width);
 /// Puts an item at its place, its control's window too. A control is hidden and shown along with
 /// its item, and a custom control renews its own layout.
-void placeItem(CQrUiToolPanelItem& item, const CRect& rect);
+void placeItem(Toolkit& toolkit, CQrUiToolPanelItem& item, const CRect& rect);
 
 }  // namespace workbench

@@ -1,7 +1,6 @@
 #include "workbench/toolkit/tool_panel_widget.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
@@ -21,17 +20,13 @@ namespace {
 constexpr UINT kIndentStyle = 2;
 constexpr int kImageIndent = 24;  // pixels, the panel's image and its border
 
-WindowSystem& windowSystem() {
-    return Workbench::current().windows();
-}
-
 CQrUiToolPanel& panelOf(const Window& window) {
     return *static_cast<CQrUiToolPanel*>(window.object);
 }
 
 template <class Type>
-bool standsIn(const Window& window) {
-    const Window* const parent = windowSystem().find(window.parent);
+bool standsIn(const WindowSystem& windows, const Window& window) {
+    const Window* const parent = windows.find(window.parent);
     return parent != nullptr && dynamic_cast<const Type*>(parent->widget.get()) != nullptr;
 }
 
@@ -47,20 +42,25 @@ CQrUiToolPanelItem* itemAt(const CQrUiToolPanel& panel, CPoint point) {
 
 }  // namespace
 
+WindowSystem& ToolPanelWidget::windows() const {
+    return m_toolkit.windows();
+}
+
 RowLayout ToolPanelWidget::rows(const CQrUiToolPanel& panel, int width) const {
     RowMetrics metrics;
-    metrics.iconSize = Workbench::current().toolkit().iconSize();
+    metrics.iconSize = m_toolkit.iconSize();
     metrics.indent = indentOf(panel);
     return layoutRows(
-        rowItemsOf(panel), width, metrics, [&panel](std::size_t index, int controlWidth) {
-            return controlHeight(*panel.GetToolPanelItem(static_cast<int>(index)), controlWidth);
+        rowItemsOf(panel), width, metrics, [this, &panel](std::size_t index, int controlWidth) {
+            return controlHeight(windows(), *panel.GetToolPanelItem(static_cast<int>(index)),
+                                 controlWidth);
         });
 }
 
 int ToolPanelWidget::indentOf(const CQrUiToolPanel& panel) const {
-    const Window* const window = windowSystem().find(panel.m_hWnd);
+    const Window* const window = windows().find(panel.m_hWnd);
     // A custom control stands to the right of the panel's image already.
-    const bool isControl = window != nullptr && standsIn<ToolPanelWidget>(*window);
+    const bool isControl = window != nullptr && standsIn<ToolPanelWidget>(windows(), *window);
     return (m_toolkitStyle & kIndentStyle) != 0 && !isControl ? kImageIndent : 0;
 }
 
@@ -69,23 +69,25 @@ void ToolPanelWidget::layout(Window& window) {
     const HWND handle = window.handle;
     const RowLayout places = rows(panel, window.rect.Width());
     for (std::size_t index = 0; index < places.items.size(); ++index) {
-        // Placing a control may run its code, which may change the panel.
-        CQrUiToolPanelItem* const item = panel.GetToolPanelItem(static_cast<int>(index));
-        if (item == nullptr || windowSystem().find(handle) == nullptr)
+        // Placing a control may run its code, which may change the panel or end it.
+        if (windows().find(handle) == nullptr)
             return;
-        placeItem(*item, places.items[index]);
+        CQrUiToolPanelItem* const item = panel.GetToolPanelItem(static_cast<int>(index));
+        if (item == nullptr)
+            return;
+        placeItem(m_toolkit, *item, places.items[index]);
     }
-    if (windowSystem().find(handle) != nullptr && standsIn<PanelWidget>(window))
-        windowSystem().place(handle, {0, 0, window.rect.Width(), places.height},
-                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (windows().find(handle) != nullptr && standsIn<PanelWidget>(windows(), window))
+        windows().place(handle, {0, 0, window.rect.Width(), places.height},
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                              LRESULT& answer) {
     switch (message) {
     case WM_SIZE:
-        if (standsIn<ToolPanelWidget>(window) &&
-            !Workbench::current().toolkit().toolPanels().of(&panelOf(window)).beingPlaced)
+        if (standsIn<ToolPanelWidget>(windows(), window) &&
+            !m_toolkit.toolPanels().of(&panelOf(window)).beingPlaced)
             panelOf(window).UpdateLayout(1);
         return true;
     case kLeftButtonDown:
@@ -95,10 +97,10 @@ bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM
         release(window, static_cast<UINT>(wParam), unpackPoint(lParam));
         return true;
     case kContextMenuMessage:
-        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        answer = windows().send(window.parent, message, wParam, lParam);
         return true;
     case kMouseWheel:
-        answer = windowSystem().send(window.parent, message, wParam, lParam);
+        answer = windows().send(window.parent, message, wParam, lParam);
         return true;
     case WM_QRUI_THEME_CHANGED:
         changeTheme(window, wParam, lParam);
@@ -119,12 +121,12 @@ int ToolPanelWidget::naturalHeight(const Window& window, int width) const {
 
 std::wstring ToolPanelWidget::tipAt(const Window& window, CPoint point) const {
     const CQrUiToolPanelItem* const item = itemAt(panelOf(window), point);
-    return item == nullptr ? std::wstring() : shownName(*item);
+    return item == nullptr ? std::wstring() : shownName(m_toolkit, *item);
 }
 
 void ToolPanelWidget::press(const Window& window, CPoint point) {
     m_pressed = itemAt(panelOf(window), point);
-    m_focusBefore = windowSystem().focus();
+    m_focusBefore = windows().focus();
     m_isPressed = true;
 }
 
@@ -135,29 +137,29 @@ void ToolPanelWidget::release(Window& window, UINT flags, CPoint point) {
     m_isPressed = false;
     const HWND handle = window.handle;
     const HWND before = m_focusBefore;
-    const bool isControl = standsIn<ToolPanelWidget>(window);
+    const bool isControl = standsIn<ToolPanelWidget>(windows(), window);
     if (item != nullptr)
         click(window, *item, flags, point);
     else if (isControl)
         panelOf(window).OnLButtonClicked(flags, point);
     if (isControl)
-        giveFocusBackFromControl(handle, before);
+        giveFocusBackFromControl(m_toolkit, handle, before);
     else
-        giveFocusBack(handle, before);
+        giveFocusBack(m_toolkit, handle, before);
 }
 
 void ToolPanelWidget::click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point) {
     if ((item.GetState() & (kItemDisabled | kItemHidden)) != 0)
         return;
-    if (standsIn<ToolPanelWidget>(window)) {
+    if (standsIn<ToolPanelWidget>(windows(), window)) {
         panelOf(window).OnLButtonClicked(flags, point);
         return;
     }
     const bool onArrow =
         item.GetType() == kItemFlyout && point.x >= item.m_record->rect.right - kFlyoutArrowWidth;
-    if (onArrow && !openFlyout(item))
+    if (onArrow && !openFlyout(m_toolkit, item))
         return;
-    windowSystem().send(window.parent, WM_QRUI_ITEM_CLICKED, 0, reinterpret_cast<LPARAM>(&item));
+    windows().send(window.parent, WM_QRUI_ITEM_CLICKED, 0, reinterpret_cast<LPARAM>(&item));
 }
 
 /// Hands the change on to the controls and lays out anew, since fonts and hidden items may differ.
@@ -166,8 +168,8 @@ void ToolPanelWidget::changeTheme(Window& window, WPARAM wParam, LPARAM lParam) 
     CQrUiToolPanel& panel = panelOf(window);
     const std::vector<HWND> children = window.children;
     for (const HWND child : children)
-        windowSystem().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
-    if (windowSystem().find(handle) != nullptr)
+        windows().send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
+    if (windows().find(handle) != nullptr)
         panel.UpdateLayout(1);
 }
 

@@ -7,11 +7,16 @@
 
 namespace workbench {
 
+class Toolkit;
+class WindowSystem;
+
 /// A tool panel: lays its items out in rows and turns the mouse's gestures on them into clicks. One
 /// that stands in a row of another tool panel is a custom control.
 class ToolPanelWidget final : public ControlWidget {
 public:
-    explicit ToolPanelWidget(UINT toolkitStyle) : m_toolkitStyle(toolkitStyle) {}
+    ToolPanelWidget(Toolkit& toolkit, UINT toolkitStyle)
+        : m_toolkit(toolkit),
+          m_toolkitStyle(toolkitStyle) {}
 
     /// Places the items and the windows of controls in rows of the window's width. A panel's own
     /// tool panel takes the height of its rows.
@@ -25,6 +30,7 @@ public:
     std::wstring tipAt(const Window& window, CPoint point) const override;
 
 private:
+    WindowSystem& windows() const;
     RowLayout rows(const CQrUiToolPanel& panel, int width) const;
     int indentOf(const CQrUiToolPanel& panel) const;
     void press(const Window& window, CPoint point);
@@ -32,6 +38,7 @@ private:
     void click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point);
     void changeTheme(Window& window, WPARAM wParam, LPARAM lParam);
 
+    Toolkit& m_toolkit;
     const UINT m_toolkitStyle;
     const CQrUiToolPanelItem* m_pressed = nullptr;  // only compared: the item may have ended
     HWND m_focusBefore = nullptr;                   // when the button went down

@@ -1,7 +1,5 @@
 #include "workbench/toolkit/tool_tips.h"
 
-#include "workbench/toolkit/notes.h"
-
 namespace workbench {
 
 namespace {
@@ -26,9 +24,9 @@ private:
     ToolTips& m_tips;
 };
 
-ToolTips::ToolTips(WindowSystem& windows, Journal& journal)
+ToolTips::ToolTips(WindowSystem& windows, const TextNotes& notes)
     : m_windows(windows),
-      m_journal(journal) {
+      m_notes(notes) {
     WindowCreation creation;
     creation.className = "ToolTip";
     creation.widget = std::make_unique<RestWidget>(*this);
@@ -72,7 +70,7 @@ void ToolTips::showNow() {
     if (m_windows.find(m_over) == nullptr)
         return;
     m_shown = m_text;
-    noteText(m_journal, "tip", m_shown, m_windows.ownerName(m_over));
+    m_notes.note("tip", m_shown, m_windows.ownerName(m_over));
     if (m_presenter)
         m_presenter(m_over, m_shown);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/toolkit/text_notes.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/window.h>
@@ -12,7 +13,7 @@ namespace workbench {
 /// Tooltips: a text is shown when the mouse has rested over its window for a while.
 class ToolTips {
 public:
-    explicit ToolTips(WindowSystem& windows, Journal& journal);
+    ToolTips(WindowSystem& windows, const TextNotes& notes);
     ToolTips(const ToolTips&) = delete;
     ToolTips& operator=(const ToolTips&) = delete;
     ~ToolTips();
@@ -36,7 +37,7 @@ private:
     void showNow();
 
     WindowSystem& m_windows;
-    Journal& m_journal;
+    const TextNotes& m_notes;
     CWnd m_clock;           // a hidden window that bears the timer
     HWND m_over = nullptr;  // null: over nothing with a text
     std::wstring m_text;

@@ -4,14 +4,18 @@
 
 namespace workbench {
 
-Toolkit::Toolkit(Workbench& workbench)
-    : m_windows(workbench.windows()),
-      m_frame(m_windows, m_paletteSets, m_tools),
-      m_balloons(m_windows, workbench.journal()),
-      m_toolTips(m_windows, workbench.journal()),
-      m_boxes(workbench.answers(), workbench.journal()),
-      m_menus(workbench.answers()),
-      m_mouse(m_windows) {}
+Toolkit::Toolkit(WindowSystem& windows, Journal& journal, Answers& answers, const ShownTexts& texts)
+    : m_windows(windows),
+      m_journal(journal),
+      m_answers(answers),
+      m_texts(texts),
+      m_notes(journal, texts),
+      m_frame(windows, m_paletteSets, m_tools),
+      m_balloons(windows, m_notes),
+      m_toolTips(windows, m_notes),
+      m_boxes(answers, m_notes),
+      m_menus(answers),
+      m_mouse(*this) {}
 
 void Toolkit::idleUpdate() {
     const std::vector<CQrUiPaletteSet*>& bars = m_frame.bars();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/balloon_tips.h"
 #include "workbench/toolkit/main_frame.h"
 #include "workbench/toolkit/message_boxes.h"
@@ -8,7 +7,9 @@
 #include "workbench/toolkit/object_states.h"
 #include "workbench/toolkit/picture_table.h"
 #include "workbench/toolkit/popup_menus.h"
+#include "workbench/toolkit/shown_texts.h"
 #include "workbench/toolkit/state_table.h"
+#include "workbench/toolkit/text_notes.h"
 #include "workbench/toolkit/theme_manager.h"
 #include "workbench/toolkit/tool_registry.h"
 #include "workbench/toolkit/tool_tips.h"
@@ -21,13 +22,25 @@ namespace workbench {
 /// that speaks to the user. What the toolkit keeps for an object stands in a table by object.
 class Toolkit {
 public:
-    /// Takes windows, journal and answers of the workbench, which must be there already.
-    explicit Toolkit(Workbench& workbench);
+    /// All of them must outlive the toolkit.
+    Toolkit(WindowSystem& windows, Journal& journal, Answers& answers, const ShownTexts& texts);
+    Toolkit(const Toolkit&) = delete;
+    Toolkit& operator=(const Toolkit&) = delete;
+
+    // What it was given, for its widgets and the user's hand.
+
+    WindowSystem& windows() const { return m_windows; }
+    Journal& journal() const { return m_journal; }
+    Answers& answers() const { return m_answers; }
+    const ShownTexts& texts() const { return m_texts; }
+
+    // Its parts.
 
     MainFrame& frame() { return m_frame; }
     ThemeManager& themes() { return m_themes; }
     ToolRegistry& tools() { return m_tools; }
     PictureTable& pictures() { return m_pictures; }
+    const PictureTable& pictures() const { return m_pictures; }
     BalloonTips& balloons() { return m_balloons; }
     ToolTips& toolTips() { return m_toolTips; }
     MessageBoxes& boxes() { return m_boxes; }
@@ -53,6 +66,10 @@ public:
 
 private:
     WindowSystem& m_windows;
+    Journal& m_journal;
+    Answers& m_answers;
+    const ShownTexts& m_texts;
+    TextNotes m_notes;
     ToolRegistry m_tools;
     ThemeManager m_themes;
     PictureTable m_pictures;

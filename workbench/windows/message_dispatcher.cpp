@@ -1,5 +1,6 @@
 #include "workbench/windows/message_dispatcher.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/windows/message_words.h"
 
 #include <cstdint>
@@ -30,18 +31,9 @@ public:
     }
     Running(const Running&) = delete;
     Running& operator=(const Running&) = delete;
-    ~Running() {
-        m_dispatcher.m_innermost = m_dispatcher.m_innermost->outer;
-        if (m_dispatcher.m_innermost == nullptr && !m_dispatcher.m_gone.empty())
-            letGo();
-    }
+    ~Running() { m_dispatcher.m_innermost = m_dispatcher.m_innermost->outer; }
 
 private:
-    void letGo() {
-        // A widget's end may end further windows.
-        const std::vector<std::unique_ptr<Window>> gone = std::exchange(m_dispatcher.m_gone, {});
-    }
-
     MessageDispatcher& m_dispatcher;
 };
 
@@ -49,6 +41,7 @@ LRESULT MessageDispatcher::send(HWND window, UINT message, WPARAM wParam, LPARAM
     const Window* const found = m_tree.find(window);
     if (found == nullptr)
         return 0;
+    const Turn turn;
     if (m_journal.isRecording())
         noteMessage(*found, message, wParam, lParam);
     return found->object->WindowProc(message, wParam, lParam);
@@ -106,8 +99,8 @@ FoundRow MessageDispatcher::findRow(const Dispatch& dispatch, const MessageMap* 
     if (dispatch.message == WM_COMMAND)
         return dispatch.lParam != 0 ? FoundRow{}
                                     : MessageRows::searchCommand(*map, LOWORD(dispatch.wParam));
-    // A module's windows end before it is unloaded, and what was found for them is forgotten then:
-    // nothing may be remembered for an object without one.
+    // A module's windows and objects end before it is unloaded, and what was found for them is
+    // forgotten then. Nothing is remembered for an object whose window is gone.
     return dispatch.object->m_hWnd == nullptr ? MessageRows::search(*map, dispatch.message)
                                               : m_rows.find(*map, dispatch.message);
 }
@@ -145,16 +138,11 @@ LRESULT MessageDispatcher::handleCommonly(const Dispatch& dispatch) {
 }
 
 void MessageDispatcher::objectEnds(const CWnd& object) {
+    m_rows.forget();
     for (Dispatch* dispatch = m_innermost; dispatch != nullptr; dispatch = dispatch->outer) {
         if (dispatch->object == &object)
             dispatch->object = nullptr;
     }
-}
-
-void MessageDispatcher::windowEnded(std::unique_ptr<Window> window) {
-    m_rows.forget();
-    if (m_innermost != nullptr)
-        m_gone.push_back(std::move(window));
 }
 
 void MessageDispatcher::noteMessage(const Window& window, UINT message, WPARAM wParam,

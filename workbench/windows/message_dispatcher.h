@@ -8,9 +8,6 @@
 
 #include <hostapi/window.h>
 
-#include <memory>
-#include <vector>
-
 namespace workbench {
 
 /// Brings messages to their windows' handlers. Those of named windows are noted in the journal (kind
@@ -54,9 +51,8 @@ public:
 
     /// A window object ends: the handlers of it that are running are not continued.
     void objectEnds(const CWnd& object);
-    /// Takes over a window whose handle is stale already, and keeps it while a handler runs that may
-    /// be its own.
-    void windowEnded(std::unique_ptr<Window> window);
+    /// A window is gone, and with it perhaps the last of its class.
+    void windowEnded() { m_rows.forget(); }
 
 private:
     struct Dispatch;
@@ -73,8 +69,7 @@ private:
     WindowTree& m_tree;
     WindowChanges& m_changes;
     Journal& m_journal;
-    Dispatch* m_innermost = nullptr;              // not owned; null: no handler runs
-    std::vector<std::unique_ptr<Window>> m_gone;  // kept while a handler runs that may be theirs
+    Dispatch* m_innermost = nullptr;  // not owned; null: no handler runs
     MessageRows m_rows;
 };
 

@@ -1,5 +1,7 @@
 #include "workbench/windows/message_queue.h"
 
+#include "workbench/base/turn.h"
+
 #include <stdexcept>
 #include <string>
 
@@ -42,6 +44,7 @@ void MessageQueue::input(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 bool MessageQueue::preTranslate(MSG& message) {
+    const Turn turn;
     HWND next = message.hwnd;
     while (const Window* const window = m_tree.find(next)) {
         next = window->parent;

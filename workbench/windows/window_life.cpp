@@ -1,5 +1,7 @@
 #include "workbench/windows/window_life.h"
 
+#include "workbench/base/turn.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -12,6 +14,12 @@ CRect withoutNegativeSize(CRect rect) {
     rect.right = std::max(rect.left, rect.right);
     rect.bottom = std::max(rect.top, rect.bottom);
     return rect;
+}
+
+/// Stands in for an object that ends while its window is on its way out.
+CWnd& nobody() {
+    static CWnd s_nobody;
+    return s_nobody;
 }
 
 }  // namespace
@@ -83,15 +91,21 @@ void WindowLife::remove(HWND window) {
     for (const HWND child : children)
         remove(child);
     std::unique_ptr<Window> gone = m_parts.tree.take(window);
-    gone->object->m_hWnd = nullptr;
     m_parts.focus.windowEnded(window);
     m_parts.timers.windowEnded(window);
+    m_parts.messages.windowEnded();
+    gone->object->m_hWnd = nullptr;
+    // A handler of the widget may be running.
+    Turn::keep(std::move(gone));
     m_parts.changes.tell(window);
-    m_parts.messages.windowEnded(std::move(gone));
 }
 
 void WindowLife::objectEnds(CWnd& object) {
     destroy(object.m_hWnd);
+    if (Window* const onItsWayOut = m_parts.tree.find(object.m_hWnd)) {
+        onItsWayOut->object = &nobody();
+        Turn::keep(std::move(onItsWayOut->widget));
+    }
     m_parts.messages.objectEnds(object);
 }
 

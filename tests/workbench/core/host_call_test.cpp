@@ -1,7 +1,6 @@
 #include "workbench/core/host_call.h"
 
-#include "workbench/core/journal.h"
-#include "workbench/core/workbench.h"
+#include "workbench/core/call_desk.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +10,10 @@ namespace {
 
 class HostCallTest : public testing::Test {
 protected:
-    Workbench workbench{WorkbenchOptions{}};
-    Journal& journal = workbench.journal();
-    Faults& faults = workbench.faults();
-
-    void SetUp() override { journal.take(); }
+    Clock clock;
+    Journal journal{clock};
+    Faults faults;
+    CallDesk desk{journal, faults};
 };
 
 }  // namespace

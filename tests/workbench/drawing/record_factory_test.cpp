@@ -1,6 +1,6 @@
 #include "workbench/drawing/record_factory.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/drawing/drawing_sections.h"
 
 #include <gtest/gtest.h>

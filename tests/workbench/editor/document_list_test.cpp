@@ -1,6 +1,7 @@
 #include "tests/workbench/editor/editor_fixture.h"
 
 #include "workbench/base/input_error.h"
+#include "workbench/base/turn.h"
 
 #include <stdexcept>
 
@@ -132,6 +133,74 @@ TEST_F(DocumentListTest, DocumentsAreFoundByNameSerialPointerAndDatabase) {
     EXPECT_EQ(documents().find(document.database()), &document);
     EXPECT_EQ(documents().find(L"B"), nullptr);
     EXPECT_EQ(documents().all(), std::vector<Document*>{&document});
+}
+
+TEST_F(DocumentListTest, AReactorMayCloseTheDocumentThatWasJustCreated) {
+    log().on("created A", [&] { documents().close(*documents().find(L"A")); });
+    newDocument(L"A");
+    EXPECT_EQ(events(), (Lines{"created A", "to be destroyed A", "destroyed A"}));
+    EXPECT_EQ(documents().count(), 0);
+    EXPECT_EQ(documents().active(), nullptr);
+}
+
+TEST_F(DocumentListTest, AReactorMayCloseTheDocumentThatIsToBeActivated) {
+    newDocument(L"A");
+    log().on("to be activated B", [&] { documents().close(*documents().find(L"B")); });
+    events();
+    newDocument(L"B");
+    EXPECT_EQ(events(),
+              (Lines{"created B", "to be activated B", "to be destroyed B", "destroyed B"}));
+    EXPECT_EQ(documents().active(), documents().find(L"A"));
+}
+
+TEST_F(DocumentListTest, ADocumentOnItsWayOutIsNeitherClosedNorActivatedOnceMore) {
+    Document& first = newDocument(L"A");
+    newDocument(L"B");
+    log().on("to be destroyed A", [&] {
+        documents().close(first);
+        documents().activate(first);
+    });
+    events();
+    documents().close(first);
+    EXPECT_EQ(events(), (Lines{"to be destroyed A", "destroyed A"}));
+    EXPECT_EQ(documents().count(), 1);
+}
+
+TEST_F(DocumentListTest, AClosedDocumentStaysInMemoryUntilTheTurnIsOver) {
+    const Turn turn;
+    Document& document = newDocument(L"A");
+    documents().close(document);
+    EXPECT_EQ(document.name(), L"A");
+    EXPECT_EQ(documents().find(L"A"), nullptr);
+    EXPECT_EQ(documents().find(static_cast<VxApDocument*>(&document)), nullptr);
+}
+
+TEST_F(DocumentListTest, ADrawingSaysGoodbyeWhenItIsClosedThoughItStaysInMemory) {
+    struct Watcher : drawing::DatabaseReactor {
+        void databaseGoodbye(const drawing::Database& /*database*/) override { ++goodbyes; }
+        int goodbyes = 0;
+    } watcher;
+    {
+        const Turn turn;
+        Document& document = newDocument(L"A");
+        document.data().addReactor(&watcher);
+        documents().close(document);
+        EXPECT_EQ(watcher.goodbyes, 1);
+    }
+    EXPECT_EQ(watcher.goodbyes, 1);
+}
+
+TEST_F(DocumentListTest, ALockOfADocumentThatWasClosedMeanwhileEndsHarmlessly) {
+    const Turn turn;
+    Document& closed = newDocument(L"A");
+    Document& other = newDocument(L"B");
+    other.locks().lock(DocumentLocks::kWrite);
+    {
+        const VxAxDocLock lock(closed.database(), DocumentLocks::kAutoWrite);
+        documents().close(closed);
+    }
+    EXPECT_NE(documents().unlockDocument(&closed), Zorq::eOk);
+    EXPECT_EQ(other.lockMode(), DocumentLocks::kWrite);
 }
 
 }  // namespace workbench

@@ -35,7 +35,7 @@ TEST_F(DocumentTest, TakesTheVariablesThatItsFileCarriesAsFarAsTheyFit) {
     auto drawing = drawing::makeNewDrawing(77);
     drawing->variables = {{"LUNITS", 4}, {"LUPREC", 99}, {"LIGHTINGUNITS", "two"}, {"NONSENSE", 1}};
     Document document(editor(), L"B", std::move(drawing));
-    EXPECT_EQ(document.variables().at(SystemVariables::find(L"LUNITS")), Value(4));
+    EXPECT_EQ(document.variables().at(findVariable(L"LUNITS")), Value(4));
     EXPECT_EQ(document.variables().size(), 1U);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
-#include "workbench/core/workbench.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 
 #include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/editor.h>

@@ -19,7 +19,7 @@ protected:
 };
 
 TEST_F(ItemGesturesTest, AToolOfAFlyoutBecomesCurrentAndTheFlyoutIsClicked) {
-    EXPECT_TRUE(clickItem(m_second));
+    EXPECT_TRUE(clickItem(toolkit(), m_second));
     EXPECT_EQ(m_flyout.GetCurrentFlyoutTool(), &m_second);
     EXPECT_THAT(
         m_panel.of(WM_QRUI_ITEM_CLICKED),
@@ -28,26 +28,26 @@ TEST_F(ItemGesturesTest, AToolOfAFlyoutBecomesCurrentAndTheFlyoutIsClicked) {
 
 TEST_F(ItemGesturesTest, ADisabledToolOrFlyoutTakesNoClick) {
     m_second.SetState(kItemDisabled);
-    EXPECT_FALSE(clickItem(m_second));
+    EXPECT_FALSE(clickItem(toolkit(), m_second));
     m_second.SetState(0);
     m_flyout.SetState(kItemDisabled);
-    EXPECT_FALSE(clickItem(m_second));
+    EXPECT_FALSE(clickItem(toolkit(), m_second));
     EXPECT_EQ(m_flyout.GetCurrentFlyoutTool(), &m_first);
     EXPECT_FALSE(toolkit().menus().isAnswerWaiting());
 }
 
 TEST_F(ItemGesturesTest, AnItemThatIsNotOnShowCannotBeClicked) {
     m_panel.ShowWindow(SW_HIDE);
-    EXPECT_THROW(clickItem(m_flyout), GestureError);
-    EXPECT_THROW(clickItem(m_second), GestureError);
+    EXPECT_THROW(clickItem(toolkit(), m_flyout), GestureError);
+    EXPECT_THROW(clickItem(toolkit(), m_second), GestureError);
     EXPECT_FALSE(toolkit().menus().isAnswerWaiting());
 }
 
 TEST_F(ItemGesturesTest, AnItemWithoutAPlaceCannotBeClicked) {
-    EXPECT_THROW(clickItem(addItem(kItemButton, L"ID_NEW")), GestureError);
+    EXPECT_THROW(clickItem(toolkit(), addItem(kItemButton, L"ID_NEW")), GestureError);
     CQrUiToolPanelItem& rowBreak = addItem(kItemRowBreak, L"");
     m_panelSet.UpdateLayout();
-    EXPECT_THROW(clickItem(rowBreak), GestureError);
+    EXPECT_THROW(clickItem(toolkit(), rowBreak), GestureError);
 }
 
 TEST_F(ItemGesturesTest, TheIconOfAControlIsItsFirstButton) {
@@ -57,21 +57,21 @@ TEST_F(ItemGesturesTest, TheIconOfAControlIsItsFirstButton) {
     addItemTo(control, kItemButton, L"TPB_ICON");
     addControlTo(*m_toolPanel, control);
     m_panelSet.UpdateLayout();
-    EXPECT_TRUE(clickIcon(control.m_hWnd));
+    EXPECT_TRUE(clickIcon(toolkit(), control.m_hWnd));
     EXPECT_THAT(control.clicks, ElementsAre(CPoint{17, 11}));
 }
 
 TEST_F(ItemGesturesTest, AControlWithoutAnIconIsClickedInItsMiddle) {
     ListeningToolPanel control;
     control.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 22}, m_toolPanel, 1, 0);
-    EXPECT_TRUE(clickIcon(control.m_hWnd));
+    EXPECT_TRUE(clickIcon(toolkit(), control.m_hWnd));
     EXPECT_THAT(control.clicks, ElementsAre(CPoint{25, 11}));
 }
 
 TEST_F(ItemGesturesTest, TitlesAndImagesAreClickedWhereTheyStand) {
-    EXPECT_TRUE(clickTitle(m_panel));
+    EXPECT_TRUE(clickTitle(toolkit(), m_panel));
     EXPECT_FALSE(m_toolPanel->IsWindowVisible());
-    EXPECT_TRUE(doubleClickImage(m_panel));
+    EXPECT_TRUE(doubleClickImage(toolkit(), m_panel));
     EXPECT_FALSE(m_toolPanel->IsWindowVisible());
 }
 

@@ -24,29 +24,29 @@ protected:
 };
 
 TEST_F(ListGesturesTest, ListOpensAndCloses) {
-    EXPECT_TRUE(openList(m_combo.m_hWnd));
+    EXPECT_TRUE(openList(toolkit(), m_combo.m_hWnd));
     EXPECT_TRUE(isOpen());
-    EXPECT_TRUE(openList(m_combo.m_hWnd));
-    EXPECT_TRUE(closeList(m_combo.m_hWnd));
+    EXPECT_TRUE(openList(toolkit(), m_combo.m_hWnd));
+    EXPECT_TRUE(closeList(toolkit(), m_combo.m_hWnd));
     EXPECT_FALSE(isOpen());
 }
 
 TEST_F(ListGesturesTest, ChoiceOpensTheListFirst) {
-    EXPECT_TRUE(chooseFromList(m_combo.m_hWnd, 1));
+    EXPECT_TRUE(chooseFromList(toolkit(), m_combo.m_hWnd, 1));
     EXPECT_EQ(m_combo.GetCurSel(), 1);
     EXPECT_FALSE(isOpen());
 }
 
 TEST_F(ListGesturesTest, WhatIsNotThereCannotBeChosen) {
-    EXPECT_THROW(chooseFromList(m_combo.m_hWnd, 2), GestureError);
+    EXPECT_THROW(chooseFromList(toolkit(), m_combo.m_hWnd, 2), GestureError);
     EXPECT_FALSE(isOpen());
-    EXPECT_THROW(openList(m_toolPanel->m_hWnd), GestureError);
+    EXPECT_THROW(openList(toolkit(), m_toolPanel->m_hWnd), GestureError);
 }
 
 TEST_F(ListGesturesTest, DisabledListStaysClosed) {
     m_combo.EnableWindow(0);
-    EXPECT_FALSE(openList(m_combo.m_hWnd));
-    EXPECT_FALSE(chooseFromList(m_combo.m_hWnd, 1));
+    EXPECT_FALSE(openList(toolkit(), m_combo.m_hWnd));
+    EXPECT_FALSE(chooseFromList(toolkit(), m_combo.m_hWnd, 1));
 }
 
 }  // namespace

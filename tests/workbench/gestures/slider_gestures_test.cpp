@@ -17,8 +17,8 @@ protected:
 };
 
 TEST_F(SliderGesturesTest, EachPositionIsOneMoveBetweenPressAndRelease) {
-    dragSlider(m_slider.m_hWnd, {1234, 1235});
-    releaseSlider(m_slider.m_hWnd);
+    dragSlider(toolkit(), m_slider.m_hWnd, {1234, 1235});
+    releaseSlider(toolkit(), m_slider.m_hWnd);
     EXPECT_EQ(m_slider.of(kLeftButtonDown).size(), 1U);
     EXPECT_EQ(m_slider.of(WM_MOUSEMOVE).size(), 2U);
     EXPECT_EQ(m_slider.of(kLeftButtonUp).size(), 1U);
@@ -26,22 +26,22 @@ TEST_F(SliderGesturesTest, EachPositionIsOneMoveBetweenPressAndRelease) {
 }
 
 TEST_F(SliderGesturesTest, OnlyAFineMoveHoldsTheControlKey) {
-    dragSlider(m_slider.m_hWnd, {1234, 10000});
+    dragSlider(toolkit(), m_slider.m_hWnd, {1234, 10000});
     const std::vector<Received> moves = m_slider.of(WM_MOUSEMOVE);
     EXPECT_EQ(moves[0].wParam, kLeftButtonHeld | kControlHeld);
     EXPECT_EQ(moves[1].wParam, kLeftButtonHeld);
 }
 
 TEST_F(SliderGesturesTest, APositionBeyondTheRangeEndsAtItsEnd) {
-    dragSlider(m_slider.m_hWnd, {20000});
+    dragSlider(toolkit(), m_slider.m_hWnd, {20000});
     EXPECT_EQ(m_slider.GetSliderPos(), 10000);
 }
 
 TEST_F(SliderGesturesTest, OnlySlidersOnShowCanBeDragged) {
-    EXPECT_THROW(dragSlider(m_toolPanel->m_hWnd, {1}), GestureError);
-    EXPECT_THROW(releaseSlider(nullptr), GestureError);
+    EXPECT_THROW(dragSlider(toolkit(), m_toolPanel->m_hWnd, {1}), GestureError);
+    EXPECT_THROW(releaseSlider(toolkit(), nullptr), GestureError);
     m_panel.ShowWindow(SW_HIDE);
-    EXPECT_THROW(dragSlider(m_slider.m_hWnd, {1}), GestureError);
+    EXPECT_THROW(dragSlider(toolkit(), m_slider.m_hWnd, {1}), GestureError);
 }
 
 }  // namespace

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,7 @@
 #include "workbench/loader/module_loader.h"
 
 #include "tests/workbench/loader/loader_fixture.h"
+#include "workbench/base/turn.h"
 
 #include <string>
 
@@ -89,6 +90,30 @@ TEST_F(ModuleLoaderTest, ManyRoundsLeaveNothingBehind) {
     }
     EXPECT_EQ(libraries().openCount(), 0U);
     EXPECT_TRUE(libraries().stillMapped().empty());
+}
+
+TEST_F(ModuleLoaderTest, InsideATurnTheLibraryIsClosedAtItsEnd) {
+    modules().loadModule(kModule);
+    {
+        const Turn turn;
+        EXPECT_TRUE(modules().unloadModule(kModule));
+        EXPECT_FALSE(modules().isLoaded(kModule));
+        EXPECT_FALSE(vxrxServiceIsRegistered(kService));
+        EXPECT_EQ(libraries().openCount(), 1U);
+    }
+    EXPECT_EQ(libraries().openCount(), 0U);
+}
+
+TEST_F(ModuleLoaderTest, AModuleThatIsLoadedAgainInTheTurnOfItsUnloadingStays) {
+    modules().loadModule(kModule);
+    {
+        const Turn turn;
+        modules().unloadModule(kModule);
+        EXPECT_TRUE(modules().loadModule(kModule));
+    }
+    EXPECT_TRUE(modules().isLoaded(kModule));
+    EXPECT_TRUE(vxrxServiceIsRegistered(kService));
+    EXPECT_EQ(libraries().openCount(), 1U);
 }
 
 }  // namespace workbench

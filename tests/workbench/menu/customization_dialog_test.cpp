@@ -1,6 +1,6 @@
 #include "workbench/menu/customization_dialog.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include <gtest/gtest.h>
 

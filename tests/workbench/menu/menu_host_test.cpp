@@ -1,10 +1,10 @@
 #include "workbench/menu/menu_host.h"
 
 #include "workbench/base/input_error.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include <gtest/gtest.h>
 
@@ -100,7 +100,7 @@ protected:
 };
 
 TEST_F(MenuReloadTest, AFailedReloadKeepsTheOldMenu) {
-    MenuHost menu(testOptions(file), libraries);
+    MenuHost menu(file, libraries);
     write("{");
     EXPECT_THROW(menu.reload(), InputError);
     EXPECT_NE(menu.catalog().findMenuGroup("G"), nullptr);
@@ -108,7 +108,7 @@ TEST_F(MenuReloadTest, AFailedReloadKeepsTheOldMenu) {
 
 TEST_F(MenuReloadTest, AMalformedFileIsRefusedAtTheStart) {
     write("[]");
-    EXPECT_THROW(MenuHost(testOptions(file), libraries), InputError);
+    EXPECT_THROW(MenuHost(file, libraries), InputError);
 }
 
 }  // namespace workbench

@@ -78,7 +78,7 @@ TEST_F(NavigationToolTest, APresetTurnsTheCameraAtTheSameDistance) {
     newDocument();
     lookDown();
     events();
-    tool().restorePreset(PresetView::Left);
+    tool().restorePreset(drawing::PresetView::Left);
     EXPECT_EQ(shown().eye, (drawing::Vec3{-10, 0, 0}));
     EXPECT_EQ(shown().up, (drawing::Vec3{0, 0, 1}));
     EXPECT_EQ(events(), Lines{"view changed"});
@@ -127,7 +127,7 @@ TEST_F(NavigationToolTest, EyeAndTargetNeverMeet) {
 TEST_F(NavigationToolTest, WithoutADocumentOrAViewportNoViewMoves) {
     const auto moveAll = [this] {
         tool().setLens(20);
-        tool().restorePreset(PresetView::Top);
+        tool().restorePreset(drawing::PresetView::Top);
         tool().restoreNamed({});
         tool().moveCamera({1, 1, 1});
         tool().moveTarget({2, 2, 2});

@@ -1,6 +1,6 @@
 #include "workbench/palettes/tool_palette_window.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include <gtest/gtest.h>
 

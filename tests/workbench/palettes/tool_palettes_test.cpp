@@ -1,8 +1,8 @@
 #include "workbench/palettes/tool_palettes.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "workbench/profiles/profile_store.h"
 
 #include "workbench/base/input_error.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/xml/xml_node.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "tests/workbench/profiles/temporary_folder.h"
 
 #include <hostapi/vxut.h>

@@ -1,6 +1,6 @@
 #include "workbench/profiles/profile.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "tests/workbench/profiles/temporary_folder.h"
 
 #include "workbench/xml/xml_node.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/script/script_engine.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "workbench/script/session.h"
 
 #include "tests/workbench/script/script_fixture.h"
-#include "workbench/commands/command_processor.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/windows/window_system.h"
 

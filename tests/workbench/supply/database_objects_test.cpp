@@ -1,4 +1,5 @@
 #include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/records/sun.h"
 
 #include <hostapi/vxdb18/database.h>

@@ -1,4 +1,5 @@
 #include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"

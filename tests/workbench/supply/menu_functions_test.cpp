@@ -1,4 +1,4 @@
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include "workbench/menu/menu_host.h"
 

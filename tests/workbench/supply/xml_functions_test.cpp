@@ -1,7 +1,7 @@
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/xml/xml_node_operations.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include <hostapi/vxut.h>
 

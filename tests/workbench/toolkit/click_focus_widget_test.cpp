@@ -10,13 +10,13 @@ class ClickFocusWidgetTest : public ToolkitTest {};
 
 TEST_F(ClickFocusWidgetTest, AClickGivesTheFocus) {
     for (const HWND window : {frame().commandLine().m_hWnd, frame().drawingView().m_hWnd}) {
-        gestures::clickAt(window, {5, 5});
+        gestures::clickAt(toolkit(), window, {5, 5});
         EXPECT_EQ(windows().focus(), window);
     }
 }
 
 TEST_F(ClickFocusWidgetTest, AMoveDoesNot) {
-    gestures::hoverAt(frame().commandLine().m_hWnd, {5, 5});
+    gestures::hoverAt(toolkit(), frame().commandLine().m_hWnd, {5, 5});
     EXPECT_EQ(windows().focus(), frame().drawingView().m_hWnd);
 }
 

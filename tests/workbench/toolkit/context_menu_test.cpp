@@ -14,7 +14,7 @@ protected:
     }
     void choose(const char* path) {
         m_workbench.answers().queue("menu", path);
-        runContextMenu(m_panel.m_hWnd, m_menu, [this](Window&, UINT command) {
+        runContextMenu(toolkit(), m_panel.m_hWnd, m_menu, [this](Window&, UINT command) {
             m_own.push_back(command);
             return command == 1;
         });
@@ -35,7 +35,7 @@ TEST_F(ContextMenuTest, AForeignCommandIsSentToTheWindow) {
 }
 
 TEST_F(ContextMenuTest, WithoutAChoiceNothingHappens) {
-    runContextMenu(m_panel.m_hWnd, m_menu, [this](Window&, UINT command) {
+    runContextMenu(toolkit(), m_panel.m_hWnd, m_menu, [this](Window&, UINT command) {
         m_own.push_back(command);
         return true;
     });
@@ -48,7 +48,7 @@ TEST_F(ContextMenuTest, AWindowThatEndsWhileItsMenuIsOpenGetsNothing) {
         m_set->DestroyWindow();
         return std::optional(500U);
     });
-    runContextMenu(m_panel.m_hWnd, m_menu, [this](Window&, UINT command) {
+    runContextMenu(toolkit(), m_panel.m_hWnd, m_menu, [this](Window&, UINT command) {
         m_own.push_back(command);
         return true;
     });

@@ -31,45 +31,45 @@ protected:
 };
 
 TEST_F(EditWidgetTest, AClickGivesTheFocusAndTellsTheParent) {
-    EXPECT_TRUE(focusField(m_edit.m_hWnd));
+    EXPECT_TRUE(focusField(toolkit(), m_edit.m_hWnd));
     EXPECT_THAT(notified(), ElementsAre(std::pair<UINT, UINT>(10001, EN_SETFOCUS)));
-    gestures::blur();
+    gestures::blur(toolkit());
     EXPECT_EQ(notified().back(), (std::pair<UINT, UINT>(10001, EN_KILLFOCUS)));
 }
 
 TEST_F(EditWidgetTest, TypingGoesInAtThePlaceOfTheClick) {
-    focusField(m_edit.m_hWnd);
-    typeText(L"0");
+    focusField(toolkit(), m_edit.m_hWnd);
+    typeText(toolkit(), L"0");
     EXPECT_EQ(m_edit.GetWindowText(), L"500");
-    pressKey("home");
-    typeText(L"-");
-    pressKey("right");
-    pressKey("delete");
-    pressKey("backspace");
+    pressKey(toolkit(), "home");
+    typeText(toolkit(), L"-");
+    pressKey(toolkit(), "right");
+    pressKey(toolkit(), "delete");
+    pressKey(toolkit(), "backspace");
     EXPECT_EQ(m_edit.GetWindowText(), L"-0");
 }
 
 TEST_F(EditWidgetTest, ReplacingTypesOverAll) {
-    focusField(m_edit.m_hWnd);
-    replaceText(L"40");
+    focusField(toolkit(), m_edit.m_hWnd);
+    replaceText(toolkit(), L"40");
     EXPECT_EQ(m_edit.GetWindowText(), L"40");
-    replaceText(L"");
+    replaceText(toolkit(), L"");
     EXPECT_EQ(m_edit.GetWindowText(), L"");
 }
 
 TEST_F(EditWidgetTest, ATextSetFromOutsideIsTheOneEdited) {
-    focusField(m_edit.m_hWnd);
+    focusField(toolkit(), m_edit.m_hWnd);
     m_edit.SetWindowText(L"7");
-    pressKey("end");
-    typeText(L"5");
+    pressKey(toolkit(), "end");
+    typeText(toolkit(), L"5");
     EXPECT_EQ(m_edit.GetWindowText(), L"75");
 }
 
 TEST_F(EditWidgetTest, EnterAndEscapeGoOnToTheCommandLine) {
-    focusField(m_edit.m_hWnd);
+    focusField(toolkit(), m_edit.m_hWnd);
     journal().take();
-    pressKey("enter");
-    pressKey("escape");
+    pressKey(toolkit(), "enter");
+    pressKey(toolkit(), "escape");
     std::vector<Value> keys;
     for (const JournalRecord& record : journal().take("message")) {
         if (record.field("control") == Value("CommandLine"))
@@ -81,7 +81,7 @@ TEST_F(EditWidgetTest, EnterAndEscapeGoOnToTheCommandLine) {
 
 TEST_F(EditWidgetTest, ADisabledFieldTakesNoFocus) {
     m_edit.EnableWindow(0);
-    EXPECT_FALSE(focusField(m_edit.m_hWnd));
+    EXPECT_FALSE(focusField(toolkit(), m_edit.m_hWnd));
     EXPECT_THAT(notified(), IsEmpty());
 }
 
@@ -90,7 +90,7 @@ TEST_F(EditWidgetTest, AHandlerMayChangeTheFocusAndTheText) {
         m_edit.SetWindowText(L"told");
         return LRESULT{0};
     };
-    focusField(m_edit.m_hWnd);
+    focusField(toolkit(), m_edit.m_hWnd);
     EXPECT_EQ(m_edit.GetWindowText(), L"told");
 }
 

@@ -22,7 +22,7 @@ protected:
             m_lines = lines;
             return choice;
         });
-        return openFlyout(m_flyout);
+        return openFlyout(toolkit(), m_flyout);
     }
 
     CQrUiToolPanelItem& m_flyout = addItem(kItemFlyout, L"ID_F");
@@ -48,7 +48,7 @@ TEST_F(FlyoutMenuTest, TheListShowsToolsSeparatorsAndNestedFlyouts) {
 }
 
 TEST_F(FlyoutMenuTest, CommandsCountTheToolsInTheirOrder) {
-    EXPECT_THAT(offeredTools(m_flyout), ElementsAre(&m_first, &m_deep, &m_second));
+    EXPECT_THAT(offeredTools(toolkit(), m_flyout), ElementsAre(&m_first, &m_deep, &m_second));
 }
 
 TEST_F(FlyoutMenuTest, TheChosenToolBecomesCurrent) {
@@ -81,6 +81,15 @@ TEST_F(FlyoutMenuTest, AToolWithoutANameIsShownByItsId) {
     m_first.SetName(L"");
     open({});
     EXPECT_EQ(m_lines[0].text, L"ID_1");
+}
+
+TEST_F(FlyoutMenuTest, AFlyoutThatGoesWhileItsListIsOpenHasNoChoice) {
+    toolkit().menus().answerNext([this](const std::vector<MenuLine>&) {
+        m_toolPanel->DestroyWindow();
+        return std::optional<UINT>(3);
+    });
+    EXPECT_FALSE(openFlyout(m_flyout));
+    EXPECT_EQ(m_flyout.GetCurrentFlyoutTool(), &m_first);
 }
 
 }  // namespace

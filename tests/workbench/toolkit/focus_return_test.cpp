@@ -30,53 +30,53 @@ protected:
 };
 
 TEST_F(FocusReturnTest, AClickOnAToolTakesTheFocusFromAField) {
-    gestures::focusField(m_edit.m_hWnd);
-    gestures::clickItem(m_item);
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
+    gestures::clickItem(toolkit(), m_item);
     EXPECT_EQ(windows().focus(), view());
 }
 
 TEST_F(FocusReturnTest, APaletteMayRefuse) {
     m_palette->releasesFocus = false;
-    gestures::focusField(m_edit.m_hWnd);
-    gestures::clickItem(m_item);
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
+    gestures::clickItem(toolkit(), m_item);
     EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
 }
 
 TEST_F(FocusReturnTest, AFieldThatTheClickGaveTheFocusKeepsIt) {
     m_control.onClick = [this] { m_edit.SetFocus(); };
-    gestures::clickIcon(m_control.m_hWnd);
+    gestures::clickIcon(toolkit(), m_control.m_hWnd);
     EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
-    gestures::clickIcon(m_control.m_hWnd);
+    gestures::clickIcon(toolkit(), m_control.m_hWnd);
     EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
 }
 
 TEST_F(FocusReturnTest, APressElsewhereLeavesTheFieldBeforeTheClickComes) {
-    gestures::focusField(m_edit.m_hWnd);
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
     HWND focusInClick = m_edit.m_hWnd;
     m_control.onClick = [&] { focusInClick = windows().focus(); };
-    gestures::clickIcon(m_control.m_hWnd);
+    gestures::clickIcon(toolkit(), m_control.m_hWnd);
     EXPECT_EQ(focusInClick, view());
-    gestures::focusField(m_edit.m_hWnd);
-    gestures::dragSlider(m_slider.m_hWnd, {10});
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
+    gestures::dragSlider(toolkit(), m_slider.m_hWnd, {10});
     EXPECT_NE(windows().focus(), m_edit.m_hWnd);
 }
 
 TEST_F(FocusReturnTest, LeavingTakesTheFocusFromASliderAndNotFromAField) {
-    gestures::focusField(m_edit.m_hWnd);
-    gestures::leave();
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
+    gestures::leave(toolkit());
     EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
     m_slider.SetFocus();
-    gestures::hoverAt(m_slider.m_hWnd, {1, 1});
-    gestures::leave();
+    gestures::hoverAt(toolkit(), m_slider.m_hWnd, {1, 1});
+    gestures::leave(toolkit());
     EXPECT_EQ(windows().focus(), view());
 }
 
 TEST_F(FocusReturnTest, AFocusOutsideTheSetStaysWhereItIs) {
     const HWND commandLine = frame().commandLine().m_hWnd;
     windows().setFocus(commandLine);
-    gestures::clickItem(m_item);
+    gestures::clickItem(toolkit(), m_item);
     EXPECT_EQ(windows().focus(), commandLine);
-    giveFocusBack(nullptr, nullptr);
+    giveFocusBack(toolkit(), nullptr, nullptr);
     EXPECT_EQ(windows().focus(), commandLine);
 }
 

@@ -19,36 +19,36 @@ protected:
 };
 
 TEST_F(KeyRoadTest, TabGoesFromFieldToFieldAndRound) {
-    gestures::focusField(m_first.m_hWnd);
-    gestures::pressKey("tab");
+    gestures::focusField(toolkit(), m_first.m_hWnd);
+    gestures::pressKey(toolkit(), "tab");
     EXPECT_EQ(windows().focus(), m_second.m_hWnd);
-    gestures::pressKey("tab");
-    gestures::pressKey("tab");
+    gestures::pressKey(toolkit(), "tab");
+    gestures::pressKey(toolkit(), "tab");
     EXPECT_EQ(windows().focus(), m_first.m_hWnd);
 }
 
 TEST_F(KeyRoadTest, TabPassesOverDisabledAndHiddenFields) {
     m_second.EnableWindow(0);
-    EXPECT_EQ(nextField(m_first.m_hWnd), m_third.m_hWnd);
+    EXPECT_EQ(nextField(windows(), m_first.m_hWnd), m_third.m_hWnd);
     m_third.ShowWindow(SW_HIDE);
-    EXPECT_EQ(nextField(m_first.m_hWnd), nullptr);
+    EXPECT_EQ(nextField(windows(), m_first.m_hWnd), nullptr);
 }
 
 TEST_F(KeyRoadTest, TabSelectsTheWholeText) {
     m_second.SetWindowText(L"old");
-    gestures::focusField(m_first.m_hWnd);
-    gestures::pressKey("tab");
-    gestures::typeText(L"n");
+    gestures::focusField(toolkit(), m_first.m_hWnd);
+    gestures::pressKey(toolkit(), "tab");
+    gestures::typeText(toolkit(), L"n");
     EXPECT_EQ(m_second.GetWindowText(), L"n");
 }
 
 TEST_F(KeyRoadTest, WithShiftHeldTabGoesBack) {
-    gestures::focusField(m_first.m_hWnd);
-    gestures::holdKey("shift", true);
-    gestures::pressKey("tab");
+    gestures::focusField(toolkit(), m_first.m_hWnd);
+    gestures::holdKey(toolkit(), "shift", true);
+    gestures::pressKey(toolkit(), "tab");
     EXPECT_EQ(windows().focus(), m_third.m_hWnd);
-    gestures::pressKey("tab");
-    gestures::holdKey("shift", false);
+    gestures::pressKey(toolkit(), "tab");
+    gestures::holdKey(toolkit(), "shift", false);
     EXPECT_EQ(windows().focus(), m_second.m_hWnd);
 }
 
@@ -57,19 +57,19 @@ TEST_F(KeyRoadTest, TabStopsAtSlidersAndListsToo) {
     slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 16}, m_toolPanel, 8, 0);
     CQrUiComboCtrl combo;
     combo.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 100}, m_toolPanel, 9);
-    EXPECT_EQ(nextField(m_third.m_hWnd), slider.m_hWnd);
-    EXPECT_EQ(nextField(slider.m_hWnd), combo.m_hWnd);
-    EXPECT_EQ(nextField(combo.m_hWnd), m_first.m_hWnd);
+    EXPECT_EQ(nextField(windows(), m_third.m_hWnd), slider.m_hWnd);
+    EXPECT_EQ(nextField(windows(), slider.m_hWnd), combo.m_hWnd);
+    EXPECT_EQ(nextField(windows(), combo.m_hWnd), m_first.m_hWnd);
 }
 
 TEST_F(KeyRoadTest, OutsideASetThereIsNoNextField) {
-    EXPECT_EQ(nextField(frame().drawingView().m_hWnd), nullptr);
-    EXPECT_EQ(nextField(nullptr), nullptr);
+    EXPECT_EQ(nextField(windows(), frame().drawingView().m_hWnd), nullptr);
+    EXPECT_EQ(nextField(windows(), nullptr), nullptr);
 }
 
 TEST_F(KeyRoadTest, OtherKeysGoToTheCommandLine) {
     journal().take();
-    passKeyOn(VK_RETURN, 0);
+    passKeyOn(toolkit(), VK_RETURN, 0);
     const std::vector<JournalRecord> messages = journal().take("message");
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_EQ(messages[0].field("control"), Value("CommandLine"));

@@ -26,7 +26,7 @@ protected:
 };
 
 TEST_F(LinkWidgetTest, AClickOpensTheTopicOnce) {
-    gestures::clickAt(m_link.m_hWnd, {5, 5});
+    gestures::clickAt(toolkit(), m_link.m_hWnd, {5, 5});
     EXPECT_THAT(topics(), testing::ElementsAre(Value("TOPIC")));
     toolkit().mouse().release(m_link.m_hWnd, {5, 5});
     EXPECT_THAT(topics(), testing::IsEmpty());

@@ -13,18 +13,18 @@ using testing::IsEmpty;
 class LookupTest : public ToolkitTest {};
 
 TEST_F(LookupTest, SetsAndPanelsAreFoundFromWithin) {
-    EXPECT_EQ(paletteSetAbove(m_toolPanel->m_hWnd), m_set.get());
-    EXPECT_EQ(paletteSetAbove(m_set->m_hWnd), m_set.get());
-    EXPECT_EQ(panelAbove(m_toolPanel->m_hWnd), &m_panel);
-    EXPECT_EQ(panelAbove(m_panelSet.m_hWnd), nullptr);
-    EXPECT_EQ(paletteSetAbove(frame().drawingView().m_hWnd), nullptr);
-    EXPECT_EQ(paletteSetAbove(nullptr), nullptr);
+    EXPECT_EQ(paletteSetAbove(windows(), m_toolPanel->m_hWnd), m_set.get());
+    EXPECT_EQ(paletteSetAbove(windows(), m_set->m_hWnd), m_set.get());
+    EXPECT_EQ(panelAbove(windows(), m_toolPanel->m_hWnd), &m_panel);
+    EXPECT_EQ(panelAbove(windows(), m_panelSet.m_hWnd), nullptr);
+    EXPECT_EQ(paletteSetAbove(windows(), frame().drawingView().m_hWnd), nullptr);
+    EXPECT_EQ(paletteSetAbove(windows(), nullptr), nullptr);
 }
 
 TEST_F(LookupTest, PanelsAreFoundByTheirIdHiddenOrNot) {
     m_panel.ShowWindow(SW_HIDE);
-    EXPECT_THAT(findPanels(L"PANEL"), ElementsAre(&m_panel));
-    EXPECT_THAT(findPanels(L"panel"), IsEmpty());
+    EXPECT_THAT(findPanels(windows(), L"PANEL"), ElementsAre(&m_panel));
+    EXPECT_THAT(findPanels(windows(), L"panel"), IsEmpty());
 }
 
 TEST_F(LookupTest, ItemsOfOneIdComeInTreeOrderWithTheToolsOfFlyouts) {
@@ -34,8 +34,8 @@ TEST_F(LookupTest, ItemsOfOneIdComeInTreeOrderWithTheToolsOfFlyouts) {
     ListeningToolPanel control;
     control.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 22}, m_toolPanel, 1, 0);
     CQrUiToolPanelItem& icon = addItemTo(control, kItemButton, L"ID_A");
-    EXPECT_THAT(findItems(L"ID_A"), ElementsAre(&tool, &plain, &icon));
-    EXPECT_THAT(findItems(L"ID_B"), IsEmpty());
+    EXPECT_THAT(findItems(windows(), L"ID_A"), ElementsAre(&tool, &plain, &icon));
+    EXPECT_THAT(findItems(windows(), L"ID_B"), IsEmpty());
     EXPECT_EQ(toolPanelOf(tool), m_toolPanel);
     EXPECT_EQ(toolPanelOf(icon), &control);
 }
@@ -45,9 +45,9 @@ TEST_F(LookupTest, AnItemIsFoundByTheIdOfItsMenuDataToo) {
     data.id = L"LineTypeControl";
     CQrUiToolPanelItem& item = addItem(kItemButton, L"Line Type Control");
     QrUiSetToolPanelItemData(&item, &data);
-    EXPECT_THAT(findItems(L"LineTypeControl"), ElementsAre(&item));
-    EXPECT_THAT(findItems(L"Line Type Control"), ElementsAre(&item));
-    EXPECT_EQ(viewOf(item).id, L"LineTypeControl");
+    EXPECT_THAT(findItems(windows(), L"LineTypeControl"), ElementsAre(&item));
+    EXPECT_THAT(findItems(windows(), L"Line Type Control"), ElementsAre(&item));
+    EXPECT_EQ(viewOf(toolkit(), item).id, L"LineTypeControl");
 }
 
 TEST_F(LookupTest, AViewHoldsWhatAUserSees) {
@@ -56,7 +56,7 @@ TEST_F(LookupTest, AViewHoldsWhatAUserSees) {
     flyout.SetName(L"Draw");
     flyout.SetState(kItemChecked | kItemHidden);
     flyout.SetImage(kItemSmallImage, toolkit().pictures().add("RCDATA_F", {1}));
-    const ItemView view = viewOf(flyout);
+    const ItemView view = viewOf(toolkit(), flyout);
     EXPECT_TRUE(view.checked);
     EXPECT_FALSE(view.disabled);
     EXPECT_TRUE(view.hidden);
@@ -88,7 +88,7 @@ TEST_F(LookupTest, AWindowlessPanelKeepsItsItems) {
     const CQrUiToolPanelItem& item = addItem(kItemButton, L"ID_A");
     m_set->DestroyWindow();
     EXPECT_EQ(m_toolPanel->GetToolPanelItem(L"ID_A"), &item);
-    EXPECT_THAT(findItems(L"ID_A"), IsEmpty());
+    EXPECT_THAT(findItems(windows(), L"ID_A"), IsEmpty());
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ TEST_F(PaletteSetWidgetTest, AFloatingSetHasItsCaptionOutside) {
 
 TEST_F(PaletteSetWidgetTest, TheContextMenuEndsWithASeparatorBeforeForeignLines) {
     std::vector<std::wstring> texts;
-    for (const MenuLine& line : readContextMenu(m_set->m_hWnd))
+    for (const MenuLine& line : readContextMenu(toolkit(), m_set->m_hWnd))
         texts.push_back(line.separator ? L"-" : line.text);
     EXPECT_THAT(texts, ElementsAre(L"Move", L"Size", L"Close", L"-", L"Allow docking", L"-"));
 }
@@ -44,34 +44,34 @@ TEST_F(PaletteSetWidgetTest, CloseOnlyHides) {
         wasHidden = (reinterpret_cast<const WINDOWPOS*>(record)->flags & SWP_HIDEWINDOW) != 0;
         return LRESULT{0};
     };
-    chooseFromContextMenu(m_set->m_hWnd, L"Close");
+    chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Close");
     EXPECT_TRUE(wasHidden);
     EXPECT_NE(m_set->m_hWnd, nullptr);
     EXPECT_FALSE(m_set->IsWindowVisible());
 }
 
 TEST_F(PaletteSetWidgetTest, DockingCanBeForbiddenAndAllowedAgain) {
-    chooseFromContextMenu(m_set->m_hWnd, L"Allow docking");
-    EXPECT_FALSE(readContextMenu(m_set->m_hWnd)[4].checked);
+    chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Allow docking");
+    EXPECT_FALSE(readContextMenu(toolkit(), m_set->m_hWnd)[4].checked);
     EXPECT_FALSE(frame().dock(*m_set, Edge::left));
-    chooseFromContextMenu(m_set->m_hWnd, L"Allow docking");
-    EXPECT_TRUE(readContextMenu(m_set->m_hWnd)[4].checked);
+    chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Allow docking");
+    EXPECT_TRUE(readContextMenu(toolkit(), m_set->m_hWnd)[4].checked);
     EXPECT_TRUE(frame().dock(*m_set, Edge::left));
 }
 
 TEST_F(PaletteSetWidgetTest, MoveAndSizeTakeTheUsersNumbers) {
     m_workbench.answers().queue("dialog", Value::Table{{"x", 10}, {"y", 20}});
-    chooseFromContextMenu(m_set->m_hWnd, L"Move");
+    chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Move");
     ASSERT_TRUE(m_set->IsFloating());
     EXPECT_EQ(frame().placeOf(*m_set).rect.left, 10);
     EXPECT_EQ(frame().placeOf(*m_set).rect.top, 20);
     m_workbench.answers().queue("dialog", Value::Table{{"width", 300}, {"height", 400}});
-    chooseFromContextMenu(m_set->m_hWnd, L"Size");
+    chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Size");
     EXPECT_EQ(frame().placeOf(*m_set).rect, (CRect{10, 20, 310, 420}));
 }
 
 TEST_F(PaletteSetWidgetTest, MoveWithoutAnAnswerLeavesTheSetAlone) {
-    chooseFromContextMenu(m_set->m_hWnd, L"Move");
+    chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Move");
     EXPECT_FALSE(m_set->IsFloating());
 }
 

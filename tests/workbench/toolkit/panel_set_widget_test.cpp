@@ -68,11 +68,11 @@ TEST_F(PanelSetWidgetTest, TheWheelScrollsAsFarAsThePanelsReach) {
     m_panelSet.UpdateLayout();
     const int hidden = m_panelSet.GetClientRect().Height() - m_palette->GetClientRect().Height();
     ASSERT_GT(hidden, 60);
-    gestures::turnWheel(m_panel.m_hWnd, {5, 5}, 1);
+    gestures::turnWheel(toolkit(), m_panel.m_hWnd, {5, 5}, 1);
     EXPECT_EQ(topOf(m_panel), 0);
-    gestures::turnWheel(m_panel.m_hWnd, {5, 5}, -1);
+    gestures::turnWheel(toolkit(), m_panel.m_hWnd, {5, 5}, -1);
     EXPECT_EQ(topOf(m_panel), -60);
-    gestures::turnWheel(m_panelSet.m_hWnd, {5, 100}, -100);
+    gestures::turnWheel(toolkit(), m_panelSet.m_hWnd, {5, 100}, -100);
     EXPECT_EQ(topOf(m_panel), -hidden);
 }
 
@@ -80,7 +80,7 @@ TEST_F(PanelSetWidgetTest, FewerPanelsScrollBack) {
     for (int index = 0; index < 60; ++index)
         addPanel();
     m_panelSet.UpdateLayout();
-    gestures::turnWheel(m_panelSet.m_hWnd, {5, 100}, -100);
+    gestures::turnWheel(toolkit(), m_panelSet.m_hWnd, {5, 100}, -100);
     for (const auto& panel : m_panels)
         m_panelSet.RemovePanel(panel.get());
     m_panelSet.UpdateLayout();
@@ -110,6 +110,16 @@ TEST_F(PanelSetWidgetTest, TheSmallestSizeFitsARow) {
     CSize size{500, 500};
     m_panelSet.GetMinimumSize(size);
     EXPECT_EQ(size, (CSize{120, 20}));
+}
+
+TEST_F(PanelSetWidgetTest, ASetThatGoesInTheMiddleOfItsLayoutIsLaidOutNoFurther) {
+    m_toolPanel->answers[WM_SIZE] = [this](WPARAM, LPARAM) {
+        m_panelSet.DestroyWindow();
+        return 0;
+    };
+    m_panelSet.MoveWindow({0, 0, 150, 300});
+    EXPECT_EQ(m_panelSet.m_hWnd, nullptr);
+    EXPECT_EQ(m_panel.m_hWnd, nullptr);
 }
 
 }  // namespace

@@ -67,42 +67,42 @@ TEST_F(PanelWidgetTest, ToolPanelsStandBelowTheTitleInFullWidth) {
 }
 
 TEST_F(PanelWidgetTest, ATitleClickRollsThePanelUpAndDown) {
-    clickTitle(m_menuPanel);
+    clickTitle(toolkit(), m_menuPanel);
     EXPECT_THAT(m_counting.collapsed, ElementsAre(&m_menuPanel));
     EXPECT_FALSE(m_tools->IsWindowVisible());
     EXPECT_EQ(m_menuPanel.GetClientRect().Height(), 20);
-    clickTitle(m_menuPanel);
+    clickTitle(toolkit(), m_menuPanel);
     EXPECT_THAT(m_counting.expanded, ElementsAre(&m_menuPanel));
     EXPECT_TRUE(m_tools->IsWindowVisible());
     EXPECT_EQ(m_menuPanel.GetClientRect().Height(), 42);
 }
 
 TEST_F(PanelWidgetTest, ADoubleClickOnTheImageActivatesAndDoesNotRoll) {
-    gestures::doubleClickImage(m_menuPanel);
+    gestures::doubleClickImage(toolkit(), m_menuPanel);
     EXPECT_EQ(m_menuPanel.activations, 1);
     EXPECT_THAT(m_counting.collapsed, IsEmpty());
-    gestures::doubleClickAt(m_menuPanel.m_hWnd, {60, 5});
+    gestures::doubleClickAt(toolkit(), m_menuPanel.m_hWnd, {60, 5});
     EXPECT_EQ(m_menuPanel.activations, 1);
 }
 
 TEST_F(PanelWidgetTest, TheContextMenuBeginsWithTheToolkitsLine) {
     std::vector<std::wstring> texts;
-    for (const MenuLine& line : gestures::readContextMenu(m_menuPanel.m_hWnd))
+    for (const MenuLine& line : gestures::readContextMenu(toolkit(), m_menuPanel.m_hWnd))
         texts.push_back(line.separator ? L"-" : line.text);
     EXPECT_THAT(texts, ElementsAre(L"Collapse", L"-", L"Hide"));
     EXPECT_EQ(windows().menus().liveCount(), 0U);
 }
 
 TEST_F(PanelWidgetTest, TheToolkitsLineRollsAndIsNotSent) {
-    chooseFromContextMenu(m_menuPanel.m_hWnd, L"Collapse");
+    chooseFromContextMenu(toolkit(), m_menuPanel.m_hWnd, L"Collapse");
     EXPECT_THAT(m_counting.collapsed, ElementsAre(&m_menuPanel));
-    chooseFromContextMenu(m_menuPanel.m_hWnd, L"Expand");
+    chooseFromContextMenu(toolkit(), m_menuPanel.m_hWnd, L"Expand");
     EXPECT_THAT(m_counting.expanded, ElementsAre(&m_menuPanel));
     EXPECT_THAT(m_menuPanel.of(WM_COMMAND), IsEmpty());
 }
 
 TEST_F(PanelWidgetTest, AnOwnLineIsSentToThePanel) {
-    chooseFromContextMenu(m_menuPanel.m_hWnd, L"Hide");
+    chooseFromContextMenu(toolkit(), m_menuPanel.m_hWnd, L"Hide");
     EXPECT_THAT(m_menuPanel.of(WM_COMMAND), ElementsAre(Received{WM_COMMAND, 37331, 0}));
 }
 
@@ -115,7 +115,7 @@ TEST_F(PanelWidgetTest, AContextMenuOverAToolIsThePanels) {
 
 TEST_F(PanelWidgetTest, NoMenuOpensWhenThePanelFailsToFillIt) {
     m_menuPanel.addsLines = false;
-    EXPECT_THROW(gestures::readContextMenu(m_menuPanel.m_hWnd), std::runtime_error);
+    EXPECT_THROW(gestures::readContextMenu(toolkit(), m_menuPanel.m_hWnd), std::runtime_error);
     EXPECT_EQ(windows().menus().liveCount(), 0U);
 }
 
@@ -127,6 +127,15 @@ TEST_F(PanelWidgetTest, APanelGivesItsPicturesBack) {
         EXPECT_EQ(toolkit().pictures().liveCount(), 1U);
     }
     EXPECT_EQ(toolkit().pictures().liveCount(), 0U);
+}
+
+TEST_F(PanelWidgetTest, APanelThatGoesAsItIsRolledUpTellsNobody) {
+    m_toolPanel->answers[WM_WINDOWPOSCHANGED] = [this](WPARAM, LPARAM) {
+        m_panel.DestroyWindow();
+        return 0;
+    };
+    gestures::clickTitle(m_panel);
+    EXPECT_EQ(m_panel.m_hWnd, nullptr);
 }
 
 }  // namespace

@@ -56,43 +56,43 @@ TEST_F(SliderWidgetTest, ANewRangeMovesTheThumbIntoIt) {
 }
 
 TEST_F(SliderWidgetTest, ADragTellsEachPositionOnce) {
-    EXPECT_TRUE(dragSlider(m_slider.m_hWnd, {60, 60, 40}));
-    EXPECT_TRUE(releaseSlider(m_slider.m_hWnd));
+    EXPECT_TRUE(dragSlider(toolkit(), m_slider.m_hWnd, {60, 60, 40}));
+    EXPECT_TRUE(releaseSlider(toolkit(), m_slider.m_hWnd));
     EXPECT_THAT(told(), ElementsAre(60, 40));
     EXPECT_EQ(m_slider.GetSliderPos(), 40);
 }
 
 TEST_F(SliderWidgetTest, ADragGoesOnUntilTheButtonIsReleased) {
-    dragSlider(m_slider.m_hWnd, {60});
+    dragSlider(toolkit(), m_slider.m_hWnd, {60});
     EXPECT_EQ(toolkit().mouse().captured(), m_slider.m_hWnd);
-    dragSlider(m_slider.m_hWnd, {61});
-    releaseSlider(m_slider.m_hWnd);
+    dragSlider(toolkit(), m_slider.m_hWnd, {61});
+    releaseSlider(toolkit(), m_slider.m_hWnd);
     EXPECT_EQ(toolkit().mouse().captured(), nullptr);
     toolkit().mouse().move(m_slider.m_hWnd, {5, 5});
     EXPECT_THAT(told(), ElementsAre(60, 61));
-    EXPECT_FALSE(releaseSlider(m_slider.m_hWnd));
+    EXPECT_FALSE(releaseSlider(toolkit(), m_slider.m_hWnd));
 }
 
 TEST_F(SliderWidgetTest, NegativePositionsComeInSixteenBits) {
     m_slider.SetSliderRange(-10, 10);
-    dragSlider(m_slider.m_hWnd, {-3});
+    dragSlider(toolkit(), m_slider.m_hWnd, {-3});
     EXPECT_THAT(told(), ElementsAre(-3));
 }
 
 TEST_F(SliderWidgetTest, ALongRangeIsReachedToThePosition) {
     m_slider.SetSliderRange(0, 1439);
     for (const int position : {1, 700, 701, 1439, 0})
-        dragSlider(m_slider.m_hWnd, {position});
+        dragSlider(toolkit(), m_slider.m_hWnd, {position});
     EXPECT_THAT(told(), ElementsAre(1, 700, 701, 1439, 0));
 }
 
 TEST_F(SliderWidgetTest, AClickOnTheTrackMovesTheThumbThere) {
-    clickAt(m_slider.m_hWnd, {15, 8});
+    clickAt(toolkit(), m_slider.m_hWnd, {15, 8});
     EXPECT_THAT(told(), ElementsAre(10));
 }
 
 TEST_F(SliderWidgetTest, AClickOnTheThumbMovesNothing) {
-    clickAt(m_slider.m_hWnd, {57, 8});
+    clickAt(toolkit(), m_slider.m_hWnd, {57, 8});
     EXPECT_THAT(told(), IsEmpty());
 }
 
@@ -100,29 +100,29 @@ TEST_F(SliderWidgetTest, KeysMoveByLinesPagesAndToTheEnds) {
     m_slider.SetSliderLineSize(2);
     m_slider.SetFocus();
     for (const char* key : {"left", "right", "up", "down", "pageup", "pagedown", "home", "end"})
-        pressKey(key);
+        pressKey(toolkit(), key);
     EXPECT_THAT(told(), ElementsAre(48, 50, 52, 50, 60, 50, 0, 90));
-    pressKey("right");
+    pressKey(toolkit(), "right");
     EXPECT_EQ(told().size(), 8U);
 }
 
 TEST_F(SliderWidgetTest, TheWheelMovesByLines) {
-    gestures::turnWheel(m_slider.m_hWnd, {5, 5}, 2);
-    gestures::turnWheel(m_slider.m_hWnd, {5, 5}, -1);
+    gestures::turnWheel(toolkit(), m_slider.m_hWnd, {5, 5}, 2);
+    gestures::turnWheel(toolkit(), m_slider.m_hWnd, {5, 5}, -1);
     EXPECT_THAT(told(), ElementsAre(52, 51));
 }
 
 TEST_F(SliderWidgetTest, ADisabledSliderTakesNoGesture) {
     m_slider.EnableWindow(0);
-    EXPECT_FALSE(dragSlider(m_slider.m_hWnd, {10}));
-    EXPECT_FALSE(clickAt(m_slider.m_hWnd, {15, 8}));
+    EXPECT_FALSE(dragSlider(toolkit(), m_slider.m_hWnd, {10}));
+    EXPECT_FALSE(clickAt(toolkit(), m_slider.m_hWnd, {15, 8}));
     EXPECT_THAT(told(), IsEmpty());
 }
 
 TEST_F(SliderWidgetTest, AfterTheReleaseTheDrawingViewHasTheFocus) {
-    dragSlider(m_slider.m_hWnd, {60});
+    dragSlider(toolkit(), m_slider.m_hWnd, {60});
     EXPECT_EQ(windows().focus(), m_slider.m_hWnd);
-    releaseSlider(m_slider.m_hWnd);
+    releaseSlider(toolkit(), m_slider.m_hWnd);
     EXPECT_EQ(windows().focus(), frame().drawingView().m_hWnd);
 }
 
@@ -131,13 +131,13 @@ TEST_F(SliderWidgetTest, ASliderThatEndsInItsOwnMessageIsSafe) {
         m_slider.DestroyWindow();
         return LRESULT{0};
     };
-    EXPECT_THROW(dragSlider(m_slider.m_hWnd, {10, 20}), std::runtime_error);
+    EXPECT_THROW(dragSlider(toolkit(), m_slider.m_hWnd, {10, 20}), std::runtime_error);
     EXPECT_EQ(m_slider.m_hWnd, nullptr);
 }
 
 TEST_F(SliderWidgetTest, ThePositionIsNotedUnderTheControlsName) {
     windows().setName(m_toolPanel->m_hWnd, "Fade");
-    dragSlider(m_slider.m_hWnd, {60});
+    dragSlider(toolkit(), m_slider.m_hWnd, {60});
     const std::vector<JournalRecord> records = journal().take("control");
     ASSERT_EQ(records.size(), 1U);
     EXPECT_EQ(records[0].field("name"), Value("Fade"));

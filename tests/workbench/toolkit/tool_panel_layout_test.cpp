@@ -35,9 +35,9 @@ TEST_F(ToolPanelLayoutTest, ControlsAreAsHighAsTheirKind) {
     CWnd plain;
     slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 99}, m_toolPanel, 1, 2);
     edit.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 99}, m_toolPanel, 2, 0);
-    EXPECT_EQ(controlHeight(addControlTo(*m_toolPanel, slider), 100), 16);
-    EXPECT_EQ(controlHeight(addControlTo(*m_toolPanel, edit), 100), 20);
-    EXPECT_EQ(controlHeight(addControlTo(*m_toolPanel, plain), 100), 0);
+    EXPECT_EQ(controlHeight(windows(), addControlTo(*m_toolPanel, slider), 100), 16);
+    EXPECT_EQ(controlHeight(windows(), addControlTo(*m_toolPanel, edit), 100), 20);
+    EXPECT_EQ(controlHeight(windows(), addControlTo(*m_toolPanel, plain), 100), 0);
 }
 
 TEST_F(ToolPanelLayoutTest, AControlInAControlIsAsHighAsItsRows) {
@@ -46,12 +46,12 @@ TEST_F(ToolPanelLayoutTest, AControlInAControlIsAsHighAsItsRows) {
     addItemTo(control, kItemButton, L"");
     addItemTo(control, kItemRowBreak, L"");
     addItemTo(control, kItemButton, L"");
-    EXPECT_EQ(controlHeight(addControlTo(*m_toolPanel, control), 100), 46);
+    EXPECT_EQ(controlHeight(windows(), addControlTo(*m_toolPanel, control), 100), 46);
 }
 
 TEST_F(ToolPanelLayoutTest, AnItemWithoutAWindowOnlyGetsItsRectangle) {
     CQrUiToolPanelItem& item = addItem(kItemControl, L"ID");
-    placeItem(item, {1, 2, 3, 4});
+    placeItem(toolkit(), item, {1, 2, 3, 4});
     EXPECT_EQ(item.GetPosition(), (CPoint{1, 2}));
 }
 

@@ -33,7 +33,7 @@ protected:
 TEST_F(ToolPanelWidgetTest, AClickOnAnItemIsSentToThePanel) {
     CQrUiToolPanelItem& item = addItem(kItemButton, L"ID_A");
     m_panelSet.UpdateLayout();
-    EXPECT_TRUE(clickItem(item));
+    EXPECT_TRUE(clickItem(toolkit(), item));
     EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED),
                 ElementsAre(Received{WM_QRUI_ITEM_CLICKED, 0, itemOf(item)}));
 }
@@ -56,16 +56,16 @@ TEST_F(ToolPanelWidgetTest, DisabledAndHiddenItemsTakeNoClick) {
     disabled.SetState(kItemDisabled);
     hidden.SetState(kItemHidden);
     m_panelSet.UpdateLayout();
-    EXPECT_FALSE(clickItem(disabled));
-    EXPECT_FALSE(clickItem(hidden));
-    clickAt(m_toolPanel->m_hWnd, {5, 5});
+    EXPECT_FALSE(clickItem(toolkit(), disabled));
+    EXPECT_FALSE(clickItem(toolkit(), hidden));
+    clickAt(toolkit(), m_toolPanel->m_hWnd, {5, 5});
     EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED), IsEmpty());
 }
 
 TEST_F(ToolPanelWidgetTest, AClickOnASeparatorIsSentToo) {
     CQrUiToolPanelItem& separator = addItem(kItemSeparator, L"");
     m_panelSet.UpdateLayout();
-    EXPECT_TRUE(clickItem(separator));
+    EXPECT_TRUE(clickItem(toolkit(), separator));
     EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED), SizeIs(1));
 }
 
@@ -73,23 +73,23 @@ TEST_F(ToolPanelWidgetTest, AFlyoutClickBringsTheFlyoutItself) {
     CQrUiToolPanelItem& flyout = addItem(kItemFlyout, L"ID_F");
     addTool(flyout, kItemButton, L"ID_1");
     m_panelSet.UpdateLayout();
-    clickItem(flyout);
+    clickItem(toolkit(), flyout);
     EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED),
                 ElementsAre(Received{WM_QRUI_ITEM_CLICKED, 0, itemOf(flyout)}));
 }
 
 TEST_F(ToolPanelWidgetTest, AControlsOwnItemsClickTheControl) {
     ListeningToolPanel& control = addControl();
-    EXPECT_TRUE(clickItem(*control.GetToolPanelItem(0)));
+    EXPECT_TRUE(clickItem(toolkit(), *control.GetToolPanelItem(0)));
     EXPECT_THAT(control.clicks, ElementsAre(CPoint{11, 11}));
     EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED), IsEmpty());
 }
 
 TEST_F(ToolPanelWidgetTest, AClickBesideItemsReachesOnlyControls) {
     ListeningToolPanel& control = addControl();
-    clickAt(control.m_hWnd, {100, 5});
+    clickAt(toolkit(), control.m_hWnd, {100, 5});
     EXPECT_THAT(control.clicks, ElementsAre(CPoint{100, 5}));
-    clickAt(m_toolPanel->m_hWnd, {5, 500});
+    clickAt(toolkit(), m_toolPanel->m_hWnd, {5, 500});
     EXPECT_THAT(m_toolPanel->clicks, IsEmpty());
 }
 
@@ -151,7 +151,7 @@ TEST_F(ToolPanelWidgetTest, APanelImageIndentsTheRows) {
 TEST_F(ToolPanelWidgetTest, AControlThatEndsItsPanelDuringItsClickIsSafe) {
     ListeningToolPanel& control = addControl();
     control.onClick = [this] { m_set->DestroyWindow(); };
-    clickItem(*control.GetToolPanelItem(0));
+    clickItem(toolkit(), *control.GetToolPanelItem(0));
     EXPECT_EQ(m_toolPanel->m_hWnd, nullptr);
 }
 

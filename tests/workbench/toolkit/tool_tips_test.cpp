@@ -24,7 +24,7 @@ protected:
 };
 
 TEST_F(ToolTipsTest, ATipComesOnceTheMouseHasRested) {
-    gestures::hoverAt(m_slider.m_hWnd, {5, 5});
+    gestures::hoverAt(toolkit(), m_slider.m_hWnd, {5, 5});
     windows().advance(499);
     EXPECT_EQ(toolkit().toolTips().shown(), L"");
     windows().advance(1);
@@ -38,24 +38,24 @@ TEST_F(ToolTipsTest, ATipComesOnceTheMouseHasRested) {
 }
 
 TEST_F(ToolTipsTest, AnItemsNameIsItsTip) {
-    gestures::hoverAt(m_toolPanel->m_hWnd, {5, 5});
+    gestures::hoverAt(toolkit(), m_toolPanel->m_hWnd, {5, 5});
     windows().advance(500);
     EXPECT_EQ(toolkit().toolTips().shown(), L"Line");
 }
 
 TEST_F(ToolTipsTest, APressOrLeavingHidesIt) {
-    gestures::hoverAt(m_slider.m_hWnd, {5, 5});
+    gestures::hoverAt(toolkit(), m_slider.m_hWnd, {5, 5});
     windows().advance(500);
-    gestures::leave();
+    gestures::leave(toolkit());
     EXPECT_EQ(toolkit().toolTips().shown(), L"");
-    gestures::hoverAt(m_slider.m_hWnd, {5, 5});
+    gestures::hoverAt(toolkit(), m_slider.m_hWnd, {5, 5});
     toolkit().mouse().press(m_slider.m_hWnd, {5, 5});
     windows().advance(500);
     EXPECT_EQ(toolkit().toolTips().shown(), L"");
 }
 
 TEST_F(ToolTipsTest, AWindowThatEndedMeanwhileShowsNone) {
-    gestures::hoverAt(m_slider.m_hWnd, {5, 5});
+    gestures::hoverAt(toolkit(), m_slider.m_hWnd, {5, 5});
     m_slider.DestroyWindow();
     windows().advance(500);
     EXPECT_THAT(journal().take("tip"), IsEmpty());

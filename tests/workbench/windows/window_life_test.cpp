@@ -172,4 +172,20 @@ TEST_F(WindowLifeTest, AParentMayEndInsideTheEndOfItsChild) {
     EXPECT_EQ(windowCount(), 0U);
 }
 
+TEST_F(WindowLifeTest, AnObjectMayEndWhileItsWindowIsOnItsWayOut) {
+    auto parent = std::make_unique<TestWindow>();
+    TestWindow child;
+    ASSERT_TRUE(make(*parent));
+    ASSERT_TRUE(make(child, parent.get()));
+    const HWND window = parent->m_hWnd;
+    child.onMessage = [&](UINT message) {
+        if (message == WM_DESTROY)
+            parent.reset();
+    };
+    windows().destroy(window);
+    EXPECT_EQ(parent, nullptr);
+    EXPECT_EQ(child.m_hWnd, nullptr);
+    EXPECT_EQ(windowCount(), 0U);
+}
+
 }  // namespace workbench

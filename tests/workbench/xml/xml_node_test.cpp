@@ -1,8 +1,8 @@
 #include "workbench/xml/xml_node.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 
 #include <gtest/gtest.h>
 

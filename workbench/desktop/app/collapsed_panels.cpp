@@ -1,7 +1,6 @@
 #include "workbench/desktop/app/collapsed_panels.h"
 
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -11,18 +10,18 @@
 
 namespace workbench::desktop {
 
-std::vector<std::wstring> collapsedPanels(WindowSystem& windows) {
+std::vector<std::wstring> collapsedPanels(Toolkit& toolkit) {
     std::vector<std::wstring> ids;
-    for (const CQrUiPanel* panel : allPanels()) {
-        if (Workbench::current().toolkit().panels().of(panel).collapsed)
-            ids.push_back(toWide(windows.find(panel->m_hWnd)->name));
+    for (const CQrUiPanel* panel : allPanels(toolkit.windows())) {
+        if (toolkit.panels().of(panel).collapsed)
+            ids.push_back(toWide(toolkit.windows().find(panel->m_hWnd)->name));
     }
     return ids;
 }
 
-void collapsePanels(WindowSystem& windows, const std::vector<std::wstring>& ids) {
-    for (const CQrUiPanel* panel : allPanels()) {
-        Window* const window = windows.find(panel->m_hWnd);
+void collapsePanels(Toolkit& toolkit, const std::vector<std::wstring>& ids) {
+    for (const CQrUiPanel* panel : allPanels(toolkit.windows())) {
+        Window* const window = toolkit.windows().find(panel->m_hWnd);
         const bool collapsed = std::find(ids.begin(), ids.end(), toWide(window->name)) != ids.end();
         static_cast<PanelWidget&>(*window->widget).collapse(*window, collapsed);
     }

@@ -1,10 +1,10 @@
 #include "workbench/desktop/app/document_tabs.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/drawing_view/drawing_view.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 
 namespace workbench::desktop {
 

@@ -2,16 +2,15 @@
 
 #include "workbench/base/input_error.h"
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/menu/menu_reader.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
-#include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -79,17 +78,17 @@ std::vector<std::string> profileNames(Workbench& workbench) {
 void reloadMenu(Workbench& workbench) {
     // What is wrong with the file shows before the panels are taken down.
     readMenuFile(workbench.options().panelFile);
-    const std::vector<std::wstring> rolledUp = collapsedPanels(workbench.windows());
+    const std::vector<std::wstring> rolledUp = collapsedPanels(workbench.toolkit());
     notify(workbench, kReleaseControls);
     notify(workbench, kTakePanelsDown);
     workbench.menu().reload();
     notify(workbench, kBuildPanels);
-    collapsePanels(workbench.windows(), rolledUp);
+    collapsePanels(workbench.toolkit(), rolledUp);
 }
 
 void resetLayout(Workbench& workbench) {
     Toolkit& toolkit = workbench.toolkit();
-    collapsePanels(workbench.windows(), {});
+    collapsePanels(workbench.toolkit(), {});
     for (CQrUiPaletteSet* set : toolkit.frame().bars()) {
         BarPlace place;
         place.rect = kDockedRect;
@@ -101,7 +100,7 @@ void resetLayout(Workbench& workbench) {
 void toggleDashboard(Workbench& workbench) {
     for (CQrUiPaletteSet* set : workbench.toolkit().frame().bars()) {
         if (workbench.windows().isOnScreen(set->m_hWnd)) {
-            closePaletteSet(*set);
+            workbench.toolkit().frame().close(*set);
             return;
         }
     }
@@ -110,7 +109,7 @@ void toggleDashboard(Workbench& workbench) {
 
 void setIconSize(Workbench& workbench, int pixels) {
     workbench.toolkit().setIconSize(pixels);
-    for (CQrUiPanel* panel : allPanels()) {
+    for (CQrUiPanel* panel : allPanels(workbench.windows())) {
         if (const Window* const parent = workbench.windows().find(panel->m_hWnd))
             static_cast<CQrUiPanelSet*>(workbench.windows().find(parent->parent)->object)
                 ->UpdateLayout();

@@ -1,8 +1,6 @@
 #include "workbench/desktop/app/main_window.h"
 
 #include "workbench/base/input_error.h"
-#include "workbench/commands/command_processor.h"
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
@@ -19,8 +17,10 @@
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
 #include "workbench/desktop/panes/status_fields.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/variables/variable_definition.h"
+#include "workbench/host/workbench.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
@@ -67,7 +67,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
       m_commandLine(new CommandLine),
       m_status(new StatusFields),
       m_journal(new JournalPane(workbench.journal())),
-      m_search(new SearchBox(workbench)),
+      m_search(new SearchBox(workbench.toolkit())),
       m_journalDock(new QDockWidget(QStringLiteral("Journal"), this)) {
     setWindowTitle(QStringLiteral("Workbench"));
     setCentralWidget(m_home);
@@ -143,7 +143,7 @@ void MainWindow::onRest() {
 void MainWindow::leaveDashboard(const QWidget* now) {
     const bool isPane = now != nullptr && dynamic_cast<const MirrorWidget*>(now) == nullptr &&
                         now->window() == this;
-    if (!isPane || paletteSetAbove(m_stage.windows.focus()) == nullptr)
+    if (!isPane || paletteSetAbove(m_stage.windows, m_stage.windows.focus()) == nullptr)
         return;
     m_pump.act([this] { m_stage.windows.setFocus(m_stage.toolkit.frame().drawingView().m_hWnd); });
 }
@@ -200,12 +200,12 @@ void MainWindow::recall() {
         tell(complaint);
     if (state.shade)
         setShade(*state.shade);
-    m_pump.act([&] { collapsePanels(m_stage.windows, state.rolledUp); });
+    m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
 }
 
 void MainWindow::remember() {
     m_workbench.profiles().save();
-    DesktopState{m_shade, collapsedPanels(m_stage.windows)}.write(m_workbench.profiles().folder());
+    DesktopState{m_shade, collapsedPanels(m_stage.toolkit)}.write(m_workbench.profiles().folder());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

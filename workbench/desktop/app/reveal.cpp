@@ -1,6 +1,5 @@
 #include "workbench/desktop/app/reveal.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/mirror/item_widget.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/stage.h"
@@ -8,6 +7,7 @@
 #include "workbench/desktop/panes/panel_search.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/menu_gestures.h"
+#include "workbench/host/workbench.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -31,9 +31,10 @@ void showDashboard(Stage& stage) {
 
 /// By the menu, as a user does.
 void showPanel(Stage& stage, const CQrUiPanel& panel) {
-    const CQrUiPaletteSet* const set = paletteSetAbove(panel.m_hWnd);
+    const CQrUiPaletteSet* const set = paletteSetAbove(stage.windows, panel.m_hWnd);
     if (set != nullptr && !stage.windows.isOnScreen(panel.m_hWnd))
-        gestures::chooseFromContextMenu(set->m_hWnd, L"Panels/" + panel.GetWindowText());
+        gestures::chooseFromContextMenu(stage.toolkit, set->m_hWnd,
+                                        L"Panels/" + panel.GetWindowText());
     Window* const window = stage.windows.find(panel.m_hWnd);
     if (window != nullptr)
         static_cast<PanelWidget&>(*window->widget).collapse(*window, false);
@@ -42,7 +43,7 @@ void showPanel(Stage& stage, const CQrUiPanel& panel) {
 /// The item to mark: the tool, or the flyout around it, or the head of the control.
 const CQrUiToolPanelItem* itemOf(const Stage& stage, const SearchHit& hit) {
     if (!hit.item.empty()) {
-        const auto found = findItems(hit.item);
+        const auto found = findItems(stage.windows, hit.item);
         const CQrUiToolPanelItem* item = found.empty() ? nullptr : found.front();
         while (item != nullptr && item->m_record->flyout != nullptr)
             item = item->m_record->flyout;
@@ -70,7 +71,7 @@ void mark(const WindowMirror& mirror, const CQrUiToolPanelItem& item) {
 void reveal(Stage& stage, WindowMirror& mirror, const SearchHit& hit) {
     stage.pump.act([&] {
         showDashboard(stage);
-        for (const CQrUiPanel* panel : findPanels(hit.panel))
+        for (const CQrUiPanel* panel : findPanels(stage.windows, hit.panel))
             showPanel(stage, *panel);
     });
     const CQrUiToolPanelItem* const item = itemOf(stage, hit);

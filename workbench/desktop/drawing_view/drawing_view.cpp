@@ -1,10 +1,10 @@
 #include "workbench/desktop/drawing_view/drawing_view.h"
 
-#include "workbench/desktop/app/pump.h"
 #include "workbench/desktop/drawing_view/camera.h"
 #include "workbench/desktop/drawing_view/scene_painter.h"
 #include "workbench/desktop/drawing_view/sheet.h"
 #include "workbench/desktop/drawing_view/view_motion.h"
+#include "workbench/desktop/pump/pump.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"

@@ -2,8 +2,8 @@
 
 #include "workbench/desktop/drawing_view/scene.h"
 #include "workbench/desktop/look/look.h"
-#include "workbench/drawing/object_id.h"
-#include "workbench/drawing/reactors.h"
+#include "workbench/drawing/database/object_id.h"
+#include "workbench/drawing/database/reactors.h"
 #include "workbench/drawing/records/view_parameters.h"
 
 #include <QWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "workbench/desktop/drawing_view/vector.h"
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 #include <QColor>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/geometry.h"
+#include "workbench/drawing/database/geometry.h"
 
 #include <cmath>
 

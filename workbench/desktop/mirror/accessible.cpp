@@ -67,8 +67,8 @@ public:
     QVariant minimumStepSize() const override { return slider()->lineSize(); }
     void setCurrentValue(const QVariant& value) override {
         mirror().stage().pump.act([this, position = value.toInt()] {
-            if (gestures::dragSlider(mirror().handle(), {position}))
-                gestures::releaseSlider(mirror().handle());
+            if (gestures::dragSlider(mirror().stage().toolkit, mirror().handle(), {position}))
+                gestures::releaseSlider(mirror().stage().toolkit, mirror().handle());
         });
     }
 
@@ -132,7 +132,7 @@ public:
     QString text(QAccessible::Text kind) const override {
         const CQrUiToolPanelItem* const shown = item().item();
         if (kind == QAccessible::Name && shown != nullptr) {
-            const std::wstring name = shownName(*shown);
+            const std::wstring name = shownName(item().stage().toolkit, *shown);
             return toQt(name.empty() ? knownId(*shown) : name);
         }
         return QAccessibleWidget::text(kind);

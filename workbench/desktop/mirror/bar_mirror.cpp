@@ -82,7 +82,7 @@ void BarMirror::click(QPoint point) {
         if (isStrip())
             frame.rollOut(set, true);
         else if (parts.close.contains(point))
-            closePaletteSet(set);
+            frame.close(set);
         else if (parts.anchor.contains(point))
             frame.anchor(set, !state.place.anchored);
     });

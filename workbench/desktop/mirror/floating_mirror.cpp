@@ -67,7 +67,7 @@ void FloatingMirror::closeEvent(QCloseEvent* event) {
     event->ignore();
     stage().pump.act([this] {
         if (CQrUiPaletteSet* set = shownSet())
-            closePaletteSet(*set);
+            stage().toolkit.frame().close(*set);
     });
 }
 

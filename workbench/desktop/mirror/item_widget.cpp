@@ -46,7 +46,8 @@ void paintPicture(QPainter& painter, Stage& stage, const CQrUiToolPanelItem& ite
     }
     painter.setFont(fontOf(nullptr));
     painter.setPen(stage.look->text);
-    painter.drawText(place, Qt::AlignCenter, toQt(shownName(item)).left(kLettersOfAName));
+    painter.drawText(place, Qt::AlignCenter,
+                     toQt(shownName(stage.toolkit, item)).left(kLettersOfAName));
 }
 
 }  // namespace

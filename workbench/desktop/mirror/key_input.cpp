@@ -52,7 +52,7 @@ bool useClipboard(Stage& stage, const QKeyEvent& event) {
         return false;
     QClipboard& clipboard = *QGuiApplication::clipboard();
     if (event.matches(QKeySequence::Paste)) {
-        gestures::typeText(toHost(clipboard.text()));
+        gestures::typeText(stage.toolkit, toHost(clipboard.text()));
         return true;
     }
     const bool cut = event.matches(QKeySequence::Cut);
@@ -63,7 +63,7 @@ bool useClipboard(Stage& stage, const QKeyEvent& event) {
         return true;
     clipboard.setText(selected);
     if (cut)
-        gestures::pressKey("delete");
+        gestures::pressKey(stage.toolkit, "delete");
     return true;
 }
 
@@ -75,7 +75,7 @@ void type(Stage& stage, const QKeyEvent& event) {
     if (event.text().isEmpty() || !event.text().front().isPrint())
         return;
     if (editWithKeyboard(stage) != nullptr)
-        gestures::typeText(toHost(event.text()));
+        gestures::typeText(stage.toolkit, toHost(event.text()));
     else if (stage.typed)
         stage.typed(event.text());
 }
@@ -88,7 +88,7 @@ void pressKey(Stage& stage, const QKeyEvent& event) {
         const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys),
                                        [&](const KeyRow& each) { return each.key == event.key(); });
         if (row != std::end(kKeys))
-            gestures::pressKey(row->name);
+            gestures::pressKey(stage.toolkit, row->name);
         else if (!useClipboard(stage, event))
             type(stage, event);
     });

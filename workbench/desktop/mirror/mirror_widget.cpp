@@ -60,7 +60,7 @@ void MirrorWidget::refresh() {
     if (window == nullptr)
         return;
     setGeometry(toQt(window->rect));
-    const WindowNames names = namesOf(m_stage.toolkit, m_stage.windows, *window);
+    const WindowNames names = namesOf(m_stage.toolkit, *window);
     setAccessibleName(names.name);
     setAccessibleDescription(names.description);
     refreshItems(*window);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "workbench/desktop/app/pump.h"
 #include "workbench/desktop/look/look.h"
 #include "workbench/desktop/look/pictures.h"
+#include "workbench/desktop/pump/pump.h"
 
 #include <hostapi/types.h>
 

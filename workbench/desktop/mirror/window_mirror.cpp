@@ -154,7 +154,7 @@ void WindowMirror::followKeyboard() {
     if (now == std::exchange(m_keyboard, now))
         return;
     MirrorWidget* const mirror = widgetOf(now);
-    if (mirror == nullptr || paletteSetAbove(now) == nullptr) {
+    if (mirror == nullptr || paletteSetAbove(m_stage.windows, now) == nullptr) {
         if (m_toDrawing)
             m_toDrawing();
         return;

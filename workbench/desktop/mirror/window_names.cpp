@@ -28,13 +28,13 @@ constexpr ClassRow kClasses[] = {
 };
 
 /// The name of the picture or button at the head of a custom control.
-QString nameOfItem(const Window& window) {
+QString nameOfItem(const Toolkit& toolkit, const Window& window) {
     const auto* panel = dynamic_cast<const CQrUiToolPanel*>(window.object);
     if (panel == nullptr)
         return {};
     for (int i = 0; i < panel->GetToolPanelItemCount(); ++i) {
         const CQrUiToolPanelItem& item = *panel->GetToolPanelItem(i);
-        const std::wstring name = shownName(item);
+        const std::wstring name = shownName(toolkit, item);
         if (item.GetType() != kItemControl && !name.empty())
             return toQt(name);
     }
@@ -42,14 +42,15 @@ QString nameOfItem(const Window& window) {
 }
 
 /// The custom control that a window is, or stands in: what it is called as a whole.
-QString nameOfControl(const WindowSystem& windows, const Window& window) {
+QString nameOfControl(const Toolkit& toolkit, const Window& window) {
+    const WindowSystem& windows = toolkit.windows();
     for (const Window* above = &window; above != nullptr; above = windows.find(above->parent)) {
         if (above->className != "CQrUiToolPanel")
             continue;
         const Window* const parent = windows.find(above->parent);
         if (parent == nullptr || parent->className != "CQrUiToolPanel")
             return {};
-        const QString item = nameOfItem(*above);
+        const QString item = nameOfItem(toolkit, *above);
         return item.isEmpty() ? toQt(above->name) : item;
     }
     return {};
@@ -75,10 +76,10 @@ bool isValue(const Window& window) {
 
 }  // namespace
 
-WindowNames namesOf(Toolkit& toolkit, const WindowSystem& windows, const Window& window) {
+WindowNames namesOf(Toolkit& toolkit, const Window& window) {
     const auto* control = dynamic_cast<const ControlWidget*>(window.widget.get());
     const QString tip = control == nullptr ? QString() : toQt(control->tip());
-    const QString whole = nameOfControl(windows, window);
+    const QString whole = nameOfControl(toolkit, window);
     WindowNames names;
     if (!window.text.empty() && !isValue(window))
         names.name = toQt(window.text);

@@ -4,7 +4,6 @@
 
 namespace workbench {
 class Toolkit;
-class WindowSystem;
 struct Window;
 }  // namespace workbench
 
@@ -15,6 +14,6 @@ struct WindowNames {
     QString name;         ///< Never empty for a part that a user can reach.
     QString description;  ///< The tooltip, where it says more than the name.
 };
-WindowNames namesOf(Toolkit& toolkit, const WindowSystem& windows, const Window& window);
+WindowNames namesOf(Toolkit& toolkit, const Window& window);
 
 }  // namespace workbench::desktop

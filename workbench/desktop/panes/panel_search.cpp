@@ -1,10 +1,10 @@
 #include "workbench/desktop/panes/panel_search.h"
 
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <QStringList>
@@ -58,16 +58,17 @@ bool isHidden(const CQrUiToolPanelItem& item) {
 const CQrUiPanel* panelOf(const WindowSystem& windows, const CQrUiToolPanelItem& item) {
     const CQrUiToolPanel* const toolPanel = toolPanelOf(item);
     const Window* const window = toolPanel == nullptr ? nullptr : windows.find(toolPanel->m_hWnd);
-    const CQrUiPanel* const panel = window == nullptr ? nullptr : panelAbove(window->handle);
+    const CQrUiPanel* const panel =
+        window == nullptr ? nullptr : panelAbove(windows, window->handle);
     return panel != nullptr && panel->m_hWnd == window->parent ? panel : nullptr;
 }
 
 /// The names of the items that a custom control has, such as its icon.
-QStringList itemNames(const Window& control) {
+QStringList itemNames(const Toolkit& toolkit, const Window& control) {
     QStringList names;
     const auto* panel = dynamic_cast<const CQrUiToolPanel*>(control.object);
     for (int index = 0; panel != nullptr && index < panel->GetToolPanelItemCount(); ++index)
-        names.append(toQt(shownName(*panel->GetToolPanelItem(index))));
+        names.append(toQt(shownName(toolkit, *panel->GetToolPanelItem(index))));
     names.removeAll(QString());
     return names;
 }
@@ -90,23 +91,23 @@ QString headOf(const QString& tip) {
     return tip.section(QLatin1Char(':'), 0, 0).section(QLatin1String(" ("), 0, 0);
 }
 
-QStringList describeTool(const CQrUiToolPanelItem& item, SearchHit& hit) {
+QStringList describeTool(const Toolkit& toolkit, const CQrUiToolPanelItem& item, SearchHit& hit) {
     hit.item = knownId(item);
-    const QString name = toQt(shownName(item));
+    const QString name = toQt(shownName(toolkit, item));
     const QString id = toQt(hit.item);
     hit.label = name.isEmpty() ? id : name;
     return {name, id, toQt(item.GetID())};
 }
 
 /// Fills in what is known of an item, and gathers all that it can be found by.
-QStringList describeItem(const WindowSystem& windows, const CQrUiToolPanelItem& item,
-                         SearchHit& hit) {
+QStringList describeItem(const Toolkit& toolkit, const CQrUiToolPanelItem& item, SearchHit& hit) {
+    const WindowSystem& windows = toolkit.windows();
     const Window* const control =
         item.GetType() == kItemControl ? windows.find(item.GetControl()) : nullptr;
     if (control == nullptr)
-        return describeTool(item, hit);
+        return describeTool(toolkit, item, hit);
     hit.control = control->name;
-    QStringList places = itemNames(*control) + tipsWithin(windows, control->handle);
+    QStringList places = itemNames(toolkit, *control) + tipsWithin(windows, control->handle);
     const QString name = toQt(std::string_view(control->name));
     hit.label = places.isEmpty() ? name : headOf(places.front());
     places.append(name);
@@ -121,19 +122,19 @@ bool canBeFound(const CQrUiToolPanelItem& item) {
 
 }  // namespace
 
-std::vector<SearchHit> searchPanels(Workbench& workbench, const QString& text) {
+std::vector<SearchHit> searchPanels(const Toolkit& toolkit, const QString& text) {
     const QString simple = text.simplified();
     const Query query{simple, simple.split(QLatin1Char(' '), Qt::SkipEmptyParts)};
     std::vector<Ranked> found;
     for (const CQrUiToolPanelItem* item :
-         query.words.isEmpty() ? std::vector<CQrUiToolPanelItem*>() : allItems()) {
-        const CQrUiPanel* const panel = panelOf(workbench.windows(), *item);
+         query.words.isEmpty() ? std::vector<CQrUiToolPanelItem*>() : allItems(toolkit.windows())) {
+        const CQrUiPanel* const panel = panelOf(toolkit.windows(), *item);
         if (panel == nullptr || !canBeFound(*item) || isHidden(*item))
             continue;
         SearchHit hit;
         hit.panel = panel->GetID();
         hit.panelTitle = toQt(panel->GetWindowText());
-        QStringList places = describeItem(workbench.windows(), *item, hit);
+        QStringList places = describeItem(toolkit, *item, hit);
         places.append(hit.panelTitle);
         // A line end between them, so that no word is found across two.
         const auto rank = query.rank(hit.label, places.join(QLatin1Char('\n')));

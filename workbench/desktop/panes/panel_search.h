@@ -6,7 +6,7 @@
 #include <vector>
 
 namespace workbench {
-class Workbench;
+class Toolkit;
 }
 
 namespace workbench::desktop {
@@ -24,6 +24,6 @@ struct SearchHit {
 /// text in their name, ID, tooltips or panel title, without regard to case. Those whose name begins
 /// with the text come first, then those whose name has all the words; otherwise they come in the
 /// order of the panels. Tools that the dashboard hides are left out. None for a blank text.
-std::vector<SearchHit> searchPanels(Workbench& workbench, const QString& text);
+std::vector<SearchHit> searchPanels(const Toolkit& toolkit, const QString& text);
 
 }  // namespace workbench::desktop

@@ -15,7 +15,7 @@ constexpr int kRowMargin = 12;    // pixels beside the text of a row
 
 }  // namespace
 
-SearchBox::SearchBox(Workbench& workbench) : m_workbench(workbench) {
+SearchBox::SearchBox(const Toolkit& toolkit) : m_toolkit(toolkit) {
     setPlaceholderText(QStringLiteral("Find a tool"));
     setAccessibleName(QStringLiteral("Find a tool on the panels"));
     setClearButtonEnabled(true);
@@ -57,7 +57,7 @@ bool SearchBox::handleKey(int key) {
 }
 
 void SearchBox::search(const QString& text) {
-    m_hits = searchPanels(m_workbench, text);
+    m_hits = searchPanels(m_toolkit, text);
     QStringList rows;
     for (const SearchHit& hit : m_hits)
         rows.append(hit.label + QStringLiteral(" \u2013 ") + hit.panelTitle);

@@ -14,8 +14,8 @@ namespace workbench::desktop {
 /// A field that finds tools and controls on the panels while the user types, in a list below it.
 class SearchBox final : public QLineEdit {
 public:
-    /// The workbench must outlive the box.
-    explicit SearchBox(Workbench& workbench);
+    /// The toolkit must outlive the box.
+    explicit SearchBox(const Toolkit& toolkit);
 
     /// Told the hit that was chosen, by Enter or a click; Enter beside the list takes the best.
     void setOnChosen(std::function<void(const SearchHit&)> chosen) {
@@ -37,7 +37,7 @@ private:
     void choose(int row);
     void leave();
 
-    Workbench& m_workbench;
+    const Toolkit& m_toolkit;
     std::vector<SearchHit> m_hits;  // a row of the list each
     QStringListModel m_rows;
     QCompleter m_list{this};

@@ -1,11 +1,11 @@
 #include "workbench/desktop/panes/status_fields.h"
 
-#include "workbench/commands/command_processor.h"
-#include "workbench/core/workbench.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/layout.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/workbench.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "workbench/drawing/property.h"
+#include "workbench/drawing/database/property.h"
 
 namespace workbench::drawing {
 

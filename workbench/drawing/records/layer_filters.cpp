@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "workbench/base/text.h"
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
 

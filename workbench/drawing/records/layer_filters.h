@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "workbench/drawing/property.h"
+#include "workbench/drawing/database/property.h"
 
 namespace workbench::drawing {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/drawing/property.h"
+#include "workbench/drawing/database/property.h"
 
 namespace workbench::drawing {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "workbench/drawing/property.h"
+#include "workbench/drawing/database/property.h"
 #include "workbench/drawing/records/view_parameters.h"
 
 namespace workbench::drawing {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/database.h"
-#include "workbench/editor/document.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/editor/variables/variable_definition.h"
 
 namespace workbench {
@@ -10,9 +9,9 @@ namespace workbench {
 /// record. `find` names the record in the database, `read` gives the value.
 template <class Data, class Find, class Read>
 Value readRecord(const VariableScope& scope, Find find, Read read) {
-    if (scope.document == nullptr)
+    if (scope.database == nullptr)
         return {};
-    drawing::Database& database = scope.document->data();
+    drawing::Database& database = *scope.database;
     const Data* record = database.look<Data>(find(database));
     return record == nullptr ? Value() : Value(read(*record));
 }
@@ -21,9 +20,9 @@ Value readRecord(const VariableScope& scope, Find find, Read read) {
 /// can't be opened for write. A record that would stay as it is isn't opened.
 template <class Data, class Find, class Write>
 bool writeRecord(const VariableScope& scope, Find find, Write write) {
-    if (scope.document == nullptr)
+    if (scope.database == nullptr)
         return false;
-    drawing::Database& database = scope.document->data();
+    drawing::Database& database = *scope.database;
     const drawing::ObjectId id = find(database);
     const Data* present = database.look<Data>(id);
     if (present == nullptr)

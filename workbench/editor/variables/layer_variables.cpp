@@ -25,9 +25,9 @@ Value readLayer(const VariableScope& scope) {
 }
 
 bool writeLayer(const VariableScope& scope, const Value& value) {
-    if (scope.document == nullptr)
+    if (scope.database == nullptr)
         return false;
-    const drawing::Database& database = scope.document->data();
+    const drawing::Database& database = *scope.database;
     const drawing::ObjectId id = database.find(RecordKind::Layer, value.asString());
     const Layer* layer = database.look<Layer>(id);
     // Work can't go on on a frozen layer, so it can't become the current one.

@@ -1,7 +1,7 @@
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/sun.h"
-#include "workbench/editor/sky_status.h"
 #include "workbench/editor/variables/drawing_access.h"
+#include "workbench/editor/variables/sky_status.h"
 
 namespace workbench {
 
@@ -14,20 +14,20 @@ Value readSunStatus(const VariableScope& scope) {
 }
 
 bool writeSunStatus(const VariableScope& scope, const Value& value) {
-    if (scope.document == nullptr)
+    if (scope.database == nullptr)
         return false;
-    ensureSun(scope.document->data());
+    ensureSun(*scope.database);
     const bool on = value.asInteger() != 0;
     return writeRecord<Sun>(scope, activeOrOnlySun, [on](Sun& sun) { sun.on = on; });
 }
 
 Value readSkyStatusOf(const VariableScope& scope) {
-    return scope.document == nullptr ? Value() : Value(readSkyStatus(scope.document->data()));
+    return scope.database == nullptr ? Value() : Value(readSkyStatus(*scope.database));
 }
 
 bool writeSkyStatusOf(const VariableScope& scope, const Value& value) {
-    return scope.document != nullptr &&
-           writeSkyStatus(scope.document->data(), static_cast<int>(value.asInteger()));
+    return scope.database != nullptr &&
+           writeSkyStatus(*scope.database, static_cast<int>(value.asInteger()));
 }
 
 }  // namespace

@@ -1,8 +1,4 @@
 #include "workbench/base/text.h"
-#include "workbench/commands/command_processor.h"
-#include "workbench/editor/document.h"
-#include "workbench/editor/editor.h"
-#include "workbench/editor/profile_values.h"
 #include "workbench/editor/variables/variable_definition.h"
 
 namespace workbench {
@@ -10,20 +6,19 @@ namespace workbench {
 namespace {
 
 Value readActive(const VariableScope& scope) {
-    return scope.document == nullptr ? 0 : scope.document->processor().activity();
+    return scope.session.commandActivity();
 }
 
 Value readActiveNames(const VariableScope& scope) {
-    return scope.document == nullptr ? std::string()
-                                     : toUtf8(scope.document->processor().activeNames());
+    return toUtf8(scope.session.commandNames());
 }
 
 Value readDrawingName(const VariableScope& scope) {
-    return scope.document == nullptr ? std::string() : toUtf8(scope.document->name());
+    return toUtf8(scope.session.documentName());
 }
 
 Value readProfileName(const VariableScope& scope) {
-    return scope.editor.profileValues().currentProfile();
+    return scope.session.profileName();
 }
 
 }  // namespace

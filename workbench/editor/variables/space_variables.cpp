@@ -29,7 +29,7 @@ bool writeTileMode(const VariableScope& scope, const Value& value) {
 }
 
 bool isInTiles(const VariableScope& scope) {
-    return scope.document != nullptr && drawing::activeLayout(scope.document->data()).isNull();
+    return scope.database != nullptr && drawing::activeLayout(*scope.database).isNull();
 }
 
 Value readViewport(const VariableScope& scope) {

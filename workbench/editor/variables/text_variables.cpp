@@ -24,10 +24,9 @@ Value readTextStyle(const VariableScope& scope) {
 }
 
 bool writeTextStyle(const VariableScope& scope, const Value& value) {
-    if (scope.document == nullptr)
+    if (scope.database == nullptr)
         return false;
-    const drawing::ObjectId style =
-        scope.document->data().find(RecordKind::TextStyle, value.asString());
+    const drawing::ObjectId style = scope.database->find(RecordKind::TextStyle, value.asString());
     return !style.isNull() && writeRecord<Current>(scope, currentRecord, [style](Current& current) {
         current.textStyle = style;
     });

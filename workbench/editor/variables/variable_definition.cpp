@@ -1,5 +1,8 @@
 #include "workbench/editor/variables/variable_definition.h"
 
+#include "workbench/base/text.h"
+
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <limits>
@@ -33,6 +36,19 @@ const VariableTable& variableTable() {
         return table;
     }();
     return kTable;
+}
+
+const VariableDefinition* findVariable(std::wstring_view name) {
+    const VariableTable& table = variableTable();
+    const auto found = std::find_if(
+        table.begin(), table.end(),
+        [name](const VariableDefinition& variable) { return equalNoCase(variable.name, name); });
+    return found == table.end() ? nullptr : &*found;
+}
+
+const Value& valueIn(const VariableValues& values, const VariableDefinition& variable) {
+    const auto found = values.find(&variable);
+    return found == values.end() ? variable.initial : found->second;
 }
 
 std::optional<Value> fitToType(VariableType type, const Value& value) {

@@ -1,14 +1,15 @@
 #pragma once
 
 #include "workbench/base/value.h"
+#include "workbench/drawing/database/database.h"
+#include "workbench/editor/variables/variable_session.h"
 
+#include <map>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace workbench {
-
-class Document;
-class Editor;
 
 /// What kind of value a system variable has.
 enum class VariableType { Short, Long, Real, String };
@@ -26,8 +27,8 @@ enum class VariableHome {
 
 /// What the value of a variable depends on.
 struct VariableScope {
-    Editor& editor;
-    Document* document;  ///< not owned; null while there is no current document
+    const VariableSession& session;
+    drawing::Database* database;  ///< not owned; null while there is no current document
 };
 
 /// The numbers that a variable takes, both ends included.
@@ -72,6 +73,13 @@ void addVisualStyleVariables(VariableTable& table);
 
 /// All system variables.
 const VariableTable& variableTable();
+/// The variable of a name, without regard to case; null for none.
+const VariableDefinition* findVariable(std::wstring_view name);
+
+/// The values of variables, as far as they were written.
+using VariableValues = std::map<const VariableDefinition*, Value>;
+/// The written value of a variable, its initial one if there is none.
+const Value& valueIn(const VariableValues& values, const VariableDefinition& variable);
 
 /// The value as the variable would hold it: of its type, with a number's fraction cut off where the
 /// type has none. Nothing for a value that the type can't hold.

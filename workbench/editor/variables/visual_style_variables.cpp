@@ -33,10 +33,10 @@ Value readStyleName(const VariableScope& scope) {
 }
 
 bool writeStyleName(const VariableScope& scope, const Value& value) {
-    if (scope.document == nullptr)
+    if (scope.database == nullptr)
         return false;
     const drawing::ObjectId style =
-        scope.document->data().find(drawing::RecordKind::VisualStyle, value.asString());
+        scope.database->find(drawing::RecordKind::VisualStyle, value.asString());
     return !style.isNull() &&
            writeRecord<Viewport>(scope, drawing::activeViewport,
                                  [style](Viewport& viewport) { viewport.visualStyle = style; });

@@ -1,7 +1,7 @@
-#include "workbench/core/workbench.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
-#include "workbench/editor/sky_status.h"
+#include "workbench/editor/variables/sky_status.h"
+#include "workbench/host/workbench.h"
 #include "workbench/modules/module_start.h"
 
 #include <hostapi/export.h>

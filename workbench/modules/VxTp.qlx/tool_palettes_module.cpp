@@ -1,5 +1,5 @@
 #include "workbench/base/text.h"
-#include "workbench/core/workbench.h"
+#include "workbench/host/workbench.h"
 #include "workbench/modules/module_start.h"
 #include "workbench/palettes/tool_palettes.h"
 

@@ -1,8 +1,8 @@
-#include "workbench/core/workbench.h"
-#include "workbench/editor/object_adapters.h"
+#include "workbench/adapters/host_values.h"
+#include "workbench/drawing/preset_views.h"
+#include "workbench/host/workbench.h"
 #include "workbench/modules/module_start.h"
 #include "workbench/navigation/navigation_tool.h"
-#include "workbench/navigation/preset_views.h"
 
 #include <hostapi/export.h>
 #include <hostapi/zorq/views.h>
@@ -48,8 +48,8 @@ VXDA_EXPORT void navUpdateLensLength(CTool* tool, double lens) {
 
 /// Turns the view of the running tool to a preset by its number.
 VXDA_EXPORT void navRestorePresetView(CTool* tool, int preset) {
-    if (isRunning(tool) && preset >= 0 && preset < workbench::kPresetViewCount)
-        navigation().restorePreset(static_cast<workbench::PresetView>(preset));
+    if (isRunning(tool) && preset >= 0 && preset < workbench::drawing::kPresetViewCount)
+        navigation().restorePreset(static_cast<workbench::drawing::PresetView>(preset));
 }
 
 /// Gives the view of the running tool the parameters of a named view.

@@ -1,6 +1,6 @@
 #include "workbench/desktop/app/host_actions.h"
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/profiles/profile_store.h"
@@ -34,7 +34,7 @@ protected:
 
     void write(const std::string& text) { std::ofstream(m_file) << text; }
     bool isOnScreen(const wchar_t* panel) {
-        const auto found = findPanels(panel);
+        const auto found = findPanels(m_workbench->windows(), panel);
         return !found.empty() && m_workbench->windows().isOnScreen(found.front()->m_hWnd);
     }
 
@@ -50,12 +50,12 @@ TEST_F(HostActionsTest, AMenuFileThatChangedIsReadAnew) {
     const std::string title = "\"title\": \"Layers\"";
     changed.replace(changed.find(title), title.size(), "\"title\": \"Sheets\"");
     write(changed);
-    collapsePanels(m_workbench->windows(), {L"Light"});
+    collapsePanels(m_workbench->toolkit(), {L"Light"});
     reloadMenu(*m_workbench);
     letHostRun(*m_workbench);
     ASSERT_TRUE(isOnScreen(L"Layers"));
-    EXPECT_EQ(findPanels(L"Layers").at(0)->GetWindowText(), L"Sheets");
-    EXPECT_EQ(collapsedPanels(m_workbench->windows()), std::vector<std::wstring>{L"Light"});
+    EXPECT_EQ(findPanels(m_workbench->windows(), L"Layers").at(0)->GetWindowText(), L"Sheets");
+    EXPECT_EQ(collapsedPanels(m_workbench->toolkit()), std::vector<std::wstring>{L"Light"});
 }
 
 TEST_F(HostActionsTest, WithAnErrorInItTheOldPanelsStay) {
@@ -63,7 +63,7 @@ TEST_F(HostActionsTest, WithAnErrorInItTheOldPanelsStay) {
     EXPECT_THROW(reloadMenu(*m_workbench), InputError);
     letHostRun(*m_workbench);
     EXPECT_TRUE(isOnScreen(L"Layers"));
-    EXPECT_EQ(findPanels(L"Layers").at(0)->GetWindowText(), L"Layers");
+    EXPECT_EQ(findPanels(m_workbench->windows(), L"Layers").at(0)->GetWindowText(), L"Layers");
 }
 
 TEST_F(HostActionsTest, WorkspacesAreSwitchedWithTheirPanels) {

@@ -1,7 +1,7 @@
 #include "workbench/desktop/app/main_window.h"
 
 #include "tests/workbench/desktop/events.h"
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/document_tabs.h"
@@ -140,7 +140,7 @@ TEST_F(MainWindowTest, ThemesAreSwitchedWhileItRuns) {
 }
 
 TEST_F(MainWindowTest, ASearchShowsAndMarksWhatItFound) {
-    const HWND layers = findPanels(L"Layers").at(0)->m_hWnd;
+    const HWND layers = findPanels(windows(), L"Layers").at(0)->m_hWnd;
     m_window.stage().pump.act([&] {
         const CQrUiPaletteSet* set = m_workbench.toolkit().frame().bars().front();
         m_workbench.answers().queue("menu", "Panels/Layers");
@@ -157,8 +157,8 @@ TEST_F(MainWindowTest, MenusListAndSwitchWorkspacesProfilesAndDocuments) {
     QMenu& workspaces = menu("&Workspace");
     EXPECT_TRUE(line(workspaces, QStringLiteral("3D Modeling")).isChecked());
     line(workspaces, QStringLiteral("Drafting")).trigger();
-    EXPECT_TRUE(windows().isOnScreen(findPanels(L"HouseTools").at(0)->m_hWnd));
-    EXPECT_FALSE(windows().isOnScreen(findPanels(L"Light").at(0)->m_hWnd));
+    EXPECT_TRUE(windows().isOnScreen(findPanels(windows(), L"HouseTools").at(0)->m_hWnd));
+    EXPECT_FALSE(windows().isOnScreen(findPanels(windows(), L"Light").at(0)->m_hWnd));
     EXPECT_TRUE(lines(menu("&Profile")).contains(QStringLiteral("Default")));
     line(menu("&Document"), QStringLiteral("&New")).trigger();
     EXPECT_EQ(editor().documents().active()->name(), L"Drawing1");
@@ -203,10 +203,10 @@ TEST_F(MainWindowTest, TheDashboardsEdgeIsDragged) {
 
 TEST_F(MainWindowTest, ToolsCanBeLarge) {
     const CRect before =
-        windows().screenRect(toolPanelOf(*findItems(L"ID_Free_Orbit").at(0))->m_hWnd);
+        windows().screenRect(toolPanelOf(*findItems(windows(), L"ID_Free_Orbit").at(0))->m_hWnd);
     m_window.stage().pump.act([this] { setIconSize(m_workbench, 32); });
     const CRect after =
-        windows().screenRect(toolPanelOf(*findItems(L"ID_Free_Orbit").at(0))->m_hWnd);
+        windows().screenRect(toolPanelOf(*findItems(windows(), L"ID_Free_Orbit").at(0))->m_hWnd);
     EXPECT_GT(after.Height(), before.Height());
 }
 
@@ -283,13 +283,14 @@ TEST_F(MainWindowTest, NothingThatCanBeUsedIsWithoutAName) {
 
 TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
     m_window.setShade(Shade::dark);
-    collapsePanels(windows(), {L"Layers", L"Light"});
+    collapsePanels(m_workbench.toolkit(), {L"Layers", L"Light"});
     m_window.close();
     m_window.setShade(Shade::light);
-    collapsePanels(windows(), {L"Sun"});
+    collapsePanels(m_workbench.toolkit(), {L"Sun"});
     m_window.recall();
     EXPECT_EQ(m_window.shade(), Shade::dark);
-    EXPECT_EQ(collapsedPanels(windows()), (std::vector<std::wstring>{L"Layers", L"Light"}));
+    EXPECT_EQ(collapsedPanels(m_workbench.toolkit()),
+              (std::vector<std::wstring>{L"Layers", L"Light"}));
 }
 
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {

@@ -1,4 +1,4 @@
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/app/main_window.h"
 #include "workbench/desktop/look/shade_names.h"

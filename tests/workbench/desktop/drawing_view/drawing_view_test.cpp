@@ -1,10 +1,10 @@
 #include "workbench/desktop/drawing_view/drawing_view.h"
 
 #include "tests/workbench/desktop/events.h"
-#include "tests/workbench/loader/test_options.h"
-#include "workbench/desktop/app/pump.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/desktop/drawing_view/camera.h"
 #include "workbench/desktop/drawing_view/sheet.h"
+#include "workbench/desktop/pump/pump.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/layer.h"

@@ -80,7 +80,7 @@ TEST_F(AccessibleTest, DisabledPartsSaySo) {
 }
 
 TEST_F(AccessibleTest, PanelsTellWhetherTheyAreRolledUp) {
-    MirrorWidget* panel = widget(findPanels(L"Layers").at(0)->m_hWnd);
+    MirrorWidget* panel = widget(findPanels(windows(), L"Layers").at(0)->m_hWnd);
     EXPECT_EQ(of(panel).text(QAccessible::Name), QStringLiteral("Layers"));
     EXPECT_TRUE(of(panel).state().expanded);
     click(*panel, {100, 10});

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "tests/workbench/desktop/events.h"
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/text.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/mirror/item_widget.h"
@@ -54,7 +54,7 @@ protected:
         return widget(window(control, part));
     }
     ItemWidget* item(const std::wstring& id) {
-        CQrUiToolPanelItem* wanted = findItems(id).at(0);
+        CQrUiToolPanelItem* wanted = findItems(windows(), id).at(0);
         MirrorWidget* panel = widget(toolPanelOf(*wanted)->m_hWnd);
         for (ItemWidget* each : panel->items()) {
             if (each->item() == wanted)

@@ -52,7 +52,7 @@ protected:
 };
 
 TEST_F(QuestionsTest, APanelsContextMenuOpensAndItsChoiceIsTaken) {
-    MirrorWidget* panel = widget(findPanels(L"Layers").at(0)->m_hWnd);
+    MirrorWidget* panel = widget(findPanels(windows(), L"Layers").at(0)->m_hWnd);
     answerMenu(QStringLiteral("Collapse"));
     openMenu(*panel, {100, 10});
     rest();
@@ -61,7 +61,7 @@ TEST_F(QuestionsTest, APanelsContextMenuOpensAndItsChoiceIsTaken) {
 }
 
 TEST_F(QuestionsTest, AMenuThatIsClosedChoosesNothing) {
-    MirrorWidget* panel = widget(findPanels(L"Layers").at(0)->m_hWnd);
+    MirrorWidget* panel = widget(findPanels(windows(), L"Layers").at(0)->m_hWnd);
     const int before = panel->height();
     answerMenu({});
     openMenu(*panel, {100, 10});

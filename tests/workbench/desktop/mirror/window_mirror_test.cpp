@@ -27,12 +27,12 @@ TEST_F(MirrorTest, EachWindowOnScreenHasAWidgetAtItsPlace) {
 }
 
 TEST_F(MirrorTest, HiddenPanelsHaveNoWidgetsUntilTheyAreShown) {
-    const HWND layers = findPanels(L"Layers").at(0)->m_hWnd;
+    const HWND layers = findPanels(windows(), L"Layers").at(0)->m_hWnd;
     windows().show(layers, false);
     QWidget top;
     FrameHome home(&top);
     WindowMirror mirror(m_stage, home);
-    EXPECT_NE(mirror.widgetOf(findPanels(L"Navigation").at(0)->m_hWnd), nullptr);
+    EXPECT_NE(mirror.widgetOf(findPanels(windows(), L"Navigation").at(0)->m_hWnd), nullptr);
     EXPECT_EQ(mirror.widgetOf(layers), nullptr);
     EXPECT_EQ(mirror.widgetOf(window(kFade, "slider")), nullptr);
     windows().show(layers, true);
@@ -41,7 +41,7 @@ TEST_F(MirrorTest, HiddenPanelsHaveNoWidgetsUntilTheyAreShown) {
 }
 
 TEST_F(MirrorTest, WidgetsFollowWindowsThatAreHiddenShownAndEnded) {
-    const HWND layers = findPanels(L"Layers").at(0)->m_hWnd;
+    const HWND layers = findPanels(windows(), L"Layers").at(0)->m_hWnd;
     windows().show(layers, false);
     rest();
     EXPECT_FALSE(widget(layers)->isVisible());
@@ -167,7 +167,7 @@ TEST_F(MirrorTest, RefusedEntryHasItsBalloonBesideTheField) {
 }
 
 TEST_F(MirrorTest, ClickOnATitleRollsThePanelUp) {
-    const HWND layers = findPanels(L"Layers").at(0)->m_hWnd;
+    const HWND layers = findPanels(windows(), L"Layers").at(0)->m_hWnd;
     click(*widget(layers), {100, 10});
     rest();
     EXPECT_EQ(widget(layers)->height(), PanelWidget::kTitleHeight);

@@ -24,7 +24,7 @@ protected:
     PanelSearchTest() { showDashboard(); }
 
     std::vector<SearchHit> find(const char* text) {
-        return searchPanels(bench(), QString::fromUtf8(text));
+        return searchPanels(bench().toolkit(), QString::fromUtf8(text));
     }
     /// What was found, as "tool" or "control".
     std::vector<std::string> labels(const char* text) {

@@ -20,7 +20,7 @@ class SearchBoxTest : public support::Bench {
 protected:
     SearchBoxTest() {
         showDashboard();
-        box = std::make_unique<SearchBox>(bench());
+        box = std::make_unique<SearchBox>(bench().toolkit());
         box->setOnChosen([this](const SearchHit& hit) { chosen.push_back(hit.label); });
         box->setOnLeft([this] { ++left; });
         box->show();

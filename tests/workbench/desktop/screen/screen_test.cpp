@@ -1,4 +1,4 @@
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/desktop/app/main_window.h"
 #include "workbench/desktop/look/fonts.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
@@ -96,7 +96,8 @@ TEST_F(ScreenTest, ItsFieldTakesWhatIsTyped) {
 }
 
 TEST_F(ScreenTest, APanelsContextMenuOpens) {
-    MirrorWidget* panel = m_window.mirror().widgetOf(findPanels(L"Layers").at(0)->m_hWnd);
+    MirrorWidget* panel =
+        m_window.mirror().widgetOf(findPanels(m_workbench.windows(), L"Layers").at(0)->m_hWnd);
     QStringList lines;
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, [&] {

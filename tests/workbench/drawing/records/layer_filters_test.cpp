@@ -1,6 +1,6 @@
 #include "workbench/drawing/records/layer_filters.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer.h"
 

@@ -1,6 +1,6 @@
 #include "workbench/drawing/records/layer_state.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/drawing/records/layer.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "workbench/drawing/records/layout.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 #include <gtest/gtest.h>
 

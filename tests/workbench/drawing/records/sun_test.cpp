@@ -1,6 +1,6 @@
 #include "workbench/drawing/records/sun.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 #include <gtest/gtest.h>
 

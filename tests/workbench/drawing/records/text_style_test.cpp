@@ -1,6 +1,6 @@
 #include "workbench/drawing/records/text_style.h"
 
-#include "workbench/drawing/database.h"
+#include "workbench/drawing/database/database.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/drawing/records/sun.h"
-#include "workbench/editor/sky_status.h"
+#include "workbench/editor/variables/sky_status.h"
 
 namespace workbench {
 

@@ -1,7 +1,7 @@
 #include "workbench/editor/variables/variable_definition.h"
 
 #include "workbench/base/text.h"
-#include "workbench/editor/variables/system_variables.h"
+#include "workbench/editor/system_variables.h"
 
 #include <gtest/gtest.h>
 
@@ -57,7 +57,7 @@ TEST(VariableDefinitionTest, WhatTheTypeCannotHoldIsNothing) {
 }
 
 TEST(VariableDefinitionTest, BothEndsOfARangeBelongToIt) {
-    const VariableDefinition& fade = *SystemVariables::find(L"LAYLOCKFADECTL");
+    const VariableDefinition& fade = *findVariable(L"LAYLOCKFADECTL");
     EXPECT_TRUE(isInRange(fade, 90));
     EXPECT_TRUE(isInRange(fade, -90));
     EXPECT_FALSE(isInRange(fade, 91));

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
 #include "workbench/editor/editor.h"
 #include "workbench/loader/module_loader.h"

@@ -9,8 +9,8 @@ using ScaleControlTest = ExampleToolsTest;
 TEST_F(ScaleControlTest, AGestureWritesTheVariable) {
     const HWND control = makeControl();
     panel.UpdateLayout(0);
-    EXPECT_TRUE(gestures::dragSlider(sliderOf(control)->m_hWnd, {25}));
-    gestures::releaseSlider(sliderOf(control)->m_hWnd);
+    EXPECT_TRUE(gestures::dragSlider(bench.toolkit(), sliderOf(control)->m_hWnd, {25}));
+    gestures::releaseSlider(bench.toolkit(), sliderOf(control)->m_hWnd);
     EXPECT_DOUBLE_EQ(bench.editor().read(L"LTSCALE").asReal(), 2.5);
 }
 

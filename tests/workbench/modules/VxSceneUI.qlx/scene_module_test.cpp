@@ -1,9 +1,9 @@
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
-#include "workbench/core/workbench.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
+#include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 
 #include <hostapi/vxdb18.h>

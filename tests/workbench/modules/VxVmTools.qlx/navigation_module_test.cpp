@@ -1,10 +1,10 @@
-#include "tests/workbench/loader/test_options.h"
+#include "tests/workbench/host/test_options.h"
 
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
-#include "workbench/editor/object_adapters.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/navigation/navigation_tool.h"
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "workbench/drawing/database/database.h"
+
+#include <hostapi/vxdb18/database.h>
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace workbench {
+
+/// The objects of one drawing as modules have opened them: each opening is an object of the host's
+/// class for its kind, from `open` to its `close`.
+class OpenObjects {
+public:
+    explicit OpenObjects(drawing::Database& database) : m_database(database) {}
+    OpenObjects(const OpenObjects&) = delete;
+    OpenObjects& operator=(const OpenObjects&) = delete;
+    /// Closes what modules left open.
+    ~OpenObjects();
+
+    /// Opens an object; null unless the status is ok.
+    drawing::Status open(drawing::ObjectId id, drawing::OpenMode mode, VxDbObject*& object);
+    /// Ends an opening: its adapter is gone afterwards.
+    drawing::Status close(const VxDbObject* adapter, drawing::DbObject& object);
+    const drawing::Database& database() const { return m_database; }
+    /// How many openings were not closed.
+    std::size_t count() const { return m_open.size(); }
+
+private:
+    std::unique_ptr<VxDbObject> wrap(drawing::DbObject& object);
+
+    drawing::Database& m_database;
+    struct Entry {
+        std::unique_ptr<VxDbObject> adapter;
+        drawing::DbObject* object;  // not owned
+    };
+    std::vector<Entry> m_open;
+};
+
+}  // namespace workbench
