@@ -130,9 +130,10 @@ protected:
     template <class Control>
     std::ptrdiff_t repaintsOfLayout(Control& control, BOOL invalidate) {
         std::vector<HWND> touched;
-        bench().windows().setObserver([&touched](HWND window) { touched.push_back(window); });
+        bench().windows().changes().setObserver(
+            [&touched](HWND window) { touched.push_back(window); });
         EXPECT_EQ(control.UpdateLayout(invalidate), 1);
-        bench().windows().setObserver(nullptr);
+        bench().windows().changes().setObserver(nullptr);
         return std::count(touched.begin(), touched.end(), control.m_hWnd);
     }
 };

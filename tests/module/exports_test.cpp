@@ -236,9 +236,10 @@ TEST_F(ExportsTest, ItemsOfAnIdAreHandedOut) {
 TEST_F(ExportsTest, InvalidateAsksForARepaintOfTheBarAlone) {
     showDashboard();
     std::vector<HWND> repainted;
-    bench().windows().setObserver([&repainted](HWND window) { repainted.push_back(window); });
+    bench().windows().changes().setObserver(
+        [&repainted](HWND window) { repainted.push_back(window); });
     EXPECT_EQ(exported<VxDaInvalidateDashboardFn>("VxDaInvalidateDashboard")(), 1);
-    bench().windows().setObserver(nullptr);
+    bench().windows().changes().setObserver(nullptr);
     EXPECT_EQ(repainted, std::vector<HWND>{paletteSet()->m_hWnd});
 }
 

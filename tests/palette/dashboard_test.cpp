@@ -433,9 +433,10 @@ TEST_F(DashboardTest, AChangeOfTheThemeGoesToThePanelSet) {
 TEST_F(DashboardTest, AChangeOfTheThemeReachesTheToolkitBeforeThePanelSet) {
     show();
     std::vector<HWND> repainted;
-    bench().windows().setObserver([&repainted](HWND window) { repainted.push_back(window); });
+    bench().windows().changes().setObserver(
+        [&repainted](HWND window) { repainted.push_back(window); });
     dashboard().ThemeModified(3);
-    bench().windows().setObserver(nullptr);
+    bench().windows().changes().setObserver(nullptr);
     ASSERT_FALSE(repainted.empty());
     EXPECT_EQ(repainted.front(), dashboard().m_hWnd);
 }

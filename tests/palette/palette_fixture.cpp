@@ -151,7 +151,7 @@ std::vector<workbench::MenuLine> PaletteTest::menuOfDashboard() {
 }
 
 void PaletteTest::settle() {
-    bench().windows().runPosted();
+    bench().windows().queue().runPosted();
 }
 
 void PaletteTest::forget() {

@@ -29,10 +29,10 @@ protected:
     int repaintsOf(std::wstring_view id, void (*work)()) {
         const HWND toolPanel = item(id)->m_record->toolPanel->m_hWnd;
         int repaints = 0;
-        bench().windows().setObserver(
+        bench().windows().changes().setObserver(
             [&repaints, toolPanel](HWND window) { repaints += window == toolPanel ? 1 : 0; });
         work();
-        bench().windows().setObserver(nullptr);
+        bench().windows().changes().setObserver(nullptr);
         return repaints;
     }
     VxString currentTool(std::wstring_view flyout) {

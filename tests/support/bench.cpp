@@ -168,19 +168,19 @@ void Bench::idle() {
 
 void Bench::settle() {
     do {
-        bench().windows().runPosted();
+        bench().windows().queue().runPosted();
         const workbench::Document* document = bench().editor().documents().current();
         const bool isRunning = document != nullptr && document->processor().isActive();
         if (!isRunning)
             bench().editor().pump();
-    } while (bench().windows().hasPosted());
+    } while (bench().windows().queue().hasPosted());
 }
 
 void Bench::runHost() {
     do {
-        bench().windows().runPosted();
+        bench().windows().queue().runPosted();
         bench().editor().pump();
-    } while (bench().windows().hasPosted());
+    } while (bench().windows().queue().hasPosted());
 }
 
 void Bench::showDashboard() {

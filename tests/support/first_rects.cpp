@@ -4,7 +4,7 @@ namespace support {
 
 FirstRects::FirstRects(workbench::WindowSystem& windows)
     : m_rects(std::make_shared<std::map<HWND, CRect>>()) {
-    windows.setObserver([&windows, rects = m_rects](HWND handle) {
+    windows.changes().setObserver([&windows, rects = m_rects](HWND handle) {
         if (const workbench::Window* window = windows.find(handle))
             rects->try_emplace(handle, window->rect);
     });

@@ -63,7 +63,7 @@ void pressKey(Toolkit& toolkit, std::string_view name, HWND window) {
 void holdKey(Toolkit& toolkit, std::string_view name, bool down) {
     if (name != "shift")
         throw GestureError("there is no key \"" + std::string(name) + "\" to hold");
-    toolkit.windows().hold(VK_SHIFT, down);
+    toolkit.windows().keys().hold(VK_SHIFT, down);
 }
 
 std::vector<std::string> keyNames() {

@@ -74,7 +74,7 @@ void Workbench::endUnits() {
     m_toolkit.reset();
     m_modules.reset();
     if (m_windows != nullptr)
-        m_windows->abandonAll();
+        m_windows->life().abandonAll();
     m_windows.reset();
 }
 

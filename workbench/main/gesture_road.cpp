@@ -5,6 +5,7 @@
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
+#include "workbench/windows/window_tree_text.h"
 
 #include <ostream>
 
@@ -31,7 +32,7 @@ void printSteps(Workbench& workbench, std::ostream& out) {
 
 void showGestureRoad(Workbench& workbench, const std::string& drawing, std::ostream& out) {
     openDashboard(workbench, drawing);
-    out << workbench.windows().tree() << '\n';
+    out << treeText(workbench.windows(), workbench.windows().focus()) << '\n';
     const HWND slider = findSlider(workbench.windows());
     if (slider == nullptr) {
         out << "No panel on show holds " << kControl << ".\n";

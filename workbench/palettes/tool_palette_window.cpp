@@ -43,7 +43,7 @@ BOOL ToolPaletteWindow::SetActivePaletteGroup(const VxString& group) {
 
 void ToolPaletteWindow::showGroup(const std::wstring& group) {
     m_activeGroup = group;
-    m_windows.setText(m_window.m_hWnd, group);
+    m_windows.state().setText(m_window.m_hWnd, group);
 }
 
 }  // namespace workbench

@@ -4,6 +4,7 @@
 #include "workbench/script/script_error.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/windows/window_system.h"
+#include "workbench/windows/window_tree_text.h"
 
 #include <lua.hpp>
 
@@ -48,7 +49,8 @@ int control(Session& session, Arguments& arguments) {
 }
 
 int tree(Session& session, Arguments& arguments) {
-    lua_pushstring(arguments.lua(), session.workbench().windows().tree().c_str());
+    const WindowSystem& windows = session.workbench().windows();
+    lua_pushstring(arguments.lua(), treeText(windows, windows.focus()).c_str());
     return 1;
 }
 

@@ -24,10 +24,10 @@ Session::Session(Workbench& workbench) : m_workbench(workbench) {
 
 void Session::settle() {
     do {
-        m_workbench.windows().runPosted();
+        m_workbench.windows().queue().runPosted();
         if (!isCommandRunning())
             m_workbench.editor().pump();
-    } while (m_workbench.windows().hasPosted());
+    } while (m_workbench.windows().queue().hasPosted());
 }
 
 void Session::runHost() {

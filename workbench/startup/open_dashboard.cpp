@@ -10,9 +10,9 @@ namespace workbench {
 
 void letHostRun(Workbench& workbench) {
     do {
-        workbench.windows().runPosted();
+        workbench.windows().queue().runPosted();
         workbench.editor().pump();
-    } while (workbench.windows().hasPosted());
+    } while (workbench.windows().queue().hasPosted());
 }
 
 void loadDashboard(Workbench& workbench) {

@@ -39,7 +39,7 @@ short GetKeyState(int key) {
     HostCall call("GetKeyState", {key});
     constexpr short kDown = -128;
     constexpr short kUp = 0;
-    const bool held = !call.failed() && Workbench::current().windows().isHeld(key);
+    const bool held = !call.failed() && Workbench::current().windows().keys().isHeld(key);
     return held ? kDown : kUp;
 }
 

@@ -39,7 +39,7 @@ std::string_view shown(const CWnd* object) {
 
 CWnd::~CWnd() {
     if (workbench::Workbench* const host = workbench::Workbench::living())
-        host->windows().objectEnds(*this);
+        host->windows().life().objectEnds(*this);
 }
 
 CWnd* CWnd::FromHandle(HWND window) {
@@ -65,7 +65,7 @@ BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     HostCall call("CWnd::PostMessage", {shown(this), message});
     if (call.failed())
         return call.returns(0);
-    return call.returns(windows().post(m_hWnd, message, wParam, lParam) ? 1 : 0);
+    return call.returns(windows().queue().post(m_hWnd, message, wParam, lParam) ? 1 : 0);
 }
 
 void CWnd::SetFocus() {
@@ -77,13 +77,13 @@ void CWnd::SetFocus() {
 void CWnd::SetTimer(UINT timer, UINT milliseconds) {
     HostCall call("CWnd::SetTimer", {shown(this), timer, milliseconds});
     if (!call.failed())
-        windows().setTimer(m_hWnd, timer, milliseconds);
+        windows().timers().start(m_hWnd, timer, milliseconds);
 }
 
 void CWnd::KillTimer(UINT timer) {
     HostCall call("CWnd::KillTimer", {shown(this), timer});
     if (!call.failed())
-        windows().killTimer(m_hWnd, timer);
+        windows().timers().stop(m_hWnd, timer);
 }
 
 CWnd* CWnd::GetParent() const {
@@ -131,7 +131,7 @@ void CWnd::ShowWindow(int command) {
 void CWnd::EnableWindow(BOOL enable) {
     HostCall call("CWnd::EnableWindow", {shown(this), enable});
     if (!call.failed())
-        windows().enable(m_hWnd, enable != 0);
+        windows().state().enable(m_hWnd, enable != 0);
 }
 
 VxString CWnd::GetWindowText() const {
@@ -142,7 +142,7 @@ VxString CWnd::GetWindowText() const {
 void CWnd::SetWindowText(const VxString& text) {
     HostCall call("CWnd::SetWindowText", {shown(this), text});
     if (!call.failed())
-        windows().setText(m_hWnd, text);
+        windows().state().setText(m_hWnd, text);
 }
 
 CRect CWnd::GetWindowRect() const {
@@ -191,13 +191,13 @@ BOOL CWnd::PreTranslateMessage(MSG*) {
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    return windows().dispatch(*this, message, wParam, lParam);
+    return windows().messages().dispatch(*this, message, wParam, lParam);
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
-    return windows().dispatchCommand(*this, wParam, lParam) ? 1 : 0;
+    return windows().messages().dispatchCommand(*this, wParam, lParam) ? 1 : 0;
 }
 
 LRESULT CWnd::Default() {
-    return windows().dispatchToBase(*this);
+    return windows().messages().dispatchToBase(*this);
 }

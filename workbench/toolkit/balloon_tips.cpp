@@ -12,13 +12,13 @@ void BalloonTips::show(HWND owner, HWND target, const std::wstring& text) {
     const std::wstring before = textOf(owner);
     m_balloons[owner] = {target, text};
     m_notes.note("balloon", text, m_windows.ownerName(owner));
-    m_windows.noteChange(owner, "balloon", toUtf8(before), toUtf8(text));
+    m_windows.changes().note(owner, "balloon", toUtf8(before), toUtf8(text));
 }
 
 void BalloonTips::hide(HWND owner) {
     const std::wstring before = textOf(owner);
     if (m_balloons.erase(owner) != 0)
-        m_windows.noteChange(owner, "balloon", toUtf8(before), "");
+        m_windows.changes().note(owner, "balloon", toUtf8(before), "");
 }
 
 std::wstring BalloonTips::textOf(HWND owner) const {

@@ -41,7 +41,7 @@ void ComboWidget::tellParent(HWND combo, UINT notification) {
 int ComboWidget::add(Window& window, std::unique_ptr<QRUI_COMBO_CTRL_ITEM> entry) {
     const int before = count();
     m_entries.push_back(std::move(entry));
-    m_toolkit.windows().noteChange(window.handle, "items", before, count());
+    m_toolkit.windows().changes().note(window.handle, "items", before, count());
     return before;
 }
 
@@ -51,7 +51,7 @@ void ComboWidget::clear(Window& window) {
     m_entries.clear();
     m_selected = -1;
     m_highlighted = -1;
-    m_toolkit.windows().noteChange(window.handle, "items", before, 0);
+    m_toolkit.windows().changes().note(window.handle, "items", before, 0);
 }
 
 QRUI_COMBO_CTRL_ITEM* ComboWidget::entry(int index) const {
@@ -63,7 +63,8 @@ void ComboWidget::select(Window& window, int index) {
     const Value before = textOf(entry(m_selected));
     m_selected = entry(index) == nullptr ? -1 : index;
     m_highlighted = m_selected;
-    m_toolkit.windows().noteChange(window.handle, "selected", before, textOf(entry(m_selected)));
+    m_toolkit.windows().changes().note(window.handle, "selected", before,
+                                       textOf(entry(m_selected)));
 }
 
 bool ComboWidget::open(Window& window) {

@@ -89,7 +89,7 @@ void EditWidget::character(Window& window, wchar_t character) {
 /// Edits by a key. False for a key that means nothing here.
 bool EditWidget::key(Window& window, WPARAM key) {
     WindowSystem& windows = m_toolkit.windows();
-    const bool extend = windows.isHeld(VK_SHIFT);
+    const bool extend = windows.keys().isHeld(VK_SHIFT);
     editor(window);
     windows.invalidate(window.handle);
     switch (key) {
@@ -116,7 +116,7 @@ bool EditWidget::key(Window& window, WPARAM key) {
 
 void EditWidget::showText(Window& window) {
     if (window.text != m_editor.text())
-        m_toolkit.windows().setText(window.handle, m_editor.text());
+        m_toolkit.windows().state().setText(window.handle, m_editor.text());
 }
 
 }  // namespace workbench

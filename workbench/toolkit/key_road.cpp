@@ -14,7 +14,7 @@ namespace workbench {
 namespace {
 
 void moveToNextField(WindowSystem& windows) {
-    const HWND next = nextField(windows, windows.focus(), windows.isHeld(VK_SHIFT));
+    const HWND next = nextField(windows, windows.focus(), windows.keys().isHeld(VK_SHIFT));
     if (next == nullptr || !windows.setFocus(next))
         return;
     Window& window = *windows.find(next);

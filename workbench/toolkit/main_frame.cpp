@@ -49,7 +49,7 @@ MainFrame::MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools
 
 MainFrame::~MainFrame() {
     // What is left inside belongs to modules that may be gone, so nothing is told.
-    m_windows.abandonAll();
+    m_windows.life().abandonAll();
 }
 
 void MainFrame::makeWindow(CWnd& object, const char* className, const char* name, UINT id) {

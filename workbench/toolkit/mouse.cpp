@@ -70,7 +70,7 @@ void Mouse::leave() {
 }
 
 WPARAM Mouse::heldKeys() const {
-    return m_windows.isHeld(VK_SHIFT) ? kShiftHeld : 0;
+    return m_windows.keys().isHeld(VK_SHIFT) ? kShiftHeld : 0;
 }
 
 bool Mouse::send(HWND window, UINT message, WPARAM wParam, CPoint point) {

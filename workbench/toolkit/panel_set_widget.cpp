@@ -128,7 +128,7 @@ void PanelSetWidget::changeTheme(Window& window, WPARAM wParam, LPARAM lParam) {
         return;
     const auto size =
         MAKELONG(static_cast<UINT>(window.rect.Width()), static_cast<UINT>(window.rect.Height()));
-    windows().post(window.parent, WM_QRUI_POSITION, size, 0);
+    windows().queue().post(window.parent, WM_QRUI_POSITION, size, 0);
 }
 
 }  // namespace workbench

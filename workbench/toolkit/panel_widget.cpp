@@ -63,7 +63,7 @@ void PanelWidget::collapse(Window& window, bool collapsed) {
     if (state.collapsed == collapsed)
         return;
     state.collapsed = collapsed;
-    windows().noteChange(window.handle, "collapsed", !collapsed, collapsed);
+    windows().changes().note(window.handle, "collapsed", !collapsed, collapsed);
     CQrUiPanel& panel = panelOf(window);
     const HWND handle = window.handle;
     const HWND parent = window.parent;

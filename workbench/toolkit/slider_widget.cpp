@@ -28,7 +28,7 @@ void SliderWidget::setRange(Window& window, int lowest, int highest) {
 void SliderWidget::setPosition(Window& window, int position) {
     const int before = m_position;
     m_position = scale(window).clamp(position);
-    m_toolkit.windows().noteChange(window.handle, "position", before, m_position);
+    m_toolkit.windows().changes().note(window.handle, "position", before, m_position);
 }
 
 SliderScale SliderWidget::scale(const Window& window) const {

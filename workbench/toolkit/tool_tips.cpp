@@ -45,7 +45,7 @@ void ToolTips::mouseOver(HWND window, const std::wstring& text) {
         return;
     m_over = window;
     m_text = text;
-    m_windows.setTimer(m_clock.m_hWnd, kRestTimer, kRestMs);
+    m_windows.timers().start(m_clock.m_hWnd, kRestTimer, kRestMs);
 }
 
 void ToolTips::show(HWND window, const std::wstring& text) {
@@ -57,7 +57,7 @@ void ToolTips::show(HWND window, const std::wstring& text) {
 }
 
 void ToolTips::hide() {
-    m_windows.killTimer(m_clock.m_hWnd, kRestTimer);
+    m_windows.timers().stop(m_clock.m_hWnd, kRestTimer);
     if (m_presenter && !m_shown.empty())
         m_presenter(m_over, {});
     m_over = nullptr;
@@ -66,7 +66,7 @@ void ToolTips::hide() {
 }
 
 void ToolTips::showNow() {
-    m_windows.killTimer(m_clock.m_hWnd, kRestTimer);
+    m_windows.timers().stop(m_clock.m_hWnd, kRestTimer);
     if (m_windows.find(m_over) == nullptr)
         return;
     m_shown = m_text;

@@ -2,7 +2,6 @@
 
 #include <hostapi/window.h>
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,32 +27,23 @@ public:
     virtual std::string describe(const Window& window) const;
 };
 
-/// A running timer of a window.
-struct WindowTimer {
-    UINT number;
-    std::int64_t period;  ///< milliseconds, at least 1
-    std::int64_t due;     ///< clock time of the next firing
-    std::uint64_t order;  ///< ascending by start; of two due at one time the earlier fires first
-};
-
-/// One window. Found by its handle in the window system; a pointer to it is good until the next
+/// One window. Found by its handle in the window tree; a pointer to it is good until the next
 /// message is sent.
 struct Window {
     HWND handle = nullptr;
-    CWnd* object = nullptr;      ///< not owned
-    std::string className;       ///< the toolkit class, such as "CQrUiProgSliderCtrl"
-    std::string name;            ///< by which scripts and the journal know it; empty for none
-    HWND parent = nullptr;       ///< null: a top window
-    std::vector<HWND> children;  ///< in order of creation
-    CRect rect;                  ///< in the parent's client area; top windows: on the screen
-    DWORD style = 0;             ///< `WS_VISIBLE` is kept up to date
+    CWnd* object = nullptr;          ///< not owned
+    std::unique_ptr<Widget> widget;  ///< null for a plain window
+    std::string className;           ///< the toolkit class, such as "CQrUiProgSliderCtrl"
+    std::string name;                ///< by which scripts and the journal know it; empty for none
+    HWND parent = nullptr;           ///< null: a top window
+    std::vector<HWND> children;      ///< in order of creation
+    CRect rect;                      ///< in the parent's client area; top windows: on the screen
+    DWORD style = 0;                 ///< `WS_VISIBLE` is kept up to date
     int id = 0;
     bool enabled = true;
     std::wstring text;
-    WPARAM font = 0;  ///< by `WM_SETFONT`; 0: the system's
-    std::vector<WindowTimer> timers;
-    std::unique_ptr<Widget> widget;  ///< null for a plain window
-    bool dying = false;              ///< `WM_DESTROY` was sent
+    WPARAM font = 0;     ///< by `WM_SETFONT`; 0: the system's
+    bool dying = false;  ///< `WM_DESTROY` was sent
 
     bool hasVisibleStyle() const { return (style & WS_VISIBLE) != 0; }
 };

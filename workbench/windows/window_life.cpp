@@ -1,15 +1,14 @@
+#include "workbench/windows/window_life.h"
+
 #include "workbench/base/turn.h"
-#include "workbench/windows/window_system.h"
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace workbench {
 
 namespace {
-
-/// Room for handlers within handlers, so that sending doesn't allocate.
-constexpr std::size_t kUsualDispatchDepth = 64;
 
 CRect withoutNegativeSize(CRect rect) {
     rect.right = std::max(rect.left, rect.right);
@@ -17,27 +16,20 @@ CRect withoutNegativeSize(CRect rect) {
     return rect;
 }
 
+/// Stands in for an object that ends while its window is on its way out.
+CWnd& nobody() {
+    static CWnd s_nobody;
+    return s_nobody;
+}
+
 }  // namespace
 
-WindowSystem::WindowSystem(Clock& clock, Journal& journal) : m_clock(clock), m_journal(journal) {
-    m_dispatches.reserve(kUsualDispatchDepth);
-}
-
-WindowSystem::~WindowSystem() {
-    abandonAll();
-}
-
-void WindowSystem::abandonAll() {
-    m_observer = nullptr;
-    while (!m_topWindows.empty())
-        remove(m_topWindows.back());
-}
-
-bool WindowSystem::create(CWnd& object, WindowCreation creation) {
-    if (find(object.m_hWnd) != nullptr)
+bool WindowLife::create(CWnd& object, WindowCreation creation) {
+    const WindowTree& tree = m_parts.tree;
+    if (tree.find(object.m_hWnd) != nullptr)
         return false;
     if (creation.parent != nullptr) {
-        const Window* const parent = find(creation.parent);
+        const Window* const parent = tree.find(creation.parent);
         if (parent == nullptr || parent->dying)
             return false;
     }
@@ -45,49 +37,45 @@ bool WindowSystem::create(CWnd& object, WindowCreation creation) {
     const CREATESTRUCT record{creation.rect.left,     creation.rect.top, creation.rect.Width(),
                               creation.rect.Height(), creation.style,    creation.parent};
     const HWND window = add(object, std::move(creation));
-    if (send(window, WM_CREATE, 0, reinterpret_cast<LPARAM>(&record)) == -1) {
+    if (m_parts.messages.send(window, WM_CREATE, 0, reinterpret_cast<LPARAM>(&record)) == -1) {
         destroy(window);
         return false;
     }
-    tellObserver(window);
-    return find(window) != nullptr;
+    m_parts.changes.tell(window);
+    return tree.find(window) != nullptr;
 }
 
-HWND WindowSystem::add(CWnd& object, WindowCreation&& creation) {
-    auto made = std::make_unique<Window>();
-    Window& window = *made;
-    window.object = &object;
-    window.className = creation.className;
-    window.parent = creation.parent;
-    window.rect = creation.rect;
-    window.style = creation.style;
-    window.id = creation.id;
-    window.text = std::move(creation.text);
-    window.widget = std::move(creation.widget);
-    window.handle = m_windows.add(std::move(made));
-    Window* const parent = find(window.parent);
-    (parent == nullptr ? m_topWindows : parent->children).push_back(window.handle);
-    object.m_hWnd = window.handle;
-    return window.handle;
+HWND WindowLife::add(CWnd& object, WindowCreation&& creation) {
+    auto window = std::make_unique<Window>();
+    window->object = &object;
+    window->className = creation.className;
+    window->parent = creation.parent;
+    window->rect = creation.rect;
+    window->style = creation.style;
+    window->id = creation.id;
+    window->text = std::move(creation.text);
+    window->widget = std::move(creation.widget);
+    object.m_hWnd = m_parts.tree.add(std::move(window));
+    return object.m_hWnd;
 }
 
-bool WindowSystem::destroy(HWND window) {
-    const Window* const found = find(window);
+bool WindowLife::destroy(HWND window) {
+    const Window* const found = m_parts.tree.find(window);
     if (found == nullptr || found->dying)
         return false;
-    show(window, false);
+    m_parts.state.show(window, false);
     sendDestroy(window);
     remove(window);
     return true;
 }
 
-void WindowSystem::sendDestroy(HWND window) {
-    Window* const found = find(window);
+void WindowLife::sendDestroy(HWND window) {
+    Window* const found = m_parts.tree.find(window);
     if (found == nullptr || found->dying)
         return;
     found->dying = true;
-    send(window, WM_DESTROY, 0, 0);
-    const Window* const still = find(window);
+    m_parts.messages.send(window, WM_DESTROY, 0, 0);
+    const Window* const still = m_parts.tree.find(window);
     if (still == nullptr)
         return;
     const std::vector<HWND> children = still->children;
@@ -95,25 +83,37 @@ void WindowSystem::sendDestroy(HWND window) {
         sendDestroy(child);
 }
 
-void WindowSystem::remove(HWND window) {
-    const Window* const found = find(window);
+void WindowLife::remove(HWND window) {
+    const Window* const found = m_parts.tree.find(window);
     if (found == nullptr)
         return;
     const std::vector<HWND> children = found->children;
     for (const HWND child : children)
         remove(child);
-    std::unique_ptr<Window> gone = m_windows.take(window);
-    if (m_focus == window)
-        m_focus = nullptr;
-    if (m_reportedFocus == window)
-        m_reportedFocus = nullptr;
-    Window* const parent = find(gone->parent);
-    std::vector<HWND>& siblings = parent == nullptr ? m_topWindows : parent->children;
-    siblings.erase(std::find(siblings.begin(), siblings.end(), window));
+    std::unique_ptr<Window> gone = m_parts.tree.take(window);
+    m_parts.focus.windowEnded(window);
+    m_parts.timers.windowEnded(window);
+    m_parts.messages.windowEnded();
     gone->object->m_hWnd = nullptr;
     // A handler of the widget may be running.
     Turn::keep(std::move(gone));
-    tellObserver(window);
+    m_parts.changes.tell(window);
+}
+
+void WindowLife::objectEnds(CWnd& object) {
+    destroy(object.m_hWnd);
+    if (Window* const onItsWayOut = m_parts.tree.find(object.m_hWnd)) {
+        onItsWayOut->object = &nobody();
+        Turn::keep(std::move(onItsWayOut->widget));
+    }
+    m_parts.messages.objectEnds(object);
+}
+
+void WindowLife::abandonAll() {
+    m_parts.changes.setObserver(nullptr);
+    const std::vector<HWND>& tops = m_parts.tree.topWindows();
+    while (!tops.empty())
+        remove(tops.back());
 }
 
 }  // namespace workbench

@@ -1,7 +1,5 @@
 #include "workbench/windows/window_parts.h"
 
-#include "workbench/windows/window_system.h"
-
 #include <algorithm>
 #include <iterator>
 #include <string_view>
@@ -32,7 +30,7 @@ std::string_view partWord(const Window& window) {
 }
 
 /// The fields of a strip are called after coordinates, by their places in it; others by no such name.
-std::string_view coordinateName(const WindowSystem& windows, HWND field) {
+std::string_view coordinateName(const WindowTree& windows, HWND field) {
     constexpr std::string_view kNames[] = {"x", "y", "z"};
     const Window* const strip = windows.find(windows.find(field)->parent);
     if (strip == nullptr || strip->className != "CQrUiCtrlContainer")
@@ -44,7 +42,7 @@ std::string_view coordinateName(const WindowSystem& windows, HWND field) {
 
 }  // namespace
 
-std::string partName(const WindowSystem& windows, HWND window) {
+std::string partName(const WindowTree& windows, HWND window) {
     const HWND owner = windows.owner(window);
     if (owner == nullptr || owner == window)
         return {};
@@ -62,7 +60,7 @@ std::string partName(const WindowSystem& windows, HWND window) {
     return std::string(word) + (number > 1 ? std::to_string(number) : std::string());
 }
 
-HWND findPart(const WindowSystem& windows, HWND owner, const std::string& part) {
+HWND findPart(const WindowTree& windows, HWND owner, const std::string& part) {
     for (const HWND window : windows.descendants(owner)) {
         if (windows.owner(window) == owner && partName(windows, window) == part)
             return window;

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "workbench/windows/window_tree.h"
+
 #include <hostapi/window.h>
 
 #include <string>
 
 namespace workbench {
 
-class WindowSystem;
-
 /// The name of a window as a part of the nearest named one above it: "slider" for its first
 /// slider, "edit2" for its second edit field, and so on. Empty for a window that is named itself or
 /// stands in no named one.
-std::string partName(const WindowSystem& windows, HWND window);
+std::string partName(const WindowTree& windows, HWND window);
 
 /// The window that is a part of `owner` under a name; null for none.
-HWND findPart(const WindowSystem& windows, HWND owner, const std::string& part);
+HWND findPart(const WindowTree& windows, HWND owner, const std::string& part);
 
 }  // namespace workbench

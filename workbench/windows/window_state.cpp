@@ -1,74 +1,58 @@
-#include "workbench/base/text.h"
-#include "workbench/windows/window_parts.h"
-#include "workbench/windows/window_system.h"
+#include "workbench/windows/window_state.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace workbench {
 
-void WindowSystem::show(HWND window, bool visible) {
-    Window* const found = find(window);
+void WindowState::show(HWND window, bool visible) {
+    Window* const found = m_tree.find(window);
     if (found == nullptr || found->hasVisibleStyle() == visible)
         return;
     setVisibleStyle(*found, visible);
     sendPosChanged(window, SWP_NOSIZE | SWP_NOMOVE | (visible ? SWP_SHOWWINDOW : SWP_HIDEWINDOW));
 }
 
-void WindowSystem::setVisibleStyle(Window& window, bool visible) {
+void WindowState::setVisibleStyle(Window& window, bool visible) {
     window.style = visible ? window.style | WS_VISIBLE : window.style & ~WS_VISIBLE;
-    noteChange(window.handle, "visible", !visible, visible);
+    m_changes.note(window.handle, "visible", !visible, visible);
 }
 
-void WindowSystem::sendPosChanged(HWND window, UINT flags) {
-    const CRect rect = find(window)->rect;
+void WindowState::sendPosChanged(HWND window, UINT flags) {
+    const CRect rect = m_tree.find(window)->rect;
     const WINDOWPOS record{window,       rect.left,     rect.top,
                            rect.Width(), rect.Height(), flags | SWP_NOZORDER | SWP_NOACTIVATE};
-    send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&record));
-    const Window* const still = find(window);
+    m_messages.send(window, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&record));
+    const Window* const still = m_tree.find(window);
     if (still != nullptr && !still->hasVisibleStyle())
-        dropFocusWithin(window);
+        m_focus.leaveWithin(window);
 }
 
-void WindowSystem::hold(int key, bool down) {
-    if (down)
-        m_held.insert(key);
-    else
-        m_held.erase(key);
-}
-
-void WindowSystem::enable(HWND window, bool enabled) {
-    Window* const found = find(window);
+void WindowState::enable(HWND window, bool enabled) {
+    Window* const found = m_tree.find(window);
     if (found == nullptr || found->enabled == enabled)
         return;
     found->enabled = enabled;
-    noteChange(window, "enabled", !enabled, enabled);
-    if (enabled)
-        return;
-    // Its user has not left a field that is disabled: what stands in it is no entry.
-    if (m_focus == window)
-        m_reportedFocus = nullptr;
-    dropFocusWithin(window);
+    m_changes.note(window, "enabled", !enabled, enabled);
+    if (!enabled)
+        m_focus.windowDisabled(window);
 }
 
-void WindowSystem::setText(HWND window, std::wstring text) {
-    Window* const found = find(window);
+void WindowState::setText(HWND window, std::wstring text) {
+    Window* const found = m_tree.find(window);
     if (found == nullptr || found->text == text)
         return;
     std::swap(found->text, text);
-    if (m_journal.isRecording())
-        noteChange(window, "text", toUtf8(text), toUtf8(found->text));
-    else
-        tellObserver(window);
+    m_changes.noteText(window, text, found->text);
 }
 
-void WindowSystem::setName(HWND window, std::string name) {
-    if (Window* const found = find(window))
+void WindowState::setName(HWND window, std::string name) {
+    if (Window* const found = m_tree.find(window))
         found->name = std::move(name);
 }
 
-void WindowSystem::place(HWND window, CRect rect, UINT flags) {
-    Window* const found = find(window);
+void WindowState::place(HWND window, CRect rect, UINT flags) {
+    Window* const found = m_tree.find(window);
     if (found == nullptr)
         return;
     const CRect old = found->rect;
@@ -90,40 +74,13 @@ void WindowSystem::place(HWND window, CRect rect, UINT flags) {
         setVisibleStyle(*found, shownOrHidden == SWP_SHOWWINDOW);
     if (!isSized && !isMoved && shownOrHidden == 0)
         return;
-    tellObserver(window);
+    m_changes.tell(window);
     if (isSized)
-        send(window, WM_SIZE, 0,
-             static_cast<LPARAM>(MAKELONG(static_cast<UINT>(size.cx), static_cast<UINT>(size.cy))));
-    if (find(window) != nullptr)
+        m_messages.send(
+            window, WM_SIZE, 0,
+            static_cast<LPARAM>(MAKELONG(static_cast<UINT>(size.cx), static_cast<UINT>(size.cy))));
+    if (m_tree.find(window) != nullptr)
         sendPosChanged(window, changes | shownOrHidden);
-}
-
-void WindowSystem::noteChange(HWND window, std::string_view field, Value before, Value after) {
-    if (before == after)
-        return;
-    tellObserver(window);
-    if (!m_journal.isRecording())
-        return;
-    std::string name = ownerName(window);
-    if (name.empty())
-        return;
-    std::string shown(field);
-    if (const std::string part = partName(*this, window); !part.empty())
-        shown = field == "text" || field == "position" ? part : part + "." + shown;
-    m_journal.add("control", {{"name", std::move(name)},
-                              {"field", std::move(shown)},
-                              {"old", std::move(before)},
-                              {"new", std::move(after)}});
-}
-
-void WindowSystem::invalidate(HWND window) {
-    if (find(window) != nullptr)
-        tellObserver(window);
-}
-
-void WindowSystem::tellObserver(HWND window) {
-    if (m_observer && window != nullptr)
-        m_observer(window);
 }
 
 }  // namespace workbench

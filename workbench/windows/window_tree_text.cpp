@@ -1,5 +1,6 @@
+#include "workbench/windows/window_tree_text.h"
+
 #include "workbench/base/text.h"
-#include "workbench/windows/window_system.h"
 
 #include <string>
 
@@ -33,22 +34,23 @@ std::string lineOf(const Window& window, bool hasFocus) {
     return words.empty() ? line : line + " " + words;
 }
 
-void appendTree(const WindowSystem& windows, HWND root, std::size_t depth, std::string& text) {
+void appendTree(const WindowTree& windows, HWND focus, HWND root, std::size_t depth,
+                std::string& text) {
     const Window* const window = windows.find(root);
     if (window == nullptr)
         return;
     text.append(2 * depth, ' ');
-    text += lineOf(*window, windows.focus() == root) + "\n";
+    text += lineOf(*window, focus == root) + "\n";
     for (const HWND child : window->children)
-        appendTree(windows, child, depth + 1, text);
+        appendTree(windows, focus, child, depth + 1, text);
 }
 
 }  // namespace
 
-std::string WindowSystem::tree() const {
+std::string treeText(const WindowTree& windows, HWND focus) {
     std::string text;
-    for (const HWND top : m_topWindows)
-        appendTree(*this, top, 0, text);
+    for (const HWND top : windows.topWindows())
+        appendTree(windows, focus, top, 0, text);
     return text;
 }
 

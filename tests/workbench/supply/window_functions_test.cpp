@@ -31,7 +31,7 @@ TEST_F(WindowFunctionsTest, OnlyTheSizeFrameHasAMeasure) {
 
 TEST_F(WindowFunctionsTest, AKeyIsDownWhileItIsHeld) {
     EXPECT_EQ(GetKeyState(VK_SHIFT), 0);
-    windows().hold(VK_SHIFT, true);
+    windows().keys().hold(VK_SHIFT, true);
     EXPECT_LT(GetKeyState(VK_SHIFT), 0);
     EXPECT_EQ(GetKeyState(VK_RETURN), 0);
     Workbench::current().faults().fail("GetKeyState");

@@ -40,11 +40,11 @@ TEST_F(MouseTest, PointsTravelSigned) {
 TEST_F(MouseTest, AHeldShiftComesWithTheButtonsAndMoves) {
     mouse().press(m_inner.m_hWnd, {1, 1});
     EXPECT_EQ(m_inner.of(kLeftButtonDown)[0].wParam, kLeftButtonHeld);
-    windows().hold(VK_SHIFT, true);
+    windows().keys().hold(VK_SHIFT, true);
     mouse().release(m_inner.m_hWnd, {1, 1});
     mouse().move(m_inner.m_hWnd, {2, 1});
     mouse().press(m_inner.m_hWnd, {2, 1});
-    windows().hold(VK_SHIFT, false);
+    windows().keys().hold(VK_SHIFT, false);
     mouse().release(m_inner.m_hWnd, {2, 1});
     EXPECT_EQ(m_inner.of(kLeftButtonUp)[0].wParam, kShiftHeld);
     EXPECT_EQ(m_inner.of(WM_MOUSEMOVE)[0].wParam, kShiftHeld);

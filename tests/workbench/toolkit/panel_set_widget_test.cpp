@@ -93,7 +93,7 @@ TEST_F(PanelSetWidgetTest, AThemeChangeThatChangesTheHeightReportsTheSize) {
     item.SetState(kItemHidden);
     m_panelSet.SendMessage(WM_QRUI_THEME_CHANGED);
     EXPECT_THAT(m_palette->of(WM_QRUI_POSITION), IsEmpty());
-    windows().runPosted();
+    windows().queue().runPosted();
     const auto width = static_cast<UINT>(m_panelSet.GetClientRect().Width());
     EXPECT_THAT(m_palette->of(WM_QRUI_POSITION),
                 ElementsAre(Received{WM_QRUI_POSITION, MAKELONG(width, 20), 0}));

@@ -114,12 +114,12 @@ TEST_F(WindowLifeTest, HandlesAreClearedChildrenBeforeParents) {
     ASSERT_TRUE(make(child, &parent));
     const std::vector<HWND> expected{child.m_hWnd, parent.m_hWnd};
     std::vector<HWND> gone;
-    windows().setObserver([&](HWND window) {
+    windows().changes().setObserver([&](HWND window) {
         if (!IsWindow(window))
             gone.push_back(window);
     });
     parent.DestroyWindow();
-    windows().setObserver(nullptr);
+    windows().changes().setObserver(nullptr);
     EXPECT_EQ(gone, expected);
 }
 
@@ -139,7 +139,7 @@ TEST_F(WindowLifeTest, AnObjectThatEndsTakesItsWindowAlong) {
 TEST_F(WindowLifeTest, AbandonedWindowsGoWithoutAMessage) {
     auto window = std::make_unique<TestWindow>();
     ASSERT_TRUE(make(*window));
-    windows().abandonAll();
+    windows().life().abandonAll();
     EXPECT_EQ(window->m_hWnd, nullptr);
     EXPECT_EQ(window->count(WM_DESTROY), 0);
     EXPECT_EQ(windows().count(), 0U);

@@ -25,35 +25,6 @@ protected:
     PlacedWindow window;
 };
 
-/// A control with its parts, whose changes the journal shows.
-class ControlChangesTest : public WindowTest {
-protected:
-    void SetUp() override {
-        ASSERT_TRUE(make(control) && make(icon, &control));
-        ASSERT_TRUE(make(slider, &control, 1, nullptr, "CQrUiProgSliderCtrl"));
-        ASSERT_TRUE(makeEdit(edit, icon, 2) && makeEdit(edit2, control, 3));
-        windows().setName(control.m_hWnd, "FadeSlider");
-        journal().take();
-    }
-    /// The changes since the last call, as "name field old new" lines.
-    std::vector<std::string> changes() {
-        std::vector<std::string> lines;
-        for (const JournalRecord& record : journal().take("control"))
-            lines.push_back(record.field("name").asString() + " " +
-                            record.field("field").asString() + " " +
-                            record.field("old").describe() + " " + record.field("new").describe());
-        return lines;
-    }
-
-    CWnd control;
-    CWnd icon;
-    CWnd slider;
-    CWnd edit;
-    CWnd edit2;
-};
-
-using Lines = std::vector<std::string>;
-
 }  // namespace
 
 TEST_F(WindowStateTest, ShowingAndHidingAreToldOnceEach) {
@@ -128,18 +99,6 @@ TEST_F(WindowStateTest, AWindowMayEndWhileItIsSized) {
     EXPECT_EQ(window.count(WM_SIZE), 1);
 }
 
-TEST_F(WindowStateTest, TheObserverHearsOfChangesAndRepaints) {
-    std::vector<HWND> told;
-    windows().setObserver([&told](HWND changed) { told.push_back(changed); });
-    window.SetWindowText(L"text");
-    window.SetWindowText(L"text");
-    EXPECT_EQ(told.size(), 1U);
-    window.Invalidate();
-    EXPECT_EQ(told, (std::vector<HWND>{window.m_hWnd, window.m_hWnd}));
-    EXPECT_EQ(window.GetWindowText(), L"text");
-    windows().setObserver(nullptr);
-}
-
 TEST_F(WindowStateTest, ACallThatIsToldToFailChangesNothing) {
     Workbench::current().faults().fail("CWnd::EnableWindow");
     window.EnableWindow(0);
@@ -147,37 +106,6 @@ TEST_F(WindowStateTest, ACallThatIsToldToFailChangesNothing) {
     Workbench::current().faults().unfail("CWnd::EnableWindow");
     window.EnableWindow(0);
     EXPECT_FALSE(windows().takesInput(window.m_hWnd));
-}
-
-TEST_F(ControlChangesTest, TheControlsOwnChangesBearTheirField) {
-    control.EnableWindow(0);
-    control.ShowWindow(SW_HIDE);
-    control.SetWindowText(L"caption");
-    EXPECT_EQ(changes(), (Lines{"FadeSlider enabled true false", "FadeSlider visible true false",
-                                "FadeSlider text \"\" \"caption\""}));
-}
-
-TEST_F(ControlChangesTest, PartsAreNamedByKindAndNumber) {
-    edit.SetWindowText(L"40%");
-    edit2.SetWindowText(L"50%");
-    slider.EnableWindow(0);
-    edit2.ShowWindow(SW_HIDE);
-    EXPECT_EQ(changes(), (Lines{"FadeSlider edit \"\" \"40%\"", "FadeSlider edit2 \"\" \"50%\"",
-                                "FadeSlider slider.enabled true false",
-                                "FadeSlider edit2.visible true false"}));
-}
-
-TEST_F(ControlChangesTest, APositionIsTheSlidersValue) {
-    windows().noteChange(slider.m_hWnd, "position", 30, 40);
-    windows().noteChange(slider.m_hWnd, "position", 40, 40);
-    EXPECT_EQ(changes(), Lines{"FadeSlider slider 30 40"});
-}
-
-TEST_F(ControlChangesTest, AWindowThatStandsInNoNamedOneIsNotNoted) {
-    CWnd alone;
-    ASSERT_TRUE(make(alone));
-    alone.EnableWindow(0);
-    EXPECT_EQ(changes(), Lines{});
 }
 
 }  // namespace workbench

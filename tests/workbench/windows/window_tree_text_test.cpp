@@ -1,3 +1,5 @@
+#include "workbench/windows/window_tree_text.h"
+
 #include "tests/workbench/windows/window_fixture.h"
 
 #include <gmock/gmock.h>
@@ -27,7 +29,7 @@ TEST_F(WindowTreeTextTest, EachWindowIsALineBelowItsParent) {
     edit.SetFocus();
     slider.EnableWindow(0);
     slider.ShowWindow(SW_HIDE);
-    EXPECT_THAT(windows().tree(),
+    EXPECT_THAT(treeText(windows(), windows().focus()),
                 testing::EndsWith("Test [FadeSlider] (10,20 100x50)\n"
                                   "  Slider #10001 (10,20 100x50) hidden disabled position 50\n"
                                   "  Edit \"50%\" (10,20 100x50) focus\n"));

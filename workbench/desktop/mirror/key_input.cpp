@@ -95,7 +95,7 @@ void pressKey(Stage& stage, const QKeyEvent& event) {
 }
 
 void holdModifiers(Stage& stage, Qt::KeyboardModifiers modifiers) {
-    stage.windows.hold(VK_SHIFT, modifiers.testFlag(Qt::ShiftModifier));
+    stage.windows.keys().hold(VK_SHIFT, modifiers.testFlag(Qt::ShiftModifier));
 }
 
 }  // namespace workbench::desktop

@@ -26,13 +26,13 @@ WindowMirror::WindowMirror(Stage& stage, QWidget& home)
       m_balloons(std::make_unique<BalloonBubbles>(stage)) {
     m_soon.setSingleShot(true);
     QObject::connect(&m_soon, &QTimer::timeout, [this] { sync(); });
-    m_stage.windows.setObserver([this](HWND window) { note(window); });
+    m_stage.windows.changes().setObserver([this](HWND window) { note(window); });
     for (const HWND top : m_stage.windows.topWindows())
         showTree(top);
 }
 
 WindowMirror::~WindowMirror() {
-    m_stage.windows.setObserver(nullptr);
+    m_stage.windows.changes().setObserver(nullptr);
     for (const QPointer<MirrorWidget>& mirror : std::as_const(m_mirrors))
         delete mirror.data();
 }

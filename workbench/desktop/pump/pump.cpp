@@ -85,7 +85,7 @@ void Pump::idle() {
 }
 
 void Pump::armTimer() {
-    const std::optional<std::int64_t> due = m_workbench.windows().nextTimerDue();
+    const std::optional<std::int64_t> due = m_workbench.windows().timers().nextDue();
     if (!due) {
         m_due.stop();
         return;

@@ -49,7 +49,7 @@ TEST_F(PumpTest, TheClockGoesWithRealTimeAndTimersFire) {
     m_workbench.windows().create(window, std::move(creation));
     const std::int64_t before = m_workbench.clock().now();
     m_pump.act([&] { window.SetTimer(3, 20); });
-    EXPECT_TRUE(m_workbench.windows().nextTimerDue().has_value());
+    EXPECT_TRUE(m_workbench.windows().timers().nextDue().has_value());
     EXPECT_TRUE(waitFor([&] { return m_workbench.clock().now() >= before + 20; }));
     m_workbench.windows().destroy(window.m_hWnd);
 }

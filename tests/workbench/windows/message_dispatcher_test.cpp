@@ -109,7 +109,7 @@ private:
     }
 };
 
-class WindowMessagesTest : public WindowTest {
+class MessageDispatcherTest : public WindowTest {
 protected:
     template <class Type>
     void makeLogged(Type& window) {
@@ -119,34 +119,34 @@ protected:
 
 }  // namespace
 
-TEST_F(WindowMessagesTest, DefaultGoesUpTheTablesAndEndsAtTheWidget) {
+TEST_F(MessageDispatcherTest, DefaultGoesUpTheTablesAndEndsAtTheWidget) {
     DerivedWindow window;
     makeLogged(window);
     EXPECT_EQ(window.SendMessage(kChained), 111);
     EXPECT_EQ(window.log, (Log{"derived", "base", "widget"}));
 }
 
-TEST_F(WindowMessagesTest, AMessageThatOnlyTheBaseHandlesIsFoundInItsTable) {
+TEST_F(MessageDispatcherTest, AMessageThatOnlyTheBaseHandlesIsFoundInItsTable) {
     DerivedWindow window;
     makeLogged(window);
     EXPECT_EQ(window.SendMessage(kOnlyBase, 42), 42);
     EXPECT_EQ(window.log, Log{"only base"});
 }
 
-TEST_F(WindowMessagesTest, AMessageThatNoTableHasGoesToTheWidget) {
+TEST_F(MessageDispatcherTest, AMessageThatNoTableHasGoesToTheWidget) {
     DerivedWindow window;
     makeLogged(window);
     EXPECT_EQ(window.SendMessage(kUnknown), 100);
 }
 
-TEST_F(WindowMessagesTest, AMessageThatNobodyHandlesIsAnsweredZero) {
+TEST_F(MessageDispatcherTest, AMessageThatNobodyHandlesIsAnsweredZero) {
     DerivedWindow window;
     ASSERT_TRUE(make(window));
     EXPECT_EQ(window.SendMessage(kUnknown), 0);
     EXPECT_EQ(window.SendMessage(kChained), 11);
 }
 
-TEST_F(WindowMessagesTest, NestedSendsKeepEachDefaultAtItsOwnMessage) {
+TEST_F(MessageDispatcherTest, NestedSendsKeepEachDefaultAtItsOwnMessage) {
     DerivedWindow window;
     DerivedWindow other;
     makeLogged(window);
@@ -156,7 +156,7 @@ TEST_F(WindowMessagesTest, NestedSendsKeepEachDefaultAtItsOwnMessage) {
     EXPECT_EQ(window.log, (Log{"nested", "derived", "base", "widget", "widget"}));
 }
 
-TEST_F(WindowMessagesTest, AnObjectMayBeDeletedInItsOwnHandler) {
+TEST_F(MessageDispatcherTest, AnObjectMayBeDeletedInItsOwnHandler) {
     auto* const window = new DerivedWindow;
     ASSERT_TRUE(make(*window));
     const HWND handle = window->m_hWnd;
@@ -164,7 +164,38 @@ TEST_F(WindowMessagesTest, AnObjectMayBeDeletedInItsOwnHandler) {
     EXPECT_FALSE(IsWindow(handle));
 }
 
-TEST_F(WindowMessagesTest, AWidgetMayEndItsOwnWindow) {
+TEST_F(MessageDispatcherTest, ATableThatCameInThePlaceOfAnotherIsSearchedAnew) {
+    // As of two modules that are loaded one after the other at the same address.
+    struct Loaded : public CWnd {
+        explicit Loaded(const MessageMap& table) : map(table) {}
+        const MessageMap& GetMessageMap() const override { return map; }
+        const MessageMap& map;
+    };
+    constexpr MessageEntry kFirst[] = {
+        {kOnlyBase, [](CWnd*, WPARAM, LPARAM) { return LRESULT{1}; }},
+    };
+    constexpr MessageEntry kSecond[] = {
+        {kOnlyBase, [](CWnd*, WPARAM, LPARAM) { return LRESULT{2}; }},
+        {kUnknown, [](CWnd*, WPARAM, LPARAM) { return LRESULT{3}; }},
+    };
+    MessageMap map{nullptr, kFirst, std::size(kFirst)};
+    {
+        Loaded window(map);
+        ASSERT_TRUE(make(window));
+        EXPECT_EQ(window.SendMessage(kOnlyBase), 1);
+        EXPECT_EQ(window.SendMessage(kUnknown), 0);
+        window.DestroyWindow();
+        // An object may get messages without its window.
+        EXPECT_EQ(window.WindowProc(kOnlyBase, 0, 0), 1);
+    }
+    map = {nullptr, kSecond, std::size(kSecond)};
+    Loaded window(map);
+    ASSERT_TRUE(make(window));
+    EXPECT_EQ(window.SendMessage(kOnlyBase), 2);
+    EXPECT_EQ(window.SendMessage(kUnknown), 3);
+}
+
+TEST_F(MessageDispatcherTest, AWidgetMayEndItsOwnWindow) {
     class Ending : public Widget {
     public:
         bool handle(Window& window, UINT message, WPARAM, LPARAM, LRESULT& answer) override {
@@ -184,7 +215,7 @@ TEST_F(WindowMessagesTest, AWidgetMayEndItsOwnWindow) {
     EXPECT_EQ(window.m_hWnd, nullptr);
 }
 
-TEST_F(WindowMessagesTest, TheNearestRangeGetsACommand) {
+TEST_F(MessageDispatcherTest, TheNearestRangeGetsACommand) {
     DerivedWindow window;
     makeLogged(window);
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 150), 1);
@@ -195,7 +226,7 @@ TEST_F(WindowMessagesTest, TheNearestRangeGetsACommand) {
                                "OnCommand", "base command", "OnCommand", "base command"}));
 }
 
-TEST_F(WindowMessagesTest, ACommandOutsideAllRangesGoesToTheWidget) {
+TEST_F(MessageDispatcherTest, ACommandOutsideAllRangesGoesToTheWidget) {
     DerivedWindow window;
     makeLogged(window);
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 99), 100);
@@ -203,14 +234,14 @@ TEST_F(WindowMessagesTest, ACommandOutsideAllRangesGoesToTheWidget) {
     EXPECT_EQ(window.log, (Log{"OnCommand", "widget", "OnCommand", "widget"}));
 }
 
-TEST_F(WindowMessagesTest, ACommandHandlersDefaultGoesOnInTheBaseTable) {
+TEST_F(MessageDispatcherTest, ACommandHandlersDefaultGoesOnInTheBaseTable) {
     DerivedWindow window;
     makeLogged(window);
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 170), 1);
     EXPECT_EQ(window.log, (Log{"OnCommand", "passed command", "base command"}));
 }
 
-TEST_F(WindowMessagesTest, ANotificationOfAControlRunsNoCommandRow) {
+TEST_F(MessageDispatcherTest, ANotificationOfAControlRunsNoCommandRow) {
     DerivedWindow window;
     makeLogged(window);
     const LPARAM control = reinterpret_cast<LPARAM>(window.m_hWnd);
@@ -218,14 +249,14 @@ TEST_F(WindowMessagesTest, ANotificationOfAControlRunsNoCommandRow) {
     EXPECT_EQ(window.log, (Log{"OnCommand", "widget"}));
 }
 
-TEST_F(WindowMessagesTest, AFontThatIsSetStaysWithTheWindow) {
+TEST_F(MessageDispatcherTest, AFontThatIsSetStaysWithTheWindow) {
     TestWindow window;
     ASSERT_TRUE(make(window));
     window.SendMessage(WM_SETFONT, 12, 1);
     EXPECT_EQ(windows().find(window.m_hWnd)->font, 12U);
 }
 
-TEST_F(WindowMessagesTest, TheJournalHasTheMessagesOfNamedWindowsOnly) {
+TEST_F(MessageDispatcherTest, TheJournalHasTheMessagesOfNamedWindowsOnly) {
     TestWindow named;
     TestWindow part;
     ASSERT_TRUE(make(named));
@@ -242,7 +273,7 @@ TEST_F(WindowMessagesTest, TheJournalHasTheMessagesOfNamedWindowsOnly) {
     EXPECT_EQ(records[0].field("lparam"), Value(-4));
 }
 
-TEST_F(WindowMessagesTest, SendingAllocatesNothingWhileTheJournalRests) {
+TEST_F(MessageDispatcherTest, SendingAllocatesNothingWhileTheJournalRests) {
     TestWindow window;
     ASSERT_TRUE(make(window));
     windows().setName(window.m_hWnd, "Control");

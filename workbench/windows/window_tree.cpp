@@ -1,8 +1,30 @@
-#include "workbench/windows/window_system.h"
+#include "workbench/windows/window_tree.h"
+
+#include <utility>
 
 namespace workbench {
 
-bool WindowSystem::isOnScreen(HWND window) const {
+/// Takes over a window, as the last child of its parent, and gives it its handle.
+HWND WindowTree::add(std::unique_ptr<Window> window) {
+    Window& added = *window;
+    added.handle = m_windows.add(std::move(window));
+    siblingsOf(added).push_back(added.handle);
+    return added.handle;
+}
+
+/// Hands out a window that lives; its handle is stale from now on.
+std::unique_ptr<Window> WindowTree::take(HWND window) {
+    std::unique_ptr<Window> taken = m_windows.take(window);
+    std::erase(siblingsOf(*taken), window);
+    return taken;
+}
+
+std::vector<HWND>& WindowTree::siblingsOf(const Window& window) {
+    Window* const parent = find(window.parent);
+    return parent == nullptr ? m_topWindows : parent->children;
+}
+
+bool WindowTree::isOnScreen(HWND window) const {
     const Window* each = find(window);
     if (each == nullptr)
         return false;
@@ -13,7 +35,7 @@ bool WindowSystem::isOnScreen(HWND window) const {
     return true;
 }
 
-bool WindowSystem::takesInput(HWND window) const {
+bool WindowTree::takesInput(HWND window) const {
     const Window* each = find(window);
     if (each == nullptr)
         return false;
@@ -24,7 +46,7 @@ bool WindowSystem::takesInput(HWND window) const {
     return true;
 }
 
-CRect WindowSystem::screenRect(HWND window) const {
+CRect WindowTree::screenRect(HWND window) const {
     const Window* each = find(window);
     if (each == nullptr)
         return {};
@@ -38,12 +60,12 @@ CRect WindowSystem::screenRect(HWND window) const {
     return rect;
 }
 
-CRect WindowSystem::clientRect(HWND window) const {
+CRect WindowTree::clientRect(HWND window) const {
     const Window* const found = find(window);
     return found == nullptr ? CRect{} : CRect{0, 0, found->rect.Width(), found->rect.Height()};
 }
 
-bool WindowSystem::isWithin(HWND window, HWND root) const {
+bool WindowTree::isWithin(HWND window, HWND root) const {
     for (const Window* each = find(window); each != nullptr; each = find(each->parent)) {
         if (each->handle == root)
             return true;
@@ -51,7 +73,7 @@ bool WindowSystem::isWithin(HWND window, HWND root) const {
     return false;
 }
 
-HWND WindowSystem::findByName(std::string_view name, int skip, HWND root) const {
+HWND WindowTree::findByName(std::string_view name, int skip, HWND root) const {
     const std::vector<HWND> roots = root == nullptr ? m_topWindows : std::vector<HWND>{root};
     for (const HWND top : roots) {
         std::vector<HWND> candidates = descendants(top);
@@ -65,12 +87,12 @@ HWND WindowSystem::findByName(std::string_view name, int skip, HWND root) const 
     return nullptr;
 }
 
-std::string WindowSystem::ownerName(HWND window) const {
+std::string WindowTree::ownerName(HWND window) const {
     const Window* const named = find(owner(window));
     return named == nullptr ? std::string() : named->name;
 }
 
-HWND WindowSystem::owner(HWND window) const {
+HWND WindowTree::owner(HWND window) const {
     for (const Window* each = find(window); each != nullptr; each = find(each->parent)) {
         if (!each->name.empty())
             return each->handle;
@@ -78,7 +100,7 @@ HWND WindowSystem::owner(HWND window) const {
     return nullptr;
 }
 
-std::vector<HWND> WindowSystem::descendants(HWND window) const {
+std::vector<HWND> WindowTree::descendants(HWND window) const {
     std::vector<HWND> all;
     const Window* const found = find(window);
     if (found == nullptr)

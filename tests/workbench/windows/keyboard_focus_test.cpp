@@ -28,7 +28,7 @@ public:
 
 using Log = std::vector<std::string>;
 
-class WindowFocusTest : public WindowTest {
+class KeyboardFocusTest : public WindowTest {
 protected:
     void SetUp() override {
         ASSERT_TRUE(make(parent));
@@ -45,7 +45,7 @@ protected:
 
 }  // namespace
 
-TEST_F(WindowFocusTest, TheParentHearsOfTheOldFieldFirstWhenTheNewOneHasTheFocus) {
+TEST_F(KeyboardFocusTest, TheParentHearsOfTheOldFieldFirstWhenTheNewOneHasTheFocus) {
     first.SetFocus();
     second.SetFocus();
     EXPECT_EQ(parent.log,
@@ -54,19 +54,19 @@ TEST_F(WindowFocusTest, TheParentHearsOfTheOldFieldFirstWhenTheNewOneHasTheFocus
     EXPECT_EQ(CWnd::GetFocus(), &second);
 }
 
-TEST_F(WindowFocusTest, FocusOnTheFocusedFieldDoesNothing) {
+TEST_F(KeyboardFocusTest, FocusOnTheFocusedFieldDoesNothing) {
     first.SetFocus();
     first.SetFocus();
     EXPECT_EQ(parent.log.size(), 1U);
 }
 
-TEST_F(WindowFocusTest, APlainWindowTakesTheFocusInSilence) {
+TEST_F(KeyboardFocusTest, APlainWindowTakesTheFocusInSilence) {
     first.SetFocus();
     plain.SetFocus();
     EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 lost, focus 3"}));
 }
 
-TEST_F(WindowFocusTest, ADisabledFieldTakesNoFocus) {
+TEST_F(KeyboardFocusTest, ADisabledFieldTakesNoFocus) {
     first.SetFocus();
     second.EnableWindow(0);
     second.SetFocus();
@@ -74,7 +74,7 @@ TEST_F(WindowFocusTest, ADisabledFieldTakesNoFocus) {
     EXPECT_EQ(parent.log.size(), 1U);
 }
 
-TEST_F(WindowFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
+TEST_F(KeyboardFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
     parent.ShowWindow(SW_HIDE);
     first.SetFocus();
     EXPECT_NE(CWnd::GetFocus(), &first);
@@ -84,34 +84,34 @@ TEST_F(WindowFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
     EXPECT_NE(CWnd::GetFocus(), &first);
 }
 
-TEST_F(WindowFocusTest, AFieldThatIsDisabledLosesTheFocusInSilence) {
+TEST_F(KeyboardFocusTest, AFieldThatIsDisabledLosesTheFocusInSilence) {
     first.SetFocus();
     first.EnableWindow(0);
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
     EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001"}));
 }
 
-TEST_F(WindowFocusTest, AFieldWhoseParentIsDisabledLosesTheFocus) {
+TEST_F(KeyboardFocusTest, AFieldWhoseParentIsDisabledLosesTheFocus) {
     first.SetFocus();
     parent.EnableWindow(0);
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
     EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
 }
 
-TEST_F(WindowFocusTest, AFieldWhoseParentIsHiddenLosesTheFocus) {
+TEST_F(KeyboardFocusTest, AFieldWhoseParentIsHiddenLosesTheFocus) {
     first.SetFocus();
     parent.ShowWindow(SW_HIDE);
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
     EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
 }
 
-TEST_F(WindowFocusTest, AFieldThatEndsLosesTheFocus) {
+TEST_F(KeyboardFocusTest, AFieldThatEndsLosesTheFocus) {
     first.SetFocus();
     first.DestroyWindow();
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
 }
 
-TEST_F(WindowFocusTest, AHandlersOwnMoveOfTheFocusStands) {
+TEST_F(KeyboardFocusTest, AHandlersOwnMoveOfTheFocusStands) {
     first.SetFocus();
     parent.log.clear();
     parent.onNotification = [this](bool isKill) {
@@ -124,7 +124,7 @@ TEST_F(WindowFocusTest, AHandlersOwnMoveOfTheFocusStands) {
     EXPECT_EQ(CWnd::GetFocus(), &plain);
 }
 
-TEST_F(WindowFocusTest, AHandlerMayGiveTheFocusBack) {
+TEST_F(KeyboardFocusTest, AHandlerMayGiveTheFocusBack) {
     first.SetFocus();
     parent.log.clear();
     parent.onNotification = [this](bool isKill) {
@@ -136,7 +136,7 @@ TEST_F(WindowFocusTest, AHandlerMayGiveTheFocusBack) {
     EXPECT_EQ(CWnd::GetFocus(), &first);
 }
 
-TEST_F(WindowFocusTest, TheNewFieldMayEndInTheOldOnesNotification) {
+TEST_F(KeyboardFocusTest, TheNewFieldMayEndInTheOldOnesNotification) {
     first.SetFocus();
     parent.log.clear();
     parent.onNotification = [this](bool) { second.DestroyWindow(); };

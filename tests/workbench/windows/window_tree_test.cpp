@@ -4,7 +4,7 @@ namespace workbench {
 
 namespace {
 
-class WindowQuestionsTest : public WindowTest {
+class WindowTreeTest : public WindowTest {
 protected:
     void SetUp() override {
         ASSERT_TRUE(make(frame) && make(middle, &frame) && make(leaf, &middle));
@@ -19,18 +19,18 @@ protected:
 
 }  // namespace
 
-TEST_F(WindowQuestionsTest, ScreenCoordinatesAddUpTheParents) {
+TEST_F(WindowTreeTest, ScreenCoordinatesAddUpTheParents) {
     EXPECT_EQ(leaf.GetWindowRect(), (CRect{30, 60, 130, 110}));
     EXPECT_EQ(leaf.ScreenToClient({31, 62}), (CPoint{1, 2}));
     EXPECT_EQ(leaf.GetClientRect(), (CRect{0, 0, 100, 50}));
 }
 
-TEST_F(WindowQuestionsTest, TheNearestFrameAboveIsFound) {
+TEST_F(WindowTreeTest, TheNearestFrameAboveIsFound) {
     EXPECT_EQ(leaf.GetParentFrame(), &frame);
     EXPECT_EQ(frame.GetParentFrame(), nullptr);
 }
 
-TEST_F(WindowQuestionsTest, AWindowlessObjectAnswersNothing) {
+TEST_F(WindowTreeTest, AWindowlessObjectAnswersNothing) {
     const CWnd none;
     EXPECT_EQ(none.GetParent(), nullptr);
     EXPECT_EQ(none.GetParentFrame(), nullptr);
@@ -41,14 +41,14 @@ TEST_F(WindowQuestionsTest, AWindowlessObjectAnswersNothing) {
     EXPECT_FALSE(none.IsWindowVisible());
 }
 
-TEST_F(WindowQuestionsTest, DescendantsComeDepthFirst) {
+TEST_F(WindowTreeTest, DescendantsComeDepthFirst) {
     EXPECT_EQ(windows().descendants(frame.m_hWnd),
               (std::vector<HWND>{middle.m_hWnd, leaf.m_hWnd, sibling.m_hWnd}));
     EXPECT_TRUE(windows().isWithin(leaf.m_hWnd, frame.m_hWnd));
     EXPECT_FALSE(windows().isWithin(sibling.m_hWnd, middle.m_hWnd));
 }
 
-TEST_F(WindowQuestionsTest, TheNthWindowOfANameIsFoundBelowARoot) {
+TEST_F(WindowTreeTest, TheNthWindowOfANameIsFoundBelowARoot) {
     windows().setName(leaf.m_hWnd, "Twin");
     windows().setName(sibling.m_hWnd, "Twin");
     EXPECT_EQ(windows().findByName("Twin"), leaf.m_hWnd);
@@ -58,7 +58,7 @@ TEST_F(WindowQuestionsTest, TheNthWindowOfANameIsFoundBelowARoot) {
     EXPECT_EQ(windows().findByName("Twin", 0, leaf.m_hWnd), leaf.m_hWnd);
 }
 
-TEST_F(WindowQuestionsTest, TheOwnerIsTheNearestNamedWindow) {
+TEST_F(WindowTreeTest, TheOwnerIsTheNearestNamedWindow) {
     windows().setName(middle.m_hWnd, "Middle");
     EXPECT_EQ(windows().ownerName(leaf.m_hWnd), "Middle");
     EXPECT_EQ(windows().ownerName(middle.m_hWnd), "Middle");

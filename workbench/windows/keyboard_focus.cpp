@@ -1,0 +1,58 @@
+#include "workbench/windows/keyboard_focus.h"
+
+namespace workbench {
+
+bool KeyboardFocus::moveTo(HWND window) {
+    if (window == m_window)
+        return true;
+    if (window != nullptr) {
+        const Window* const found = m_tree.find(window);
+        if (found == nullptr || found->dying || !m_tree.isOnScreen(window) ||
+            !m_tree.takesInput(window))
+            return false;
+    }
+    const HWND old = m_window;
+    m_window = window;
+    const std::uint64_t move = ++m_moves;
+    m_changes.tell(old);
+    m_changes.tell(window);
+    // A window whose parent hasn't heard that it got the focus isn't said to have lost it.
+    if (old != nullptr && old == m_reported) {
+        m_reported = nullptr;
+        report(old, EN_KILLFOCUS);
+    }
+    if (move == m_moves && m_tree.find(window) != nullptr) {
+        m_reported = window;
+        report(window, EN_SETFOCUS);
+    }
+    return m_window == window;
+}
+
+void KeyboardFocus::report(HWND window, UINT notification) {
+    const Window* const found = m_tree.find(window);
+    if (found == nullptr || found->widget == nullptr || !found->widget->reportsFocus())
+        return;
+    m_messages.send(found->parent, WM_COMMAND, MAKELONG(static_cast<UINT>(found->id), notification),
+                    reinterpret_cast<LPARAM>(window));
+}
+
+void KeyboardFocus::leaveWithin(HWND root) {
+    if (m_window != nullptr && m_tree.isWithin(m_window, root))
+        moveTo(nullptr);
+}
+
+void KeyboardFocus::windowDisabled(HWND window) {
+    // What stands in a field that is disabled is no entry.
+    if (m_window == window)
+        m_reported = nullptr;
+    leaveWithin(window);
+}
+
+void KeyboardFocus::windowEnded(HWND window) {
+    if (m_window == window)
+        m_window = nullptr;
+    if (m_reported == window)
+        m_reported = nullptr;
+}
+
+}  // namespace workbench

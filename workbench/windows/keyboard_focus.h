@@ -1,0 +1,49 @@
+#pragma once
+
+#include "workbench/windows/message_dispatcher.h"
+#include "workbench/windows/window_changes.h"
+#include "workbench/windows/window_tree.h"
+
+#include <hostapi/window.h>
+
+#include <cstdint>
+
+namespace workbench {
+
+/// The window that the keys go to. The parents of windows that report it are told when it comes and
+/// goes (`EN_SETFOCUS`, `EN_KILLFOCUS`).
+class KeyboardFocus {
+public:
+    KeyboardFocus(const WindowTree& tree, WindowChanges& changes, MessageDispatcher& messages)
+        : m_tree(tree),
+          m_changes(changes),
+          m_messages(messages) {}
+    KeyboardFocus(const KeyboardFocus&) = delete;
+    KeyboardFocus& operator=(const KeyboardFocus&) = delete;
+
+    /// The window with the focus; null for none.
+    HWND window() const { return m_window; }
+    /// Moves the focus; null takes it from all. The parents are told once it has moved, that of the
+    /// old window first. False, and nothing happens, for a window that is stale, dying, not on
+    /// screen or disabled.
+    bool moveTo(HWND window);
+    /// Takes the focus from a window and all below it.
+    void leaveWithin(HWND root);
+    /// A window was disabled: its user has not left it, so its parent isn't told, and all below it
+    /// lose the focus.
+    void windowDisabled(HWND window);
+    /// A window is gone: nobody is told.
+    void windowEnded(HWND window);
+
+private:
+    void report(HWND window, UINT notification);
+
+    const WindowTree& m_tree;
+    WindowChanges& m_changes;
+    MessageDispatcher& m_messages;
+    HWND m_window = nullptr;
+    HWND m_reported = nullptr;  // whose parent got EN_SETFOCUS and not yet EN_KILLFOCUS
+    std::uint64_t m_moves = 0;  // tells a handler's own move of the focus
+};
+
+}  // namespace workbench
