@@ -30,10 +30,12 @@ constexpr const char* kSmallMenu = R"({
     {"type": "control", "id": "C", "control": "LayerLockTransparencySliderControl"}]}]
 })";
 
-/// Whether a call only looks something up in the host's registry.
+/// Whether a call only looks an object of the host up.
 bool isLookUp(const std::string& line) {
     return line.starts_with("vxrxSysRegistry(") || line.starts_with("VxRxDictionary::at(") ||
-           line.starts_with("VxRxObject::isKindOf(");
+           line.starts_with("VxRxObject::isKindOf(") || line == "vxProfileManagerPtr()" ||
+           line == "vxDocManagerPtr()" || line == "QrUiGetThemeManager()" ||
+           line == "vxdbHostApplicationServices()";
 }
 
 class ModuleTest : public support::Bench {
@@ -101,20 +103,16 @@ TEST_F(ModuleTest, LoadTakesItsStepsInOrder) {
                      "\"DASHBOARDOLD\", 3, true, null, -1, false)",
                      "VxEdCommandStack::addCommand(\"ZorqVxDashboard\", \"VIEWBACK\", "
                      "\"VIEWBACK\", 1, true, null, -1, false)",
-                     "QrUiGetThemeManager()",
                      "CQrUiThemeManager::GetTheme(\"ToolPanel\")",
                      "CQrUiTheme::RegisterReactor(object)",
                      "CQrUiTheme::GetFont(3)",
                      "CFont::CreateFontIndirect(\"DejaVu Sans\", 11, 400)",
                      "CQrUiTheme::SetDataPtr(2, object)",
                      "CQrUiTheme::ResumeModifiedNotifications()",
-                     "vxProfileManagerPtr()",
                      "VxApProfileManager::addReactor(object)",
                      "VxEditor::addReactor(object)",
-                     "vxDocManagerPtr()",
                      "VxApDocManager::addReactor(object)",
                      "QrUiRegisterTool(\"VxDashboard.qlx\", \"DASHBOARDOLD\")",
-                     "vxdbHostApplicationServices()",
                      "VxDbHostApplicationServices::program()",
                      "LoadLibrary(\"ZORQbtn.xmx\")"}));
 }
@@ -177,10 +175,9 @@ TEST_F(ModuleTest, UnloadWithoutADashboardTakesItsStepsInOrder) {
         takeSteps(),
         (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
                "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
-               "vxProfileManagerPtr()", "VxApProfileManager::removeReactor(object)",
-               "VxEditor::removeReactor(object)", "vxDocManagerPtr()",
+               "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
                "VxApDocManager::removeReactor(object)", "CQrUiTheme::UnregisterReactor(object)",
-               "QrUiGetThemeManager()", "CQrUiThemeManager::ReleaseTheme(object)",
+               "CQrUiThemeManager::ReleaseTheme(object)",
                "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
 }
 
@@ -193,18 +190,18 @@ TEST_F(ModuleTest, UnloadEndsPanelsAndBarFirstAndTheControlsOutsideBeforeTheMana
     Lines steps = takeSteps();
     // The end of an object asks once more for the end of its window, which has gone by then.
     std::erase(steps, "CWnd::DestroyWindow(\"\")");
-    EXPECT_EQ(steps,
-              (Lines{"CWnd::DestroyWindow(\"CQrUiPanelSet\")",
-                     "CQrUiPanelSet::Create(1342177280, object, 1)", "DestroyIcon()",
-                     "CWnd::DestroyWindow(\"CQrUiPaletteSet\")",
-                     "VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
-                     "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
-                     "CWnd::DestroyWindow(\"CQrUiToolPanel\")", "vxProfileManagerPtr()",
-                     "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
-                     "vxDocManagerPtr()", "VxApDocManager::removeReactor(object)",
-                     "CQrUiTheme::UnregisterReactor(object)", "QrUiGetThemeManager()",
-                     "CQrUiThemeManager::ReleaseTheme(object)",
-                     "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
+    EXPECT_EQ(
+        steps,
+        (Lines{"CWnd::DestroyWindow(\"CQrUiPanelSet\")",
+               "CQrUiPanelSet::Create(1342177280, object, 1)", "DestroyIcon()",
+               "CWnd::DestroyWindow(\"CQrUiPaletteSet\")",
+               "VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
+               "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
+               "CWnd::DestroyWindow(\"CQrUiToolPanel\")",
+               "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
+               "VxApDocManager::removeReactor(object)", "CQrUiTheme::UnregisterReactor(object)",
+               "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
 }
 
 TEST_F(ModuleTest, FontLivesUntilTheManagersHaveEndedAndIsGoneBeforeTheThemeIsLeft) {
@@ -244,15 +241,15 @@ TEST_F(ModuleTest, UnloadWithThePanelsDownDeletesThePaletteSetWithTheManager) {
     EXPECT_EQ(bench().windows().find(bar), nullptr);
     Lines steps = takeSteps();
     std::erase(steps, "CWnd::DestroyWindow(\"\")");
-    EXPECT_EQ(steps, (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
-                            "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
-                            "vxProfileManagerPtr()", "VxApProfileManager::removeReactor(object)",
-                            "VxEditor::removeReactor(object)", "vxDocManagerPtr()",
-                            "VxApDocManager::removeReactor(object)", "DestroyIcon()",
-                            "CWnd::DestroyWindow(\"CQrUiPaletteSet\")",
-                            "CQrUiTheme::UnregisterReactor(object)", "QrUiGetThemeManager()",
-                            "CQrUiThemeManager::ReleaseTheme(object)",
-                            "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
+    EXPECT_EQ(
+        steps,
+        (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
+               "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
+               "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
+               "VxApDocManager::removeReactor(object)", "DestroyIcon()",
+               "CWnd::DestroyWindow(\"CQrUiPaletteSet\")", "CQrUiTheme::UnregisterReactor(object)",
+               "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
 }
 
 TEST_F(ModuleTest, LoadWithoutTheResourceLibraryEndsWithTheBox) {

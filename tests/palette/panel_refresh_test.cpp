@@ -1,6 +1,5 @@
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/call_lines.h"
-#include "tests/support/window_tap.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -335,12 +334,16 @@ TEST_F(PanelRefreshTest, AToolPanelWithoutDataIsLeftOutWithoutAWord) {
 TEST_F(PanelRefreshTest, ALayoutReportsTheSizeToThePaletteLater) {
     show();
     const CRect rect = panelSet().GetWindowRect();
-    const support::WindowTap tap(bench().windows(), dashboard().palette()->m_hWnd);
+    bench().windows().setName(dashboard().palette()->m_hWnd, "Palette");
+    forget();
     panelSet().relayout();
-    EXPECT_EQ(tap.of(WM_QRUI_POSITION), support::TapMessages{});
+    const auto reports = [this] {
+        return support::messageLines(bench().journal().records(), "Palette", 1534);
+    };
+    EXPECT_EQ(reports(), Names{});
     settle();
     const UINT size = MAKELONG(static_cast<UINT>(rect.Width()), static_cast<UINT>(rect.Height()));
-    EXPECT_EQ(tap.of(WM_QRUI_POSITION), (support::TapMessages{{WM_QRUI_POSITION, size, 0}}));
+    EXPECT_EQ(reports(), Names{"1534(" + std::to_string(size) + ", 0)"});
     EXPECT_EQ(
         takeLines({"QrUiResizeControlBarVerticalSize"}),
         Names{"QrUiResizeControlBarVerticalSize(" + std::to_string(rect.Height() + 13) + ")"});

@@ -57,4 +57,17 @@ std::vector<std::string> callLines(const std::vector<workbench::JournalRecord>& 
     return lines;
 }
 
+std::vector<std::string> messageLines(const std::vector<workbench::JournalRecord>& records,
+                                      std::string_view window, int number) {
+    std::vector<std::string> lines;
+    for (const workbench::JournalRecord& record : records) {
+        if (record.kind != "message" || record.field("control").asString() != window ||
+            record.field("number") != workbench::Value(number))
+            continue;
+        lines.push_back(std::to_string(number) + '(' + shown(record.field("wparam")) + ", " +
+                        shown(record.field("lparam")) + ')');
+    }
+    return lines;
+}
+
 }  // namespace support

@@ -19,4 +19,9 @@ std::vector<std::string> callLines(const std::vector<workbench::JournalRecord>& 
 std::vector<std::string> callLines(const std::vector<workbench::JournalRecord>& records,
                                    const std::vector<std::string_view>& wanted);
 
+/// The messages of a number that a named window got, in order, as `number(wParam, lParam)`; the
+/// values are shown as those of calls are.
+std::vector<std::string> messageLines(const std::vector<workbench::JournalRecord>& records,
+                                      std::string_view window, int number);
+
 }  // namespace support

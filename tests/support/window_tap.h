@@ -8,8 +8,9 @@
 
 namespace support {
 
-/// Stands between a window and its object: notes each message and hands it on. Ends before the
-/// object.
+/// Stands between a window and its object: notes each message with its parameters and hands it on.
+/// Ends before the object. Only for windows whose object nobody asks for meanwhile, such as controls
+/// during a broadcast.
 class WindowTap final : public CWnd {
 public:
     struct Message {
