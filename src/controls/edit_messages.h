@@ -35,3 +35,13 @@ struct ControlNotice {
         return {LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam)};
     }
 };
+
+/// A key that ended an entry, as `WM_DA_EDIT_ENTER` and `WM_DA_EDIT_ESCAPE` bring it.
+struct EditKey {
+    UINT editId;
+    HWND edit;
+
+    static EditKey from(WPARAM wParam, LPARAM lParam) {
+        return {LOWORD(wParam), reinterpret_cast<HWND>(lParam)};
+    }
+};

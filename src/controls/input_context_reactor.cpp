@@ -12,7 +12,8 @@ namespace VxDaCmdUtil {
 class InputContextReactor::Pass {
 public:
     explicit Pass(InputContextReactor& reactor)
-        : m_reactor(reactor), m_count(reactor.m_callbacks.size()) {
+        : m_reactor(reactor),
+          m_count(reactor.m_callbacks.size()) {
         m_reactor.m_draining = true;
     }
     Pass(const Pass&) = delete;
@@ -28,8 +29,7 @@ public:
         // An action may have had the queue dropped.
         while (m_done < m_count && m_done < m_reactor.m_callbacks.size()) {
             // Taken out first: an action may queue another, which moves the rest.
-            const std::unique_ptr<Callback> callback =
-                std::move(m_reactor.m_callbacks[m_done++]);
+            const std::unique_ptr<Callback> callback = std::move(m_reactor.m_callbacks[m_done++]);
             callback->run();
         }
         // Kept as it is: what was queued during the pass goes with the rest, because one gesture is

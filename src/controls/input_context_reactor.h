@@ -26,7 +26,7 @@ private:
     class Pass;
 
     std::vector<std::unique_ptr<Callback>> m_callbacks;  // in the order of queueing
-    bool m_draining = false;  // a pass is under way
+    bool m_draining = false;                             // a pass is under way
 };
 
 }  // namespace VxDaCmdUtil

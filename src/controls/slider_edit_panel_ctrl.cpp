@@ -3,6 +3,8 @@
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
 
+#include "core/message_table.h"
+
 #include <hostapi/qrui18/tool_panel_item.h>
 
 namespace {
@@ -45,8 +47,56 @@ RowSum placeEarlierItems(const CQrUiToolPanel& panel, int separatorX) {
 
 }  // namespace
 
+constexpr MessageEntry CVxDaSliderEditPanelCtrl::kMessages[] = {
+    {WM_DA_EDIT_ENTER, to<&CVxDaSliderEditPanelCtrl::onEditEnter>},
+    {WM_DA_EDIT_ESCAPE, to<&CVxDaSliderEditPanelCtrl::onEditEscape>},
+};
+const MessageMap CVxDaSliderEditPanelCtrl::kMessageMap =
+    makeMessageMap(&CVxDaSliderPanelCtrl::GetThisMessageMap, kMessages);
+
 CVxDaSliderEditPanelCtrl::CVxDaSliderEditPanelCtrl(CVxDaControlMgr* controlMgr)
     : m_pControlMgr(controlMgr) {}
+
+const MessageMap& CVxDaSliderEditPanelCtrl::GetThisMessageMap() {
+    return kMessageMap;
+}
+
+const MessageMap& CVxDaSliderEditPanelCtrl::GetMessageMap() const {
+    return kMessageMap;
+}
+
+CQrUiInputEditCtrl* CVxDaSliderEditPanelCtrl::findField(UINT editId) {
+    return editId == kFirstEditId ? &m_edit : nullptr;
+}
+
+void CVxDaSliderEditPanelCtrl::fieldEntered(CQrUiInputEditCtrl& /*field*/) {}
+
+void CVxDaSliderEditPanelCtrl::fieldLeft(CQrUiInputEditCtrl& field) {
+    commitEdit(field);
+}
+
+BOOL CVxDaSliderEditPanelCtrl::OnCommand(WPARAM wParam, LPARAM lParam) {
+    const ControlNotice notice = ControlNotice::from(wParam, lParam);
+    if (CQrUiInputEditCtrl* field = findField(notice.controlId)) {
+        if (notice.code == EN_SETFOCUS)
+            fieldEntered(*field);
+        else if (notice.code == EN_KILLFOCUS)
+            fieldLeft(*field);
+    }
+    return CVxDaSliderPanelCtrl::OnCommand(wParam, lParam);
+}
+
+LRESULT CVxDaSliderEditPanelCtrl::onEditEnter(WPARAM editId, LPARAM edit) {
+    if (CQrUiInputEditCtrl* field = findField(EditKey::from(editId, edit).editId))
+        commitEdit(*field);
+    return 0;
+}
+
+LRESULT CVxDaSliderEditPanelCtrl::onEditEscape(WPARAM editId, LPARAM edit) {
+    if (CQrUiInputEditCtrl* field = findField(EditKey::from(editId, edit).editId))
+        restoreEdit(*field);
+    return 0;
+}
 
 BOOL CVxDaSliderEditPanelCtrl::PreTranslateMessage(MSG* msg) {
     const ModuleCall call;

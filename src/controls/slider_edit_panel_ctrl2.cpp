@@ -30,3 +30,7 @@ BOOL CVxDaSliderEditPanelCtrl2::CreateEditPart() {
     addControlItem(this, m_edit2.m_hWnd);
     return 1;
 }
+
+CQrUiInputEditCtrl* CVxDaSliderEditPanelCtrl2::findField(UINT editId) {
+    return editId == kSecondEditId ? &m_edit2 : CVxDaSliderEditPanelCtrl::findField(editId);
+}

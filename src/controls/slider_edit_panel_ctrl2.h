@@ -15,5 +15,8 @@ public:
     BOOL CreateEditPart() override;
 
 protected:
+    // CVxDaSliderEditPanelCtrl:
+    CQrUiInputEditCtrl* findField(UINT editId) override;
+
     ModuleWindow<CQrUiInputEditCtrl> m_edit2;
 };

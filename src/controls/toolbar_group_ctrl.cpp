@@ -4,6 +4,8 @@
 #include "controls/row_items.h"
 #include "controls/toolbar_controls.h"
 
+#include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/text.h"
 
@@ -11,7 +13,6 @@
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/qrui18/toolbar_control.h>
 
-#include <iterator>
 #include <memory>
 
 namespace {
@@ -38,16 +39,15 @@ constexpr MessageEntry CVxDaToolbarGroupCtrl::kMessages[] = {
     {WM_QRUI_HAS_ICON, to<&CVxDaToolbarGroupCtrl::onHasIcon>},
     {WM_QRUI_LIST_DROPPED, to<&CVxDaToolbarGroupCtrl::onKeepFocus>},
 };
-const MessageMap CVxDaToolbarGroupCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                    kMessages, std::size(kMessages)};
+const MessageMap CVxDaToolbarGroupCtrl::kMessageMap =
+    makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaToolbarGroupCtrl::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 
 LRESULT CVxDaToolbarGroupCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
+    const CREATESTRUCT* creation = creationFrom(create);
     if (OnCreate(creation) == -1)
         return -1;
     if (m_name.empty())

@@ -1,32 +1,31 @@
 #include "layer/locked_layer_fade_slider.h"
 
-#include "controls/edit_messages.h"
 #include "controls/row_items.h"
 #include "controls/variable_access.h"
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/text.h"
 
 #include <hostapi/qrui18/balloon.h>
-#include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdb18/host_services.h>
 #include <hostapi/zorq/variables.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <iterator>
 #include <limits>
 #include <optional>
-#include <string_view>
 
 namespace {
 
 constexpr const wchar_t* kVariable = L"LAYLOCKFADECTL";
-constexpr const wchar_t* kButtonId = L"TPB_LAYER_SLIDERCONTROL1";
 constexpr const wchar_t* kImageOn = L"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON";
 constexpr const wchar_t* kImageOff = L"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF";
+constexpr SliderRowSetup kRow{
+    .sliderId = 10001, .itemId = L"TPB_LAYER_SLIDERCONTROL1", .imageKey = kImageOn};
 
 constexpr UINT kStrButtonTip = 3995;
 constexpr UINT kStrSliderTip = 3996;
@@ -35,8 +34,6 @@ constexpr UINT kStrBadValue = 3998;  // two inserts: lowest and highest value
 constexpr const wchar_t* kLowestText = L"0%";
 constexpr const wchar_t* kHighestText = L"90%";
 
-constexpr UINT kSliderId = 10001;
-constexpr UINT kSliderStyle = 2;
 constexpr int kLowestFade = 0;
 constexpr int kHighestFade = 90;
 constexpr int kLineSize = 1;
@@ -66,37 +63,27 @@ std::optional<int> convertToWhole(const VxString& text) {
 constexpr MessageEntry CVxDaLockedLayerTransparencySliderCtrl::kMessages[] = {
     {WM_CREATE, to<&CVxDaLockedLayerTransparencySliderCtrl::onCreate>},
     {WM_TIMER, to<&CVxDaLockedLayerTransparencySliderCtrl::onTimer>},
-    {WM_QRUI_POSITION, to<&CVxDaLockedLayerTransparencySliderCtrl::onSliderMoved>},
     {WM_DA_SYSVAR_CHANGED, to<&CVxDaLockedLayerTransparencySliderCtrl::onSysVarChanged>},
     {WM_DA_COMMAND_STARTED, to<&CVxDaLockedLayerTransparencySliderCtrl::onCommandStarted>},
     {WM_DA_COMMAND_ENDED, to<&CVxDaLockedLayerTransparencySliderCtrl::onCommandOver>},
     {WM_DA_COMMAND_CANCELLED, to<&CVxDaLockedLayerTransparencySliderCtrl::onCommandOver>},
-    {WM_DA_EDIT_ENTER, to<&CVxDaLockedLayerTransparencySliderCtrl::onEditEnter>},
-    {WM_DA_EDIT_ESCAPE, to<&CVxDaLockedLayerTransparencySliderCtrl::onEditEscape>},
 };
-const MessageMap CVxDaLockedLayerTransparencySliderCtrl::kMessageMap{
-    &CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages, std::size(kMessages)};
+const MessageMap CVxDaLockedLayerTransparencySliderCtrl::kMessageMap =
+    makeMessageMap(&CVxDaSliderEditPanelCtrl::GetThisMessageMap, kMessages);
 
 CVxDaLockedLayerTransparencySliderCtrl::CVxDaLockedLayerTransparencySliderCtrl(
     CVxDaControlMgr* controlMgr)
-    : CVxDaSliderEditPanelCtrl(controlMgr) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+    : CVxDaSliderEditPanelCtrl(controlMgr),
+      m_settling(*this, kSettleTimer, kSettleMs) {}
 
 const MessageMap& CVxDaLockedLayerTransparencySliderCtrl::GetMessageMap() const {
     return kMessageMap;
 }
 
 LRESULT CVxDaLockedLayerTransparencySliderCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
-    if (OnCreate(creation) == -1)
+    CQrUiToolPanelItem* button = createRow(creationFrom(create), kRow);
+    if (button == nullptr)
         return -1;
-    const CRect rect{0, 0, creation->cx, creation->cy};
-    if (!m_slider.Create(WS_CHILD | WS_VISIBLE, rect, this, kSliderId, kSliderStyle))
-        return -1;
-    CQrUiToolPanelItem* button = addIconItem(this, kButtonId, kImageOn);
-    addControlItem(this, m_slider.m_hWnd);
-    CreateEditPart();
     m_fade = readVariableStrict(kVariable);
     setUpSlider();
     showFade();
@@ -119,36 +106,23 @@ void CVxDaLockedLayerTransparencySliderCtrl::OnLButtonClicked(UINT /*flags*/, CP
     writeVariableShort(kVariable, m_fade == 0 ? kFadeFromZero : -m_fade);
 }
 
-LRESULT CVxDaLockedLayerTransparencySliderCtrl::onSliderMoved(WPARAM position, LPARAM slider) {
-    const SliderMove move = SliderMove::from(position, slider);
-    if (move.slider != m_slider.m_hWnd)
-        return 0;
-    m_fade = move.position;
+void CVxDaLockedLayerTransparencySliderCtrl::sliderMoved(int position) {
+    m_fade = position;
     showFade();
-    m_movedSinceTick = true;
-    if (!m_timerRuns) {
-        SetTimer(kSettleTimer, kSettleMs);
-        m_timerRuns = true;
-    }
-    return 0;
+    m_settling.move();
 }
 
 LRESULT CVxDaLockedLayerTransparencySliderCtrl::onTimer(WPARAM timer, LPARAM /*unused*/) {
-    if (timer != kSettleTimer)
+    if (!m_settling.isOwn(timer))
         return Default();
-    // A long drag writes once: the timer only asks whether the thumb rested for a whole period.
-    if (m_movedSinceTick) {
-        m_movedSinceTick = false;
-        return 0;
-    }
-    m_timerRuns = false;
-    KillTimer(kSettleTimer);
-    writeVariableShort(kVariable, m_fade);
+    // A long drag writes once: when it has come to rest.
+    if (m_settling.takeTick())
+        writeVariableShort(kVariable, m_fade);
     return 0;
 }
 
 LRESULT CVxDaLockedLayerTransparencySliderCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    if (reinterpret_cast<const wchar_t*>(name) != std::wstring_view(kVariable))
+    if (eventNameFrom(name) != kVariable)
         return 0;
     const int fade = readVariableStrict(kVariable);
     if (fade == m_fade)
@@ -174,25 +148,14 @@ LRESULT CVxDaLockedLayerTransparencySliderCtrl::onCommandOver(WPARAM /*unused*/,
 
 BOOL CVxDaLockedLayerTransparencySliderCtrl::OnCommand(WPARAM wParam, LPARAM lParam) {
     QrUiHideBalloonTip(this);
-    const ControlNotice notice = ControlNotice::from(wParam, lParam);
-    if (notice.controlId == kFirstEditId && notice.code == EN_KILLFOCUS)
-        commitEdit();
     return CVxDaSliderEditPanelCtrl::OnCommand(wParam, lParam);
 }
 
-LRESULT CVxDaLockedLayerTransparencySliderCtrl::onEditEnter(WPARAM editId, LPARAM /*edit*/) {
-    if (LOWORD(editId) == kFirstEditId)
-        commitEdit();
-    return 0;
+void CVxDaLockedLayerTransparencySliderCtrl::restoreEdit(CQrUiInputEditCtrl& /*field*/) {
+    showFade();
 }
 
-LRESULT CVxDaLockedLayerTransparencySliderCtrl::onEditEscape(WPARAM editId, LPARAM /*edit*/) {
-    if (LOWORD(editId) == kFirstEditId)
-        showFade();
-    return 0;
-}
-
-void CVxDaLockedLayerTransparencySliderCtrl::commitEdit() {
+void CVxDaLockedLayerTransparencySliderCtrl::commitEdit(CQrUiInputEditCtrl& /*field*/) {
     m_fade = parseFade();
     showFade();
     showThumb();
@@ -235,7 +198,7 @@ void CVxDaLockedLayerTransparencySliderCtrl::showThumb() {
 void CVxDaLockedLayerTransparencySliderCtrl::updateButton() {
     m_slider.EnableWindow(isFadingOn());
     m_edit.EnableWindow(isFadingOn());
-    CQrUiToolPanelItem* button = GetToolPanelItem(VxString(kButtonId));
+    CQrUiToolPanelItem* button = GetToolPanelItem(VxString(kRow.itemId));
     if (button == nullptr)
         return;
     setItemImages(*button, isFadingOn() ? kImageOn : kImageOff);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/settle_timer.h"
 #include "controls/slider_edit_panel_ctrl.h"
 
 /// Button, slider and edit field for LAYLOCKFADECTL, the fading of locked layers in percent; the
@@ -16,20 +17,22 @@ public:
     void OnLButtonClicked(UINT flags, CPoint point) override;
 
 private:
+    // CVxDaSliderPanelCtrl:
+    void sliderMoved(int position) override;
+    // CVxDaSliderEditPanelCtrl:
+    void commitEdit(CQrUiInputEditCtrl& field) override;
+    void restoreEdit(CQrUiInputEditCtrl& field) override;
+
     static const MessageEntry kMessages[];
     static const MessageMap kMessageMap;
 
     LRESULT onCreate(WPARAM unused, LPARAM create);
     LRESULT onTimer(WPARAM timer, LPARAM unused);
-    LRESULT onSliderMoved(WPARAM position, LPARAM slider);
     LRESULT onSysVarChanged(WPARAM success, LPARAM name);
     LRESULT onCommandStarted(WPARAM unused, LPARAM name);
     LRESULT onCommandOver(WPARAM unused, LPARAM name);
-    LRESULT onEditEnter(WPARAM editId, LPARAM edit);
-    LRESULT onEditEscape(WPARAM editId, LPARAM edit);
 
     void setUpSlider();
-    void commitEdit();
     int parseFade();
     int refuseEntry();
     void showFade();
@@ -37,7 +40,6 @@ private:
     void updateButton();
     bool isFadingOn() const { return m_fade >= 0; }
 
-    int m_fade = 50;                // percent; negative while fading is off, the size is kept
-    bool m_movedSinceTick = false;  // the slider moved since the timer last fired
-    bool m_timerRuns = false;
+    int m_fade = 50;  // percent; negative while fading is off, the size is kept
+    SettleTimer m_settling;
 };

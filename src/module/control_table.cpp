@@ -52,7 +52,8 @@ constexpr ControlTableRow kOwnControls[] = {
 };
 
 template <std::size_t Own, std::size_t Wrapped>
-constexpr auto allRows(const ControlTableRow (&own)[Own], const ToolbarControlRow (&wrapped)[Wrapped]) {
+constexpr auto allRows(const ControlTableRow (&own)[Own],
+                       const ToolbarControlRow (&wrapped)[Wrapped]) {
     std::array<ControlTableRow, Own + Wrapped> rows{};
     std::copy(std::begin(own), std::end(own), rows.begin());
     std::transform(std::begin(wrapped), std::end(wrapped), rows.begin() + Own,

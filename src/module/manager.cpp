@@ -68,6 +68,8 @@ VxDaManager::~VxDaManager() {
 }
 
 void VxDaManager::leaveService() {
+    if (!m_inService)
+        return;
     m_inService = false;
     removeFrom(vxProfileManagerPtr(), m_pProfileReactor);
     removeFrom(hostEditor(), m_pEditorReactor);

@@ -1,17 +1,19 @@
 #include "nav3d/camera_point.h"
 
 #include "controls/current_view.h"
-#include "nav3d/move_view_point.h"
-#include "nav3d/navigation_module.h"
 #include "controls/value_text.h"
 #include "controls/view_state.h"
+#include "nav3d/move_view_point.h"
+#include "nav3d/navigation_module.h"
 #include "nav3d/white_background.h"
 
 #include "controls/edit_messages.h"
-#include "controls/edit_text.h"
 #include "controls/row_items.h"
 
 #include "core/broadcast_messages.h"
+#include "core/event_names.h"
+#include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
@@ -74,8 +76,9 @@ const FieldRow* findRow(UINT id) {
     return found == std::end(kFields) ? nullptr : found;
 }
 
-/// What makes the controls read the view again. Names are exact.
+/// What makes the controls read the view again.
 constexpr std::wstring_view kRefreshingVariables[] = {L"CVPORT", L"TILEMODE", L"LUPREC", L"LUNITS"};
+constexpr EventNames kRefreshing{kRefreshingVariables};
 
 }  // namespace
 
@@ -90,13 +93,11 @@ constexpr MessageEntry CVxDa3DNavCameraPointCtrl::kMessages[] = {
     {WM_DA_VIEW_CHANGED, to<&CVxDa3DNavCameraPointCtrl::onViewChanged>},
     {WM_DA_EDIT_ESCAPE, to<&CVxDa3DNavCameraPointCtrl::onEditEscape>},
 };
-const MessageMap CVxDa3DNavCameraPointCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                        kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavCameraPointCtrl::kMessageMap =
+    makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
 CVxDa3DNavCameraPointCtrl::CVxDa3DNavCameraPointCtrl(const CameraPointSetting& setting)
-    : m_setting(setting) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+    : m_setting(setting) {}
 
 CVxDa3DNavCameraEyePointCtrl::CVxDa3DNavCameraEyePointCtrl(CVxDaControlMgr* /*controlMgr*/)
     : CVxDa3DNavCameraPointCtrl(kEye) {}
@@ -109,8 +110,7 @@ const MessageMap& CVxDa3DNavCameraPointCtrl::GetMessageMap() const {
 }
 
 LRESULT CVxDa3DNavCameraPointCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
-    if (OnCreate(creation) == -1)
+    if (OnCreate(creationFrom(create)) == -1)
         return -1;
     if (!m_fields.Create(kContainerStyle, GetClientRect(), this, m_setting.containerId))
         return -1;
@@ -145,6 +145,11 @@ CWnd* CVxDa3DNavCameraPointCtrl::findField(UINT id) const {
     return nullptr;
 }
 
+/// The field for a coordinate; null for another's ID.
+CWnd* CVxDa3DNavCameraPointCtrl::findCoordinateField(UINT id) const {
+    return findRow(id) == nullptr ? nullptr : findField(id);
+}
+
 BOOL CVxDa3DNavCameraPointCtrl::PreTranslateMessage(MSG* msg) {
     const ModuleCall call;
     if (m_toolTip.m_hWnd != nullptr)
@@ -158,7 +163,7 @@ void CVxDa3DNavCameraPointCtrl::OnLButtonClicked(UINT /*flags*/, CPoint /*point*
 }
 
 LRESULT CVxDa3DNavCameraPointCtrl::onEraseBackground(WPARAM context, LPARAM /*unused*/) {
-    fillWhite(reinterpret_cast<HDC>(context));
+    fillWhite(drawingContextFrom(context));
     return 1;
 }
 
@@ -168,11 +173,7 @@ LRESULT CVxDa3DNavCameraPointCtrl::onDocument(WPARAM /*unused*/, LPARAM /*docume
 }
 
 LRESULT CVxDa3DNavCameraPointCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    if (m_applying)
-        return 0;
-    const std::wstring_view variable = reinterpret_cast<const wchar_t*>(name);
-    if (std::find(std::begin(kRefreshingVariables), std::end(kRefreshingVariables), variable) !=
-        std::end(kRefreshingVariables))
+    if (!m_applying && kRefreshing.contains(eventNameFrom(name)))
         RefreshFromView();
     return 0;
 }
@@ -200,12 +201,12 @@ void CVxDa3DNavCameraPointCtrl::RefreshFromView() {
 
 LRESULT CVxDa3DNavCameraPointCtrl::onFieldEntered(WPARAM command, LPARAM edit) {
     const ControlNotice notice = ControlNotice::from(command, edit);
-    const CWnd* field = findRow(notice.controlId) ? findField(notice.controlId) : nullptr;
+    const CWnd* field = findCoordinateField(notice.controlId);
     if (field == nullptr || notice.code != EN_SETFOCUS)
         return 0;
     const VxString text = field->GetWindowText();
     if (parseLinear(text))
-        m_savedText = text;
+        m_accepted.accept(text);
     return 0;
 }
 
@@ -216,54 +217,52 @@ LRESULT CVxDa3DNavCameraPointCtrl::onFieldLeft(WPARAM command, LPARAM edit) {
     return 0;
 }
 
-LRESULT CVxDa3DNavCameraPointCtrl::onEditEnter(WPARAM editId, LPARAM /*edit*/) {
-    CommitField(LOWORD(editId));
+LRESULT CVxDa3DNavCameraPointCtrl::onEditEnter(WPARAM editId, LPARAM edit) {
+    CommitField(EditKey::from(editId, edit).editId);
     return 0;
 }
 
-LRESULT CVxDa3DNavCameraPointCtrl::onEditEscape(WPARAM editId, LPARAM /*edit*/) {
-    const UINT id = LOWORD(editId);
-    CWnd* field = findRow(id) ? findField(id) : nullptr;
-    if (field != nullptr)
-        field->SetWindowText(m_savedText);
+LRESULT CVxDa3DNavCameraPointCtrl::onEditEscape(WPARAM editId, LPARAM edit) {
+    if (CWnd* field = findCoordinateField(EditKey::from(editId, edit).editId))
+        m_accepted.restore(*field);
     return 0;
 }
 
 void CVxDa3DNavCameraPointCtrl::CommitField(UINT id) {
-    CWnd* field = findRow(id) ? findField(id) : nullptr;
+    CWnd* field = findCoordinateField(id);
     if (field == nullptr)
         return;
     const VxString typed = field->GetWindowText();
-    if (typed == m_savedText)
+    if (m_accepted.is(typed))
         return;
     const VxString text = trimmed(typed);
     if (text.empty())
-        field->SetWindowText(m_savedText);
+        m_accepted.restore(*field);
     else if (IsPaperSpaceViewport())
-        refuse(*field, kStrPaperSpace);
+        forbid(*field, kStrPaperSpace);
     else if (IsViewportLocked())
-        refuse(*field, kStrViewportLocked);
-    else if (text != m_savedText)
+        forbid(*field, kStrViewportLocked);
+    else if (!m_accepted.is(text))
         applyText(*field, id, text);
 }
 
-void CVxDa3DNavCameraPointCtrl::refuse(CWnd& field, UINT strReason) {
+void CVxDa3DNavCameraPointCtrl::forbid(CWnd& field, UINT strReason) {
     QrUiShowBalloonTip(this, &field, loadDashboardString(strReason), 0);
-    field.SetWindowText(m_savedText);
+    m_accepted.restore(field);
 }
 
 void CVxDa3DNavCameraPointCtrl::applyText(CWnd& field, UINT id, const VxString& text) {
     const std::optional<double> value = parseLinear(text);
     QrUiHideBalloonTip(this);
     if (!value) {
-        giveBackToCorrect(field, m_savedText);
+        m_accepted.giveBack(field);
         QrUiShowBalloonTip(this, &field, loadDashboardString(kStrNoCoordinate), 0);
         return;
     }
     m_point.*findRow(id)->coordinate = *value;
     ApplyPoint();
     // The field keeps what was typed until the next refresh.
-    m_savedText = FormatLinear(*value);
+    m_accepted.accept(FormatLinear(*value));
 }
 
 void CVxDa3DNavCameraPointCtrl::ApplyPoint() {

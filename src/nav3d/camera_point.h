@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/accepted_text.h"
 #include "controls/ctrl_container.h"
 #include "controls/panel_group_ctrl.h"
 
@@ -37,18 +38,19 @@ private:
     LRESULT onEditEscape(WPARAM editId, LPARAM edit);
 
     CWnd* findField(UINT id) const;
+    CWnd* findCoordinateField(UINT id) const;
     void dressFields();
     void RefreshFromView();
     void CommitField(UINT id);
     void applyText(CWnd& field, UINT id, const VxString& text);
-    void refuse(CWnd& field, UINT strReason);
+    void forbid(CWnd& field, UINT strReason);
     void ApplyPoint();
 
     const CameraPointSetting& m_setting;
     CVxDaCtrlContainer m_fields;
     bool m_applying = false;  // the view's change is this control's own
-    VxString m_savedText;     // last accepted text of the field with the focus
-    VxGePoint3d m_point;      // last read or entered
+    AcceptedText m_accepted;
+    VxGePoint3d m_point;  // last read or entered
     CQrToolTipCtrl m_toolTip;
 };
 

@@ -1,9 +1,9 @@
 #include "nav3d/lens_view.h"
 
 #include "controls/current_view.h"
+#include "controls/view_state.h"
 #include "nav3d/lens_mapping.h"
 #include "nav3d/navigation_module.h"
-#include "controls/view_state.h"
 
 #include <hostapi/zorq/views.h>
 

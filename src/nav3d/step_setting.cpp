@@ -1,7 +1,7 @@
 #include "nav3d/step_setting.h"
 
-#include "nav3d/step_mapping.h"
 #include "controls/value_text.h"
+#include "nav3d/step_mapping.h"
 
 #include "core/resources.h"
 #include "core/text.h"
@@ -31,24 +31,19 @@ VxString stepsPerSecRangeText() {
     return loadDashboardString(kStrStepsPerSecRange);
 }
 
-bool refreshesStepSize(const wchar_t* variable) {
-    const std::wstring_view name = variable;
-    return name == kStepSizeVariable || name == L"LUPREC" || name == L"LUNITS";
-}
-
-bool refreshesStepsPerSec(const wchar_t* variable) {
-    // Kept as it is: one name is exact and the other isn't, as hosts have come to send them.
-    return variable == std::wstring_view(kStepsPerSecVariable) || equalNoCase(variable, L"LUPREC");
-}
+constexpr std::wstring_view kStepSizeRefreshing[] = {kStepSizeVariable, L"LUPREC", L"LUNITS"};
+// Kept as it is: one name is exact and the other isn't, as hosts have come to send them.
+constexpr std::wstring_view kStepsPerSecRefreshing[] = {kStepsPerSecVariable};
+constexpr std::wstring_view kStepsPerSecRefreshingAnyCase[] = {L"LUPREC"};
 
 }  // namespace
 
 const StepSetting kStepSize{
-    .sliderId = 5005,
+    .row = {.sliderId = 5005,
+            .itemId = L"TPB_3DNAV_SLIDERCONTROL2",
+            .imageKey = L"RCDATA_3DNAV_SLIDERCONTROL2"},
     .lowest = 1,
     .highest = 1000,
-    .imageKey = L"RCDATA_3DNAV_SLIDERCONTROL2",
-    .itemId = L"TPB_3DNAV_SLIDERCONTROL2",
     .strLabel = 1227,
     .variable = kStepSizeVariable,
     .valueWithoutDatabase = 6.0,
@@ -60,15 +55,16 @@ const StepSetting kStepSize{
     .format = FormatLinear,
     .parse = parseLinear,
     .outOfRangeText = stepSizeRangeText,
-    .isRefreshedBy = refreshesStepSize,
+    .refreshing = {kStepSizeRefreshing},
+    .refreshingAnyCase = {},
 };
 
 const StepSetting kStepsPerSec{
-    .sliderId = 5006,
+    .row = {.sliderId = 5006,
+            .itemId = L"TPB_3DNAV_SLIDERCONTROL3",
+            .imageKey = L"RCDATA_3DNAV_SLIDERCONTROL3"},
     .lowest = 10,
     .highest = 300,
-    .imageKey = L"RCDATA_3DNAV_SLIDERCONTROL3",
-    .itemId = L"TPB_3DNAV_SLIDERCONTROL3",
     .strLabel = 1228,
     .variable = kStepsPerSecVariable,
     .valueWithoutDatabase = 1.0,
@@ -80,5 +76,6 @@ const StepSetting kStepsPerSec{
     .format = FormatDecimal,
     .parse = parseDecimalAsShown,
     .outOfRangeText = stepsPerSecRangeText,
-    .isRefreshedBy = refreshesStepsPerSec,
+    .refreshing = {kStepsPerSecRefreshing},
+    .refreshingAnyCase = {kStepsPerSecRefreshingAnyCase, NameMatch::AnyCase},
 };

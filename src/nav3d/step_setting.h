@@ -1,6 +1,8 @@
 #pragma once
 
-#include <hostapi/types.h>
+#include "controls/slider_panel_ctrl.h"
+
+#include "core/event_names.h"
 
 #include <optional>
 
@@ -8,11 +10,9 @@ class VxDbDatabase;
 
 /// What the two sliders for steps differ in.
 struct StepSetting {
-    UINT sliderId;
-    int lowest;   ///< Slider position.
-    int highest;  ///< Slider position.
-    const wchar_t* imageKey;
-    const wchar_t* itemId;
+    SliderRowSetup row;
+    int lowest;     ///< Slider position.
+    int highest;    ///< Slider position.
     UINT strLabel;  ///< Tip of the field, name of the item and label of the value.
     const wchar_t* variable;
     double valueWithoutDatabase;
@@ -24,7 +24,8 @@ struct StepSetting {
     VxString (*format)(double value);
     std::optional<double> (*parse)(const VxString& text);
     VxString (*outOfRangeText)();
-    bool (*isRefreshedBy)(const wchar_t* variable);
+    EventNames refreshing;         ///< Variables that change what is shown.
+    EventNames refreshingAnyCase;  ///< More of them.
 };
 
 extern const StepSetting kStepSize;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/accepted_text.h"
 #include "controls/slider_edit_panel_ctrl.h"
 
 struct StepSetting;
@@ -19,26 +20,27 @@ protected:
     CVxDa3DNavStepSliderCtrl(CVxDaControlMgr* controlMgr, const StepSetting& setting);
 
 private:
+    // CVxDaSliderPanelCtrl:
+    void sliderMoved(int position) override;
+    // CVxDaSliderEditPanelCtrl:
+    void fieldEntered(CQrUiInputEditCtrl& field) override;
+    void commitEdit(CQrUiInputEditCtrl& field) override;
+    void restoreEdit(CQrUiInputEditCtrl& field) override;
+
     static const MessageEntry kMessages[];
     static const MessageMap kMessageMap;
 
     LRESULT onCreate(WPARAM unused, LPARAM create);
-    LRESULT onSliderMoved(WPARAM position, LPARAM slider);
     LRESULT onDocument(WPARAM unused, LPARAM document);
     LRESULT onSysVarChanged(WPARAM success, LPARAM name);
-    LRESULT onEditEnter(WPARAM editId, LPARAM edit);
-    LRESULT onEditEscape(WPARAM editId, LPARAM edit);
 
     void RefreshFromDatabase(const VxDbDatabase* database);
     void WriteVariable(double value);
-    void CommitEdit();
-    void keepText();
-    void refuseEntry();
     VxString labelled(const VxString& valueText) const;
 
     const StepSetting& m_setting;
     bool m_settingVar = false;  // the variable's change is this control's own
-    VxString m_savedText;       // last accepted text of the field
+    AcceptedText m_accepted;
 };
 
 /// Length of a step, STEPSIZE.

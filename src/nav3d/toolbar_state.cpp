@@ -1,7 +1,7 @@
 #include "nav3d/toolbar_state.h"
 
-#include "nav3d/navigation_module.h"
 #include "controls/view_state.h"
+#include "nav3d/navigation_module.h"
 
 #include "core/host_objects.h"
 #include "core/resources.h"

@@ -9,7 +9,10 @@
 #include "controls/row_items.h"
 
 #include "core/broadcast_messages.h"
+#include "core/event_names.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/theme.h"
@@ -20,8 +23,6 @@
 #include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/views.h>
 
-#include <algorithm>
-#include <iterator>
 #include <string_view>
 
 namespace {
@@ -34,15 +35,10 @@ constexpr const wchar_t* kImage = L"RCDATA_3DNAV_COMBO";
 constexpr UINT kStrItemName = 1238;
 constexpr UINT kStrListTip = 1280;
 
-/// Names are exact.
-constexpr std::wstring_view kRebuildingVariables[] = {L"CVPORT", L"TILEMODE", L"DASHBOARDSTATE"};
-constexpr std::wstring_view kViewCommands[] = {L"VIEW", L"NEWVIEW", L"-VIEW"};
-
-template <std::size_t Count>
-bool isOneOf(const std::wstring_view (&names)[Count], LPARAM name) {
-    const std::wstring_view wanted = reinterpret_cast<const wchar_t*>(name);
-    return std::find(std::begin(names), std::end(names), wanted) != std::end(names);
-}
+constexpr std::wstring_view kVariableNames[] = {L"CVPORT", L"TILEMODE", L"DASHBOARDSTATE"};
+constexpr EventNames kRebuildingVariables{kVariableNames};
+constexpr std::wstring_view kCommandNames[] = {L"VIEW", L"NEWVIEW", L"-VIEW"};
+constexpr EventNames kViewCommands{kCommandNames};
 
 /// A way of sending of its own: no activation, no echo, an inactive document wrapped up.
 void sendToCurrentDocument(const VxString& text) {
@@ -62,19 +58,17 @@ constexpr MessageEntry CVxDa3DNavViewComboCtrl::kMessages[] = {
     {WM_DA_VIEW_CHANGED, to<&CVxDa3DNavViewComboCtrl::onViewChanged>},
     {WM_QRUI_LIST_DROPPED, to<&CVxDa3DNavViewComboCtrl::onListDroppedQuery>},
 };
-const MessageMap CVxDa3DNavViewComboCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                      kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavViewComboCtrl::kMessageMap =
+    makeMessageMap(&CVxDaPanelGroupCtrl::GetThisMessageMap, kMessages);
 
-CVxDa3DNavViewComboCtrl::CVxDa3DNavViewComboCtrl(CVxDaControlMgr* /*controlMgr*/) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+CVxDa3DNavViewComboCtrl::CVxDa3DNavViewComboCtrl(CVxDaControlMgr* /*controlMgr*/) {}
 
 const MessageMap& CVxDa3DNavViewComboCtrl::GetMessageMap() const {
     return kMessageMap;
 }
 
 LRESULT CVxDa3DNavViewComboCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
+    const CREATESTRUCT* creation = creationFrom(create);
     if (OnCreate(creation) == -1)
         return -1;
     if (!createCombo(*creation))
@@ -250,7 +244,7 @@ LRESULT CVxDa3DNavViewComboCtrl::onCommandOver(WPARAM /*unused*/, LPARAM name) {
         m_refreshPending = false;
     } else if (m_viewCommandSent) {
         m_viewCommandSent = false;  // the list shows already what the user chose
-    } else if (isOneOf(kViewCommands, name)) {
+    } else if (kViewCommands.contains(eventNameFrom(name))) {
         rebuildIfVisible();
     }
     return 0;
@@ -273,13 +267,13 @@ LRESULT CVxDa3DNavViewComboCtrl::onViewChanged(WPARAM /*unused*/, LPARAM /*unuse
 }
 
 LRESULT CVxDa3DNavViewComboCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    if (isOneOf(kRebuildingVariables, name))
+    if (kRebuildingVariables.contains(eventNameFrom(name)))
         rebuildIfVisible();
     return 0;
 }
 
 LRESULT CVxDa3DNavViewComboCtrl::onDocument(WPARAM /*unused*/, LPARAM document) {
-    if (document != 0)
+    if (documentFrom(document) != nullptr)
         rebuildIfVisible();
     return 0;
 }
@@ -289,6 +283,6 @@ LRESULT CVxDa3DNavViewComboCtrl::onListDroppedQuery(WPARAM /*unused*/, LPARAM /*
 }
 
 LRESULT CVxDa3DNavViewComboCtrl::onEraseBackground(WPARAM context, LPARAM /*unused*/) {
-    fillWhite(reinterpret_cast<HDC>(context));
+    fillWhite(drawingContextFrom(context));
     return 1;
 }

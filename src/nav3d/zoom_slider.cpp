@@ -1,37 +1,32 @@
 #include "nav3d/zoom_slider.h"
 
+#include "controls/value_text.h"
+#include "controls/view_state.h"
 #include "nav3d/lens_mapping.h"
 #include "nav3d/lens_view.h"
 #include "nav3d/toolbar_state.h"
-#include "controls/value_text.h"
-#include "controls/view_state.h"
-
-#include "controls/edit_messages.h"
-#include "controls/edit_text.h"
-#include "controls/row_items.h"
 
 #include "core/broadcast_messages.h"
+#include "core/event_names.h"
 #include "core/host_objects.h"
+#include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/string_ids.h"
 #include "core/text.h"
 
 #include <hostapi/qrui18/balloon.h>
-#include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>
 
-#include <algorithm>
-#include <iterator>
 #include <string_view>
 
 namespace {
 
-constexpr UINT kSliderId = 5004;
-constexpr UINT kSliderStyle = 2;
+constexpr SliderRowSetup kRow{.sliderId = 5004,
+                              .itemId = L"TPB_3DNAV_SLIDERCONTROL1",
+                              .imageKey = L"RCDATA_3DNAV_SLIDERCONTROL1"};
 constexpr UINT kAddedSliderStyle = 4 | 16;
-constexpr const wchar_t* kItemId = L"TPB_3DNAV_SLIDERCONTROL1";
-constexpr const wchar_t* kImage = L"RCDATA_3DNAV_SLIDERCONTROL1";
 
 /// Both ends and the customary lenses: 15, 20, 24, 28, 35, 50, 85, 135 and 200 mm.
 constexpr int kTicks[] = {kLensSliderLowest, 150, 200, 240, 280, 350, 500, 850, 1350, 2000,
@@ -50,47 +45,37 @@ constexpr int kShortestLensDecimals = 3;
 constexpr int kNarrowestAngleDecimals = 3;
 constexpr int kWidestAngleDecimals = 1;
 
-/// What makes the control read the view again. Names are exact.
+/// What makes the control read the view again.
 constexpr std::wstring_view kRefreshingVariables[] = {
     L"CVPORT", L"TILEMODE", L"PERSPECTIVE", L"LUPREC",
     L"LUNITS", L"AUPREC",   L"AUNITS",      L"DASHBOARDSTATE",
 };
+constexpr EventNames kRefreshing{kRefreshingVariables};
 
 }  // namespace
 
 constexpr MessageEntry CVxDa3DNavZoomSliderCtrl::kMessages[] = {
     {WM_CREATE, to<&CVxDa3DNavZoomSliderCtrl::onCreate>},
     {WM_IDLEUPDATECMDUI, to<&CVxDa3DNavZoomSliderCtrl::onIdle>},
-    {WM_QRUI_POSITION, to<&CVxDa3DNavZoomSliderCtrl::onSliderMoved>},
     {WM_DA_DOC_BECAME_CURRENT, to<&CVxDa3DNavZoomSliderCtrl::onDocumentOrView>},
     {WM_DA_SYSVAR_CHANGED, to<&CVxDa3DNavZoomSliderCtrl::onSysVarChanged>},
     {WM_DA_COMMAND_ENDED, to<&CVxDa3DNavZoomSliderCtrl::onCommandEnded>},
-    {WM_DA_EDIT_ENTER, to<&CVxDa3DNavZoomSliderCtrl::onEditEnter>},
     {WM_DA_VIEW_CHANGED, to<&CVxDa3DNavZoomSliderCtrl::onDocumentOrView>},
-    {WM_DA_EDIT_ESCAPE, to<&CVxDa3DNavZoomSliderCtrl::onEditEscape>},
 };
-const MessageMap CVxDa3DNavZoomSliderCtrl::kMessageMap{&CVxDaPanelGroupCtrl::GetThisMessageMap,
-                                                       kMessages, std::size(kMessages)};
+const MessageMap CVxDa3DNavZoomSliderCtrl::kMessageMap =
+    makeMessageMap(&CVxDaSliderEditPanelCtrl2::GetThisMessageMap, kMessages);
 
 CVxDa3DNavZoomSliderCtrl::CVxDa3DNavZoomSliderCtrl(CVxDaControlMgr* controlMgr)
-    : CVxDaSliderEditPanelCtrl2(controlMgr) {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
-}
+    : CVxDaSliderEditPanelCtrl2(controlMgr) {}
 
 const MessageMap& CVxDa3DNavZoomSliderCtrl::GetMessageMap() const {
     return kMessageMap;
 }
 
 LRESULT CVxDa3DNavZoomSliderCtrl::onCreate(WPARAM /*unused*/, LPARAM create) {
-    const auto* creation = reinterpret_cast<const CREATESTRUCT*>(create);
-    if (OnCreate(creation) == -1)
+    CQrUiToolPanelItem* icon = createRow(creationFrom(create), kRow);
+    if (icon == nullptr)
         return -1;
-    const CRect rect{0, 0, creation->cx, creation->cy};
-    if (!m_slider.Create(WS_CHILD | WS_VISIBLE, rect, this, kSliderId, kSliderStyle))
-        return -1;
-    CQrUiToolPanelItem* icon = addIconItem(this, kItemId, kImage);
-    addControlItem(this, m_slider.m_hWnd);
-    CreateEditPart();
     setUpSlider();
     m_edit2.EnableWindow(1);
     m_edit.SetToolTipText(loadDashboardString(kStrLensTip));
@@ -105,12 +90,6 @@ void CVxDa3DNavZoomSliderCtrl::setUpSlider() {
     m_slider.SetSliderRange(kLensSliderLowest, kLensSliderHighest);
     for (const int tick : kTicks)
         m_slider.SetSliderTick(tick);
-}
-
-CQrUiInputEditCtrl* CVxDa3DNavZoomSliderCtrl::findField(UINT editId) {
-    if (editId == kFirstEditId)
-        return &m_edit;
-    return editId == kSecondEditId ? &m_edit2 : nullptr;
 }
 
 void CVxDa3DNavZoomSliderCtrl::OnLButtonClicked(UINT /*flags*/, CPoint /*point*/) {
@@ -133,9 +112,7 @@ LRESULT CVxDa3DNavZoomSliderCtrl::onDocumentOrView(WPARAM /*unused*/, LPARAM /*u
 }
 
 LRESULT CVxDa3DNavZoomSliderCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    const std::wstring_view variable = reinterpret_cast<const wchar_t*>(name);
-    if (std::find(std::begin(kRefreshingVariables), std::end(kRefreshingVariables), variable) !=
-        std::end(kRefreshingVariables))
+    if (kRefreshing.contains(eventNameFrom(name)))
         Refresh();
     return 0;
 }
@@ -186,61 +163,41 @@ void CVxDa3DNavZoomSliderCtrl::ShowLens(double lens) {
     m_edit2.SetWindowText(angleText);
 }
 
-LRESULT CVxDa3DNavZoomSliderCtrl::onSliderMoved(WPARAM position, LPARAM slider) {
-    const SliderMove move = SliderMove::from(position, slider);
-    if (move.slider != m_slider.m_hWnd)
-        return 0;
+void CVxDa3DNavZoomSliderCtrl::sliderMoved(int position) {
     // Kept as it is: a locked viewport isn't asked for here, only an entry is refused.
-    const double lens = SliderToLens(move.position);
+    const double lens = SliderToLens(position);
     ApplyLens(lens);
     ShowLens(lens);
-    return 0;
 }
 
-BOOL CVxDa3DNavZoomSliderCtrl::OnCommand(WPARAM wParam, LPARAM lParam) {
-    const ControlNotice notice = ControlNotice::from(wParam, lParam);
-    if (CQrUiInputEditCtrl* field = findField(notice.controlId)) {
-        if (notice.code == EN_SETFOCUS) {
-            m_idleRefresh = false;
-            keepText(*field);
-        } else if (notice.code == EN_KILLFOCUS) {
-            // Before the entry: one that is refused gives the field its focus back.
-            m_idleRefresh = true;
-            CommitEdit(*field);
-        }
-    }
-    return CVxDaSliderEditPanelCtrl2::OnCommand(wParam, lParam);
-}
-
-void CVxDa3DNavZoomSliderCtrl::keepText(const CQrUiInputEditCtrl& field) {
+void CVxDa3DNavZoomSliderCtrl::fieldEntered(CQrUiInputEditCtrl& field) {
+    m_idleRefresh = false;
     const VxString text = field.GetWindowText();
     if (isLensField(field) ? parseDecimal(text) : parseAngle(text))
-        m_savedText = text;
+        m_accepted.accept(text);
 }
 
-LRESULT CVxDa3DNavZoomSliderCtrl::onEditEnter(WPARAM editId, LPARAM /*edit*/) {
-    if (CQrUiInputEditCtrl* field = findField(LOWORD(editId)))
-        CommitEdit(*field);
-    return 0;
+void CVxDa3DNavZoomSliderCtrl::fieldLeft(CQrUiInputEditCtrl& field) {
+    // Before the entry: one that is refused gives the field its focus back.
+    m_idleRefresh = true;
+    commitEdit(field);
 }
 
-LRESULT CVxDa3DNavZoomSliderCtrl::onEditEscape(WPARAM editId, LPARAM /*edit*/) {
-    if (CQrUiInputEditCtrl* field = findField(LOWORD(editId)))
-        field->SetWindowText(m_savedText);
-    return 0;
+void CVxDa3DNavZoomSliderCtrl::restoreEdit(CQrUiInputEditCtrl& field) {
+    m_accepted.restore(field);
 }
 
-void CVxDa3DNavZoomSliderCtrl::CommitEdit(CQrUiInputEditCtrl& field) {
+void CVxDa3DNavZoomSliderCtrl::commitEdit(CQrUiInputEditCtrl& field) {
     const VxString text = trimmed(field.GetWindowText());
-    if (text == m_savedText)
+    if (m_accepted.is(text))
         return;
     if (text.empty()) {
-        field.SetWindowText(m_savedText);
+        m_accepted.restore(field);
         return;
     }
     if (IsViewportLocked()) {
         QrUiShowBalloonTip(this, &field, loadDashboardString(kStrViewportLocked), 0);
-        field.SetWindowText(m_savedText);
+        m_accepted.restore(field);
         return;
     }
     const std::optional<double> value = ValidateEdit(field, text);
@@ -250,13 +207,13 @@ void CVxDa3DNavZoomSliderCtrl::CommitEdit(CQrUiInputEditCtrl& field) {
         return;  // an entry that arrives all the same is taken, and changes nothing
     const std::optional<double> lens = lensOf(field, *value);
     if (!lens) {
-        giveBackToCorrect(field, m_savedText);
+        m_accepted.giveBack(field);
         QrUiShowBalloonTip(this, &field, rangeText(field), 0);
         return;
     }
     ApplyLens(*lens);
     UpdateFromView();
-    m_savedText = field.GetWindowText();
+    m_accepted.accept(field.GetWindowText());
 }
 
 std::optional<double> CVxDa3DNavZoomSliderCtrl::ValidateEdit(CQrUiInputEditCtrl& field,
@@ -267,7 +224,7 @@ std::optional<double> CVxDa3DNavZoomSliderCtrl::ValidateEdit(CQrUiInputEditCtrl&
     QrUiHideBalloonTip(this);
     if (!value) {
         QrUiShowBalloonTip(this, &field, loadDashboardString(kStrNoValue), 0);
-        giveBackToCorrect(field, m_savedText);
+        m_accepted.giveBack(field);
     }
     return value;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controls/accepted_text.h"
 #include "controls/slider_edit_panel_ctrl2.h"
 
 #include <optional>
@@ -12,25 +13,28 @@ public:
 
     // CWnd:
     const MessageMap& GetMessageMap() const override;
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     // CQrUiToolPanel:
     void OnLButtonClicked(UINT flags, CPoint point) override;
 
 private:
+    // CVxDaSliderPanelCtrl:
+    void sliderMoved(int position) override;
+    // CVxDaSliderEditPanelCtrl:
+    void fieldEntered(CQrUiInputEditCtrl& field) override;
+    void fieldLeft(CQrUiInputEditCtrl& field) override;
+    void commitEdit(CQrUiInputEditCtrl& field) override;
+    void restoreEdit(CQrUiInputEditCtrl& field) override;
+
     static const MessageEntry kMessages[];
     static const MessageMap kMessageMap;
 
     LRESULT onCreate(WPARAM unused, LPARAM create);
     LRESULT onIdle(WPARAM unused, LPARAM unusedToo);
-    LRESULT onSliderMoved(WPARAM position, LPARAM slider);
     LRESULT onDocumentOrView(WPARAM unused, LPARAM unusedToo);
     LRESULT onSysVarChanged(WPARAM success, LPARAM name);
     LRESULT onCommandEnded(WPARAM unused, LPARAM name);
-    LRESULT onEditEnter(WPARAM editId, LPARAM edit);
-    LRESULT onEditEscape(WPARAM editId, LPARAM edit);
 
     void setUpSlider();
-    CQrUiInputEditCtrl* findField(UINT editId);
     bool isLensField(const CQrUiInputEditCtrl& field) const { return &field == &m_edit; }
 
     void Refresh();
@@ -38,12 +42,10 @@ private:
     void UpdateFromView();
     void ShowLens(double lens);
 
-    void keepText(const CQrUiInputEditCtrl& field);
-    void CommitEdit(CQrUiInputEditCtrl& field);
     std::optional<double> ValidateEdit(CQrUiInputEditCtrl& field, const VxString& text);
     std::optional<double> lensOf(const CQrUiInputEditCtrl& field, double value) const;
     VxString rangeText(const CQrUiInputEditCtrl& field) const;
 
-    VxString m_savedText;        // last accepted text of the field that has or had the focus
+    AcceptedText m_accepted;
     bool m_idleRefresh = false;  // the idle tick may read the view and overwrite the fields
 };

@@ -8,6 +8,8 @@
 #include "palette/xml_node.h"
 
 #include "core/constants.h"
+#include "core/message_table.h"
+#include "core/message_values.h"
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/string_ids.h"
@@ -74,11 +76,10 @@ constexpr MessageEntry CVxDaDashboard::kMessages[] = {
     {WM_IDLEUPDATECMDUI, to<&CVxDaDashboard::onIdleUpdate>},
 };
 
-const MessageMap CVxDaDashboard::kMessageMap{&CQrUiPaletteSet::GetThisMessageMap, kMessages,
-                                             std::size(kMessages)};
+const MessageMap CVxDaDashboard::kMessageMap =
+    makeMessageMap(&CQrUiPaletteSet::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaDashboard::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 
@@ -186,7 +187,7 @@ BOOL CVxDaDashboard::PreTranslateMessage(MSG* msg) {
 }
 
 LRESULT CVxDaDashboard::onCreate(WPARAM /*unused*/, LPARAM create) {
-    if (OnCreate(reinterpret_cast<const CREATESTRUCT*>(create)) == -1)
+    if (OnCreate(creationFrom(create)) == -1)
         return -1;
     loadIcon();
     if (CQrUiTheme* theme = dashboardTheme())

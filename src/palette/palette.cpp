@@ -4,6 +4,7 @@
 #include "palette/panel_set.h"
 
 #include "core/flag_scope.h"
+#include "core/message_table.h"
 #include "core/theme.h"
 
 #include <hostapi/qrui18/messages.h>
@@ -38,11 +39,10 @@ constexpr MessageEntry CVxDaPalette::kMessages[] = {
     {WM_QRUI_POSITION, to<&CVxDaPalette::onContentSize>},
 };
 
-const MessageMap CVxDaPalette::kMessageMap{&CQrUiPalette::GetThisMessageMap, kMessages,
-                                           std::size(kMessages)};
+const MessageMap CVxDaPalette::kMessageMap =
+    makeMessageMap(&CQrUiPalette::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaPalette::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 

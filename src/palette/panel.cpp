@@ -6,6 +6,7 @@
 #include "palette/panel_set.h"
 #include "palette/tool_palettes.h"
 
+#include "core/message_table.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 
@@ -24,11 +25,10 @@ constexpr MessageEntry CVxDaPanel::kMessages[] = {
     {WM_QRUI_ITEM_CLICKED, to<&CVxDaPanel::onItemClicked>},
 };
 
-const MessageMap CVxDaPanel::kMessageMap{&CQrUiPanel::GetThisMessageMap, kMessages,
-                                         std::size(kMessages)};
+const MessageMap CVxDaPanel::kMessageMap =
+    makeMessageMap(&CQrUiPanel::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaPanel::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 

@@ -10,6 +10,7 @@
 #include "palette/xml_node.h"
 
 #include "core/broadcast_messages.h"
+#include "core/message_table.h"
 #include "core/theme.h"
 
 #include "controls/variable_access.h"
@@ -57,11 +58,10 @@ constexpr MessageEntry CVxDaPanelSet::kMessages[] = {
     {WM_MOUSEMOVE, to<&CVxDaPanelSet::onMouseMove>},
 };
 
-const MessageMap CVxDaPanelSet::kMessageMap{&CQrUiPanelSet::GetThisMessageMap, kMessages,
-                                            std::size(kMessages)};
+const MessageMap CVxDaPanelSet::kMessageMap =
+    makeMessageMap(&CQrUiPanelSet::GetThisMessageMap, kMessages);
 
 const MessageMap& CVxDaPanelSet::GetMessageMap() const {
-    static_assert(hostapi::isAscendingAndUnique(kMessages));
     return kMessageMap;
 }
 

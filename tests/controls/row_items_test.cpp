@@ -81,7 +81,8 @@ TEST_F(RowItemsTest, IconShowsThePictureOfItsKeyInBothSizes) {
     ASSERT_NE(icon, nullptr);
     EXPECT_EQ(icon->GetType(), kItemButton);
     EXPECT_EQ(icon->GetID(), L"TPB_X");
-    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image,
+              "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     const std::string start =
         "QrUiLoadImageFromResource(\"object\",\"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\",";
@@ -94,7 +95,8 @@ TEST_F(RowItemsTest, PictureThatIsMissingLeavesTheEarlierOneInBothSizes) {
     CQrUiToolPanelItem* icon =
         addIconItem(&m_row, L"TPB_X", L"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     setItemImages(*icon, L"RCDATA_NO_SUCH_PICTURE");
-    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image,
+              "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
 }
 

@@ -63,6 +63,10 @@ public:
     CQrUiInputEditCtrl& edit() { return this->m_edit; }
 
 private:
+    void sliderMoved(int /*position*/) override {}
+    void commitEdit(CQrUiInputEditCtrl& /*field*/) override {}
+    void restoreEdit(CQrUiInputEditCtrl& /*field*/) override {}
+
     LRESULT create(const CREATESTRUCT* creation) {
         if (this->OnCreate(creation) == -1)
             return -1;

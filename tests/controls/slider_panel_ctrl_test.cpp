@@ -30,6 +30,8 @@ public:
     CQrUiInputEditCtrl& edit() { return m_edit; }
 
 private:
+    void sliderMoved(int /*position*/) override {}
+
     LRESULT create(const CREATESTRUCT* creation) {
         if (OnCreate(creation) == -1)
             return -1;

@@ -100,7 +100,7 @@ using HostileCountFn = int (*)(int point);
 using HostileHasStruckFn = bool (*)();
 /// Brings the module to a point.
 using HostileReachFn = void (*)(int point);
-/// Registers its listener with the dashboard that is loaded now.
+/// Registers its one listener with the dashboard that is loaded now, behind those that are there.
 using HostileListenFn = void (*)();
 
 /// The file of the module, and the names of what it puts on panels.

@@ -34,7 +34,7 @@ constexpr Point kNowhere = Point::kCount;
 
 HostileBench::HostileBench()
     : m_stage{[this] { unloadDashboard(); }, [this] { loadDashboard(); },
-              [this](int code) { notify(code); },
+              [this](int code) { notifyIfLoaded(code); },
               [this](Point point) {
                   hostileExport<HostileReachFn>("HostileReach")(static_cast<int>(point));
               }} {}
@@ -58,7 +58,7 @@ void HostileBench::start(Order order) {
     env("ENABLEDASHBOARD", "1");
     loadModules();
     openDocuments();
-    type(L"DASHBOARDOLD\n");
+    showAllPanels();
     ASSERT_NE(paletteSet(), nullptr);
     ASSERT_NE(control(workbench::toUtf8(kControl)), nullptr);
 }
@@ -71,8 +71,7 @@ void HostileBench::loadModules() {
     if (m_order == Order::DashboardFirst) {
         ASSERT_TRUE(bench().modules().loadModule(kModule)) << bench().modules().failureText();
     }
-    hostileExport<HostileListenFn>("HostileListen")();
-    exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(&m_witness, 1);
+    listen();
 }
 
 void HostileBench::unloadDashboard() {
@@ -81,8 +80,21 @@ void HostileBench::unloadDashboard() {
 
 void HostileBench::loadDashboard() {
     ASSERT_TRUE(load()) << bench().modules().failureText();
+    listen();
+}
+
+/// The hostile listener is told first.
+void HostileBench::listen() {
+    const auto addOrRemove = exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor");
+    addOrRemove(&m_witness, 0);
     hostileExport<HostileListenFn>("HostileListen")();
-    exported<VxDaAddOrRemoveReactorFn>("VxDaAddOrRemoveReactor")(&m_witness, 1);
+    addOrRemove(&m_witness, 1);
+}
+
+void HostileBench::notifyIfLoaded(int code) {
+    if (exported<VxDaNotifyDashboardFn>("VxDaNotifyDashboard") == nullptr)
+        throw workbench::gestures::GestureError("the dashboard is not loaded");
+    notify(code);
 }
 
 std::vector<Gesture> HostileBench::gestures() {
@@ -101,14 +113,23 @@ std::vector<Reached> HostileBench::survey() {
     std::vector<Reached> all;
     for (const Gesture& gesture : gestures()) {
         Reached& reached = all.emplace_back(Reached{gesture.name, {}});
-        // Armed for nothing, it only counts.
-        EXPECT_FALSE(attack(gesture, kNowhere, 0, Action::kCount));
-        for (std::size_t point = 0; point < reached.counts.size(); ++point)
-            reached.counts[point] = count(static_cast<Point>(point));
-        showAllPanels();
-        dropNotes();
+        reached.counts = countsOf(gesture, kNowhere);
+        // The module's own commands stand in for the host's only while it is armed for them.
+        const bool runsCommands = reached.at(Point::CommandWillStart) > 0;
+        reached.at(Point::CommandRuns) =
+            runsCommands ? countsOf(gesture, Point::CommandRuns)[indexOf(Point::CommandRuns)] : 0;
     }
     return all;
+}
+
+/// Makes a gesture with the module armed for a point that it never strikes at.
+Counts HostileBench::countsOf(const Gesture& gesture, Point point) {
+    prepare();
+    EXPECT_FALSE(makeArmed(gesture, point, 0, Action::kCount));
+    Counts counts{};
+    for (std::size_t each = 0; each < counts.size(); ++each)
+        counts[each] = count(static_cast<Point>(each));
+    return counts;
 }
 
 int HostileBench::count(Point point) {
@@ -116,6 +137,11 @@ int HostileBench::count(Point point) {
 }
 
 bool HostileBench::attack(const Gesture& gesture, Point point, int occurrence, Action action) {
+    prepare();
+    return makeArmed(gesture, point, occurrence, action);
+}
+
+bool HostileBench::makeArmed(const Gesture& gesture, Point point, int occurrence, Action action) {
     hostileExport<HostileArmFn>("HostileArm")(static_cast<int>(point), occurrence,
                                               static_cast<int>(action));
     const auto hasStruck = [this] {
@@ -146,7 +172,7 @@ void HostileBench::expectSurvival() {
         loadDashboard();
     }
     openDocuments();
-    set(kFade, 50);
+    set(kFade, 20);
     idle();
     wait(200);
     showAllPanels();
@@ -188,13 +214,24 @@ void HostileBench::calmDown() {
         set(L"CleanScreenState", 0);
 }
 
+/// The same ground for each gesture: fresh documents and all panels on show.
+void HostileBench::prepare() {
+    calmDown();
+    for (workbench::Document* document : bench().editor().documents().all())
+        bench().editor().documents().close(*document);
+    settle();
+    listen();
+    openDocuments();
+    showAllPanels();
+    dropNotes();
+}
+
 void HostileBench::openDocuments() {
     for (const wchar_t* name : {L"B", L"A"}) {
         if (bench().editor().documents().find(name) == nullptr)
             newDocument(name);
     }
     activateDocument(L"A");
-    set(L"PERSPECTIVE", 1);
 }
 
 /// Whether the dashboard is loaded and has a manager.
@@ -234,6 +271,9 @@ void HostileBench::showAllPanels() {
         exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(&all);
     }
     settle();
+    // So that the fields of fading and of the lens take entries.
+    set(kFade, 50);
+    set(L"PERSPECTIVE", 1);
 }
 
 void HostileBench::expectListenersInOrder() {

@@ -15,10 +15,20 @@ namespace hostile {
 /// Which of the two modules is loaded first, so that its reactors are told first.
 enum class Order { HostileFirst, DashboardFirst };
 
+constexpr std::size_t indexOf(Point point) {
+    return static_cast<std::size_t>(point);
+}
+
+/// How often the hostile module came to each point, by `indexOf`.
+using Counts = std::array<int, indexOf(Point::kCount)>;
+
 /// How often a gesture brings the hostile module to each point.
 struct Reached {
     std::string gesture;
-    std::array<int, static_cast<std::size_t>(Point::kCount)> counts{};
+    Counts counts{};
+
+    int& at(Point point) { return counts[indexOf(point)]; }
+    int at(Point point) const { return counts[indexOf(point)]; }
 };
 
 /// Test fixture: the dashboard on show beside the hostile module, two documents "A" and "B" open, and
@@ -54,6 +64,11 @@ private:
     void expectListenersInOrder();
     void expectFadeSliderWorks();
     void dropNotes();
+    void prepare();
+    void listen();
+    void notifyIfLoaded(int code);
+    bool makeArmed(const Gesture& gesture, Point point, int occurrence, Action action);
+    Counts countsOf(const Gesture& gesture, Point point);
     int count(Point point);
     template <class Function>
     Function hostileExport(const char* name);

@@ -43,7 +43,7 @@ bool isTried(const VxToolPanelItemData& data) {
     return !data.module.empty() || data.id == L"ID_LayerManager";
 }
 
-/// The tools of animations say in a box that their module is missing.
+/// The tools of animations say in a box that their module is missing; this one is never disabled.
 void clickWithoutModule(const Stage& stage) {
     host().modules().unloadModule(workbench::toWide(kNavigationModule));
     host().faults().hide(kNavigationModule);
@@ -51,7 +51,7 @@ void clickWithoutModule(const Stage& stage) {
         stage.reach(Point::BoxOpen);
         return workbench::MessageBoxes::kOk;
     });
-    click(L"ID_Animation_Play");
+    click(L"ID_Animation_Settings");
     host().toolkit().boxes().setPresenter(nullptr);
     host().faults().unhide(kNavigationModule);
 }

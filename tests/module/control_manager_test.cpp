@@ -80,7 +80,8 @@ TEST_F(ControlManagerTest, ControlWithoutAParentIsNotMade) {
 TEST_F(ControlManagerTest, HostsControlIsFoundWithoutRegardToCase) {
     const HWND control = m_controls.createControl(L"LINETYPECONTROL", &m_parent);
     ASSERT_NE(control, nullptr);
-    EXPECT_EQ(takeLines({"getVxToolbarControl"}), Lines{"getVxToolbarControl(object, 0, 0, 220, 360, 2222)"});
+    EXPECT_EQ(takeLines({"getVxToolbarControl"}),
+              Lines{"getVxToolbarControl(object, 0, 0, 220, 360, 2222)"});
 }
 
 TEST_F(ControlManagerTest, UnknownNameGivesNull) {

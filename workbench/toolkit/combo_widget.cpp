@@ -1,6 +1,7 @@
 #include "workbench/toolkit/combo_widget.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"
@@ -66,6 +67,7 @@ void ComboWidget::select(Window& window, int index) {
 }
 
 bool ComboWidget::open(Window& window) {
+    const Turn turn;
     if (m_open)
         return false;
     const HWND combo = window.handle;
@@ -86,6 +88,7 @@ bool ComboWidget::canBeChosen(int index) const {
 }
 
 bool ComboWidget::choose(Window& window, int index) {
+    const Turn turn;
     if (!canBeChosen(index))
         return false;
     const HWND combo = window.handle;
@@ -100,6 +103,7 @@ bool ComboWidget::choose(Window& window, int index) {
 }
 
 bool ComboWidget::close(Window& window) {
+    const Turn turn;
     if (!m_open)
         return false;
     const HWND combo = window.handle;

@@ -1,5 +1,6 @@
 #include "workbench/toolkit/focus_return.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -16,6 +17,7 @@ bool isField(const WindowSystem& windows, HWND window) {
 /// Whether all palettes of a set let the focus go. A palette asks its controls, which may end the
 /// set: one that is gone doesn't agree.
 bool palettesAgree(Toolkit& toolkit, const CQrUiPaletteSet& set) {
+    const Turn turn;
     const auto& sets = toolkit.paletteSets();
     for (std::size_t index = 0;; ++index) {
         const PaletteSetState* const state = sets.find(&set);

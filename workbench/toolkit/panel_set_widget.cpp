@@ -1,5 +1,6 @@
 #include "workbench/toolkit/panel_set_widget.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -37,6 +38,7 @@ int PanelSetWidget::shownHeight(const Window& window) const {
 }
 
 void PanelSetWidget::layout(Window& window) {
+    const Turn turn;
     const HWND handle = window.handle;
     stack(window);
     if (windows().find(handle) == nullptr)

@@ -1,5 +1,6 @@
 #include "workbench/toolkit/panel_widget.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/context_menu.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_set_widget.h"
@@ -35,6 +36,7 @@ PanelState& PanelWidget::stateOf(const Window& window) const {
 }
 
 int PanelWidget::layout(Window& window, int width) {
+    const Turn turn;
     const HWND handle = window.handle;
     const PanelState& state = stateOf(window);
     int bottom = kTitleHeight;
@@ -44,7 +46,7 @@ int PanelWidget::layout(Window& window, int width) {
         if (below == nullptr)
             continue;
         windows().place(below->handle, {0, bottom, width, bottom + below->rect.Height()},
-                             SWP_NOZORDER | SWP_NOACTIVATE);
+                        SWP_NOZORDER | SWP_NOACTIVATE);
         if (windows().find(handle) == nullptr)
             return 0;
         toolPanel.UpdateLayout(0);
@@ -56,6 +58,7 @@ int PanelWidget::layout(Window& window, int width) {
 }
 
 void PanelWidget::collapse(Window& window, bool collapsed) {
+    const Turn turn;
     PanelState& state = stateOf(window);
     if (state.collapsed == collapsed)
         return;

@@ -1,6 +1,7 @@
 #include "workbench/toolkit/tool_panel_widget.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
@@ -65,6 +66,7 @@ int ToolPanelWidget::indentOf(const CQrUiToolPanel& panel) const {
 }
 
 void ToolPanelWidget::layout(Window& window) {
+    const Turn turn;
     CQrUiToolPanel& panel = panelOf(window);
     const HWND handle = window.handle;
     const RowLayout places = rows(panel, window.rect.Width());

@@ -46,6 +46,11 @@ void replaceCommands() {
     }
 }
 
+void removeListeners() {
+    hostile::addOrRemoveListener(hostile::HostileListener::first(), false);
+    hostile::addOrRemoveListener(hostile::HostileListener::second(), false);
+}
+
 void start(void* appPacket) {
     if (VxRxDynamicLinker* const linker = moduleLinker()) {
         linker->unlockApplication(appPacket);
@@ -55,8 +60,7 @@ void start(void* appPacket) {
 }
 
 void stop() {
-    hostile::addOrRemoveListener(hostile::HostileListener::first(), false);
-    hostile::addOrRemoveListener(hostile::HostileListener::second(), false);
+    removeListeners();
     commandStack().removeGroup(kGroup);
     s_reactors.reset();
     hostile::HostileControl::endAll();
@@ -113,5 +117,6 @@ VXDA_EXPORT void HostileReach(int point) {
 }
 
 VXDA_EXPORT void HostileListen() {
+    removeListeners();
     hostile::addOrRemoveListener(hostile::HostileListener::first(), true);
 }

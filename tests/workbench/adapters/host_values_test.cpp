@@ -4,8 +4,6 @@
 
 namespace workbench {
 
-class HostValuesTest : public AdaptersTest {};
-
 TEST(HostValuesTest, IdsGoThereAndBack) {
     const drawing::ObjectId id(3, 0xFFFFFFFFU);
     EXPECT_EQ(fromHostId(toHostId(id)), id);

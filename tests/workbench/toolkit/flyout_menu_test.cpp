@@ -88,7 +88,7 @@ TEST_F(FlyoutMenuTest, AFlyoutThatGoesWhileItsListIsOpenHasNoChoice) {
         m_toolPanel->DestroyWindow();
         return std::optional<UINT>(3);
     });
-    EXPECT_FALSE(openFlyout(m_flyout));
+    EXPECT_FALSE(openFlyout(toolkit(), m_flyout));
     EXPECT_EQ(m_flyout.GetCurrentFlyoutTool(), &m_first);
 }
 

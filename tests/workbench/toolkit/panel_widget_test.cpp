@@ -134,7 +134,7 @@ TEST_F(PanelWidgetTest, APanelThatGoesAsItIsRolledUpTellsNobody) {
         m_panel.DestroyWindow();
         return 0;
     };
-    gestures::clickTitle(m_panel);
+    gestures::clickTitle(toolkit(), m_panel);
     EXPECT_EQ(m_panel.m_hWnd, nullptr);
 }
 

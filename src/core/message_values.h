@@ -1,0 +1,31 @@
+#pragma once
+
+#include <hostapi/types.h>
+#include <hostapi/window/gdi.h>
+#include <hostapi/window/messages.h>
+
+#include <string_view>
+
+class VxApDocument;
+
+/// What the parameters of messages hold.
+
+/// The record that `WM_CREATE` brings in lParam.
+inline const CREATESTRUCT* creationFrom(LPARAM lParam) {
+    return reinterpret_cast<const CREATESTRUCT*>(lParam);
+}
+
+/// What `WM_ERASEBKGND` brings in wParam to draw on.
+inline HDC drawingContextFrom(WPARAM wParam) {
+    return reinterpret_cast<HDC>(wParam);
+}
+
+/// The variable or command that a broadcast names in lParam. Good during the message only.
+inline std::wstring_view eventNameFrom(LPARAM lParam) {
+    return reinterpret_cast<const wchar_t*>(lParam);
+}
+
+/// The document that a broadcast names in lParam; null for none.
+inline const VxApDocument* documentFrom(LPARAM lParam) {
+    return reinterpret_cast<const VxApDocument*>(lParam);
+}
