@@ -1,9 +1,16 @@
+#include "light/light_toolbar.h"
+
+#include "module/manager.h"
+#include "module/module.h"
+#include "tests/palette/palette_fixture.h"
 #include "tests/support/bench.h"
 
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/lookup.h"
 
+#include <ostream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -134,5 +141,114 @@ INSTANTIATE_TEST_SUITE_P(States, SkyFlyoutTest,
                          testing::Values(SkyToolCase{0, L"ID_Skylight_Off"},
                                          SkyToolCase{1, L"ID_Skylight_Background"},
                                          SkyToolCase{2, L"ID_Skylight_Illumination"}));
+
+// The toolbar, linked into the test
+
+constexpr const char* kLightMenu = R"({
+  "menuGroups": [{"name": "MAIN"}],
+  "panels": [{"menuGroup": "MAIN", "id": "Lights", "title": "Lights", "toolPanels": ["Lights"]}],
+  "workspaces": [{"name": "Work", "panels": [{"panel": "Lights", "menuGroup": "MAIN"}]}],
+  "currentWorkspace": "Work",
+  "toolPanels": [
+    {"menuGroup": "MAIN", "id": "Lights", "items": [
+      {"type": "button", "id": "ID_Adjust_Exposure"},
+      {"type": "button", "id": "ID_DistantLight"},
+      {"type": "button", "id": "LightSliderControl5"},
+      {"type": "flyout", "id": "TPL_0030", "flyout": "Sky"},
+      {"type": "flyout", "id": "TPL_0042", "flyout": "Units"}]},
+    {"menuGroup": "MAIN", "id": "Sky", "items": [
+      {"type": "button", "id": "ID_Skylight_Off"},
+      {"type": "button", "id": "ID_Skylight_Background"},
+      {"type": "button", "id": "ID_Skylight_Illumination"}]},
+    {"menuGroup": "MAIN", "id": "Units", "items": [
+      {"type": "button", "id": "ID_LightingUnitsGeneric"},
+      {"type": "button", "id": "ID_LightingUnitsAmerican"},
+      {"type": "button", "id": "ID_LightingUnitsSI"}]}]
+})";
+
+constexpr UINT kDisabled = 2;
+constexpr UINT kHidden = 32;
+
+/// The states of the items that follow the lighting units.
+struct LightStates {
+    UINT exposure;
+    UINT distantLight;
+    UINT midtones;
+    UINT skyFlyout;
+    UINT skyTools;  // of all three
+    friend bool operator==(const LightStates&, const LightStates&) = default;
+};
+
+std::ostream& operator<<(std::ostream& stream, const LightStates& states) {
+    return stream << states.exposure << ' ' << states.distantLight << ' ' << states.midtones << ' '
+                  << states.skyFlyout << ' ' << states.skyTools;
+}
+
+class LinkedLightToolbarTest : public PaletteTest {
+protected:
+    LinkedLightToolbarTest() : PaletteTest(kLightMenu) {}
+    void SetUp() override {
+        show();
+        // The first event of all reads the material mode too.
+        set(L"LTSCALE", 2.0);
+    }
+    void set(const wchar_t* variable, const workbench::Value& value) {
+        ASSERT_TRUE(bench().editor().set(variable, value));
+    }
+    UINT state(const wchar_t* id) { return item(id)->GetState(); }
+    LightStates states() {
+        const UINT sky = state(L"ID_Skylight_Off");
+        EXPECT_EQ(state(L"ID_Skylight_Background"), sky);
+        EXPECT_EQ(state(L"ID_Skylight_Illumination"), sky);
+        return {state(L"ID_Adjust_Exposure"), state(L"ID_DistantLight"),
+                state(L"LightSliderControl5"), state(L"TPL_0030"), sky};
+    }
+    std::vector<std::string> takeReads() {
+        return takeLines({"vxedGetVar", "vxdbHostApplicationServices",
+                          "VxDbHostApplicationServices::workingDatabase", "vxedActiveViewportId"});
+    }
+};
+
+TEST_F(LinkedLightToolbarTest, StatesFollowTheUnitsAndTheSpace) {
+    set(L"LIGHTINGUNITS", 1);
+    EXPECT_EQ(states(), (LightStates{0, kDisabled, 0, 0, 0}));
+    set(L"LIGHTINGUNITS", 0);
+    EXPECT_EQ(states(), (LightStates{kDisabled, 0, kHidden, kHidden, 0}));
+    set(L"TILEMODE", 0);
+    set(L"LIGHTINGUNITS", 2);
+    EXPECT_EQ(states(), (LightStates{0, kDisabled, 0, 0, kDisabled}));
+    set(L"LIGHTINGUNITS", 0);
+    EXPECT_EQ(states(), (LightStates{kDisabled, 0, kHidden, kHidden, kDisabled}))
+        << "generic units leave the sky tools alone";
+}
+
+TEST_F(LinkedLightToolbarTest, GenericUnitsReadNothingButTheUnits) {
+    set(L"LIGHTINGUNITS", 0);
+    forget();
+    refreshLightingUnits();
+    EXPECT_EQ(takeReads(), (std::vector<std::string>{"vxedGetVar(\"LIGHTINGUNITS\")",
+                                                     "vxedGetVar(\"LIGHTINGUNITS\")"}));
+}
+
+TEST_F(LinkedLightToolbarTest, PhotometricUnitsReadTheSpaceThenTheSkyThenTheUnits) {
+    set(L"TILEMODE", 0);
+    set(L"LIGHTINGUNITS", 1);
+    forget();
+    refreshLightingUnits();
+    EXPECT_EQ(takeReads(),
+              (std::vector<std::string>{
+                  "vxedGetVar(\"LIGHTINGUNITS\")", "vxdbHostApplicationServices()",
+                  "VxDbHostApplicationServices::workingDatabase()", "vxedGetVar(\"CVPORT\")",
+                  "vxedActiveViewportId()", "vxedGetVar(\"LIGHTINGUNITS\")"}));
+}
+
+TEST_F(LinkedLightToolbarTest, WithoutAnItemTheOthersAreTreatedAllTheSame) {
+    itemData(L"MAIN", L"Lights", 3).id = L"TPL_Other";
+    dashboardManager()->notify(kDashboardUnload);
+    dashboardManager()->notify(kDashboardReload);
+    set(L"LIGHTINGUNITS", 1);
+    set(L"LIGHTINGUNITS", 0);
+    EXPECT_EQ(state(L"LightSliderControl5"), kHidden) << "there is no sky flyout before it";
+}
 
 }  // namespace

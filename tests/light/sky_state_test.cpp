@@ -1,6 +1,8 @@
 #include "light/sky_state.h"
 
+#include "render/scene_service.h"
 #include "tests/palette/palette_fixture.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/background.h"
@@ -9,6 +11,8 @@
 #include "workbench/editor/editor.h"
 #include "workbench/editor/variables/sky_status.h"
 #include "workbench/loader/module_loader.h"
+
+#include <filesystem>
 
 namespace {
 
@@ -112,6 +116,55 @@ TEST_F(SkyStateTest, WithoutSunOrServiceTheSkyGivesNoLight) {
     }
     bench().faults().hide("VxSceneUI.qlx");
     EXPECT_FALSE(readSkyIllumination());
+}
+
+TEST_F(SkyStateTest, ViewThatCannotBeOpenedLeavesTheDrawingsSun) {
+    setSky(2);
+    fail("vxdbOpenObject", 1);
+    EXPECT_TRUE(readSkyIllumination());
+    EXPECT_EQ(callCount("VxRxDynamicLinker::getSymbolAddress"), 1);
+    EXPECT_TRUE(allClosed());
+}
+
+TEST_F(SkyStateTest, AskingForASunMakesNone) {
+    VxDbObjectId sun;
+    while (getActiveSun(sun, false) == Zorq::eOk) {
+        drawing::DbObject* object = nullptr;
+        ASSERT_EQ(data().open(workbench::fromHostId(sun), drawing::OpenMode::Write,
+                              drawing::ErasedObjects::Refuse, object),
+                  drawing::Status::ok);
+        object->erase();
+        object->close();
+    }
+    EXPECT_FALSE(readSkyIllumination());
+    EXPECT_NE(getActiveSun(sun, false), Zorq::eOk);
+}
+
+// Views of the sheet
+
+class SheetSkyTest : public SkyStateTest {
+protected:
+    void SetUp() override {
+        bench().editor().documents().open(std::filesystem::path(PROJECT_SOURCE_ROOT) /
+                                          "examples/house.json");
+        set(L"TILEMODE", 0);
+        set(L"CVPORT", 2);
+    }
+    void set(const wchar_t* variable, const workbench::Value& value) {
+        ASSERT_TRUE(bench().editor().set(variable, value));
+    }
+};
+
+TEST_F(SheetSkyTest, ViewportHasABackgroundAndASunOfItsOwn) {
+    setSky(0);
+    EXPECT_EQ(readSkyStatus(), kSkyStatusOff);
+    setSky(1);
+    EXPECT_EQ(readSkyStatus(), kSkyStatusOn);
+    EXPECT_FALSE(readSkyIllumination());
+    setSky(2);
+    EXPECT_EQ(readSkyStatus(), kSkyStatusOn);
+    EXPECT_TRUE(readSkyIllumination());
+    EXPECT_TRUE(allClosed());
 }
 
 }  // namespace

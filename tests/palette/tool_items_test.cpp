@@ -206,13 +206,6 @@ TEST_F(ToolItemsTest, AToolThatIsChosenHasItsFlyoutDrawnAnewOnce) {
     EXPECT_EQ(repaintsOf(L"TPL_Own", [] { selectFlyoutTool(L"TPL_Own", L"ID_A1"); }), 0);
 }
 
-TEST_F(ToolItemsTest, AFlyoutWithoutToolsAnswersOne) {
-    itemData(L"MAIN", L"DrawTools", 4).flyoutId = L"Nowhere";
-    show();
-    EXPECT_EQ(selectFlyoutTool(L"TPL_Own", L"ID_B1"), 1);
-    EXPECT_EQ(item(L"TPL_Own")->GetCurrentFlyoutTool(), nullptr);
-}
-
 TEST_F(ToolItemsTest, AToolOnAllFlyoutsOfAKeyIsChosenOnEach) {
     itemData(L"MAIN", L"DrawTools", 4).id = L"TPL_Twice";
     itemData(L"MAIN", L"TPL_A", 2).id = L"TPL_Twice";
