@@ -2,7 +2,7 @@
 
 #include "tests/palette/palette_fixture.h"
 #include "tests/resources/loaded_module.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "workbench/resources/resource_library.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/picture_table.h"
@@ -41,7 +41,7 @@ protected:
         return bench().toolkit().pictures().source(item.m_record->largeImage);
     }
     std::vector<std::string> calls(const std::vector<std::string_view>& names) {
-        return support::callTexts(bench().journal().records(), names);
+        return support::callLines(bench().journal().records(), names);
     }
 
     std::unique_ptr<CQrUiToolPanel> m_panel = std::make_unique<CQrUiToolPanel>();
@@ -81,12 +81,13 @@ TEST_F(RowItemsTest, IconShowsThePictureOfItsKeyInBothSizes) {
     ASSERT_NE(icon, nullptr);
     EXPECT_EQ(icon->GetType(), kItemButton);
     EXPECT_EQ(icon->GetID(), L"TPB_X");
-    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image,
+              "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     const std::string start =
-        "QrUiLoadImageFromResource(\"object\",\"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\",";
+        "QrUiLoadImageFromResource(object, \"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\", ";
     EXPECT_EQ(calls({"QrUiLoadImageFromResource"}),
-              (std::vector<std::string>{start + "16,-1)", start + "32,-1)"}));
+              (std::vector<std::string>{start + "16, -1)", start + "32, -1)"}));
     EXPECT_EQ(m_row.GetToolPanelItem(0), icon);
 }
 
@@ -94,7 +95,8 @@ TEST_F(RowItemsTest, PictureThatIsMissingLeavesTheEarlierOneInBothSizes) {
     CQrUiToolPanelItem* icon =
         addIconItem(&m_row, L"TPB_X", L"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     setItemImages(*icon, L"RCDATA_NO_SUCH_PICTURE");
-    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    EXPECT_EQ(workbench::viewOf(bench().toolkit(), *icon).image,
+              "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
 }
 

@@ -4,7 +4,7 @@
 #include "controls/row_items.h"
 #include "controls/slider_edit_panel_ctrl2.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "tests/support/first_rects.h"
 #include "workbench/windows/window_system.h"
 
@@ -120,7 +120,7 @@ protected:
     }
     /// The host calls of a name since the journal was forgotten.
     std::vector<std::string> calls(std::string_view name) {
-        return support::callTexts(bench().journal().records(), {name});
+        return support::callLines(bench().journal().records(), {name});
     }
     /// Lays a control out that stands as it should, and tells how often it was asked to be painted.
     template <class Control>
@@ -182,13 +182,13 @@ TEST_F(SliderEditTest, LayoutSizesTheSliderInItsPlaceAndThenSetsTheFieldBehindTh
     EXPECT_EQ(rectOf(control.slider()), slider);
     EXPECT_EQ(rectOf(control.edit()), edit);
     const auto size = [](const CRect& rect) {
-        return std::to_string(rect.Width()) + "," + std::to_string(rect.Height());
+        return std::to_string(rect.Width()) + ", " + std::to_string(rect.Height());
     };
     EXPECT_EQ(calls("CWnd::SetWindowPos"),
               (std::vector<std::string>{
-                  "CWnd::SetWindowPos(\"CQrUiProgSliderCtrl\",0,0," + size(slider) + ",22)",
-                  "CWnd::SetWindowPos(\"CQrUiInputEditCtrl\"," + std::to_string(edit.left) + "," +
-                      std::to_string(edit.top) + "," + size(edit) + ",20)"}));
+                  "CWnd::SetWindowPos(\"CQrUiProgSliderCtrl\", 0, 0, " + size(slider) + ", 22)",
+                  "CWnd::SetWindowPos(\"CQrUiInputEditCtrl\", " + std::to_string(edit.left) + ", " +
+                      std::to_string(edit.top) + ", " + size(edit) + ", 20)"}));
     control.DestroyWindow();
 }
 
@@ -328,9 +328,8 @@ TEST_F(SliderEditTest, FieldIsMadeSmallWithABorderAndATabStop) {
     create(control, 300);
     forget();
     EXPECT_EQ(control.CreateEditPart(), 1);
-    EXPECT_EQ(
-        calls("CQrUiInputEditCtrl::Create"),
-        std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552,\"object\",10001,0)"});
+    EXPECT_EQ(calls("CQrUiInputEditCtrl::Create"),
+              std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552, object, 10001, 0)"});
     EXPECT_EQ(firstRects.of(control.edit().m_hWnd), (CRect{0, 0, 16, 16}));
     ASSERT_EQ(control.GetToolPanelItemCount(), 3);
     EXPECT_EQ(control.GetToolPanelItem(1)->GetType(), kItemSeparator);
@@ -346,8 +345,8 @@ TEST_F(SliderEditTest, TwoFieldsAreMadeAlikeUnderTheirOwnIds) {
     EXPECT_EQ(control.CreateEditPart(), 1);
     EXPECT_EQ(
         calls("CQrUiInputEditCtrl::Create"),
-        (std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552,\"object\",10001,0)",
-                                  "CQrUiInputEditCtrl::Create(1350631552,\"object\",10002,0)"}));
+        (std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552, object, 10001, 0)",
+                                  "CQrUiInputEditCtrl::Create(1350631552, object, 10002, 0)"}));
     ASSERT_EQ(control.GetToolPanelItemCount(), 5);
     for (const int field : {2, 4}) {
         EXPECT_EQ(firstRects.of(control.GetToolPanelItem(field)->GetControl()),

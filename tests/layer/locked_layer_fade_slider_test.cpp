@@ -7,7 +7,11 @@
 #include "workbench/gestures/slider_gestures.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/slider_widget.h"
+#include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
+
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <string>
@@ -15,7 +19,9 @@
 
 namespace {
 
+using testing::Contains;
 using workbench::Value;
+using Calls = std::vector<std::string>;
 
 constexpr const char* kControl = "LayerLockTransparencySliderControl";
 constexpr const wchar_t* kVariable = L"LAYLOCKFADECTL";
@@ -36,7 +42,34 @@ protected:
     /// How often the variable was written by the module since the last look at the journal.
     std::size_t writes() { return takeCount("vxedSetVar"); }
     int fade() { return static_cast<int>(var(kVariable).asInteger()); }
+    std::string largeButtonImage() {
+        return bench().toolkit().pictures().source(
+            item(L"TPB_LAYER_SLIDERCONTROL1")->m_record->largeImage);
+    }
+    /// The steps of an entry or a gesture since the last look.
+    Calls steps() {
+        return takeCallLines({"QrUiHideBalloonTip", "QrUiShowBalloonTip", "CWnd::SetWindowText",
+                              "CQrUiProgSliderCtrl::SetSliderPos", "vxdbDisToF", "vxedGetVar",
+                              "vxedSetVar", "CWnd::SetTimer", "CWnd::KillTimer",
+                              "CWnd::EnableWindow"});
+    }
+    static std::string textCall(const std::string& text) {
+        return "CWnd::SetWindowText(\"CQrUiInputEditCtrl\", \"" + text + "\")";
+    }
+    static std::string positionCall(int position) {
+        return "CQrUiProgSliderCtrl::SetSliderPos(" + std::to_string(position) + ")";
+    }
+    static std::string writeCall(int value) {
+        return "vxedSetVar(\"LAYLOCKFADECTL\", " + std::to_string(value) + ")";
+    }
 };
+
+const std::string kHide = "QrUiHideBalloonTip(object)";
+const std::string kRead = "vxedGetVar(\"LAYLOCKFADECTL\")";
+const std::string kStartTimer = "CWnd::SetTimer(\"LayerLockTransparencySliderControl\", 1, 150)";
+const std::string kStopTimer = "CWnd::KillTimer(\"LayerLockTransparencySliderControl\", 1)";
+const std::string kBalloon =
+    "QrUiShowBalloonTip(object, object, \"Enter a value from 0% to 90%.\", 0)";
 
 // Creation
 
@@ -68,6 +101,63 @@ TEST_F(FadeSliderTest, ButtonHasItsPictureAndName) {
         workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1"));
     EXPECT_EQ(button.image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_FALSE(button.name.empty());
+}
+
+TEST_F(FadeSliderTest, ButtonHasItsPictureInBothSizes) {
+    EXPECT_EQ(largeButtonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    set(kVariable, -20);
+    EXPECT_EQ(buttonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF");
+    EXPECT_EQ(largeButtonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF");
+}
+
+TEST_F(FadeSliderTest, PartsAreMadeInTheOrderOfTheRow) {
+    takeJournal();
+    rebuildControl();
+    EXPECT_THAT(takeCallLines({"CQrUiProgSliderCtrl::Create"}),
+                Contains("CQrUiProgSliderCtrl::Create(1342177280, object, 10001, 2)"));
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 4);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), L"TPB_LAYER_SLIDERCONTROL1");
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), slider());
+    EXPECT_EQ(row.GetToolPanelItem(2)->GetType(), kItemSeparator);
+    EXPECT_EQ(row.GetToolPanelItem(3)->GetControl(), edit());
+}
+
+TEST_F(FadeSliderTest, SliderIsMadeAsLargeAsTheControl) {
+    const CRect whole = firstRectOf(window());
+    ASSERT_NE(whole.Width(), 0);
+    EXPECT_EQ(firstRectOf(slider()), (CRect{0, 0, whole.Width(), whole.Height()}));
+}
+
+TEST_F(FadeSliderTest, VariableIsReadOnceAndThenShownByThumbFieldAndButton) {
+    takeJournal();
+    rebuildControl();
+    Calls made = takeCallLines({"vxedGetVar", "CQrUiProgSliderCtrl::SetSliderPos",
+                                "CWnd::SetWindowText", "CWnd::EnableWindow"});
+    const auto first = std::find(made.begin(), made.end(), kRead);
+    ASSERT_NE(first, made.end());
+    ASSERT_GE(made.end() - first, 5);
+    EXPECT_EQ(Calls(first, first + 5), (Calls{kRead, positionCall(50), textCall("      50%"),
+                                              "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 1)",
+                                              "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"}));
+}
+
+TEST_F(FadeSliderTest, MessagesAreAnsweredZero) {
+    const auto thumb = reinterpret_cast<LPARAM>(slider());
+    EXPECT_EQ(send(1534, 20, thumb), 0);
+    EXPECT_EQ(send(1534, 20, 0), 0);
+    EXPECT_EQ(send(WM_TIMER, 1), 0);
+    EXPECT_EQ(send(WM_TIMER, 1), 0);
+    EXPECT_EQ(send(WM_TIMER, 2), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(kVariable)), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"LTSCALE")), 0);
+    EXPECT_EQ(send(1729, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    EXPECT_EQ(send(1730, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    EXPECT_EQ(send(1731, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    for (const WPARAM id : {10001, 4711}) {
+        EXPECT_EQ(send(1735, id), 0);
+        EXPECT_EQ(send(1738, id), 0);
+    }
 }
 
 TEST_F(FadeSliderTest, ButtonSliderAndEditHaveATipEach) {
@@ -120,6 +210,31 @@ TEST_F(FadeSliderTest, DragShowsAtOnceAndWritesOnceItHasRested) {
     EXPECT_EQ(fade(), 40);
     EXPECT_EQ(writes(), 1U);
     EXPECT_EQ(position(), 40);
+}
+
+TEST_F(FadeSliderTest, TimerStartsOnceAndStopsBeforeTheWrite) {
+    takeJournal();
+    drag({40});
+    EXPECT_EQ(steps(), (Calls{textCall("      40%"), kStartTimer}));
+    drag({41});
+    EXPECT_EQ(steps(), Calls{textCall("      41%")});
+    wait(150);
+    EXPECT_EQ(steps(), Calls{});
+    wait(150);
+    EXPECT_EQ(steps(), (Calls{kStopTimer, writeCall(41), kRead}));
+    wait(1000);
+    EXPECT_EQ(steps(), Calls{}) << "the timer is at rest";
+    drag({42});
+    EXPECT_EQ(steps(), (Calls{textCall("      42%"), kStartTimer}));
+    release();
+}
+
+TEST_F(FadeSliderTest, DragNeverSetsTheThumb) {
+    takeJournal();
+    drag({40, 41});
+    release();
+    wait(300);
+    EXPECT_EQ(takeCount("CQrUiProgSliderCtrl::SetSliderPos"), 0U);
 }
 
 TEST_F(FadeSliderTest, ThreeQuickMovesWriteOnceAtTheLastPosition) {
@@ -221,6 +336,32 @@ TEST_F(FadeSliderTest, ClickAtZeroSwitchesOnAtFifty) {
 
 // Host changes
 
+TEST_F(FadeSliderTest, ChangeIsShownByFieldThumbAndButtonInThisOrder) {
+    takeJournal();
+    set(kVariable, -25);
+    EXPECT_EQ(steps(), (Calls{kRead, textCall("      25%"), positionCall(25),
+                              "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 0)",
+                              "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 0)"}));
+}
+
+TEST_F(FadeSliderTest, SameValueIsReadAndNotShownAgain) {
+    takeJournal();
+    send(1727, 1, reinterpret_cast<LPARAM>(kVariable));
+    EXPECT_EQ(steps(), Calls{kRead});
+}
+
+TEST_F(FadeSliderTest, CommandDisablesTheControlAsAWholeAndItsEndEnablesIt) {
+    takeJournal();
+    send(1729, 0, reinterpret_cast<LPARAM>(L"LINE"));
+    EXPECT_EQ(steps(), Calls{"CWnd::EnableWindow(\"LayerLockTransparencySliderControl\", 0)"});
+    for (const UINT over : {1730, 1731}) {
+        send(over, 0, reinterpret_cast<LPARAM>(L"LINE"));
+        EXPECT_EQ(steps(), (Calls{"CWnd::EnableWindow(\"LayerLockTransparencySliderControl\", 1)",
+                                  "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 1)",
+                                  "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"}));
+    }
+}
+
 TEST_F(FadeSliderTest, FollowsAChangeFromTheCommandLineWithoutWriting) {
     type(L"LAYLOCKFADECTL\n25\n");
     EXPECT_EQ(position(), 25);
@@ -284,6 +425,50 @@ TEST_F(FadeSliderTest, TypedPercentAndEnterWritesTheNumber) {
     EXPECT_EQ(text(), L"      45%");
 }
 
+TEST_F(FadeSliderTest, EntryIsReadShownSetAndWrittenInThisOrder) {
+    put(L"45%");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(steps(), (Calls{"vxdbDisToF(\"45\", -1)", textCall("      45%"), positionCall(45),
+                              writeCall(45), kRead}));
+}
+
+TEST_F(FadeSliderTest, EmptyEntryIsNotRead) {
+    put(L" % ");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(steps(), (Calls{textCall("      50%"), positionCall(50), writeCall(50)}));
+}
+
+TEST_F(FadeSliderTest, RefusedEntryIsToldBeforeTheOldValueIsShown) {
+    for (const wchar_t* refused : {L"95", L"abc"}) {
+        put(refused);
+        takeJournal();
+        press("enter");
+        EXPECT_EQ(balloonTarget(), edit());
+        const Calls made = steps();
+        ASSERT_EQ(made.size(), 5U);
+        EXPECT_EQ(Calls(made.begin() + 1, made.end()),
+                  (Calls{kBalloon, textCall("      50%"), positionCall(50), writeCall(50)}));
+        EXPECT_EQ(takeTexts("balloon"), Calls{"Enter a value from 0% to 90%."});
+    }
+}
+
+TEST_F(FadeSliderTest, LeavingHidesTheBalloonAndThenCommits) {
+    put(L"45");
+    takeJournal();
+    leave();
+    EXPECT_EQ(steps(), (Calls{kHide, "vxdbDisToF(\"45\", -1)", textCall("      45%"),
+                              positionCall(45), writeCall(45), kRead}));
+}
+
+TEST_F(FadeSliderTest, EscapeOnlyShowsTheValue) {
+    put(L"45");
+    takeJournal();
+    press("escape");
+    EXPECT_EQ(steps(), Calls{textCall("      50%")});
+}
+
 struct EntryCase {
     const wchar_t* typed;
     int fade;  // afterwards, from 50
@@ -298,8 +483,7 @@ TEST_P(FadeEntryTest, IsTakenOrRefusedWithABalloon) {
     const std::vector<std::string> balloons = takeTexts("balloon");
     EXPECT_EQ(balloons.size(), GetParam().refused ? 1U : 0U);
     if (GetParam().refused && !balloons.empty()) {
-        EXPECT_NE(balloons[0].find("0%"), std::string::npos);
-        EXPECT_NE(balloons[0].find("90%"), std::string::npos);
+        EXPECT_EQ(balloons[0], workbench::toUtf8(filled(3998, {L"0%", L"90%"})));
     }
 }
 
@@ -344,7 +528,9 @@ TEST_F(FadeSliderTest, EscapeBringsTheOldTextBackAndWritesNothing) {
 }
 
 TEST_F(FadeSliderTest, EnterIsConsumedAndNeverReachesTheCommandLine) {
+    bench().windows().setName(bench().toolkit().frame().commandLine().m_hWnd, "CommandLine");
     enter(L"12");
+    EXPECT_TRUE(takeMessagesOf("CommandLine").empty());
     EXPECT_TRUE(takeSent().empty());
     EXPECT_EQ(bench().windows().focus(), edit());
 }

@@ -1,16 +1,23 @@
 #include "tests/support/control_bench.h"
 
 #include "workbench/base/text.h"
+#include "workbench/editor/editor.h"
+#include "workbench/gestures/key_gestures.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/slider_widget.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
+
+#include <gmock/gmock.h>
 
 #include <string>
 #include <vector>
 
 namespace {
 
+using testing::Contains;
 using workbench::Value;
+using Calls = std::vector<std::string>;
 
 /// What the two controls promise, each in its own numbers.
 struct StepCase {
@@ -32,6 +39,12 @@ struct StepCase {
     double draggedValue;
     const wchar_t* tooLittle;
     const wchar_t* tooMuch;
+    const wchar_t* least;  // that is taken
+    const wchar_t* most;
+    std::vector<std::wstring> limits;   // that a refusal names
+    const wchar_t* textWithoutDrawing;  // while there are units to write it in
+    const wchar_t* draggedText;
+    const char* writeOfValue;
 };
 
 void PrintTo(const StepCase& row, std::ostream* out) {
@@ -55,7 +68,13 @@ const StepCase kSize{"3DNavStepSizeSliderControl",
                      920,
                      10000.0,
                      L"0",
-                     L"1000001"};
+                     L"1000001",
+                     L"0.000001",
+                     L"1000000",
+                     {L".0000010", L"1,000,000"},
+                     L"6.00",
+                     L"10000.00",
+                     "vxedSetVar(\"STEPSIZE\", 0.500000)"};
 const StepCase kRate{"3DNavStepsPerSecSliderControl",
                      L"STEPSPERSEC",
                      {L"STEPSPERSEC", L"LUPREC", L"luprec"},
@@ -73,7 +92,13 @@ const StepCase kRate{"3DNavStepsPerSecSliderControl",
                      145,
                      14.5,
                      L"0.9",
-                     L"30.1"};
+                     L"30.1",
+                     L"1",
+                     L"30",
+                     {},
+                     L"1.00",
+                     L"14.50",
+                     "vxedSetVar(\"STEPSPERSEC\", 15.500000)"};
 
 class StepSliderTest : public support::ControlBench, public testing::WithParamInterface<StepCase> {
 protected:
@@ -85,6 +110,16 @@ protected:
 
     double value() { return var(GetParam().variable).asReal(); }
     std::size_t writes() { return takeCount("vxedSetVar"); }
+    std::wstring labelled(const std::wstring& value) {
+        return stringOf(GetParam().label) + L":" + value;
+    }
+    std::wstring refusal() { return filled(GetParam().refusal, GetParam().limits); }
+    static std::string textCall(const std::wstring& text) {
+        return "CWnd::SetWindowText(\"CQrUiInputEditCtrl\", \"" + workbench::toUtf8(text) + "\")";
+    }
+    static std::string positionCall(int position) {
+        return "CQrUiProgSliderCtrl::SetSliderPos(" + std::to_string(position) + ")";
+    }
     std::string balloon() {
         const std::vector<std::string> all = takeTexts("balloon");
         return all.empty() ? std::string() : all.back();
@@ -108,8 +143,45 @@ TEST_P(StepSliderTest, PartsHaveTheirIdsRangeAndTexts) {
     EXPECT_EQ(icon.image, row.image);
     EXPECT_EQ(icon.name, stringOf(row.label));
     EXPECT_EQ(tipOf(field()), stringOf(row.label));
-    EXPECT_EQ(tipOf(slider()).find(stringOf(row.label) + L":"), 0U);
-    EXPECT_GT(tipOf(slider()).size(), stringOf(row.label).size() + 1);
+}
+
+TEST_P(StepSliderTest, TipAfterCreationHasTheTextOfTheField) {
+    set(GetParam().variable, GetParam().value);
+    rebuildControl();
+    EXPECT_EQ(text(), GetParam().valueText);
+    EXPECT_EQ(tipOf(slider()), labelled(GetParam().valueText));
+}
+
+TEST_P(StepSliderTest, PartsAreMadeInTheOrderOfTheRow) {
+    takeJournal();
+    rebuildControl();
+    EXPECT_THAT(takeCallLines({"CQrUiProgSliderCtrl::Create"}),
+                Contains("CQrUiProgSliderCtrl::Create(1342177280, object, " +
+                         std::to_string(GetParam().sliderId) + ", 2)"));
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 4);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), GetParam().itemId);
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), slider());
+    EXPECT_EQ(row.GetToolPanelItem(2)->GetType(), kItemSeparator);
+    EXPECT_EQ(row.GetToolPanelItem(3)->GetControl(), field());
+}
+
+TEST_P(StepSliderTest, SliderIsMadeAsLargeAsTheControl) {
+    const CRect whole = firstRectOf(window());
+    ASSERT_NE(whole.Width(), 0);
+    EXPECT_EQ(firstRectOf(slider()), (CRect{0, 0, whole.Width(), whole.Height()}));
+}
+
+TEST_P(StepSliderTest, MessagesAreAnsweredZero) {
+    EXPECT_EQ(send(1534, 100, reinterpret_cast<LPARAM>(slider())), 0);
+    EXPECT_EQ(send(1534, 100, 0), 0);
+    EXPECT_EQ(send(1726), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(GetParam().variable)), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"CVPORT")), 0);
+    for (const WPARAM id : {10001, 4711}) {
+        EXPECT_EQ(send(1735, id), 0);
+        EXPECT_EQ(send(1738, id), 0);
+    }
 }
 
 TEST_P(StepSliderTest, ShowsTheDrawingsValue) {
@@ -140,22 +212,41 @@ TEST_P(StepSliderTest, DragWritesAtEachStepAndStaysUnderTheHand) {
     release();
 }
 
-TEST_P(StepSliderTest, DragShowsTheValueInTheTip) {
+TEST_P(StepSliderTest, DragShowsTheValueThenWritesItUnderALockThenShowsTheTip) {
+    takeJournal();
     drag({GetParam().draggedPosition});
-    EXPECT_EQ(tipOf(slider()).find(stringOf(GetParam().label) + L":"), 0U);
+    std::string write = GetParam().writeOfValue;
+    write = write.substr(0, write.find(',') + 1);
+    Calls steps = takeCallLines({"CWnd::SetWindowText", "VxAxDocLock::VxAxDocLock", "vxedSetVar",
+                                 "VxAxDocLock::~VxAxDocLock", "CQrUiProgSliderCtrl::SetSliderPos",
+                                 "CQrUiProgSliderCtrl::ShowToolTip"});
+    EXPECT_EQ(steps,
+              (Calls{textCall(GetParam().draggedText), "VxAxDocLock::VxAxDocLock(object, 1)",
+                     write + (GetParam().draggedValue > 100.0 ? "10000.000000)" : "14.500000)"),
+                     "VxAxDocLock::~VxAxDocLock()", "CQrUiProgSliderCtrl::ShowToolTip()"}));
+    EXPECT_EQ(tipOf(slider()), labelled(GetParam().draggedText));
     release();
 }
 
-TEST_P(StepSliderTest, WriteStandsUnderADocumentLock) {
-    drag({GetParam().draggedPosition});
-    std::vector<std::string> steps;
-    for (const std::string& call : takeCalls()) {
-        if (call.find("VxAxDocLock") == 0 || call == "vxedSetVar")
-            steps.push_back(call);
-    }
-    EXPECT_EQ(steps, (std::vector<std::string>{"VxAxDocLock::VxAxDocLock", "vxedSetVar",
-                                               "VxAxDocLock::~VxAxDocLock"}));
+TEST_P(StepSliderTest, TipShowsADistanceWhateverTheFieldShows) {
+    constexpr int kArchitectural = 4;
+    set(L"LUNITS", kArchitectural);
+    drag({GetParam().windowId == 102 ? 115 : 145});
+    EXPECT_EQ(tipOf(slider()), labelled(GetParam().windowId == 102 ? L"1 1/4\"" : L"1'-2 1/2\""));
+    EXPECT_EQ(text(), GetParam().windowId == 102 ? L"1 1/4\"" : L"14.50");
     release();
+}
+
+TEST_P(StepSliderTest, DragKeepsNoText) {
+    focusField();
+    leave();
+    const std::wstring before = text();
+    drag({GetParam().draggedPosition});
+    release();
+    bench().windows().setText(field(), before);
+    takeJournal();
+    send(1735, 10001);
+    EXPECT_EQ(writes(), 0U) << "the text that was kept is still the one from before";
 }
 
 TEST_P(StepSliderTest, EnteredValueIsWrittenAndShown) {
@@ -164,6 +255,44 @@ TEST_P(StepSliderTest, EnteredValueIsWrittenAndShown) {
     EXPECT_EQ(position(), GetParam().valuePosition);
     EXPECT_EQ(balloon(), "");
     leave();
+}
+
+TEST_P(StepSliderTest, EntryMovesTheSliderThenShowsThenWritesUnderALock) {
+    put(GetParam().valueText);
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(takeCallLines({"CWnd::SetWindowText", "VxAxDocLock::VxAxDocLock", "vxedSetVar",
+                             "VxAxDocLock::~VxAxDocLock", "CQrUiProgSliderCtrl::SetSliderPos",
+                             "CQrUiProgSliderCtrl::ShowToolTip", "QrUiHideBalloonTip"}),
+              (Calls{positionCall(GetParam().valuePosition), textCall(GetParam().valueText),
+                     "VxAxDocLock::VxAxDocLock(object, 1)", GetParam().writeOfValue,
+                     "VxAxDocLock::~VxAxDocLock()"}));
+    leave();
+}
+
+TEST_P(StepSliderTest, EnterAndEscapeReachNoCommandLine) {
+    bench().windows().setName(bench().toolkit().frame().commandLine().m_hWnd, "CommandLine");
+    enter(GetParam().valueText);
+    press("escape");
+    EXPECT_TRUE(takeSent().empty());
+    EXPECT_TRUE(takeMessagesOf("CommandLine").empty());
+    leave();
+}
+
+TEST_P(StepSliderTest, LimitsThemselvesAreTaken) {
+    for (const wchar_t* limit : {GetParam().least, GetParam().most}) {
+        enter(limit);
+        EXPECT_EQ(balloon(), "") << workbench::toUtf8(limit);
+        EXPECT_DOUBLE_EQ(value(), std::stod(limit));
+        leave();
+    }
+}
+
+TEST_P(StepSliderTest, HostsChangeBehindAnEntryIsFollowed) {
+    enter(GetParam().valueText);
+    leave();
+    set(GetParam().variable, GetParam().draggedValue);
+    EXPECT_EQ(text(), GetParam().draggedText);
 }
 
 TEST_P(StepSliderTest, LeavingAfterEnterWritesNothingMore) {
@@ -177,11 +306,80 @@ TEST_P(StepSliderTest, ValueOutOfRangeIsRefused) {
     const std::wstring before = text();
     for (const wchar_t* entry : {GetParam().tooLittle, GetParam().tooMuch, L"fast", L"-1"}) {
         enter(entry);
-        EXPECT_NE(balloon(), "") << workbench::toUtf8(entry);
+        EXPECT_EQ(balloonTarget(), field());
+        EXPECT_EQ(balloon(), workbench::toUtf8(refusal())) << workbench::toUtf8(entry);
         EXPECT_EQ(text(), before);
         EXPECT_TRUE(hasFocus(field()));
     }
     EXPECT_EQ(writes(), 0U);
+    leave();
+}
+
+TEST_P(StepSliderTest, RefusedEntryIsGivenBackAndThenTold) {
+    const std::wstring before = text();
+    put(GetParam().tooMuch);
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(
+        takeCallLines({"CWnd::SetWindowText", "CWnd::SetFocus", "QrUiShowBalloonTip",
+                       "CQrUiProgSliderCtrl::SetSliderPos", "VxAxDocLock::VxAxDocLock"}),
+        (Calls{textCall(before), "CWnd::SetFocus(\"CQrUiInputEditCtrl\")",
+               "QrUiShowBalloonTip(object, object, \"" + workbench::toUtf8(refusal()) + "\", 0)"}));
+    EXPECT_EQ(balloon(), workbench::toUtf8(refusal()));
+    leave();
+}
+
+TEST_P(StepSliderTest, TypingAfterARefusalReplacesAllOfTheText) {
+    enter(L"fast");
+    EXPECT_NE(balloon(), "");
+    workbench::gestures::typeText(bench().toolkit(), L"7");
+    EXPECT_EQ(text(), L"7");
+    press("escape");
+    leave();
+}
+
+TEST_P(StepSliderTest, SameTextButForBlanksDoesNothing) {
+    put(L" " + text() + L" ");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(takeCallLines({"CWnd::SetWindowText", "vxdbDisToF", "vxedSetVar",
+                             "CQrUiProgSliderCtrl::SetSliderPos"}),
+              Calls{});
+    leave();
+}
+
+TEST_P(StepSliderTest, TextIsKeptAsADistanceWhateverTheFieldShows) {
+    const std::string shown = workbench::toUtf8(text());
+    takeJournal();
+    focusField();
+    EXPECT_EQ(takeCallLines({"vxdbDisToF"}), Calls{"vxdbDisToF(\"" + shown + "\", -1)"});
+    leave();
+}
+
+TEST_P(StepSliderTest, TextThatIsNoDistanceIsNotKept) {
+    const std::wstring before = text();
+    focusField();
+    leave();
+    bench().windows().setText(field(), L"fast");
+    focusField();
+    press("enter");
+    EXPECT_EQ(balloon(), workbench::toUtf8(refusal()));
+    EXPECT_EQ(text(), before);
+    leave();
+}
+
+TEST_P(StepSliderTest, OtherNoticesAndOtherFieldsOnlyHideTheBalloon) {
+    put(L"7");
+    takeJournal();
+    for (const WPARAM notice :
+         {MAKELONG(10001, 0x300), MAKELONG(10002, EN_KILLFOCUS), MAKELONG(10002, EN_SETFOCUS)})
+        send(WM_COMMAND, notice, reinterpret_cast<LPARAM>(field()));
+    EXPECT_EQ(takeCalls(), Calls(3, "QrUiHideBalloonTip"));
+    send(1735, 10002);
+    send(1738, 10002);
+    EXPECT_EQ(takeCalls(), Calls{});
+    EXPECT_EQ(text(), L"7");
+    press("escape");
     leave();
 }
 
@@ -219,9 +417,9 @@ TEST_P(StepSliderTest, AnyCommandHidesTheBalloonFirst) {
 }
 
 TEST_P(StepSliderTest, AnotherSlidersMessageIsIgnored) {
-    takeCalls();
+    takeJournal();
     send(1534, 100, reinterpret_cast<LPARAM>(field()));
-    EXPECT_EQ(writes(), 0U);
+    EXPECT_EQ(takeCalls(), Calls{});
 }
 
 TEST_P(StepSliderTest, DocumentThatBecomesCurrentBringsItsValue) {
@@ -239,6 +437,27 @@ TEST_P(StepSliderTest, MessageWithoutADocumentChangesNothing) {
     EXPECT_EQ(text(), L"7");
     press("escape");
     leave();
+}
+
+TEST_P(StepSliderTest, DocumentWithoutADatabaseShowsTheFixedValueAtTheEnd) {
+    set(GetParam().variable, GetParam().value);
+    fail("VxApDocument::database");
+    takeJournal();
+    send(1726, 0,
+         reinterpret_cast<LPARAM>(
+             static_cast<VxApDocument*>(bench().editor().documents().current())));
+    EXPECT_EQ(takeCallLines({"CQrUiProgSliderCtrl::SetSliderPos", "CWnd::SetWindowText"}),
+              (Calls{positionCall(0), textCall(GetParam().textWithoutDrawing)}));
+    EXPECT_EQ(text(), GetParam().textWithoutDrawing);
+    EXPECT_EQ(position(), GetParam().lowest);
+}
+
+TEST_P(StepSliderTest, RefreshSetsTheSliderWithoutAskingWhereItStands) {
+    set(GetParam().variable, GetParam().value);
+    takeJournal();
+    send(1727, 1, reinterpret_cast<LPARAM>(GetParam().variable));
+    EXPECT_EQ(takeCallLines({"CQrUiProgSliderCtrl::SetSliderPos", "CWnd::SetWindowText"}),
+              (Calls{positionCall(GetParam().valuePosition), textCall(GetParam().valueText)}));
 }
 
 TEST_P(StepSliderTest, WithoutADatabaseTheFieldIsBlankAndTheSliderStandsAtItsEnd) {
@@ -279,15 +498,6 @@ TEST_F(StepSizeSliderTest, PositionTwoWritesTwoHundredthsAndStandsAtFourAfterARe
     release();
     announce(L"STEPSIZE");
     EXPECT_EQ(position(), 4);
-}
-
-TEST_F(StepSizeSliderTest, RefusalNamesTheTwoLimits) {
-    enter(L"0");
-    const std::vector<std::string> balloons = takeTexts("balloon");
-    ASSERT_EQ(balloons.size(), 1U);
-    EXPECT_NE(balloons[0].find(".0000010"), std::string::npos) << balloons[0];
-    EXPECT_NE(balloons[0].find("1,000,000"), std::string::npos) << balloons[0];
-    leave();
 }
 
 class StepsPerSecSliderTest : public support::ControlBench {
