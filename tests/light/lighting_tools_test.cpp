@@ -1,9 +1,7 @@
 #include "light/lighting_tools.h"
 
+#include "tests/light/lighting_fixture.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/bench.h"
-#include "tests/support/call_lines.h"
-#include "workbench/editor/editor.h"
 
 #include <hostapi/zorq.h>
 
@@ -16,46 +14,6 @@ namespace {
 using support::Sent;
 using workbench::Value;
 using Texts = std::vector<Sent>;
-using Calls = std::vector<std::string>;
-
-/// The steps of a tool that sends its command itself.
-const std::vector<std::string_view> kSteps{"VxAxDocLock::VxAxDocLock",
-                                           "vxutNewRb",
-                                           "vxedGetVar",
-                                           "vxedSetVar",
-                                           "do_cmd",
-                                           "vxutRelRb",
-                                           "VxAxDocLock::~VxAxDocLock",
-                                           "VxApDocManager::sendToCommandLine",
-                                           "AfxGetMainWnd"};
-const std::string kLock = "VxAxDocLock::VxAxDocLock(object, 1)";
-const std::string kUnlock = "VxAxDocLock::~VxAxDocLock()";
-
-std::string readCall(const std::string& variable) {
-    return "vxedGetVar(\"" + variable + "\")";
-}
-
-std::string commandCall(const std::string& text) {
-    return "do_cmd(\"_" + text + "\n\", 0, 0, 1)";
-}
-
-class LightingToolsTest : public support::Bench {
-protected:
-    void SetUp() override {
-        showDashboard();
-        takeSent();
-        takeJournal();
-    }
-    void clickTool(const wchar_t* id) { click(item(id)); }
-    void goToPaperSpace() {
-        set(L"TILEMODE", 0);
-        ASSERT_EQ(var(L"CVPORT"), Value(1));
-    }
-    /// The steps of the click since the last look; what the command's own events set off in others
-    /// follows behind them.
-    Calls steps() { return takeCallLines(kSteps); }
-    int number(const wchar_t* variable) { return static_cast<int>(var(variable).asInteger()); }
-};
 
 struct ToggleCase {
     const wchar_t* id;
@@ -138,28 +96,6 @@ TEST_P(LightToggleTest, ClosingTheDocumentDropsWhatWaits) {
     EXPECT_TRUE(takeSent().empty());
 }
 
-TEST_P(LightToggleTest, PaperSpaceReadsNoVariableOfTheTool) {
-    goToPaperSpace();
-    takeJournal();
-    clickTool(GetParam().id);
-    EXPECT_EQ(steps(), (Calls{readCall("TILEMODE"), readCall("CVPORT"),
-                              "VxApDocManager::sendToCommandLine(object, \"" + bare() +
-                                  "\", false, true, true)"}));
-    takeSent();
-    type(L"\x1b");
-}
-
-TEST_P(LightToggleTest, BlockEditorIsAskedForInModelSpaceAlone) {
-    set(L"BLOCKEDITOR", 1);
-    takeJournal();
-    clickTool(GetParam().id);
-    EXPECT_EQ(steps(), (Calls{readCall("TILEMODE"), readCall("BLOCKEDITOR"),
-                              "VxApDocManager::sendToCommandLine(object, \"" + bare() +
-                                  "\", false, true, true)"}));
-    takeSent();
-    type(L"\x1b");
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Tools, LightToggleTest,
     testing::Values(ToggleCase{L"ID_DefaultLighting", L"DEFAULTLIGHTING", "defaultlighting"},
@@ -178,104 +114,6 @@ TEST_F(LightingToolsTest, UnreadableDefaultLightingSendsOne) {
     fail("vxedGetVar:DEFAULTLIGHTING");
     clickTool(L"ID_DefaultLighting");
     EXPECT_EQ(takeSent(), (Texts{{"_defaultlighting\n1\n", "do_cmd"}}));
-}
-
-/// The tools alone, so that nobody else calls the host.
-constexpr const char* kLightMenu = R"({
-  "menuGroups": [{"name": "MAIN"}],
-  "panels": [{"menuGroup": "MAIN", "id": "Lights", "title": "Lights", "toolPanels": ["Lights"]}],
-  "workspaces": [{"name": "Work", "panels": [{"panel": "Lights", "menuGroup": "MAIN"}]}],
-  "currentWorkspace": "Work",
-  "toolPanels": [{"menuGroup": "MAIN", "id": "Lights", "items": [
-    {"type": "button", "id": "ID_DefaultLighting", "module": "VxDashboard.qlx"},
-    {"type": "button", "id": "ID_SunStatus", "module": "VxDashboard.qlx"},
-    {"type": "button", "id": "ID_Light", "module": "VxDashboard.qlx"},
-    {"type": "button", "id": "ID_Skylight_Off", "module": "VxDashboard.qlx"},
-    {"type": "button", "id": "ID_Skylight_Background", "module": "VxDashboard.qlx"},
-    {"type": "button", "id": "ID_Skylight_Illumination", "module": "VxDashboard.qlx"}]}]
-})";
-
-class LightStepsTest : public LightingToolsTest {
-protected:
-    void SetUp() override {
-        useMenu(kLightMenu);
-        LightingToolsTest::SetUp();
-    }
-    /// The steps of a click from its lock on, without those of the command's events.
-    Calls stepsOf(const wchar_t* id) {
-        takeJournal();
-        clickTool(id);
-        Calls made = steps();
-        made.erase(made.begin(), std::find(made.begin(), made.end(), kLock));
-        takeSent();
-        return made;
-    }
-};
-
-struct FlipCase {
-    const wchar_t* id;
-    const wchar_t* variable;
-    const char* name;
-    const char* command;
-};
-
-class FlipStepsTest : public LightStepsTest, public testing::WithParamInterface<FlipCase> {};
-
-TEST_P(FlipStepsTest, LockReadSendReleaseUnlock) {
-    for (const int before : {0, 1}) {
-        set(GetParam().variable, before);
-        EXPECT_EQ(
-            stepsOf(GetParam().id),
-            (Calls{kLock, "vxutNewRb(5003)", readCall(GetParam().name),
-                   commandCall(std::string(GetParam().command) + "\n" + std::to_string(1 - before)),
-                   "vxutRelRb(object)", kUnlock}));
-    }
-}
-
-TEST_P(FlipStepsTest, WithoutABufferNothingIsSentAndTheLockEnds) {
-    fail("vxutNewRb");
-    EXPECT_EQ(stepsOf(GetParam().id), (Calls{kLock, "vxutNewRb(5003)", kUnlock}));
-}
-
-INSTANTIATE_TEST_SUITE_P(Tools, FlipStepsTest,
-                         testing::Values(FlipCase{L"ID_DefaultLighting", L"DEFAULTLIGHTING",
-                                                  "DEFAULTLIGHTING", "defaultlighting"},
-                                         FlipCase{L"ID_Light", L"LIGHTGLYPHDISPLAY",
-                                                  "LIGHTGLYPHDISPLAY", "lightglyphdisplay"}));
-
-TEST_F(LightStepsTest, SunIsReadUnderTheLockAndWithoutABuffer) {
-    set(L"SUNSTATUS", 0);
-    EXPECT_EQ(stepsOf(L"ID_SunStatus"),
-              (Calls{kLock, readCall("SUNSTATUS"), commandCall("sunstatus\n1"), kUnlock}));
-    set(L"SUNSTATUS", 1);
-    EXPECT_EQ(stepsOf(L"ID_SunStatus"),
-              (Calls{kLock, readCall("SUNSTATUS"), commandCall("sunstatus\n0"), kUnlock}));
-}
-
-TEST_F(LightStepsTest, SkyIsSetUnderTheLockAndTheMainWindowActivatedAfterwards) {
-    set(L"PERSPECTIVE", 1);
-    EXPECT_EQ(stepsOf(L"ID_Skylight_Background"),
-              (Calls{kLock, readCall("PERSPECTIVE"), commandCall("skystatus\n1"), kUnlock,
-                     "AfxGetMainWnd()"}));
-}
-
-TEST_F(LightStepsTest, PerspectiveIsTurnedOnUnderTheLockBeforeTheSky) {
-    set(L"PERSPECTIVE", 0);
-    EXPECT_EQ(stepsOf(L"ID_Skylight_Illumination"),
-              (Calls{kLock, readCall("PERSPECTIVE"), "vxedSetVar(\"PERSPECTIVE\", 1)",
-                     commandCall("skystatus\n2"), kUnlock, "AfxGetMainWnd()"}));
-}
-
-TEST_F(LightStepsTest, SecondClickDuringACommandCancelsOnceMore) {
-    set(L"DEFAULTLIGHTING", 0);
-    begin(L"LINE");
-    clickTool(L"ID_DefaultLighting");
-    EXPECT_EQ(takeSent(), (Texts{{"\x03\x03", "cancel"}}));
-    clickTool(L"ID_DefaultLighting");
-    EXPECT_EQ(takeSent(), (Texts{{"\x03\x03", "cancel"}}));
-    idle();
-    EXPECT_EQ(takeSent(),
-              (Texts{{"_defaultlighting\n1\n", "do_cmd"}, {"_defaultlighting\n0\n", "do_cmd"}}));
 }
 
 // What the functions answer
