@@ -1,7 +1,7 @@
 #include "controls/cmd_util.h"
 
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/toolkit.h"
@@ -42,7 +42,7 @@ protected:
     }
     /// The host calls of some names since the last look, with their arguments.
     std::vector<std::string> calls(const std::vector<std::string_view>& names) {
-        return support::callTexts(bench().journal().take("call"), names);
+        return support::callLines(bench().journal().take("call"), names);
     }
     void blur() { AfxGetMainWnd()->SetFocus(); }
     void set(const wchar_t* name, int value) { ASSERT_TRUE(bench().editor().set(name, value)); }
@@ -145,7 +145,7 @@ TEST_F(CmdUtilTest, CommandsFlagIsHandedOn) {
         forget();
         runHostCommand(L"_defaultlighting\n1\n", flag);
         EXPECT_EQ(calls({"do_cmd"}),
-                  (Lines{"do_cmd(\"_defaultlighting\\n1\\n\"," + std::to_string(flag) + ",0,1)"}));
+                  (Lines{"do_cmd(\"_defaultlighting\n1\n\", " + std::to_string(flag) + ", 0, 1)"}));
     }
 }
 

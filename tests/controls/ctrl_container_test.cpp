@@ -2,7 +2,7 @@
 
 #include "controls/edit_messages.h"
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "tests/support/first_rects.h"
 #include "workbench/windows/window_system.h"
 
@@ -83,10 +83,10 @@ TEST_F(CtrlContainerTest, FieldsAreMadeInThePlainStyleOfTheToolkit) {
     forget();
     createStrip(strip, 10);
     EXPECT_EQ(
-        support::callTexts(bench().journal().records(), {"CQrUiInputEditCtrl::Create"}),
-        (std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552,\"object\",5001,0)",
-                                  "CQrUiInputEditCtrl::Create(1350631552,\"object\",5002,0)",
-                                  "CQrUiInputEditCtrl::Create(1350631552,\"object\",5003,0)"}));
+        support::callLines(bench().journal().records(), {"CQrUiInputEditCtrl::Create"}),
+        (std::vector<std::string>{"CQrUiInputEditCtrl::Create(1350631552, object, 5001, 0)",
+                                  "CQrUiInputEditCtrl::Create(1350631552, object, 5002, 0)",
+                                  "CQrUiInputEditCtrl::Create(1350631552, object, 5003, 0)"}));
 }
 
 TEST_F(CtrlContainerTest, FieldsShareTheWidthWithMarginsOfThreeBetweenThem) {
@@ -108,15 +108,16 @@ TEST_P(StripHeightTest, GrowsToTheFieldsAndNeverShrinks) {
     forget();
     createStrip(strip, GetParam().before);
     EXPECT_EQ(rectOf(strip), (CRect{0, 0, kStripWidth, GetParam().after}));
-    EXPECT_EQ(support::callTexts(bench().journal().records(), {"CWnd::SetWindowPos"}),
+    EXPECT_EQ(support::callLines(bench().journal().records(), {"CWnd::SetWindowPos"}),
               GetParam().calls);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Heights, StripHeightTest,
-    testing::Values(HeightCase{10, 16, {"CWnd::SetWindowPos(\"CQrUiCtrlContainer\",0,0,200,16,6)"}},
-                    HeightCase{15, 16, {"CWnd::SetWindowPos(\"CQrUiCtrlContainer\",0,0,200,16,6)"}},
-                    HeightCase{16, 16, {}}, HeightCase{30, 30, {}}));
+    testing::Values(
+        HeightCase{10, 16, {"CWnd::SetWindowPos(\"CQrUiCtrlContainer\", 0, 0, 200, 16, 6)"}},
+        HeightCase{15, 16, {"CWnd::SetWindowPos(\"CQrUiCtrlContainer\", 0, 0, 200, 16, 6)"}},
+        HeightCase{16, 16, {}}, HeightCase{30, 30, {}}));
 
 TEST_F(CtrlContainerTest, NothingIsMadeWithoutAWindow) {
     CVxDaCtrlContainer unborn;

@@ -2,7 +2,7 @@
 
 #include "tests/palette/palette_fixture.h"
 #include "tests/resources/loaded_module.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "workbench/resources/resource_library.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/picture_table.h"
@@ -41,7 +41,7 @@ protected:
         return bench().toolkit().pictures().source(item.m_record->largeImage);
     }
     std::vector<std::string> calls(const std::vector<std::string_view>& names) {
-        return support::callTexts(bench().journal().records(), names);
+        return support::callLines(bench().journal().records(), names);
     }
 
     std::unique_ptr<CQrUiToolPanel> m_panel = std::make_unique<CQrUiToolPanel>();
@@ -85,9 +85,9 @@ TEST_F(RowItemsTest, IconShowsThePictureOfItsKeyInBothSizes) {
               "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     const std::string start =
-        "QrUiLoadImageFromResource(\"object\",\"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\",";
+        "QrUiLoadImageFromResource(object, \"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\", ";
     EXPECT_EQ(calls({"QrUiLoadImageFromResource"}),
-              (std::vector<std::string>{start + "16,-1)", start + "32,-1)"}));
+              (std::vector<std::string>{start + "16, -1)", start + "32, -1)"}));
     EXPECT_EQ(m_row.GetToolPanelItem(0), icon);
 }
 

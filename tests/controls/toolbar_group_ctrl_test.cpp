@@ -1,9 +1,8 @@
 #include "controls/toolbar_group_ctrl.h"
 
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "tests/support/control_bench.h"
-#include "tests/support/first_rects.h"
 
 #include "workbench/base/text.h"
 #include "workbench/drawing/path_access.h"
@@ -14,7 +13,6 @@
 #include "workbench/toolkit/lookup.h"
 #include "workbench/windows/window_system.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,19 +32,11 @@ void PrintTo(const WrappedCase& row, std::ostream* out) {
     *out << row.name;
 }
 
-std::string menuWith(const std::string& control) {
-    return R"({"menuGroups": [{"name": "MAIN"}], "panels": [{"menuGroup": "MAIN", "id": "P",
-        "title": "P", "toolPanels": ["TP"]}], "toolPanels": [{"menuGroup": "MAIN", "id": "TP",
-        "items": [{"type": "control", "control": ")" +
-           control + R"("}]}], "workspaces": [{"name": "W", "panels": [{"menuGroup": "MAIN",
-        "panel": "P"}]}], "currentWorkspace": "W"})";
-}
-
 class WrappedControlTest : public support::ControlBench,
                            public testing::WithParamInterface<WrappedCase> {
 protected:
     void SetUp() override {
-        useMenu(menuWith(GetParam().name));
+        useMenuOf(GetParam().name);
         showControl(GetParam().name);
     }
     CQrUiToolPanel& group() { return *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window())); }
@@ -100,7 +90,7 @@ INSTANTIATE_TEST_SUITE_P(
 class LayerListTest : public support::ControlBench {
 protected:
     void SetUp() override {
-        useMenu(menuWith("LayerControl"));
+        useMenuOf("LayerControl");
         showControl("LayerControl");
     }
     HWND list() { return part(window(), "combo"); }
@@ -109,7 +99,7 @@ protected:
     }
     /// How the host was asked to handle commands since the last look.
     std::vector<std::string> asked() {
-        return support::callTexts(takeJournal("call"), {"HandleToolbarComboMessage"});
+        return support::callLines(takeJournal("call"), {"HandleToolbarComboMessage"});
     }
 };
 
@@ -129,7 +119,7 @@ TEST_F(LayerListTest, HostIsAskedUntilItTakesTheCommand) {
     takeCalls();
     fail("HandleToolbarComboMessage", 0, 3);
     EXPECT_EQ(command(7, reinterpret_cast<LPARAM>(list())), 0);
-    const std::string call = "HandleToolbarComboMessage(1111,7,459863)";
+    const std::string call = "HandleToolbarComboMessage(1111, 7, 459863)";
     EXPECT_EQ(asked(), (Calls{call, call, call, call}));
 }
 
@@ -137,9 +127,9 @@ TEST_F(LayerListTest, HostIsAskedOnceForEachNoticeWithItsParameters) {
     takeCalls();
     for (const UINT code : {7U, 8U, 9U})
         EXPECT_EQ(command(code, reinterpret_cast<LPARAM>(list())), 0);
-    EXPECT_EQ(asked(), (Calls{"HandleToolbarComboMessage(1111,7,459863)",
-                              "HandleToolbarComboMessage(1111,8,525399)",
-                              "HandleToolbarComboMessage(1111,9,590935)"}));
+    EXPECT_EQ(asked(), (Calls{"HandleToolbarComboMessage(1111, 7, 459863)",
+                              "HandleToolbarComboMessage(1111, 8, 525399)",
+                              "HandleToolbarComboMessage(1111, 9, 590935)"}));
 }
 
 TEST_F(LayerListTest, ListCountsAsOpenBeforeTheHostIsAsked) {
@@ -169,7 +159,7 @@ INSTANTIATE_TEST_SUITE_P(LParams, NoControlTest, testing::Values(0, 0x10000, 0x7
 TEST_F(LayerListTest, CommandWithTheLeastControlIsAskedFor) {
     takeCalls();
     command(7, 1);
-    EXPECT_EQ(asked(), Calls{"HandleToolbarComboMessage(1111,7,459863)"});
+    EXPECT_EQ(asked(), Calls{"HandleToolbarComboMessage(1111, 7, 459863)"});
     EXPECT_EQ(send(kKeepFocus), 1);
 }
 
@@ -191,24 +181,20 @@ TEST_F(LayerListTest, ChosenLayerBecomesCurrent) {
 
 class ToolbarCreationTest : public support::ControlBench {
 protected:
-    void SetUp() override {
-        useMenu(menuWith("LineTypeControl"));
-        m_firstRects.emplace(bench().windows());
-    }
-    std::optional<support::FirstRects> m_firstRects;
+    void SetUp() override { useMenuOf("LineTypeControl"); }
 };
 
 TEST_F(ToolbarCreationTest, HostsControlIsMadeWiderAndHigherThanTheRow) {
     std::vector<std::string> made;
     const auto listening =
         bench().journal().addListener([&made](const workbench::JournalRecord& record) {
-            for (const std::string& call : support::callTexts({record}, {"getVxToolbarControl"}))
+            for (const std::string& call : support::callLines({record}, {"getVxToolbarControl"}))
                 made.push_back(call);
         });
     showControl("LineTypeControl");
-    const CRect row = m_firstRects->of(window());
-    EXPECT_EQ(made, Calls{"getVxToolbarControl(\"object\",0,0," + std::to_string(row.Width() + 20) +
-                          "," + std::to_string(row.Height() + 300) + ",2222)"});
+    const CRect row = firstRectOf(window());
+    EXPECT_EQ(made, Calls{"getVxToolbarControl(object, 0, 0, " + std::to_string(row.Width() + 20) +
+                          ", " + std::to_string(row.Height() + 300) + ", 2222)"});
 }
 
 TEST_F(ToolbarCreationTest, IconIsLoadedSmall) {
@@ -216,13 +202,13 @@ TEST_F(ToolbarCreationTest, IconIsLoadedSmall) {
     const auto listening =
         bench().journal().addListener([&loaded](const workbench::JournalRecord& record) {
             for (const std::string& call :
-                 support::callTexts({record}, {"QrUiLoadImageFromResource"})) {
+                 support::callLines({record}, {"QrUiLoadImageFromResource"})) {
                 if (call.find("RCDATA_OPLTYPE_ICON") != std::string::npos)
                     loaded.push_back(call);
             }
         });
     showControl("LineTypeControl");
-    EXPECT_EQ(loaded, Calls{"QrUiLoadImageFromResource(\"object\",\"RCDATA_OPLTYPE_ICON\",16,-1)"});
+    EXPECT_EQ(loaded, Calls{"QrUiLoadImageFromResource(object, \"RCDATA_OPLTYPE_ICON\", 16, -1)"});
 }
 
 TEST_F(ToolbarCreationTest, MissingPictureLeavesTheIconWithoutOne) {
@@ -241,7 +227,7 @@ protected:
         return group.WindowProc(WM_CREATE, 0, reinterpret_cast<LPARAM>(&creation));
     }
     std::vector<std::string> calls() {
-        return support::callTexts(bench().journal().records(),
+        return support::callLines(bench().journal().records(),
                                   {"CQrUiToolPanel::OnCreate", "getVxToolbarControl"});
     }
 };
@@ -250,7 +236,7 @@ TEST_F(UnbornGroupTest, NameThatTheTableLacksMakesAnEmptyGroup) {
     CVxDaToolbarGroupCtrl group(L"NoSuchControl");
     forget();
     EXPECT_EQ(create(group), 1);
-    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(\"object\")"});
+    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(object)"});
     EXPECT_EQ(group.GetToolPanelItemCount(), 0);
 }
 
@@ -258,7 +244,7 @@ TEST_F(UnbornGroupTest, EmptyNameFailsBehindTheToolkitsStep) {
     CVxDaToolbarGroupCtrl group(L"");
     forget();
     EXPECT_EQ(create(group), -1);
-    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(\"object\")"});
+    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(object)"});
 }
 
 TEST_F(UnbornGroupTest, FailureOfTheToolkitsStepIsPassedOn) {
@@ -266,13 +252,13 @@ TEST_F(UnbornGroupTest, FailureOfTheToolkitsStepIsPassedOn) {
     fail("CQrUiToolPanel::OnCreate");
     forget();
     EXPECT_EQ(create(group), -1);
-    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(\"object\")"});
+    EXPECT_EQ(calls(), Calls{"CQrUiToolPanel::OnCreate(object)"});
 }
 
 class EmptyRowTest : public support::ControlBench {};
 
 TEST_F(EmptyRowTest, HostWithoutTheControlLeavesTheRowEmpty) {
-    useMenu(menuWith("LineTypeControl"));
+    useMenuOf("LineTypeControl");
     env("ENABLEDASHBOARD", "1");
     fail("getVxToolbarControl");
     showControl("LineTypeControl");
@@ -283,7 +269,7 @@ TEST_F(EmptyRowTest, HostWithoutTheControlLeavesTheRowEmpty) {
 class UndoButtonTest : public support::ControlBench {};
 
 TEST_F(UndoButtonTest, ClickUndoesTheLastStep) {
-    useMenu(menuWith("UndoSkinnyButtonControl"));
+    useMenuOf("UndoSkinnyButtonControl");
     showControl("UndoSkinnyButtonControl");
     set(L"LTSCALE", 3.0);
     const HWND button = bench().windows().descendants(window()).front();

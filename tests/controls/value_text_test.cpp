@@ -1,7 +1,7 @@
 #include "controls/value_text.h"
 
 #include "tests/palette/palette_fixture.h"
-#include "tests/support/call_texts.h"
+#include "tests/support/call_lines.h"
 #include "workbench/editor/editor.h"
 
 #include <string>
@@ -23,7 +23,7 @@ protected:
     }
     /// What was formatted, parsed and locked since the last look.
     Calls calls() {
-        return support::callTexts(bench().journal().take("call"),
+        return support::callLines(bench().journal().take("call"),
                                   {"vxdbRToS", "vxdbAngToS", "vxdbDisToF", "vxdbAngToF",
                                    "VxAxDocLock::VxAxDocLock", "VxAxDocLock::~VxAxDocLock"});
     }
@@ -64,25 +64,25 @@ TEST_F(ValueTextTest, AnglesFollowTheDrawingsUnitsAndAPrecisionOfTheirOwn) {
 
 TEST_F(ValueTextTest, EachTextIsAskedForInItsUnitAndPrecision) {
     FormatLinear(0.5);
-    EXPECT_EQ(calls(), Calls{"vxdbRToS(0.5,-1,-1)"});
+    EXPECT_EQ(calls(), Calls{"vxdbRToS(0.500000, -1, -1)"});
     FormatDecimal(0.5);
-    EXPECT_EQ(calls(), Calls{"vxdbRToS(0.5,2,2)"});
+    EXPECT_EQ(calls(), Calls{"vxdbRToS(0.500000, 2, 2)"});
     FormatAngle(0.5, 3);
-    EXPECT_EQ(calls(), Calls{"vxdbAngToS(0.5,-1,3)"});
+    EXPECT_EQ(calls(), Calls{"vxdbAngToS(0.500000, -1, 3)"});
     parseLinear(L"7");
-    EXPECT_EQ(calls(), Calls{"vxdbDisToF(\"7\",-1)"});
+    EXPECT_EQ(calls(), Calls{"vxdbDisToF(\"7\", -1)"});
     parseDecimal(L"7");
-    EXPECT_EQ(calls(), Calls{"vxdbDisToF(\"7\",2)"});
+    EXPECT_EQ(calls(), Calls{"vxdbDisToF(\"7\", 2)"});
     parseAngle(L"7");
-    EXPECT_EQ(calls(), Calls{"vxdbAngToF(\"7\",-1)"});
+    EXPECT_EQ(calls(), Calls{"vxdbAngToF(\"7\", -1)"});
     parseDecimalAsShown(L"7");
-    EXPECT_EQ(calls(),
-              (Calls{"vxdbDisToF(\"7\",2)", "vxdbRToS(7.0,2,2)", "vxdbDisToF(\"7.00\",2)"}));
+    EXPECT_EQ(calls(), (Calls{"vxdbDisToF(\"7\", 2)", "vxdbRToS(7.000000, 2, 2)",
+                              "vxdbDisToF(\"7.00\", 2)"}));
 }
 
 TEST_F(ValueTextTest, DegreesAreReadUnderALockOfTheDrawing) {
     parseDegrees(L"7");
-    EXPECT_EQ(calls(), (Calls{"VxAxDocLock::VxAxDocLock(\"object\",1)", "vxdbAngToF(\"7\",0)",
+    EXPECT_EQ(calls(), (Calls{"VxAxDocLock::VxAxDocLock(object, 1)", "vxdbAngToF(\"7\", 0)",
                               "VxAxDocLock::~VxAxDocLock()"}));
 }
 

@@ -1,13 +1,9 @@
-#include "tests/support/control_bench.h"
+#include "tests/layer/fade_fixture.h"
 
-#include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
-#include "workbench/gestures/item_gestures.h"
-#include "workbench/gestures/key_gestures.h"
-#include "workbench/gestures/slider_gestures.h"
-#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/slider_widget.h"
-#include "workbench/windows/window_system.h"
+
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <string>
@@ -15,28 +11,12 @@
 
 namespace {
 
-using workbench::Value;
-
-constexpr const char* kControl = "LayerLockTransparencySliderControl";
-constexpr const wchar_t* kVariable = L"LAYLOCKFADECTL";
+using testing::Contains;
+using Calls = std::vector<std::string>;
 
 /// Messages by their numbers.
 constexpr std::int64_t kSysVarChanged = 1727;
 constexpr std::int64_t kSliderMoved = 1534;
-
-class FadeSliderTest : public support::ControlBench {
-protected:
-    void SetUp() override { showControl(kControl); }
-
-    HWND edit() { return field(); }
-    void clickButton() { clickIcon(); }
-    std::string buttonImage() {
-        return workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1")).image;
-    }
-    /// How often the variable was written by the module since the last look at the journal.
-    std::size_t writes() { return takeCount("vxedSetVar"); }
-    int fade() { return static_cast<int>(var(kVariable).asInteger()); }
-};
 
 // Creation
 
@@ -68,6 +48,63 @@ TEST_F(FadeSliderTest, ButtonHasItsPictureAndName) {
         workbench::viewOf(bench().toolkit(), *item(L"TPB_LAYER_SLIDERCONTROL1"));
     EXPECT_EQ(button.image, "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_FALSE(button.name.empty());
+}
+
+TEST_F(FadeSliderTest, ButtonHasItsPictureInBothSizes) {
+    EXPECT_EQ(largeButtonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
+    set(kVariable, -20);
+    EXPECT_EQ(buttonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF");
+    EXPECT_EQ(largeButtonImage(), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_OFF");
+}
+
+TEST_F(FadeSliderTest, PartsAreMadeInTheOrderOfTheRow) {
+    takeJournal();
+    rebuildControl();
+    EXPECT_THAT(takeCallLines({"CQrUiProgSliderCtrl::Create"}),
+                Contains("CQrUiProgSliderCtrl::Create(1342177280, object, 10001, 2)"));
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 4);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), L"TPB_LAYER_SLIDERCONTROL1");
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), slider());
+    EXPECT_EQ(row.GetToolPanelItem(2)->GetType(), kItemSeparator);
+    EXPECT_EQ(row.GetToolPanelItem(3)->GetControl(), edit());
+}
+
+TEST_F(FadeSliderTest, SliderIsMadeAsLargeAsTheControl) {
+    const CRect whole = firstRectOf(window());
+    ASSERT_NE(whole.Width(), 0);
+    EXPECT_EQ(firstRectOf(slider()), (CRect{0, 0, whole.Width(), whole.Height()}));
+}
+
+TEST_F(FadeSliderTest, VariableIsReadOnceAndThenShownByThumbFieldAndButton) {
+    takeJournal();
+    rebuildControl();
+    Calls made = takeCallLines({"vxedGetVar", "CQrUiProgSliderCtrl::SetSliderPos",
+                                "CWnd::SetWindowText", "CWnd::EnableWindow"});
+    const auto first = std::find(made.begin(), made.end(), kRead);
+    ASSERT_NE(first, made.end());
+    ASSERT_GE(made.end() - first, 5);
+    EXPECT_EQ(Calls(first, first + 5), (Calls{kRead, positionCall(50), textCall("      50%"),
+                                              "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 1)",
+                                              "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"}));
+}
+
+TEST_F(FadeSliderTest, MessagesAreAnsweredZero) {
+    const auto thumb = reinterpret_cast<LPARAM>(slider());
+    EXPECT_EQ(send(1534, 20, thumb), 0);
+    EXPECT_EQ(send(1534, 20, 0), 0);
+    EXPECT_EQ(send(WM_TIMER, 1), 0);
+    EXPECT_EQ(send(WM_TIMER, 1), 0);
+    EXPECT_EQ(send(WM_TIMER, 2), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(kVariable)), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"LTSCALE")), 0);
+    EXPECT_EQ(send(1729, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    EXPECT_EQ(send(1730, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    EXPECT_EQ(send(1731, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    for (const WPARAM id : {10001, 4711}) {
+        EXPECT_EQ(send(1735, id), 0);
+        EXPECT_EQ(send(1738, id), 0);
+    }
 }
 
 TEST_F(FadeSliderTest, ButtonSliderAndEditHaveATipEach) {
@@ -120,6 +157,31 @@ TEST_F(FadeSliderTest, DragShowsAtOnceAndWritesOnceItHasRested) {
     EXPECT_EQ(fade(), 40);
     EXPECT_EQ(writes(), 1U);
     EXPECT_EQ(position(), 40);
+}
+
+TEST_F(FadeSliderTest, TimerStartsOnceAndStopsBeforeTheWrite) {
+    takeJournal();
+    drag({40});
+    EXPECT_EQ(steps(), (Calls{textCall("      40%"), kStartTimer}));
+    drag({41});
+    EXPECT_EQ(steps(), Calls{textCall("      41%")});
+    wait(150);
+    EXPECT_EQ(steps(), Calls{});
+    wait(150);
+    EXPECT_EQ(steps(), (Calls{kStopTimer, writeCall(41), kRead}));
+    wait(1000);
+    EXPECT_EQ(steps(), Calls{}) << "the timer is at rest";
+    drag({42});
+    EXPECT_EQ(steps(), (Calls{textCall("      42%"), kStartTimer}));
+    release();
+}
+
+TEST_F(FadeSliderTest, DragNeverSetsTheThumb) {
+    takeJournal();
+    drag({40, 41});
+    release();
+    wait(300);
+    EXPECT_EQ(takeCount("CQrUiProgSliderCtrl::SetSliderPos"), 0U);
 }
 
 TEST_F(FadeSliderTest, ThreeQuickMovesWriteOnceAtTheLastPosition) {
@@ -221,6 +283,32 @@ TEST_F(FadeSliderTest, ClickAtZeroSwitchesOnAtFifty) {
 
 // Host changes
 
+TEST_F(FadeSliderTest, ChangeIsShownByFieldThumbAndButtonInThisOrder) {
+    takeJournal();
+    set(kVariable, -25);
+    EXPECT_EQ(steps(), (Calls{kRead, textCall("      25%"), positionCall(25),
+                              "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 0)",
+                              "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 0)"}));
+}
+
+TEST_F(FadeSliderTest, SameValueIsReadAndNotShownAgain) {
+    takeJournal();
+    send(1727, 1, reinterpret_cast<LPARAM>(kVariable));
+    EXPECT_EQ(steps(), Calls{kRead});
+}
+
+TEST_F(FadeSliderTest, CommandDisablesTheControlAsAWholeAndItsEndEnablesIt) {
+    takeJournal();
+    send(1729, 0, reinterpret_cast<LPARAM>(L"LINE"));
+    EXPECT_EQ(steps(), Calls{"CWnd::EnableWindow(\"LayerLockTransparencySliderControl\", 0)"});
+    for (const UINT over : {1730, 1731}) {
+        send(over, 0, reinterpret_cast<LPARAM>(L"LINE"));
+        EXPECT_EQ(steps(), (Calls{"CWnd::EnableWindow(\"LayerLockTransparencySliderControl\", 1)",
+                                  "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 1)",
+                                  "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"}));
+    }
+}
+
 TEST_F(FadeSliderTest, FollowsAChangeFromTheCommandLineWithoutWriting) {
     type(L"LAYLOCKFADECTL\n25\n");
     EXPECT_EQ(position(), 25);
@@ -273,159 +361,6 @@ TEST_F(FadeSliderTest, EndOfACommandBringsTheButtonUpToDate) {
     finish("ended");
     EXPECT_TRUE(isEnabled(window()));
     EXPECT_FALSE(isEnabled(slider()));
-}
-
-// Entries
-
-TEST_F(FadeSliderTest, TypedPercentAndEnterWritesTheNumber) {
-    enter(L"45%");
-    EXPECT_EQ(fade(), 45);
-    EXPECT_EQ(position(), 45);
-    EXPECT_EQ(text(), L"      45%");
-}
-
-struct EntryCase {
-    const wchar_t* typed;
-    int fade;  // afterwards, from 50
-    bool refused;
-};
-
-class FadeEntryTest : public FadeSliderTest, public testing::WithParamInterface<EntryCase> {};
-
-TEST_P(FadeEntryTest, IsTakenOrRefusedWithABalloon) {
-    enter(GetParam().typed);
-    EXPECT_EQ(fade(), GetParam().fade);
-    const std::vector<std::string> balloons = takeTexts("balloon");
-    EXPECT_EQ(balloons.size(), GetParam().refused ? 1U : 0U);
-    if (GetParam().refused && !balloons.empty()) {
-        EXPECT_NE(balloons[0].find("0%"), std::string::npos);
-        EXPECT_NE(balloons[0].find("90%"), std::string::npos);
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Entries, FadeEntryTest,
-                         testing::Values(EntryCase{L"0", 0, false}, EntryCase{L"1", 1, false},
-                                         EntryCase{L"89", 89, false}, EntryCase{L"90", 90, false},
-                                         EntryCase{L"91", 50, true}, EntryCase{L"95", 50, true},
-                                         EntryCase{L"90.9", 90, false},
-                                         EntryCase{L"  %7% ", 7, false}, EntryCase{L"", 50, false},
-                                         EntryCase{L" % ", 50, false}, EntryCase{L"abc", 50, true},
-                                         EntryCase{L"1e9", 50, true}, EntryCase{L"-20", -20, false},
-                                         EntryCase{L"50", 50, false}));
-
-TEST_F(FadeSliderTest, EntryBeyondAShortIsWrittenAsItsLowestSixteenBits) {
-    enter(L"-2097202");
-    EXPECT_EQ(fade(), -50);
-    EXPECT_EQ(text(), L"      50%");
-    EXPECT_FALSE(isEnabled(edit())) << "the event brought another value than the entered one";
-    EXPECT_TRUE(takeTexts("balloon").empty());
-}
-
-TEST_F(FadeSliderTest, RefusedEntryRestoresTheTextAndWritesTheOldValueOnceMore) {
-    enter(L"95");
-    EXPECT_EQ(text(), L"      50%");
-    EXPECT_EQ(takeTexts("balloon").size(), 1U);
-    EXPECT_EQ(writes(), 1U);
-}
-
-TEST_F(FadeSliderTest, LeavingTheFieldCommitsLikeEnter) {
-    put(L"33");
-    leave();
-    EXPECT_EQ(fade(), 33);
-    EXPECT_EQ(text(), L"      33%");
-}
-
-TEST_F(FadeSliderTest, EscapeBringsTheOldTextBackAndWritesNothing) {
-    put(L"77");
-    press("escape");
-    EXPECT_EQ(text(), L"      50%");
-    EXPECT_EQ(writes(), 0U);
-    EXPECT_EQ(fade(), 50);
-}
-
-TEST_F(FadeSliderTest, EnterIsConsumedAndNeverReachesTheCommandLine) {
-    enter(L"12");
-    EXPECT_TRUE(takeSent().empty());
-    EXPECT_EQ(bench().windows().focus(), edit());
-}
-
-TEST_F(FadeSliderTest, NegativeEntrySwitchesFadingOffAndShowsItsSize) {
-    enter(L"-20");
-    EXPECT_EQ(fade(), -20);
-    EXPECT_EQ(position(), 20);
-    EXPECT_EQ(text(), L"      20%");
-    EXPECT_TRUE(isEnabled(slider())) << "the control knew the value before its event came";
-}
-
-TEST_F(FadeSliderTest, LeavingTheFieldAfterANegativeEntryTakesTheShownSizeForTheValue) {
-    enter(L"-20");
-    leave();
-    EXPECT_EQ(fade(), 20);
-}
-
-TEST_F(FadeSliderTest, NotificationHidesTheBalloon) {
-    enter(L"95");
-    EXPECT_EQ(takeTexts("balloon").size(), 1U);
-    takeCalls();
-    leave();
-    const std::vector<std::string> after = takeCalls();
-    EXPECT_NE(std::find(after.begin(), after.end(), "QrUiHideBalloonTip"), after.end());
-}
-
-struct NoticeCase {
-    int controlId;
-    int code;
-};
-
-class OtherNoticeTest : public FadeSliderTest, public testing::WithParamInterface<NoticeCase> {};
-
-TEST_P(OtherNoticeTest, HidesTheBalloonAndCommitsNothing) {
-    enter(L"95");
-    EXPECT_EQ(takeTexts("balloon").size(), 1U);
-    put(L"12");
-    takeCalls();
-    bench().windows().send(
-        window(), WM_COMMAND,
-        static_cast<WPARAM>(GetParam().code) << 16 | static_cast<WPARAM>(GetParam().controlId),
-        reinterpret_cast<LPARAM>(edit()));
-    const std::vector<std::string> after = takeCalls();
-    EXPECT_EQ(std::count(after.begin(), after.end(), "QrUiHideBalloonTip"), 1);
-    EXPECT_EQ(std::count(after.begin(), after.end(), "vxedSetVar"), 0);
-    EXPECT_EQ(text(), L"12");
-    EXPECT_EQ(fade(), 50);
-}
-
-INSTANTIATE_TEST_SUITE_P(Notices, OtherNoticeTest,
-                         testing::Values(NoticeCase{10001, 0x100}, NoticeCase{4711, 0x200},
-                                         NoticeCase{10001, 0x300}));
-
-TEST_F(FadeSliderTest, EntryDuringTheSettleTimeIsWrittenTwiceWithTheEnteredValue) {
-    drag({70});
-    release();
-    enter(L"15");
-    wait(300);
-    EXPECT_EQ(fade(), 15);
-    EXPECT_EQ(writes(), 2U);
-}
-
-TEST_F(FadeSliderTest, WithoutADocumentTheTextIsEmptyAndTheThumbFollows) {
-    closeDocument(L"A");
-    set(kVariable, 35);
-    EXPECT_EQ(text(), L"");
-    EXPECT_EQ(position(), 35);
-}
-
-TEST_F(FadeSliderTest, WithoutADatabaseAnEntryWritesTheOldValueOnceMore) {
-    set(kVariable, 35);
-    put(L"12");
-    fail("vxdbHostApplicationServices");
-    takeCalls();
-    press("enter");
-    EXPECT_EQ(writes(), 1U);
-    EXPECT_EQ(fade(), 35);
-    EXPECT_EQ(position(), 35);
-    EXPECT_EQ(text(), L"");
-    EXPECT_TRUE(takeTexts("balloon").empty());
 }
 
 // Failures and life

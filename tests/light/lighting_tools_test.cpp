@@ -1,6 +1,7 @@
-#include "tests/support/bench.h"
+#include "light/lighting_tools.h"
 
-#include "workbench/editor/editor.h"
+#include "tests/light/lighting_fixture.h"
+#include "tests/palette/palette_fixture.h"
 
 #include <hostapi/zorq.h>
 
@@ -13,21 +14,6 @@ namespace {
 using support::Sent;
 using workbench::Value;
 using Texts = std::vector<Sent>;
-
-class LightingToolsTest : public support::Bench {
-protected:
-    void SetUp() override {
-        showDashboard();
-        takeSent();
-        takeJournal();
-    }
-    void clickTool(const wchar_t* id) { click(item(id)); }
-    void goToPaperSpace() {
-        set(L"TILEMODE", 0);
-        ASSERT_EQ(var(L"CVPORT"), Value(1));
-    }
-    int number(const wchar_t* variable) { return static_cast<int>(var(variable).asInteger()); }
-};
 
 struct ToggleCase {
     const wchar_t* id;
@@ -110,17 +96,6 @@ TEST_P(LightToggleTest, ClosingTheDocumentDropsWhatWaits) {
     EXPECT_TRUE(takeSent().empty());
 }
 
-TEST_P(LightToggleTest, CommandRunsUnderALockThatEndsWithIt) {
-    takeJournal();
-    clickTool(GetParam().id);
-    const std::vector<std::string> made = takeCalls();
-    const auto command = std::find(made.begin(), made.end(), "do_cmd");
-    ASSERT_NE(command, made.end());
-    EXPECT_NE(std::find(made.begin(), command, "VxAxDocLock::VxAxDocLock"), command);
-    EXPECT_EQ(vxDocManagerPtr()->curDocument()->lockMode() & kDocLockWrite, 0);
-    takeSent();
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Tools, LightToggleTest,
     testing::Values(ToggleCase{L"ID_DefaultLighting", L"DEFAULTLIGHTING", "defaultlighting"},
@@ -139,6 +114,34 @@ TEST_F(LightingToolsTest, UnreadableDefaultLightingSendsOne) {
     fail("vxedGetVar:DEFAULTLIGHTING");
     clickTool(L"ID_DefaultLighting");
     EXPECT_EQ(takeSent(), (Texts{{"_defaultlighting\n1\n", "do_cmd"}}));
+}
+
+// What the functions answer
+
+class LightAnswerTest : public PaletteTest {
+protected:
+    void SetUp() override {
+        load();
+        forget();
+    }
+};
+
+TEST_F(LightAnswerTest, ToggleIsOneOnEveryRoad) {
+    EXPECT_EQ(clickLightingTool(L"ID_Light"), 1);
+    ASSERT_TRUE(bench().editor().set(L"TILEMODE", 0));
+    EXPECT_EQ(clickLightingTool(L"ID_Light"), 1);
+}
+
+TEST_F(LightAnswerTest, SkyThatWouldStayIsZeroAndAsksForNothing) {
+    EXPECT_EQ(clickLightingTool(L"ID_Skylight_Off"), 0);
+    EXPECT_EQ(callCount("VxAxDocLock::VxAxDocLock"), 0);
+    EXPECT_EQ(clickLightingTool(L"ID_Skylight_Background"), 1);
+}
+
+TEST_F(LightAnswerTest, ToolOfAnotherFamilyIsNone) {
+    EXPECT_FALSE(clickLightingTool(L"ID_Camera").has_value());
+    EXPECT_FALSE(clickLightingTool(L"").has_value());
+    EXPECT_EQ(callCount("VxAxDocLock::VxAxDocLock"), 0);
 }
 
 // The sky

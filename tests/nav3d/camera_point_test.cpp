@@ -1,57 +1,36 @@
-#include "tests/nav3d/nav_fixture.h"
+#include "tests/nav3d/camera_fixture.h"
 
-#include "workbench/gestures/key_gestures.h"
+#include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/background_painter.h"
 #include "workbench/windows/window_system.h"
 
-#include <cmath>
+#include <hostapi/qrui18/tool_panel_item.h>
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
-/// What the two controls differ in.
-struct PointCase {
-    const char* control;
-    int windowId;
-    const wchar_t* itemId;
-    const char* image;
-    UINT itemName;
-    UINT firstTip;
-    const char* path;   // of the point that it shows
-    const char* other;  // of the point that stays
-    const char* function;
-};
+using testing::Contains;
+using Calls = std::vector<std::string>;
 
-void PrintTo(const PointCase& row, std::ostream* out) {
-    *out << row.control;
-}
+INSTANTIATE_TEST_SUITE_P(Controls, CameraPointTest, testing::Values(kEyeCase, kTargetCase));
 
-class CameraPointTest : public NavControlTest, public testing::WithParamInterface<PointCase> {
+/// The control stands alone on its panel, so that what is called is its own doing.
+class LoneCameraPointTest : public CameraPointTest {
 protected:
     void SetUp() override {
-        showControl(GetParam().control);
-        setDb("viewports.current.eye", point(10.0, 20.0, 30.0));
-        setDb("viewports.current.target", point(1.0, 2.0, 3.0));
-        set(L"LUPREC", 1);
-        takeJournal();
-    }
-    static workbench::Value point(double x, double y, double z) {
-        return workbench::Value::List{x, y, z};
-    }
-    std::wstring shownX() { return GetParam().windowId == 105 ? L"10.0" : L"1.0"; }
-    double own(const char* axis) {
-        return number(std::string("viewports.current.") + GetParam().path + "." + axis);
+        useMenuOf(GetParam().control);
+        CameraPointTest::SetUp();
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Controls, CameraPointTest,
-    testing::Values(PointCase{"3DNavPointTriplet1", 105, L"TPB_3DNAV_POINTTRIPLET1",
-                              "RCDATA_3DNAV_POINTTRIPLETPANEL1", 1235, 1274, "eye", "target",
-                              "navUpdateCameraPosition"},
-                    PointCase{"3DNavPointTriplet2", 106, L"TPB_3DNAV_POINTTRIPLET2",
-                              "RCDATA_3DNAV_POINTTRIPLETPANEL2", 1236, 1277, "target", "eye",
-                              "navUpdateCameraTarget"}));
+INSTANTIATE_TEST_SUITE_P(Controls, LoneCameraPointTest, testing::Values(kEyeCase, kTargetCase));
 
 TEST_P(CameraPointTest, PartsHaveTheirIdsAndTexts) {
     EXPECT_EQ(bench().windows().find(window())->id, GetParam().windowId);
@@ -65,6 +44,111 @@ TEST_P(CameraPointTest, PartsHaveTheirIdsAndTexts) {
     EXPECT_EQ(tipOf(field("y")), stringOf(GetParam().firstTip + 1));
     EXPECT_EQ(tipOf(field("z")), stringOf(GetParam().firstTip + 2));
 }
+
+TEST_P(CameraPointTest, FieldsAreWhiteAndHaveTheThemesFont) {
+    for (const char* name : {"x", "y", "z"}) {
+        auto* field = dynamic_cast<workbench::EditWidget*>(
+            bench().windows().find(this->field(name))->widget.get());
+        EXPECT_EQ(field->background(), 0xffffffU);
+        EXPECT_TRUE(hasThemeFont(this->field(name))) << name;
+    }
+}
+
+TEST_P(CameraPointTest, StripIsMadeOverTheWholeControlAndBehindTheIcon) {
+    takeJournal();
+    rebuildControl();
+    EXPECT_THAT(takeCallLines({"CQrUiCtrlContainer::Create"}),
+                Contains("CQrUiCtrlContainer::Create(1342242816, object, " +
+                         std::to_string(GetParam().stripId) + ")"));
+    const HWND strip = bench().windows().find(field("x"))->parent;
+    const CRect whole = firstRectOf(window());
+    ASSERT_NE(whole.Width(), 0);
+    EXPECT_EQ(firstRectOf(strip), (CRect{0, 0, whole.Width(), whole.Height()}));
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 2);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), GetParam().itemId);
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), strip);
+}
+
+TEST_P(CameraPointTest, FieldsAreFilledWhenTheyAreMade) {
+    rebuildControl();
+    EXPECT_EQ(text("x"), shownX());
+}
+
+TEST_P(CameraPointTest, MessagesAreAnsweredZero) {
+    const auto edit = reinterpret_cast<LPARAM>(field("x"));
+    EXPECT_EQ(send(1726), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"CVPORT")), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"LTSCALE")), 0);
+    EXPECT_EQ(send(1736), 0);
+    for (const WPARAM id : {5001, 5000, 5004}) {
+        EXPECT_EQ(send(1733, id | EN_KILLFOCUS << 16, edit), 0);
+        EXPECT_EQ(send(1734, id | EN_SETFOCUS << 16, edit), 0);
+        EXPECT_EQ(send(1735, id, edit), 0);
+        EXPECT_EQ(send(1738, id, edit), 0);
+    }
+}
+
+// The tooltip of the fields
+
+/// Notes what the tooltip's window is told; messages are noted for windows that have a name.
+class FieldTipTest : public CameraPointTest {
+protected:
+    void rebuildWithNamedTip() {
+        bench().windows().changes().setObserver([this](HWND handle) {
+            const workbench::Window* made = bench().windows().find(handle);
+            if (made == nullptr || made->className != std::string("CQrToolTipCtrl") ||
+                !made->name.empty())
+                return;
+            bench().windows().setName(handle, "Tip");
+        });
+        rebuildControl();
+        bench().windows().changes().setObserver(nullptr);
+    }
+    /// The tooltips' messages of a number since the last look, as wParam and lParam.
+    std::vector<std::pair<std::int64_t, std::int64_t>> told(UINT number) {
+        std::vector<std::pair<std::int64_t, std::int64_t>> all;
+        for (const workbench::JournalRecord& record : takeJournal("message")) {
+            if (record.field("control") == workbench::Value("Tip") &&
+                record.field("number").asInteger() == number)
+                all.emplace_back(record.field("wparam").asInteger(),
+                                 record.field("lparam").asInteger());
+        }
+        return all;
+    }
+};
+
+using Told = std::vector<std::pair<std::int64_t, std::int64_t>>;
+
+INSTANTIATE_TEST_SUITE_P(Controls, FieldTipTest, testing::Values(kEyeCase, kTargetCase));
+
+TEST_P(FieldTipTest, IsLetShowOnceItIsMade) {
+    takeJournal();
+    rebuildWithNamedTip();
+    // Both controls have a tooltip.
+    EXPECT_EQ(told(1025), (Told{{1, 0}, {1, 0}}));
+}
+
+TEST_P(FieldTipTest, HearsOfEveryMessageOnItsWay) {
+    rebuildWithNamedTip();
+    takeJournal();
+    for (const UINT message : {WM_MOUSEMOVE, WM_KEYDOWN}) {
+        MSG msg{field("x"), message, 0, 0};
+        EXPECT_EQ(CWnd::FromHandle(window())->PreTranslateMessage(&msg), 0);
+        EXPECT_EQ(told(1031), (Told{{0, reinterpret_cast<std::int64_t>(&msg)}}));
+    }
+}
+
+TEST_P(FieldTipTest, ControlWorksWithoutIt) {
+    fail("CQrToolTipCtrl::Create");
+    rebuildControl();
+    EXPECT_EQ(tipOf(field("x")), L"");
+    MSG msg{field("x"), WM_MOUSEMOVE, 0, 0};
+    EXPECT_EQ(CWnd::FromHandle(window())->PreTranslateMessage(&msg), 0);
+    EXPECT_EQ(text("x"), shownX());
+}
+
+// Following the view
 
 TEST_P(CameraPointTest, ShowsItsPointOfTheView) {
     EXPECT_EQ(text("x"), shownX());
@@ -89,92 +173,35 @@ TEST_P(CameraPointTest, FollowsFourVariablesAndNoOther) {
     EXPECT_EQ(text("x"), std::to_wstring(x) + L".0");
 }
 
-TEST_P(CameraPointTest, EnteredCoordinateMovesThePointAlone) {
-    enter(L"50", "y");
-    EXPECT_DOUBLE_EQ(own("y"), 50.0);
-    EXPECT_EQ(takeCount("vxedSendViewChanged"), 0U);
-    leave();
-}
-
-TEST_P(CameraPointTest, FieldScalesWithTheDistance) {
-    const double width = number("viewports.current.width");
-    const double before = std::hypot(9.0, 18.0, 27.0);
-    enter(GetParam().windowId == 105 ? L"2" : L"20", "y");
-    const double after = std::hypot(9.0, 27.0);
-    EXPECT_NEAR(number("viewports.current.width"), width * after / before, width * 1.0e-9);
-    leave();
-}
-
-TEST_P(CameraPointTest, UpVectorIsSquareToTheViewWhateverItWas) {
-    setDb("viewports.current.up", point(0.3, 0.4, 0.5));
-    enter(L"50", "x");
-    double product = 0.0;
-    double length = 0.0;
-    for (const char* axis : {"x", "y", "z"}) {
-        const std::string at = std::string(".") + axis;
-        const double up = number("viewports.current.up" + at);
-        product +=
-            up * (number("viewports.current.eye" + at) - number("viewports.current.target" + at));
-        length += up * up;
-    }
-    EXPECT_NEAR(product, 0.0, 1.0e-9);
-    EXPECT_NEAR(length, 1.0, 1.0e-9);
-    leave();
-}
-
-TEST_P(CameraPointTest, OtherPointsCoordinatesChangeNothingAndRecordNothing) {
-    const bool eye = GetParam().windowId == 105;
-    setDb("viewports.current.eye", point(10.0, 2.0, 3.0));
-    setDb("viewports.current.target", point(1.0, 2.0, 3.0));
-    announce(L"CVPORT");
-    takeCalls();
-    enter(eye ? L"1" : L"10", "x");
-    EXPECT_EQ(takeCount("vxgsWriteViewToUndoController"), 0U);
-    EXPECT_DOUBLE_EQ(own("x"), eye ? 10.0 : 1.0);
-    EXPECT_EQ(text("x"), eye ? L"1" : L"10");
-    EXPECT_EQ(balloon(), "");
-    leave();
-}
-
-TEST_P(CameraPointTest, EmptyFieldRestoresTheTextWithoutABalloon) {
-    enter(L"  ", "x");
+TEST_P(LoneCameraPointTest, WithoutAViewportTheFieldsStayAsTheyAre) {
+    setDbQuietly(std::string("viewports.current.") + GetParam().path, point(77.0, 0.0, 0.0));
+    loseViewport();
+    settle();
+    takeJournal();
+    tellOf(L"CVPORT");
+    EXPECT_EQ(
+        takeCallLines({"vxedGetVar", "vxgsGetGsView", "vxgsGetGsManager", "CWnd::SetWindowText"}),
+        Calls{"vxedGetVar(\"CVPORT\")"});
     EXPECT_EQ(text("x"), shownX());
-    EXPECT_EQ(balloon(), "");
-    leave();
 }
 
-TEST_P(CameraPointTest, SameTextAfterTrimmingChangesNothing) {
-    takeCalls();
-    enter(L" " + shownX() + L" ", "x");
-    EXPECT_EQ(takeCount("vxgsSetViewParameters"), 0U);
-    leave();
-}
+class CameraWithoutViewTest : public CameraPointTest {};
 
-TEST_P(CameraPointTest, TextThatIsNoNumberIsToldAndGivenBack) {
-    enter(L"left", "z");
-    EXPECT_EQ(balloon(), string(1234));
-    EXPECT_TRUE(hasFocus(field("z")));
-    EXPECT_NE(text("z"), L"left");
-    leave();
-}
+INSTANTIATE_TEST_SUITE_P(Controls, CameraWithoutViewTest, testing::Values(kEyeCase, kTargetCase));
 
-TEST_P(CameraPointTest, EscapeRestoresTheText) {
-    put(L"77", "x");
-    press("escape");
+TEST_P(CameraWithoutViewTest, FieldsStayAsTheyAre) {
+    setDbQuietly(std::string("viewports.current.") + GetParam().path, point(77.0, 0.0, 0.0));
+    fail("vxgsGetGsManager");
+    takeJournal();
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines({"CWnd::SetWindowText"}), Calls{});
     EXPECT_EQ(text("x"), shownX());
-    leave();
 }
 
-TEST_P(CameraPointTest, TabCommitsOneFieldAndKeepsTheTextOfTheNext) {
-    put(L"50", "x");
-    press("tab");
-    EXPECT_DOUBLE_EQ(own("x"), 50.0);
-    EXPECT_TRUE(hasFocus(field("y")));
-    const std::wstring y = text("y");
-    workbench::gestures::replaceText(bench().toolkit(), L"99");
-    press("escape");
-    EXPECT_EQ(text("y"), y);
-    leave();
+TEST_P(CameraPointTest, TemporaryViewOfARefreshIsGivenBack) {
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines({"vxgsGetGsView", "VxGsClassFactory::deleteView"}),
+              (Calls{"vxgsGetGsView(2, false)", "VxGsClassFactory::deleteView(object)"}));
 }
 
 TEST_P(CameraPointTest, ClickOnTheIconGoesToTheFirstField) {
@@ -190,12 +217,38 @@ TEST_P(CameraPointTest, BackgroundIsWhite) {
 
 // While a navigation tool runs
 
-TEST_P(CameraPointTest, ToolMovesThePoint) {
+TEST_P(LoneCameraPointTest, ToolMovesThePoint) {
     startTool();
-    enter(L"50", "x");
-    EXPECT_DOUBLE_EQ(own("x"), 50.0);
-    EXPECT_EQ(takeCount("vxgsSetViewParameters"), 0U);
+    const double before[] = {own("x"), own("z")};
+    put(L"50", "y");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(
+        takeCallLines({"OrbitInProgress", "vxrxServiceIsRegistered", "GetModuleHandle",
+                       "GetProcAddress", "vxgsWriteViewToUndoController", "vxgsSetViewParameters"}),
+        (Calls{"OrbitInProgress()", "vxrxServiceIsRegistered(\"ZorqVmTools\")",
+               "GetModuleHandle(\"VxVmTools.qlx\")",
+               std::string("GetProcAddress(\"VxVmTools.qlx\", \"") + GetParam().function + "\")"}));
+    EXPECT_DOUBLE_EQ(own("x"), before[0]);
+    EXPECT_DOUBLE_EQ(own("y"), 50.0);
+    EXPECT_DOUBLE_EQ(own("z"), before[1]);
+    EXPECT_EQ(text("y"), L"50") << "the tool's change is the control's own";
     leave();
+}
+
+TEST_P(CameraPointTest, UnregisteredServiceStopsTheFollowingToo) {
+    startTool();
+    fail("vxrxServiceIsRegistered");
+    enter(L"50", "x");
+    leave();
+    send(1736);
+    EXPECT_EQ(text("x"), L"50");
+    send(1726);
+    EXPECT_EQ(text("x"), shownX());
+    send(1736);
+    setDbQuietly(std::string("viewports.current.") + GetParam().path, point(77.0, 0.0, 0.0));
+    send(1736);
+    EXPECT_EQ(text("x"), shownX()) << "the mark is not mended";
 }
 
 TEST_P(CameraPointTest, WithoutTheModuleItStopsFollowingUntilADocumentBecomesCurrent) {
@@ -218,40 +271,6 @@ TEST_P(CameraPointTest, WithoutTheFunctionItGoesOnFollowing) {
     leave();
     announce(L"CVPORT");
     EXPECT_EQ(text("x"), shownX());
-}
-
-// In a layout
-
-class CameraInLayoutTest : public NavControlTest {
-protected:
-    void SetUp() override {
-        showControl("3DNavPointTriplet1");
-        openDrawing("examples/house.json");
-        set(L"TILEMODE", 0);
-        takeJournal();
-    }
-};
-
-TEST_F(CameraInLayoutTest, SheetIsToldAndTheTextRestoredAlsoWhenItIsLocked) {
-    set(L"CVPORT", 1);
-    for (const bool locked : {false, true}) {
-        setDb("viewports.current.locked", locked);
-        const std::wstring before = text("x");
-        enter(L"50", "x");
-        EXPECT_EQ(balloon(), string(1232));
-        EXPECT_EQ(text("x"), before);
-        leave();
-    }
-}
-
-TEST_F(CameraInLayoutTest, LockedViewportIsToldAndTheTextRestored) {
-    set(L"CVPORT", 2);
-    setDb("viewports.current.locked", true);
-    const std::wstring before = text("x");
-    enter(L"50", "x");
-    EXPECT_EQ(balloon(), string(1231));
-    EXPECT_EQ(text("x"), before);
-    leave();
 }
 
 }  // namespace

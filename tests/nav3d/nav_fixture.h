@@ -4,6 +4,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/drawing/path_access.h"
+#include "workbench/drawing/records/current.h"
 #include "workbench/editor/editor.h"
 #include "workbench/navigation/navigation_tool.h"
 
@@ -26,6 +27,15 @@ protected:
         setDb(path, value);
         history.setQuiet(false);
     }
+    /// Leaves the drawing without a viewport: `CVPORT` reads as -1.
+    void loseViewport() {
+        workbench::drawing::Database& database = bench().editor().documents().current()->data();
+        workbench::drawing::Writing<workbench::drawing::Current> writing(
+            database, database.first(workbench::drawing::RecordKind::Current));
+        writing->modelViewport = -1;
+    }
+    /// Lets the control alone hear of a variable.
+    void tellOf(const wchar_t* variable) { send(1727, 1, reinterpret_cast<LPARAM>(variable)); }
     double number(const std::string& path) { return db(path).asReal(); }
     /// A named view of the present view.
     void addView(const std::string& name) { setDb("views." + name, workbench::Value::Table{}); }

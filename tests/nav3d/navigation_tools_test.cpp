@@ -3,6 +3,9 @@
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/bench.h"
+#include "tests/support/call_lines.h"
+#include "workbench/base/text.h"
+#include "workbench/loader/module_loader.h"
 #include "workbench/navigation/navigation_tool.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
@@ -17,6 +20,8 @@
 namespace {
 
 constexpr int kFirstProjectionMode = 4315;  // parallel; perspective is the next one
+
+using Calls = std::vector<std::string>;
 
 class ToolClicksTest : public support::Bench {
 protected:
@@ -36,19 +41,24 @@ protected:
     void loadNavigation() { ASSERT_TRUE(vxrxLoadModule(L"VxVmTools.qlx", false, true)); }
     /// Fields of the navigation records since the last look.
     std::vector<workbench::JournalRecord> navigation() { return takeJournal("navigation"); }
+    /// The road to a function of the navigation module since the last look.
+    Calls road() {
+        return takeCallLines({"vxrxServiceIsRegistered", "VxRxDynamicLinker::loadModule",
+                              "GetModuleHandle", "GetProcAddress", "AfxMessageBox"});
+    }
     /// Whether the module's function was looked up.
     bool askedFor(const std::string& symbol) {
-        for (const auto& record : takeJournal("call")) {
-            if (record.field("name") != workbench::Value("GetProcAddress"))
-                continue;
-            for (const workbench::Value& argument : record.field("args").asList()) {
-                if (argument == workbench::Value(symbol))
-                    return true;
-            }
-        }
-        return false;
+        const Calls made = road();
+        return std::find(made.begin(), made.end(), symbolCall(symbol)) != made.end();
+    }
+    static std::string symbolCall(const std::string& symbol) {
+        return "GetProcAddress(\"VxVmTools.qlx\", \"" + symbol + "\")";
     }
 };
+
+const std::string kService = "vxrxServiceIsRegistered(\"ZorqVmTools\")";
+const std::string kHandle = "GetModuleHandle(\"VxVmTools.qlx\")";
+const std::string kLoad = "VxRxDynamicLinker::loadModule(\"VxVmTools.qlx\", 1, 0)";
 
 struct ModeCase {
     const wchar_t* id;
@@ -68,7 +78,9 @@ TEST_P(NavigationModeTest, RunsTheMacroWithoutANavigationTool) {
 TEST_P(NavigationModeTest, SwitchesTheRunningToolToItsMode) {
     loadNavigation();
     startOrbit();
+    takeJournal("call");
     click(item(GetParam().id));
+    EXPECT_EQ(road(), (Calls{kHandle, symbolCall("navSwitchNavMode")}));
     EXPECT_TRUE(takeSent().empty());
     if (GetParam().mode < kFirstProjectionMode) {
         EXPECT_EQ(bench().navigation().mode(), GetParam().mode);
@@ -110,6 +122,7 @@ INSTANTIATE_TEST_SUITE_P(Table, NavigationModeTest,
 struct FunctionCase {
     const wchar_t* id;
     const char* symbol;
+    const char* effect;  // while the tool records: what the recording becomes, or a dialog
 };
 
 class NavigationFunctionTest : public ToolClicksTest,
@@ -125,17 +138,51 @@ protected:
 
 TEST_P(NavigationFunctionTest, LoadsTheModuleAndCallsItsFunction) {
     clickTool();
+    EXPECT_EQ(road(), (Calls{kService, kLoad, kHandle, symbolCall(GetParam().symbol)}));
     EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVmTools"));
-    EXPECT_TRUE(askedFor(GetParam().symbol));
     EXPECT_TRUE(takeSent().empty());
+}
+
+TEST_P(NavigationFunctionTest, ModuleThatIsLoadedIsNotLoadedAgain) {
+    loadNavigation();
+    takeJournal("call");
+    clickTool();
+    EXPECT_EQ(road(), (Calls{kService, kHandle, symbolCall(GetParam().symbol)}));
+}
+
+TEST_P(NavigationFunctionTest, CallsTheFunction) {
+    startOrbit();
+    bench().navigation().recordAnimation();
+    takeJournal();
+    clickTool();
+    Calls effects;
+    for (const workbench::JournalRecord& record : takeJournal()) {
+        if (record.kind == "navigation")
+            effects.push_back(record.field("animation").asString());
+        else if (record.kind == "dialog")
+            effects.push_back(record.field("name").asString());
+    }
+    ASSERT_FALSE(effects.empty());
+    EXPECT_EQ(effects.back(), GetParam().effect);
+    type(L"\x1b");
 }
 
 TEST_P(NavigationFunctionTest, ModuleThatIsAwayGivesTheOneBoxWithItsName) {
     bench().faults().hide("VxVmTools.qlx");
     clickTool();
-    const auto boxes = takeTexts("box");
+    const std::string text =
+        "The navigation tools are not available because VxVmTools.qlx could not be loaded.";
+    EXPECT_EQ(road(), (Calls{kService, kLoad, "AfxMessageBox(\"" + text + "\", 48)"}));
+    const auto boxes = takeJournal("box");
     ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_NE(boxes[0].find("VxVmTools.qlx"), std::string::npos);
+    EXPECT_EQ(boxes[0].field("string"), workbench::Value(1210));
+    EXPECT_EQ(boxes[0].field("text"), workbench::Value(text));
+}
+
+TEST_P(NavigationFunctionTest, MissingLinkerGivesTheBoxToo) {
+    fail("vxrxSysRegistry", {}, 1);
+    clickTool();
+    EXPECT_EQ(takeTexts("box").size(), 1U);
 }
 
 TEST_P(NavigationFunctionTest, MissingSymbolEndsTheClickSilently) {
@@ -145,13 +192,14 @@ TEST_P(NavigationFunctionTest, MissingSymbolEndsTheClickSilently) {
     EXPECT_TRUE(takeSent().empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, NavigationFunctionTest,
-                         testing::Values(FunctionCase{L"ID_Animation_Play", "navPlayAnimation"},
-                                         FunctionCase{L"ID_Animation_Record", "navRecordAnimation"},
-                                         FunctionCase{L"ID_Animation_Pause", "navPauseRecording"},
-                                         FunctionCase{L"ID_Animation_Save", "navSaveAnimation"},
-                                         FunctionCase{L"ID_Animation_Settings",
-                                                      "navShowAnimationSetting"}));
+INSTANTIATE_TEST_SUITE_P(
+    Table, NavigationFunctionTest,
+    testing::Values(FunctionCase{L"ID_Animation_Play", "navPlayAnimation", "playing"},
+                    FunctionCase{L"ID_Animation_Record", "navRecordAnimation", "recording"},
+                    FunctionCase{L"ID_Animation_Pause", "navPauseRecording", "paused"},
+                    FunctionCase{L"ID_Animation_Save", "navSaveAnimation", "Save As"},
+                    FunctionCase{L"ID_Animation_Settings", "navShowAnimationSetting",
+                                 "Animation Settings"}));
 
 TEST_F(ToolClicksTest, WalkSettingsSendTheirMacroWithoutANavigationTool) {
     click(item(L"ID_3DWalk_Settings"));
@@ -164,8 +212,21 @@ TEST_F(ToolClicksTest, WalkSettingsSendTheirMacroWithoutANavigationTool) {
 TEST_F(ToolClicksTest, WalkSettingsCallTheModuleWhileANavigationToolRuns) {
     startOrbit();
     click(item(L"ID_3DWalk_Settings"));
+    EXPECT_EQ(road(), (Calls{kService, kHandle, symbolCall("navShowWalkSetting")}));
     EXPECT_TRUE(takeSent().empty());
-    EXPECT_TRUE(vxrxServiceIsRegistered(L"ZorqVmTools"));
+    EXPECT_EQ(takeJournal("dialog").size(), 1U);
+    type(L"\x1b");
+}
+
+TEST_F(ToolClicksTest, ToolThatRunsAndIsNotHandedOverLeavesTheMacro) {
+    loadNavigation();
+    takeJournal();
+    fail("OrbitInProgress", 1, 1);
+    click(item(L"ID_3DWalk"));
+    EXPECT_EQ(road(), Calls{});
+    const auto texts = takeSent();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_EQ(texts[0].way, "menu");
     type(L"\x1b");
 }
 
@@ -234,6 +295,31 @@ protected:
         return controlManager()->handleToolClick(&item);
     }
 };
+
+TEST_F(ClickAnswerTest, IsOneForAFunctionThatIsCalledMissingOrOutOfReach) {
+    EXPECT_EQ(click(L"ID_Animation_Play"), 1);
+    bench().faults().hide("VxVmTools.qlx", "navPlayAnimation");
+    EXPECT_EQ(click(L"ID_Animation_Play"), 1);
+    bench().modules().unloadModule(L"VxVmTools.qlx");
+    bench().faults().hide("VxVmTools.qlx");
+    EXPECT_EQ(click(L"ID_Animation_Play"), 1);
+}
+
+TEST_F(ClickAnswerTest, IsOneForARunningToolWhetherTheModuleIsThereOrNot) {
+    ASSERT_TRUE(bench().navigation().start(workbench::NavigationTool::kFreeOrbit));
+    EXPECT_EQ(click(L"ID_3DWalk"), 1);
+    EXPECT_EQ(click(L"ID_3DWalk_Settings"), 1);
+    bench().faults().hide("VxVmTools.qlx");
+    EXPECT_EQ(click(L"ID_3DWalk"), 1);
+    EXPECT_EQ(callCount("vxedSendMenuStringToExecute"), 0);
+    bench().navigation().stop();
+}
+
+TEST_F(ClickAnswerTest, IsOneForALightingTool) {
+    for (const wchar_t* id : {L"ID_DefaultLighting", L"ID_Light", L"ID_SunStatus"})
+        EXPECT_EQ(click(id), 1);
+    EXPECT_EQ(callCount("do_cmd"), 3);
+}
 
 class MacroAnswerTest : public ClickAnswerTest,
                         public testing::WithParamInterface<const wchar_t*> {};

@@ -1,99 +1,21 @@
-#include "tests/support/control_bench.h"
+#include "tests/nav3d/step_fixture.h"
 
-#include "workbench/base/text.h"
+#include "workbench/editor/editor.h"
 #include "workbench/toolkit/lookup.h"
-#include "workbench/toolkit/slider_widget.h"
-#include "workbench/windows/window_system.h"
+#include "workbench/toolkit/toolkit.h"
+
+#include <hostapi/qrui18/tool_panel_item.h>
+
+#include <gmock/gmock.h>
 
 #include <string>
 #include <vector>
 
 namespace {
 
+using testing::Contains;
 using workbench::Value;
-
-/// What the two controls promise, each in its own numbers.
-struct StepCase {
-    const char* control;
-    const wchar_t* variable;
-    std::vector<const wchar_t*> refreshing;
-    int windowId;
-    int sliderId;
-    int lowest;
-    int highest;
-    const wchar_t* itemId;
-    const char* image;
-    UINT label;
-    UINT refusal;
-    double value;       // not the one at start
-    int valuePosition;  // where it stands
-    const wchar_t* valueText;
-    int draggedPosition;
-    double draggedValue;
-    const wchar_t* tooLittle;
-    const wchar_t* tooMuch;
-};
-
-void PrintTo(const StepCase& row, std::ostream* out) {
-    *out << row.control;
-}
-
-const StepCase kSize{"3DNavStepSizeSliderControl",
-                     L"STEPSIZE",
-                     {L"STEPSIZE", L"LUPREC", L"LUNITS"},
-                     102,
-                     5005,
-                     1,
-                     1000,
-                     L"TPB_3DNAV_SLIDERCONTROL2",
-                     "RCDATA_3DNAV_SLIDERCONTROL2",
-                     1227,
-                     1229,
-                     0.5,
-                     76,
-                     L"0.50",
-                     920,
-                     10000.0,
-                     L"0",
-                     L"1000001"};
-const StepCase kRate{"3DNavStepsPerSecSliderControl",
-                     L"STEPSPERSEC",
-                     {L"STEPSPERSEC", L"LUPREC", L"luprec"},
-                     103,
-                     5006,
-                     10,
-                     300,
-                     L"TPB_3DNAV_SLIDERCONTROL3",
-                     "RCDATA_3DNAV_SLIDERCONTROL3",
-                     1228,
-                     1230,
-                     15.5,
-                     155,
-                     L"15.50",
-                     145,
-                     14.5,
-                     L"0.9",
-                     L"30.1"};
-
-class StepSliderTest : public support::ControlBench, public testing::WithParamInterface<StepCase> {
-protected:
-    void SetUp() override {
-        showControl(GetParam().control);
-        set(L"LUPREC", 2);
-        takeJournal();
-    }
-
-    double value() { return var(GetParam().variable).asReal(); }
-    std::size_t writes() { return takeCount("vxedSetVar"); }
-    std::string balloon() {
-        const std::vector<std::string> all = takeTexts("balloon");
-        return all.empty() ? std::string() : all.back();
-    }
-    const workbench::SliderWidget& widget() {
-        return *dynamic_cast<workbench::SliderWidget*>(
-            bench().windows().find(slider())->widget.get());
-    }
-};
+using Calls = std::vector<std::string>;
 
 INSTANTIATE_TEST_SUITE_P(Controls, StepSliderTest, testing::Values(kSize, kRate));
 
@@ -108,8 +30,45 @@ TEST_P(StepSliderTest, PartsHaveTheirIdsRangeAndTexts) {
     EXPECT_EQ(icon.image, row.image);
     EXPECT_EQ(icon.name, stringOf(row.label));
     EXPECT_EQ(tipOf(field()), stringOf(row.label));
-    EXPECT_EQ(tipOf(slider()).find(stringOf(row.label) + L":"), 0U);
-    EXPECT_GT(tipOf(slider()).size(), stringOf(row.label).size() + 1);
+}
+
+TEST_P(StepSliderTest, TipAfterCreationHasTheTextOfTheField) {
+    set(GetParam().variable, GetParam().value);
+    rebuildControl();
+    EXPECT_EQ(text(), GetParam().valueText);
+    EXPECT_EQ(tipOf(slider()), labelled(GetParam().valueText));
+}
+
+TEST_P(StepSliderTest, PartsAreMadeInTheOrderOfTheRow) {
+    takeJournal();
+    rebuildControl();
+    EXPECT_THAT(takeCallLines({"CQrUiProgSliderCtrl::Create"}),
+                Contains("CQrUiProgSliderCtrl::Create(1342177280, object, " +
+                         std::to_string(GetParam().sliderId) + ", 2)"));
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 4);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), GetParam().itemId);
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), slider());
+    EXPECT_EQ(row.GetToolPanelItem(2)->GetType(), kItemSeparator);
+    EXPECT_EQ(row.GetToolPanelItem(3)->GetControl(), field());
+}
+
+TEST_P(StepSliderTest, SliderIsMadeAsLargeAsTheControl) {
+    const CRect whole = firstRectOf(window());
+    ASSERT_NE(whole.Width(), 0);
+    EXPECT_EQ(firstRectOf(slider()), (CRect{0, 0, whole.Width(), whole.Height()}));
+}
+
+TEST_P(StepSliderTest, MessagesAreAnsweredZero) {
+    EXPECT_EQ(send(1534, 100, reinterpret_cast<LPARAM>(slider())), 0);
+    EXPECT_EQ(send(1534, 100, 0), 0);
+    EXPECT_EQ(send(1726), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(GetParam().variable)), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"CVPORT")), 0);
+    for (const WPARAM id : {10001, 4711}) {
+        EXPECT_EQ(send(1735, id), 0);
+        EXPECT_EQ(send(1738, id), 0);
+    }
 }
 
 TEST_P(StepSliderTest, ShowsTheDrawingsValue) {
@@ -140,67 +99,41 @@ TEST_P(StepSliderTest, DragWritesAtEachStepAndStaysUnderTheHand) {
     release();
 }
 
-TEST_P(StepSliderTest, DragShowsTheValueInTheTip) {
+TEST_P(StepSliderTest, DragShowsTheValueThenWritesItUnderALockThenShowsTheTip) {
+    takeJournal();
     drag({GetParam().draggedPosition});
-    EXPECT_EQ(tipOf(slider()).find(stringOf(GetParam().label) + L":"), 0U);
+    std::string write = GetParam().writeOfValue;
+    write = write.substr(0, write.find(',') + 2);
+    Calls steps = takeCallLines({"CWnd::SetWindowText", "VxAxDocLock::VxAxDocLock", "vxedSetVar",
+                                 "VxAxDocLock::~VxAxDocLock", "CQrUiProgSliderCtrl::SetSliderPos",
+                                 "CQrUiProgSliderCtrl::ShowToolTip"});
+    EXPECT_EQ(steps,
+              (Calls{textCall(GetParam().draggedText), "VxAxDocLock::VxAxDocLock(object, 1)",
+                     write + (GetParam().draggedValue > 100.0 ? "10000.000000)" : "14.500000)"),
+                     "VxAxDocLock::~VxAxDocLock()", "CQrUiProgSliderCtrl::ShowToolTip()"}));
+    EXPECT_EQ(tipOf(slider()), labelled(GetParam().draggedText));
     release();
 }
 
-TEST_P(StepSliderTest, WriteStandsUnderADocumentLock) {
-    drag({GetParam().draggedPosition});
-    std::vector<std::string> steps;
-    for (const std::string& call : takeCalls()) {
-        if (call.find("VxAxDocLock") == 0 || call == "vxedSetVar")
-            steps.push_back(call);
-    }
-    EXPECT_EQ(steps, (std::vector<std::string>{"VxAxDocLock::VxAxDocLock", "vxedSetVar",
-                                               "VxAxDocLock::~VxAxDocLock"}));
+TEST_P(StepSliderTest, TipShowsADistanceWhateverTheFieldShows) {
+    constexpr int kArchitectural = 4;
+    set(L"LUNITS", kArchitectural);
+    drag({GetParam().windowId == 102 ? 115 : 145});
+    EXPECT_EQ(tipOf(slider()), labelled(GetParam().windowId == 102 ? L"1 1/4\"" : L"1'-2 1/2\""));
+    EXPECT_EQ(text(), GetParam().windowId == 102 ? L"1 1/4\"" : L"14.50");
     release();
 }
 
-TEST_P(StepSliderTest, EnteredValueIsWrittenAndShown) {
-    enter(GetParam().valueText);
-    EXPECT_DOUBLE_EQ(value(), GetParam().value);
-    EXPECT_EQ(position(), GetParam().valuePosition);
-    EXPECT_EQ(balloon(), "");
+TEST_P(StepSliderTest, DragKeepsNoText) {
+    focusField();
     leave();
-}
-
-TEST_P(StepSliderTest, LeavingAfterEnterWritesNothingMore) {
-    enter(GetParam().valueText);
-    takeCalls();
-    leave();
-    EXPECT_EQ(writes(), 0U);
-}
-
-TEST_P(StepSliderTest, ValueOutOfRangeIsRefused) {
     const std::wstring before = text();
-    for (const wchar_t* entry : {GetParam().tooLittle, GetParam().tooMuch, L"fast", L"-1"}) {
-        enter(entry);
-        EXPECT_NE(balloon(), "") << workbench::toUtf8(entry);
-        EXPECT_EQ(text(), before);
-        EXPECT_TRUE(hasFocus(field()));
-    }
-    EXPECT_EQ(writes(), 0U);
-    leave();
-}
-
-TEST_P(StepSliderTest, EmptiedFieldRefreshesWithoutABalloon) {
-    const std::wstring before = text();
-    put(L"");
-    leave();
-    EXPECT_EQ(text(), before);
-    EXPECT_EQ(balloon(), "");
-    EXPECT_EQ(writes(), 0U);
-}
-
-TEST_P(StepSliderTest, EscapeShowsTheDrawingsValueAndNotTheLastAcceptedText) {
-    put(L"7");
-    set(GetParam().variable, GetParam().value);
-    put(L"8");
-    press("escape");
-    EXPECT_EQ(text(), GetParam().valueText);
-    leave();
+    drag({GetParam().draggedPosition});
+    release();
+    bench().windows().state().setText(field(), before);
+    takeJournal();
+    send(1735, 10001);
+    EXPECT_EQ(writes(), 0U) << "the text that was kept is still the one from before";
 }
 
 TEST_P(StepSliderTest, ClickOnTheIconGoesToTheField) {
@@ -209,19 +142,10 @@ TEST_P(StepSliderTest, ClickOnTheIconGoesToTheField) {
     leave();
 }
 
-TEST_P(StepSliderTest, AnyCommandHidesTheBalloonFirst) {
-    enter(L"fast");
-    EXPECT_NE(balloon(), "");
-    takeCalls();
-    send(WM_COMMAND, 4711);
-    EXPECT_EQ(takeCount("QrUiHideBalloonTip"), 1U);
-    leave();
-}
-
 TEST_P(StepSliderTest, AnotherSlidersMessageIsIgnored) {
-    takeCalls();
+    takeJournal();
     send(1534, 100, reinterpret_cast<LPARAM>(field()));
-    EXPECT_EQ(writes(), 0U);
+    EXPECT_EQ(takeCalls(), Calls{});
 }
 
 TEST_P(StepSliderTest, DocumentThatBecomesCurrentBringsItsValue) {
@@ -241,23 +165,32 @@ TEST_P(StepSliderTest, MessageWithoutADocumentChangesNothing) {
     leave();
 }
 
+TEST_P(StepSliderTest, DocumentWithoutADatabaseShowsTheFixedValueAtTheEnd) {
+    set(GetParam().variable, GetParam().value);
+    fail("VxApDocument::database");
+    takeJournal();
+    send(1726, 0,
+         reinterpret_cast<LPARAM>(
+             static_cast<VxApDocument*>(bench().editor().documents().current())));
+    EXPECT_EQ(takeCallLines({"CQrUiProgSliderCtrl::SetSliderPos", "CWnd::SetWindowText"}),
+              (Calls{positionCall(0), textCall(GetParam().textWithoutDrawing)}));
+    EXPECT_EQ(text(), GetParam().textWithoutDrawing);
+    EXPECT_EQ(position(), GetParam().lowest);
+}
+
+TEST_P(StepSliderTest, RefreshSetsTheSliderWithoutAskingWhereItStands) {
+    set(GetParam().variable, GetParam().value);
+    takeJournal();
+    send(1727, 1, reinterpret_cast<LPARAM>(GetParam().variable));
+    EXPECT_EQ(takeCallLines({"CQrUiProgSliderCtrl::SetSliderPos", "CWnd::SetWindowText"}),
+              (Calls{positionCall(GetParam().valuePosition), textCall(GetParam().valueText)}));
+}
+
 TEST_P(StepSliderTest, WithoutADatabaseTheFieldIsBlankAndTheSliderStandsAtItsEnd) {
     bench().faults().fail("vxdbHostApplicationServices");
     announce(GetParam().variable);
     EXPECT_EQ(text(), L"");
     EXPECT_EQ(position(), GetParam().lowest);
-}
-
-TEST_P(StepSliderTest, RefusedWriteLeavesWhatWasEnteredUntilTheNextRefresh) {
-    const double before = value();
-    fail("vxedSetVar");
-    enter(GetParam().valueText);
-    EXPECT_EQ(text(), GetParam().valueText);
-    EXPECT_DOUBLE_EQ(value(), before);
-    bench().faults().unfail("vxedSetVar");
-    leave();
-    announce(GetParam().variable);
-    EXPECT_NE(text(), GetParam().valueText);
 }
 
 TEST_P(StepSliderTest, CommandsAndSpacesNeverDisableIt) {
@@ -281,15 +214,6 @@ TEST_F(StepSizeSliderTest, PositionTwoWritesTwoHundredthsAndStandsAtFourAfterARe
     EXPECT_EQ(position(), 4);
 }
 
-TEST_F(StepSizeSliderTest, RefusalNamesTheTwoLimits) {
-    enter(L"0");
-    const std::vector<std::string> balloons = takeTexts("balloon");
-    ASSERT_EQ(balloons.size(), 1U);
-    EXPECT_NE(balloons[0].find(".0000010"), std::string::npos) << balloons[0];
-    EXPECT_NE(balloons[0].find("1,000,000"), std::string::npos) << balloons[0];
-    leave();
-}
-
 class StepsPerSecSliderTest : public support::ControlBench {
 protected:
     void SetUp() override { showControl("3DNavStepsPerSecSliderControl"); }
@@ -306,14 +230,6 @@ TEST_F(StepsPerSecSliderTest, RightEndIsTakenByTheHost) {
     drag({300});
     EXPECT_NEAR(var(L"STEPSPERSEC").asReal(), 30.0, 1.0e-12);
     release();
-}
-
-TEST_F(StepsPerSecSliderTest, EntryIsRoundedToWhatIsShown) {
-    set(L"LUPREC", 1);
-    enter(L"2.26");
-    EXPECT_DOUBLE_EQ(var(L"STEPSPERSEC").asReal(), 2.3);
-    EXPECT_EQ(text(), L"2.3");
-    leave();
 }
 
 }  // namespace

@@ -1,90 +1,137 @@
-#include "tests/nav3d/nav_fixture.h"
+#include "tests/nav3d/view_combo_fixture.h"
 
-#include "workbench/toolkit/lookup.h"
-#include "workbench/windows/window_system.h"
+#include "workbench/gestures/list_gestures.h"
+#include "workbench/windows/background_painter.h"
 
-#include <hostapi/qrui18/combo.h>
-#include <hostapi/vxdashboard.h>
+#include <hostapi/zorq/views.h>
 
-#include <algorithm>
+#include <gmock/gmock.h>
 
 namespace {
 
-using support::Sent;
+using testing::Contains;
+using Calls = std::vector<std::string>;
 
-constexpr UINT kSelEndOk = 9;
-constexpr UINT kDropDown = 7;
-constexpr UINT kCloseUp = 8;
-constexpr UINT kComboId = 5007;
+/// The steps of a rebuild that can be seen from outside.
+const std::vector<std::string_view> kRebuildSteps{
+    "vxInternalGetCurVPAppliedView", "CQrUiComboCtrl::ResetContent", "CQrUiComboCtrl::SetCurSel",
+    "vxInternalIsCurVPZoomUndoAvailable"};
 
-class ViewComboTest : public NavControlTest {
-protected:
-    void SetUp() override {
-        showControl("3DNavViewComboCtrl");
-        rebuild();
-        takeJournal();
-    }
+// Creation
 
-    void rebuild() { announce(L"CVPORT"); }
-    CQrUiComboCtrl& combo() {
-        return *dynamic_cast<CQrUiComboCtrl*>(CWnd::FromHandle(part(window(), "combo")));
-    }
-    /// The entries' texts, "-" for a separator.
-    std::vector<std::wstring> entries() {
-        std::vector<std::wstring> all;
-        for (int i = 0; i < combo().GetCount(); ++i)
-            all.push_back(combo().GetItem(i)->separator ? L"-" : combo().GetItem(i)->text);
-        return all;
-    }
-    std::wstring selected() {
-        const QRUI_COMBO_CTRL_ITEM* entry = combo().GetItem(combo().GetCurSel());
-        return entry == nullptr ? L"" : entry->text;
-    }
-    void notify(UINT code) {
-        send(WM_COMMAND, code << 16 | kComboId, reinterpret_cast<LPARAM>(combo().m_hWnd));
-    }
-    /// Opens the list, chooses an entry of a text and closes it.
-    void choose(const std::wstring& text) {
-        notify(kDropDown);
-        const auto all = entries();
-        const auto found = std::find(all.begin(), all.end(), text);
-        ASSERT_NE(found, all.end());
-        combo().SetCurSel(static_cast<int>(found - all.begin()));
-        notify(kSelEndOk);
-        notify(kCloseUp);
-    }
-    /// Moves the view from outside.
-    void moveView() {
-        setDb("viewports.current.eye", workbench::Value::List{7.0, 8.0, 9.0});
-        settle();
-    }
-    bool backDisabled() {
-        return workbench::viewOf(bench().toolkit(), *item(L"TPB_3DNAV_COMBO")).disabled;
-    }
-};
+TEST_F(ViewComboTest, PartsHaveTheirIdsTextsAndFont) {
+    EXPECT_EQ(bench().windows().find(window())->id, 104);
+    EXPECT_EQ(combo().GetDlgCtrlID(), 5007);
+    const workbench::ItemView button =
+        workbench::viewOf(bench().toolkit(), *item(L"TPB_3DNAV_COMBO"));
+    EXPECT_EQ(button.image, "RCDATA_3DNAV_COMBO");
+    EXPECT_EQ(button.name, stringOf(1238));
+    EXPECT_EQ(tipOf(combo().m_hWnd), stringOf(1280));
+    EXPECT_TRUE(hasThemeFont(combo().m_hWnd));
+}
 
-std::vector<std::wstring> withPresets(std::vector<std::wstring> first) {
-    for (const wchar_t* text :
-         {L"Top", L"Bottom", L"Front", L"Back", L"Left", L"Right", L"SW Isometric", L"SE Isometric",
-          L"NE Isometric", L"NW Isometric", L"-", L"New View...", L"View Manager..."})
-        first.push_back(text);
-    return first;
+TEST_F(ViewComboTest, ListIsMadeAsWideAsTheControlAndBehindTheButton) {
+    takeJournal();
+    rebuildControl();
+    const int width = firstRectOf(window()).Width();
+    EXPECT_THAT(takeCallLines({"CQrUiComboCtrl::Create"}),
+                Contains("CQrUiComboCtrl::Create(1345389091, " + std::to_string(width) +
+                         ", 300, object, 5007)"));
+    const CRect list = firstRectOf(combo().m_hWnd);
+    EXPECT_EQ(list.left, 0);
+    EXPECT_EQ(list.top, 0);
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 2);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), L"TPB_3DNAV_COMBO");
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), combo().m_hWnd);
+}
+
+TEST_F(ViewComboTest, MessagesAreAnsweredZero) {
+    EXPECT_EQ(send(1726), 0);
+    EXPECT_EQ(send(1726, 0, 1), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"CVPORT")), 0);
+    EXPECT_EQ(send(1730, 0, reinterpret_cast<LPARAM>(L"VIEW")), 0);
+    EXPECT_EQ(send(1731, 0, reinterpret_cast<LPARAM>(L"VIEW")), 0);
+    EXPECT_EQ(send(1736), 0);
+    select(L"Top");
+    EXPECT_EQ(send(1736), 0);
+    begin(L"LINE");
+    EXPECT_EQ(send(1736), 0);
+    finish();
+    choose(L"Top");
+    begin(L"LINE");
+    choose(L"Bottom");
+    EXPECT_EQ(send(1736), 0);
+    finish();
+    takeSent();
+}
+
+TEST_F(ViewComboTest, BackgroundIsWhite) {
+    EXPECT_EQ(workbench::paintBackground(bench().windows(), window()), 0xffffffU);
+    EXPECT_EQ(send(WM_ERASEBKGND, 0), 1) << "also without a context";
 }
 
 // The list
 
-TEST_F(ViewComboTest, DrawingWithoutNamedViewsShowsTheCurrentViewAndThePresets) {
-    EXPECT_EQ(entries(), withPresets({L"Current View", L"-"}));
-    EXPECT_EQ(selected(), L"Current View");
+TEST_F(ViewComboTest, RebuildSelectsTheFirstEntryAndBringsTheButtonUpToDate) {
+    takeJournal();
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines(kRebuildSteps),
+              (Calls{"vxInternalGetCurVPAppliedView()", "CQrUiComboCtrl::ResetContent()",
+                     "CQrUiComboCtrl::SetCurSel(0)", "vxInternalIsCurVPZoomUndoAvailable()"}));
 }
 
-TEST_F(ViewComboTest, NamedViewsStandInTheUsersOrder) {
-    addView("garden");
+TEST_F(ViewComboTest, RebuildSelectsTheAppliedViewBehindTheFirstEntry) {
     addView("Attic");
-    addView("Élan");
-    rebuild();
-    EXPECT_EQ(entries(),
-              withPresets({L"Current View", L"-", L"Attic", L"\u00c9lan", L"garden", L"-"}));
+    addView("Garden");
+    restore(L"Garden");
+    takeJournal();
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines(kRebuildSteps),
+              (Calls{"vxInternalGetCurVPAppliedView()", "CQrUiComboCtrl::ResetContent()",
+                     "CQrUiComboCtrl::SetCurSel(0)", "CQrUiComboCtrl::SetCurSel(1)",
+                     "vxInternalIsCurVPZoomUndoAvailable()"}));
+    EXPECT_EQ(selected(), L"Garden");
+}
+
+TEST_F(ViewComboTest, AppliedViewThatHasGoneLeavesTheFirstEntrySelected) {
+    addView("Attic");
+    addView("Garden");
+    restore(L"Garden");
+    setDb("views.Garden", workbench::Value());
+    ASSERT_FALSE(vxInternalGetCurVPAppliedView().isNull());
+    tellOf(L"CVPORT");
+    EXPECT_EQ(entries(), withPresets({L"Attic", L"-"}));
+    EXPECT_EQ(selected(), L"Attic");
+}
+
+TEST_F(ViewComboTest, EachVariableOfTheListRebuildsItAndNoOther) {
+    for (const wchar_t* name : {L"CVPORT", L"TILEMODE", L"DASHBOARDSTATE"}) {
+        takeJournal();
+        tellOf(name);
+        EXPECT_TRUE(wasRebuilt()) << workbench::toUtf8(name);
+    }
+    for (const wchar_t* name : {L"cvport", L"PERSPECTIVE", L"LUPREC"}) {
+        takeJournal();
+        tellOf(name);
+        EXPECT_EQ(takeCalls(), Calls{}) << workbench::toUtf8(name);
+    }
+}
+
+TEST_F(ViewComboTest, DocumentThatBecameCurrentRebuildsIt) {
+    takeJournal();
+    send(1726, 0, 0);
+    EXPECT_EQ(takeCalls(), Calls{}) << "there is no document";
+    newDocument(L"B");
+    EXPECT_TRUE(wasRebuilt());
+}
+
+TEST_F(ViewComboTest, HiddenDashboardIsNotRebuilt) {
+    hideDashboard();
+    tellOf(L"CVPORT");
+    send(1726, 0, 1);
+    send(1730, 0, reinterpret_cast<LPARAM>(L"VIEW"));
+    EXPECT_EQ(takeCalls(), Calls{});
 }
 
 TEST_F(ViewComboTest, AppliedViewIsSelectedAndTheCurrentEntryIsGone) {
@@ -92,21 +139,6 @@ TEST_F(ViewComboTest, AppliedViewIsSelectedAndTheCurrentEntryIsGone) {
     type(L"-VIEW\nR\nGarden\n");
     EXPECT_EQ(entries(), withPresets({L"Garden", L"-"}));
     EXPECT_EQ(selected(), L"Garden");
-}
-
-TEST_F(ViewComboTest, UnopenableTableGivesAListWithoutNamedViews) {
-    addView("Garden");
-    fail("VxDbDatabase::getSymbolTable");
-    rebuild();
-    EXPECT_EQ(entries(), withPresets({L"Current View", L"-"}));
-}
-
-TEST_F(ViewComboTest, PresetsHaveTheirPictures) {
-    for (int i = 0; i < combo().GetCount(); ++i) {
-        const QRUI_COMBO_CTRL_ITEM* entry = combo().GetItem(i);
-        const bool preset = i >= 2 && i < 12;
-        EXPECT_EQ(entry->image != nullptr, preset) << i;
-    }
 }
 
 TEST_F(ViewComboTest, OpeningBringsANewViewAndKeepsTheSelection) {
@@ -132,170 +164,55 @@ TEST_F(ViewComboTest, OpeningAfterTheSelectedViewHasGoneLeavesTheRebuildsSelecti
 
 TEST_F(ViewComboTest, OpenListIsToldToTheToolkit) {
     EXPECT_EQ(send(0x7101), 0);
-    notify(kDropDown);
+    ASSERT_TRUE(workbench::gestures::openList(bench().toolkit(), combo().m_hWnd));
     EXPECT_EQ(send(0x7101), 1);
-    notify(kCloseUp);
+    ASSERT_TRUE(workbench::gestures::closeList(bench().toolkit(), combo().m_hWnd));
     EXPECT_EQ(send(0x7101), 0);
 }
 
-// Choosing
-
-struct PresetCase {
-    const wchar_t* entry;
-    const char* command;
-};
-class PresetTest : public ViewComboTest, public testing::WithParamInterface<PresetCase> {};
-
-TEST_P(PresetTest, SendsItsTransparentCommand) {
-    choose(GetParam().entry);
-    EXPECT_EQ(takeSent(), (std::vector<Sent>{{GetParam().command, "line"}}));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Entries, PresetTest,
-    testing::Values(PresetCase{L"Top", "'_-view _top "}, PresetCase{L"Bottom", "'_-view _bottom "},
-                    PresetCase{L"Front", "'_-view _front "}, PresetCase{L"Back", "'_-view _back "},
-                    PresetCase{L"Left", "'_-view _left "}, PresetCase{L"Right", "'_-view _right "},
-                    PresetCase{L"SW Isometric", "'_-view _swiso "},
-                    PresetCase{L"SE Isometric", "'_-view _seiso "},
-                    PresetCase{L"NE Isometric", "'_-view _neiso "},
-                    PresetCase{L"NW Isometric", "'_-view _nwiso "}));
-
-TEST_F(ViewComboTest, NamedViewIsSentAsItStandsWithANewLine) {
-    addView("South east corner");
-    choose(L"South east corner");
-    EXPECT_EQ(takeSent(), (std::vector<Sent>{{"'_-view _restore South east corner\n", "line"}}));
-    EXPECT_EQ(selected(), L"South east corner");
-}
-
-TEST_F(ViewComboTest, CommandIsSentWithoutActivationAndEcho) {
-    choose(L"Top");
-    const auto commands = takeJournal("command");
-    ASSERT_FALSE(commands.empty());
-    EXPECT_EQ(commands.front().field("flag"), workbench::Value(2)) << "wrap up alone";
-    takeSent();
-}
-
-TEST_F(ViewComboTest, CurrentViewEntrySendsNothing) {
-    choose(L"Current View");
-    EXPECT_TRUE(takeSent().empty());
-}
-
-TEST_F(ViewComboTest, SeparatorSendsNothing) {
-    combo().SetCurSel(1);
-    notify(kSelEndOk);
-    EXPECT_TRUE(takeSent().empty());
-}
-
-TEST_F(ViewComboTest, ViewThatCannotBeOpenedSendsNothing) {
+TEST_F(ViewComboTest, OpeningKeepsTheFirstNamedViewThoughAnotherIsApplied) {
+    addView("Attic");
     addView("Garden");
+    restore(L"Garden");
+    select(L"Attic");
     notify(kDropDown);
-    combo().SetCurSel(2);
-    ASSERT_EQ(selected(), L"Garden");
-    fail("vxdbOpenObject");
-    notify(kSelEndOk);
-    EXPECT_TRUE(takeSent().empty());
-    bench().faults().unfail("vxdbOpenObject");
+    EXPECT_EQ(selected(), L"Attic");
+    notify(kCloseUp);
 }
 
-TEST_F(ViewComboTest, ManagerIsSentBehindTwoCancels) {
-    bench().answers().queue("dialog", workbench::Value());
-    choose(L"View Manager...");
-    EXPECT_EQ(takeSent(), (std::vector<Sent>{{"\x03\x03_view ", "line"}}));
-}
-
-// Following the view
-
-TEST_F(ViewComboTest, RestoreByTheListKeepsItsSelection) {
+TEST_F(ViewComboTest, OpeningKeepsAPresetThoughAViewIsApplied) {
     addView("Garden");
-    choose(L"Garden");
-    takeSent();
+    restore(L"Garden");
+    select(L"NW Isometric");
+    notify(kDropDown);
+    EXPECT_EQ(selected(), L"NW Isometric");
+    notify(kCloseUp);
+}
+
+TEST_F(ViewComboTest, OpeningWithoutASelectionShowsTheCurrentView) {
+    combo().SetCurSel(-1);
+    notify(kDropDown);
+    EXPECT_EQ(selected(), L"Current View");
+    notify(kCloseUp);
+}
+
+TEST_F(ViewComboTest, OpeningWithoutASelectionLeavesAnAppliedViewSelected) {
+    addView("Attic");
+    addView("Garden");
+    restore(L"Garden");
+    combo().SetCurSel(-1);
+    notify(kDropDown);
     EXPECT_EQ(selected(), L"Garden");
-    moveView();
-    EXPECT_EQ(selected(), L"Current View") << "the command's end has cleared the mark";
+    notify(kCloseUp);
 }
 
-TEST_F(ViewComboTest, MovedViewSelectsTheCurrentEntry) {
-    combo().SetCurSel(2);
-    ASSERT_EQ(selected(), L"Top");
-    send(1736);
-    EXPECT_EQ(selected(), L"Current View");
-}
-
-TEST_F(ViewComboTest, ViewThatMovesDuringACommandRebuildsAtItsEnd) {
-    combo().SetCurSel(2);
-    begin(L"LINE");
-    addView("Garden");
-    send(1736);
-    EXPECT_EQ(selected(), L"Top");
-    finish();
-    EXPECT_EQ(selected(), L"Current View");
-    const auto all = entries();
-    EXPECT_NE(std::find(all.begin(), all.end(), L"Garden"), all.end());
-}
-
-class ViewCommandEndTest : public ViewComboTest,
-                           public testing::WithParamInterface<std::pair<const wchar_t*, bool>> {};
-
-TEST_P(ViewCommandEndTest, RebuildsForTheViewCommandsAlone) {
-    addView("Garden");
-    bench().editor().reactors().commandEnded(GetParam().first);
-    const auto all = entries();
-    EXPECT_EQ(std::find(all.begin(), all.end(), L"Garden") != all.end(), GetParam().second);
-}
-
-INSTANTIATE_TEST_SUITE_P(Names, ViewCommandEndTest,
-                         testing::Values(std::pair{L"VIEW", true}, std::pair{L"NEWVIEW", true},
-                                         std::pair{L"-VIEW", true}, std::pair{L"view", false},
-                                         std::pair{L"ZOOM", false}));
-
-TEST_F(ViewComboTest, ForcedUpdateFollowsItsOwnRestoresToo) {
-    begin(L"LINE");
-    choose(L"Top");
-    send(1736);
-    EXPECT_EQ(selected(), L"Top");
-    exported<SetForce3DNavUpdateFn>("setForce3DNavUpdate")(true);
-    bench().faults().fail("vxedCommandActive");
-    send(1736);
-    EXPECT_EQ(selected(), L"Current View");
-    bench().faults().unfail("vxedCommandActive");
-    exported<SetForce3DNavUpdateFn>("setForce3DNavUpdate")(false);
-    finish();
-    takeSent();
-}
-
-// Back
-
-TEST_F(ViewComboTest, BackIsDisabledWithoutAnEarlierView) {
-    EXPECT_TRUE(backDisabled());
-    clickIcon();
-    EXPECT_EQ(takeCount("vxInternalZoomPrevious"), 0U);
-}
-
-TEST_F(ViewComboTest, BackGoesToThePreviousView) {
-    moveView();
-    rebuild();
-    EXPECT_FALSE(backDisabled());
-    clickIcon();
-    EXPECT_EQ(takeCount("vxInternalZoomPrevious"), 1U);
-    EXPECT_TRUE(backDisabled());
-}
-
-// While a navigation tool runs
-
-TEST_F(ViewComboTest, ToolRestoresAPreset) {
-    startTool();
-    choose(L"Top");
-    EXPECT_TRUE(takeSent().empty());
-    EXPECT_NEAR(number("viewports.current.eye.x"), number("viewports.current.target.x"), 1.0e-9);
-}
-
-TEST_F(ViewComboTest, WithoutTheModuleAChoiceHasNoEffectAndStays) {
-    startTool();
-    bench().faults().hide("VxVmTools.qlx");
-    choose(L"Top");
-    EXPECT_TRUE(takeSent().empty());
-    EXPECT_EQ(selected(), L"Top");
+TEST_F(ViewComboTest, NoticesOfOtherPartsAndOtherNoticesAreIgnored) {
+    select(L"Top");
+    for (const UINT code : {kDropDown, kCloseUp, kSelEndOk})
+        send(WM_COMMAND, code << 16 | 4711, reinterpret_cast<LPARAM>(combo().m_hWnd));
+    notify(1);
+    EXPECT_EQ(takeCalls(), Calls{});
+    EXPECT_EQ(send(0x7101), 0);
 }
 
 }  // namespace

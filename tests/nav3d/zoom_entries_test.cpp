@@ -1,8 +1,35 @@
 #include "tests/nav3d/zoom_fixture.h"
 
+#include "workbench/gestures/key_gestures.h"
+#include "workbench/toolkit/toolkit.h"
+
 #include <string>
+#include <vector>
 
 namespace {
+
+using Calls = std::vector<std::string>;
+
+/// What a user sees and feels of an entry.
+const std::vector<std::string_view> kTelling{"QrUiHideBalloonTip", "QrUiShowBalloonTip",
+                                             "CWnd::SetWindowText", "CWnd::SetFocus",
+                                             "vxgsSetLensLength"};
+
+/// The same, and what the host is asked for.
+const std::vector<std::string_view> kAllOfAnEntry{
+    "QrUiHideBalloonTip", "QrUiShowBalloonTip", "CWnd::SetWindowText", "CWnd::SetFocus",
+    "vxgsSetLensLength",  "vxdbDisToF",         "vxdbAngToF",          "vxedGetVar"};
+
+std::string balloonCall(const std::string& text) {
+    return "QrUiShowBalloonTip(object, object, \"" + text + "\", 0)";
+}
+
+std::string textCall(const std::string& text) {
+    return "CWnd::SetWindowText(\"CQrUiInputEditCtrl\", \"" + text + "\")";
+}
+
+const std::string kHide = "QrUiHideBalloonTip(object)";
+const std::string kFocus = "CWnd::SetFocus(\"CQrUiInputEditCtrl\")";
 
 TEST_F(ZoomSliderTest, EnteredLensIsApplied) {
     enter(L"35");
@@ -24,6 +51,50 @@ TEST_F(ZoomSliderTest, EmptyEntryRestoresTheTextWithoutABalloon) {
     enter(L"   ");
     EXPECT_EQ(text("edit"), L"50.00");
     EXPECT_EQ(balloon(), "");
+    leave();
+}
+
+TEST_F(ZoomSliderTest, TextThatIsTheSameButForBlanksStaysAndDoesNothing) {
+    put(L" 50.00 ");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(takeCallLines(kAllOfAnEntry), Calls{});
+    EXPECT_EQ(text("edit"), L" 50.00 ");
+    leave();
+}
+
+TEST_F(ZoomSliderTest, EmptyEntryAsksTheHostNothing) {
+    put(L"  ");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(takeCallLines(kAllOfAnEntry), Calls{textCall("50.00")});
+    leave();
+}
+
+TEST_F(ZoomSliderTest, EntryReachesNoCommandLine) {
+    bench().windows().setName(bench().toolkit().frame().commandLine().m_hWnd, "CommandLine");
+    enter(L"35");
+    EXPECT_TRUE(takeSent().empty());
+    enter(L"wide");
+    EXPECT_TRUE(takeSent().empty());
+    EXPECT_EQ(balloon(), string(1246));
+    put(L"35");
+    press("escape");
+    EXPECT_TRUE(takeSent().empty());
+    EXPECT_TRUE(takeMessagesOf("CommandLine").empty());
+    leave();
+}
+
+TEST_F(ZoomSliderTest, LockedViewportIsToldBeforeTheTextIsRestored) {
+    lockViewport();
+    const std::string shown = workbench::toUtf8(text("edit"));
+    put(L"77");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(balloonText(), stringOf(1231));
+    EXPECT_EQ(balloonTarget(), field("edit"));
+    EXPECT_EQ(takeCallLines(kTelling), (Calls{balloonCall(string(1231)), textCall(shown)}));
+    EXPECT_EQ(balloon(), string(1231));
     leave();
 }
 
@@ -55,20 +126,79 @@ TEST_F(ZoomSliderTest, TextThatIsNoNumberIsRefusedAndTheFieldKeepsTheFocus) {
     leave();
 }
 
+TEST_F(ZoomSliderTest, TextThatIsNoNumberIsToldAndThenGivenBack) {
+    for (const char* part : {"edit", "edit2"}) {
+        const std::string before = workbench::toUtf8(text(part));
+        put(L"wide", part);
+        takeJournal();
+        press("enter");
+        EXPECT_EQ(balloonTarget(), field(part));
+        EXPECT_EQ(takeCallLines(kTelling),
+                  (Calls{kHide, balloonCall(string(1246)), textCall(before), kFocus}));
+        EXPECT_EQ(balloon(), string(1246));
+        leave();
+    }
+}
+
+TEST_F(ZoomSliderTest, ValueOutOfRangeIsGivenBackAndThenTold) {
+    const std::string range = workbench::toUtf8(filled(1247, {L".786", L"100,000"}));
+    put(L"0.5");
+    takeJournal();
+    press("enter");
+    EXPECT_EQ(balloonTarget(), field("edit"));
+    EXPECT_EQ(takeCallLines(kTelling),
+              (Calls{kHide, textCall("50.00"), kFocus, balloonCall(range)}));
+    EXPECT_EQ(balloon(), range);
+    leave();
+}
+
+TEST_F(ZoomSliderTest, TypingAfterARefusalReplacesAllOfTheText) {
+    for (const wchar_t* refused : {L"wide", L"0.5"}) {
+        enter(refused);
+        EXPECT_NE(balloon(), "");
+        workbench::gestures::typeText(bench().toolkit(), L"7");
+        EXPECT_EQ(text("edit"), L"7");
+        press("escape");
+    }
+    leave();
+}
+
+TEST_F(ZoomSliderTest, RefusedEntryThatIsLeftKeepsTheFieldFromIdleTicks) {
+    endACommand();
+    put(L"wide");
+    leave();
+    EXPECT_EQ(balloon(), string(1246));
+    ASSERT_TRUE(hasFocus(field("edit")));
+    setLens(28.0);
+    idle();
+    EXPECT_EQ(text("edit"), L"50.00");
+    leave();
+    idle();
+    EXPECT_EQ(text("edit"), L"28.00");
+}
+
+TEST_F(ZoomSliderTest, LeavingAFieldLetsIdleTicksInBeforeAnyCommandHasEnded) {
+    rebuildControl();
+    tellOf(L"CVPORT");
+    setLens(28.0);
+    focusField();
+    leave();
+    idle();
+    EXPECT_EQ(text("edit"), L"28.00");
+}
+
 struct RefusedCase {
     const char* field;
     const wchar_t* text;
-    const char* least;
-    const char* most;
+    const wchar_t* least;
+    const wchar_t* most;
 };
 class RefusedEntryTest : public ZoomSliderTest, public testing::WithParamInterface<RefusedCase> {};
 
 TEST_P(RefusedEntryTest, NamesTheLimitsAndGivesTheFieldBack) {
     const std::wstring before = text(GetParam().field);
     enter(GetParam().text, GetParam().field);
-    const std::string told = balloon();
-    EXPECT_NE(told.find(GetParam().least), std::string::npos) << told;
-    EXPECT_NE(told.find(GetParam().most), std::string::npos) << told;
+    EXPECT_EQ(workbench::toWide(balloon()), filled(1247, {GetParam().least, GetParam().most}));
     EXPECT_EQ(text(GetParam().field), before);
     EXPECT_TRUE(hasFocus(field(GetParam().field)));
     EXPECT_DOUBLE_EQ(lens(), 50.0);
@@ -77,11 +207,35 @@ TEST_P(RefusedEntryTest, NamesTheLimitsAndGivesTheFieldBack) {
 
 // The lower limit of the lens stands without its leading zero.
 INSTANTIATE_TEST_SUITE_P(Entries, RefusedEntryTest,
-                         testing::Values(RefusedCase{"edit", L"0.78", " .786 ", "100,000"},
-                                         RefusedCase{"edit", L"100000.1", " .786 ", "100,000"},
-                                         RefusedCase{"edit", L"-5", " .786 ", "100,000"},
-                                         RefusedCase{"edit2", L"0.004", "0.005", "175"},
-                                         RefusedCase{"edit2", L"175.1", "0.005", "175"}));
+                         testing::Values(RefusedCase{"edit", L"0.78", L".786", L"100,000"},
+                                         RefusedCase{"edit", L"100000.1", L".786", L"100,000"},
+                                         RefusedCase{"edit", L"-5", L".786", L"100,000"},
+                                         RefusedCase{"edit2", L"0.004", L"0.005", L"175.0"},
+                                         RefusedCase{"edit2", L"175.1", L"0.005", L"175.0"}));
+
+TEST_F(ZoomSliderTest, AcceptedTextIsTheOneThatIsShownOfTheLens) {
+    enter(L"35");
+    put(L"7");
+    press("escape");
+    EXPECT_EQ(text("edit"), L"35.00");
+    leave();
+}
+
+TEST_F(ZoomSliderTest, LensIsRoundedToWhatIsShownOfIt) {
+    enter(L"24.126");
+    EXPECT_DOUBLE_EQ(lens(), 24.13);
+    leave();
+}
+
+TEST_F(ZoomSliderTest, EntryShowsTheLensThatTheViewportTook) {
+    put(L"35");
+    takeJournal();
+    fail("vxgsSetLensLength");
+    press("enter");
+    EXPECT_EQ(text("edit"), L"50.00") << "the view is read again";
+    EXPECT_EQ(position(), 500);
+    leave();
+}
 
 struct TakenCase {
     const char* field;
@@ -131,6 +285,53 @@ TEST_F(ZoomSliderTest, AngleIsReadInDegreesWhateverTheUnitItIsShownIn) {
     EXPECT_NEAR(lens(), 18.0, 1.0e-9);
     EXPECT_EQ(text("edit2").back(), L'r');
     leave();
+}
+
+TEST_F(ZoomSliderTest, TextOfAFieldIsKeptAsItsKindOfNumber) {
+    takeJournal();
+    focusField("edit");
+    EXPECT_EQ(takeCallLines({"vxdbDisToF", "vxdbAngToF"}), Calls{"vxdbDisToF(\"50.00\", 2)"});
+    leave();
+    takeJournal();
+    focusField("edit2");
+    EXPECT_EQ(takeCallLines({"vxdbDisToF", "vxdbAngToF"}), Calls{"vxdbAngToF(\"40\", -1)"});
+    leave();
+}
+
+TEST_F(ZoomSliderTest, TextThatIsNoNumberIsNotKept) {
+    focusField();
+    leave();
+    bench().windows().state().setText(field("edit"), L"wide");
+    focusField();
+    press("escape");
+    EXPECT_EQ(text("edit"), L"50.00");
+    leave();
+}
+
+TEST_F(ZoomSliderTest, WithoutADatabaseNoTextIsKept) {
+    focusField();
+    leave();
+    bench().windows().state().setText(field("edit"), L"12");
+    fail("vxdbHostApplicationServices");
+    focusField();
+    press("escape");
+    EXPECT_EQ(text("edit"), L"50.00");
+    leave();
+}
+
+TEST_F(ZoomSliderTest, NoticesOfOtherPartsAndOtherNoticesKeepAndCommitNothing) {
+    focusField();
+    leave();
+    bench().windows().state().setText(field("edit"), L"35");
+    takeJournal();
+    const auto edit = reinterpret_cast<LPARAM>(field("edit"));
+    for (const WPARAM notice : {MAKELONG(4711, EN_KILLFOCUS), MAKELONG(4711, EN_SETFOCUS),
+                                MAKELONG(10001, 0x300), MAKELONG(10003, EN_KILLFOCUS)})
+        send(WM_COMMAND, notice, edit);
+    send(1735, 10003);
+    send(1738, 10003);
+    EXPECT_EQ(takeCalls(), Calls{});
+    EXPECT_EQ(text("edit"), L"35");
 }
 
 TEST_F(ZoomSliderTest, EntryInAParallelViewIsTakenAndChangesNothing) {

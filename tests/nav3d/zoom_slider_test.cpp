@@ -38,6 +38,50 @@ TEST_F(ZoomSliderTest, ItemAndFieldsBearTheirTexts) {
     EXPECT_EQ(tipOf(field("edit2")), stringOf(1243));
 }
 
+TEST_F(ZoomSliderTest, PartsAreMadeInTheOrderOfTheRow) {
+    takeJournal();
+    rebuildControl();
+    const std::vector<std::string> made = takeCallLines(
+        {"CQrUiProgSliderCtrl::Create", "CQrUiInputEditCtrl::Create", "CWnd::EnableWindow"});
+    const std::vector<std::string> expected{
+        "CQrUiProgSliderCtrl::Create(1342177280, object, 5004, 2)",
+        "CQrUiInputEditCtrl::Create(1350631552, object, 10001, 0)",
+        "CQrUiInputEditCtrl::Create(1350631552, object, 10002, 0)",
+        "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"};
+    EXPECT_NE(std::search(made.begin(), made.end(), expected.begin(), expected.end()), made.end());
+    const auto& row = *dynamic_cast<CQrUiToolPanel*>(CWnd::FromHandle(window()));
+    ASSERT_EQ(row.GetToolPanelItemCount(), 6);
+    EXPECT_EQ(row.GetToolPanelItem(0)->GetID(), L"TPB_3DNAV_SLIDERCONTROL1");
+    EXPECT_EQ(row.GetToolPanelItem(1)->GetControl(), slider());
+    EXPECT_EQ(row.GetToolPanelItem(3)->GetControl(), field("edit"));
+    EXPECT_EQ(row.GetToolPanelItem(5)->GetControl(), field("edit2"));
+}
+
+TEST_F(ZoomSliderTest, SliderIsMadeAsLargeAsTheControl) {
+    const CRect whole = firstRectOf(window());
+    ASSERT_NE(whole.Width(), 0);
+    EXPECT_EQ(firstRectOf(slider()), (CRect{0, 0, whole.Width(), whole.Height()}));
+}
+
+class ZoomAnswerTest : public ZoomSliderTest, public testing::WithParamInterface<UINT> {};
+
+TEST_P(ZoomAnswerTest, IsZero) {
+    constexpr WPARAM kNoField = 4711;
+    EXPECT_EQ(send(GetParam(), kNoField, reinterpret_cast<LPARAM>(L"CVPORT")), 0);
+    EXPECT_EQ(send(GetParam(), 10001, reinterpret_cast<LPARAM>(slider())), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Messages, ZoomAnswerTest,
+                         testing::Values(WM_IDLEUPDATECMDUI, 1534, 1735, 1738));
+
+TEST_F(ZoomSliderTest, MessagesOfTheHostAreAnsweredZero) {
+    EXPECT_EQ(send(1726), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"CVPORT")), 0);
+    EXPECT_EQ(send(1727, 1, reinterpret_cast<LPARAM>(L"LTSCALE")), 0);
+    EXPECT_EQ(send(1730, 0, reinterpret_cast<LPARAM>(L"LINE")), 0);
+    EXPECT_EQ(send(1736), 0);
+}
+
 TEST_F(ZoomSliderTest, IdleTicksLeaveItAloneUntilACommandEnds) {
     rebuildControl();
     idle();
@@ -48,6 +92,35 @@ TEST_F(ZoomSliderTest, IdleTicksLeaveItAloneUntilACommandEnds) {
     setLens(85.0);
     idle();
     EXPECT_EQ(position(), 850);
+}
+
+TEST_F(ZoomSliderTest, IdleTicksWithoutADatabaseDoNothing) {
+    endACommand();
+    setLens(85.0);
+    fail("vxdbHostApplicationServices");
+    takeJournal();
+    send(WM_IDLEUPDATECMDUI);
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{"vxdbHostApplicationServices"});
+    EXPECT_EQ(position(), 500);
+}
+
+TEST_F(ZoomSliderTest, IdleTicksBeforeTheFirstCommandUpdateTheToolbarAlone) {
+    rebuildControl();
+    takeJournal();
+    send(WM_IDLEUPDATECMDUI);
+    const std::vector<std::string> made = takeCalls();
+    EXPECT_EQ(std::count(made.begin(), made.end(), "vxgsGetLensLength"), 0);
+    EXPECT_EQ(std::count(made.begin(), made.end(), "VxDbDatabase::cameraDisplay"), 1);
+}
+
+TEST_F(ZoomSliderTest, IdleTicksOfAHiddenDashboardReadNothing) {
+    endACommand();
+    paletteSet()->ShowWindow(SW_HIDE);
+    takeJournal();
+    send(WM_IDLEUPDATECMDUI);
+    EXPECT_EQ(takeCallLines({"vxgsGetLensLength", "OrbitInProgress", "VxDbDatabase::cameraDisplay",
+                             "vxedGetVar"}),
+              std::vector<std::string>{});
 }
 
 TEST_F(ZoomSliderTest, ClickOnTheIconGoesToTheLensField) {
@@ -63,6 +136,62 @@ TEST_F(ZoomSliderTest, ShowsTheLensThatWasReadAndNotTheSlidersStep) {
     announce(L"CVPORT");
     EXPECT_EQ(position(), 370);
     EXPECT_EQ(text("edit"), L"37.25");
+}
+
+TEST_F(ZoomSliderTest, TipShowsLensAndAngleAndComesUp) {
+    setLens(35.0);
+    takeJournal();
+    tellOf(L"CVPORT");
+    const std::wstring tip = filled(1242, {L"35.00"}) + L"\n" + filled(1244, {text("edit2")});
+    EXPECT_EQ(tipOf(slider()), tip);
+    EXPECT_EQ(takeTexts("tip"), std::vector<std::string>{workbench::toUtf8(tip)});
+}
+
+TEST_F(ZoomSliderTest, AngleIsShownWithTheDrawingsPrecision) {
+    set(L"AUPREC", 3);
+    EXPECT_EQ(text("edit2"), L"39.598");
+    EXPECT_NE(tipOf(slider()).find(L"39.598"), std::wstring::npos);
+    set(L"AUPREC", 0);
+    EXPECT_EQ(text("edit2"), L"40");
+}
+
+TEST_F(ZoomSliderTest, LensIsAskedOfTheViewportInWhichTheUserWorks) {
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines({"vxgsGetLensLength"}),
+              std::vector<std::string>{"vxgsGetLensLength(2)"});
+}
+
+TEST_F(ZoomSliderTest, WithoutAViewportTheControlsStayAsTheyAre) {
+    setLens(28.0);
+    loseViewport();
+    takeJournal();
+    tellOf(L"CVPORT");
+    EXPECT_EQ(position(), 500);
+    EXPECT_EQ(text("edit"), L"50.00");
+    EXPECT_EQ(takeCallLines({"vxgsGetLensLength"}), std::vector<std::string>{});
+}
+
+class ZoomFollowingTest : public ZoomSliderTest, public testing::WithParamInterface<UINT> {};
+
+TEST_P(ZoomFollowingTest, RefreshesUnlessTheDashboardIsHidden) {
+    setLens(28.0);
+    send(GetParam());
+    EXPECT_EQ(position(), 280);
+    setLens(35.0);
+    paletteSet()->ShowWindow(SW_HIDE);
+    takeJournal();
+    send(GetParam());
+    EXPECT_EQ(position(), 280);
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{});
+}
+
+INSTANTIATE_TEST_SUITE_P(Messages, ZoomFollowingTest, testing::Values(1726, 1730, 1736));
+
+TEST_F(ZoomSliderTest, CancelledCommandRefreshesNothing) {
+    setLens(28.0);
+    takeJournal();
+    send(1731, 0, reinterpret_cast<LPARAM>(L"LINE"));
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{});
 }
 
 TEST_F(ZoomSliderTest, ALensBeyondTheLongestStandsAtTheEnd) {
@@ -96,17 +225,39 @@ TEST_P(OtherVariableTest, ChangesNothing) {
 INSTANTIATE_TEST_SUITE_P(Names, OtherVariableTest,
                          testing::Values(L"STEPSIZE", L"cvport", L"Perspective"));
 
-TEST_F(ZoomSliderTest, ParallelViewDisablesAllPartsAndReadsNoView) {
+TEST_F(ZoomSliderTest, ParallelViewDisablesAllParts) {
     set(L"PERSPECTIVE", 0);
     EXPECT_FALSE(isEnabled(slider()));
     EXPECT_FALSE(isEnabled(field("edit")));
     EXPECT_FALSE(isEnabled(field("edit2")));
-    takeCalls();
-    announce(L"CVPORT");
-    EXPECT_EQ(takeCount("vxgsGetLensLength"), 0U);
     set(L"PERSPECTIVE", 1);
     EXPECT_TRUE(isEnabled(slider()));
+    EXPECT_TRUE(isEnabled(field("edit")));
     EXPECT_TRUE(isEnabled(field("edit2")));
+}
+
+TEST_F(ZoomSliderTest, NothingIsReadFromAParallelView) {
+    set(L"PERSPECTIVE", 0);
+    takeJournal();
+    tellOf(L"CVPORT");
+    for (const std::string& call :
+         takeCallLines({"vxedGetVar", "vxgsGetLensLength", "vxgsGetGsView", "CWnd::SetWindowText"}))
+        EXPECT_EQ(call, "vxedGetVar(\"PERSPECTIVE\")");
+}
+
+TEST_F(ZoomSliderTest, SliderAloneTellsWhetherThePartsAreEnabled) {
+    bench().windows().state().enable(field("edit"), false);
+    takeJournal();
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines({"CWnd::EnableWindow"}), std::vector<std::string>{});
+    EXPECT_FALSE(isEnabled(field("edit")));
+    bench().windows().state().enable(slider(), false);
+    tellOf(L"CVPORT");
+    EXPECT_EQ(takeCallLines({"CWnd::EnableWindow"}),
+              (std::vector<std::string>{"CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 1)",
+                                        "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)",
+                                        "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"}));
+    EXPECT_TRUE(isEnabled(field("edit")));
 }
 
 TEST_F(ZoomSliderTest, HiddenDashboardIsNotRefreshed) {
@@ -141,6 +292,41 @@ TEST_F(ZoomSliderTest, DragSetsTheLensRecordsEachStepAndTellsTheHost) {
     EXPECT_EQ(std::count(made.begin(), made.end(), "VxViewMgrDlg::viewComboClear"), 2);
     EXPECT_DOUBLE_EQ(lens(), 70.0);
     EXPECT_EQ(text("edit"), L"70.00");
+    release();
+}
+
+TEST_F(ZoomSliderTest, DragShowsTheLensOnceTheHostHasBeenTold) {
+    takeJournal();
+    drag({600});
+    const std::vector<std::string> steps =
+        takeCallLines({"VxViewMgrDlg::viewComboClear", "CQrUiProgSliderCtrl::ShowToolTip"});
+    const auto told =
+        std::find(steps.begin(), steps.end(), std::string("VxViewMgrDlg::viewComboClear()"));
+    ASSERT_NE(told, steps.end());
+    EXPECT_EQ(std::vector<std::string>(told + 1, steps.end()),
+              std::vector<std::string>{"CQrUiProgSliderCtrl::ShowToolTip()"});
+    EXPECT_EQ(tipOf(slider()), filled(1242, {L"60.00"}) + L"\n" + filled(1244, {text("edit2")}));
+    release();
+}
+
+TEST_F(ZoomSliderTest, AnotherSlidersMessageIsIgnored) {
+    takeJournal();
+    send(1534, 600, reinterpret_cast<LPARAM>(field("edit")));
+    send(1534, 600, 0);
+    EXPECT_EQ(takeCalls(), std::vector<std::string>{});
+}
+
+TEST_F(ZoomSliderTest, PositionIsOfSixteenBits) {
+    send(1534, 0x70000 | 600, reinterpret_cast<LPARAM>(slider()));
+    EXPECT_DOUBLE_EQ(lens(), 60.0);
+}
+
+TEST_F(ZoomSliderTest, DragNeverSetsTheSliderAndNeitherDoesWhatItSetsOff) {
+    takeJournal();
+    drag({1555});
+    EXPECT_EQ(takeCallLines({"CQrUiProgSliderCtrl::SetSliderPos"}),
+              std::vector<std::string>{"CQrUiProgSliderCtrl::SetSliderPos(1550)"})
+        << "the host's event alone brings the position that stands for the lens";
     release();
 }
 

@@ -1,5 +1,6 @@
 #include "tests/support/bench.h"
 
+#include "tests/support/call_lines.h"
 #include "workbench/base/text.h"
 #include "workbench/base/turn.h"
 #include "workbench/editor/command_processor.h"
@@ -247,6 +248,10 @@ std::vector<std::string> Bench::takeCalls() {
         names.push_back(record.field("name").asString());
     }
     return names;
+}
+
+std::vector<std::string> Bench::takeCallLines(const std::vector<std::string_view>& names) {
+    return callLines(takeJournal("call"), names);
 }
 
 std::vector<std::int64_t> Bench::takeMessagesOf(const std::string& control) {

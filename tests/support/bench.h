@@ -12,6 +12,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace support {
@@ -99,6 +100,9 @@ protected:
     std::vector<workbench::JournalRecord> takeJournal(const std::string& kind = {});
     /// The names of the host calls since the last call, in order.
     std::vector<std::string> takeCalls();
+    /// The host calls of some names since the last call, with their arguments, as `callLines` has
+    /// them; all others are forgotten too.
+    std::vector<std::string> takeCallLines(const std::vector<std::string_view>& names);
     /// The numbers of the messages that a control got since the last call.
     std::vector<std::int64_t> takeMessagesOf(const std::string& control);
     /// The texts of the balloons (or boxes) since the last call.

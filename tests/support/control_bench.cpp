@@ -9,6 +9,7 @@
 #include "workbench/resources/resource_library.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/slider_widget.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <algorithm>
@@ -17,7 +18,16 @@ namespace support {
 
 namespace gestures = workbench::gestures;
 
+void ControlBench::useMenuOf(const std::string& control) {
+    useMenu(R"({"menuGroups": [{"name": "MAIN"}], "panels": [{"menuGroup": "MAIN", "id": "P",
+        "title": "P", "toolPanels": ["TP"]}], "toolPanels": [{"menuGroup": "MAIN", "id": "TP",
+        "items": [{"type": "control", "control": ")" +
+            control + R"("}]}], "workspaces": [{"name": "W", "panels": [{"menuGroup": "MAIN",
+        "panel": "P"}]}], "currentWorkspace": "W"})");
+}
+
 void ControlBench::showControl(const std::string& name) {
+    m_firstRects.emplace(bench().windows());
     showDashboard();
     m_name = name;
     m_control = control(name);
@@ -104,6 +114,35 @@ std::wstring ControlBench::stringOf(UINT number) {
     const LoadedModule module("VxDashboardRes.dll");
     const workbench::ResourceLibrary library(module.directory());
     return workbench::toWide(library.findString(number).value_or("missing"));
+}
+
+std::wstring ControlBench::filled(UINT number, const std::vector<std::wstring>& inserts) {
+    constexpr std::wstring_view kInsert = L"%ls";
+    std::wstring text = stringOf(number);
+    std::size_t from = 0;
+    for (const std::wstring& insert : inserts) {
+        const std::size_t place = text.find(kInsert, from);
+        if (place == std::wstring::npos)
+            return L"no place for " + insert;
+        text.replace(place, kInsert.size(), insert);
+        from = place + insert.size();
+    }
+    return text;
+}
+
+std::wstring ControlBench::balloonText() {
+    return bench().toolkit().balloons().textOf(m_control);
+}
+
+HWND ControlBench::balloonTarget() {
+    return bench().toolkit().balloons().targetOf(m_control);
+}
+
+bool ControlBench::hasThemeFont(HWND part) {
+    constexpr int kFontPointer = 2;
+    const workbench::Theme* theme = bench().toolkit().themes().find(L"ToolPanel");
+    const auto* font = static_cast<const CFont*>(theme->dataPtr(kFontPointer));
+    return font != nullptr && bench().windows().find(part)->font == font->GetSafeHandle();
 }
 
 bool ControlBench::isEnabled(HWND part) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "tests/support/bench.h"
+#include "tests/support/first_rects.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +12,8 @@ namespace support {
 /// Test fixture: the dashboard on show, and a user's verbs for one custom control.
 class ControlBench : public Bench {
 protected:
+    /// In place of the example's menu: one panel with one control, so that nobody else calls the host.
+    void useMenuOf(const std::string& control);
     /// Shows the dashboard with this control in view, and forgets what happened so far.
     void showControl(const std::string& name);
     /// Takes the panels down and builds them again, the control anew.
@@ -39,6 +43,16 @@ protected:
     std::wstring text(const std::string& name = "edit");
     std::wstring tipOf(HWND part);
     std::wstring stringOf(UINT number);
+    /// The rectangle with which the control, or a part of it, was made.
+    CRect firstRectOf(HWND part) { return m_firstRects->of(part); }
+    /// A text of the resources with its inserts filled in.
+    std::wstring filled(UINT number, const std::vector<std::wstring>& inserts);
+    /// The text of the control's balloon as it stands; empty for none.
+    std::wstring balloonText();
+    /// The part of the control that its balloon points at; null for none.
+    HWND balloonTarget();
+    /// Whether the module has given a part the font that it publishes in the toolkit's theme.
+    bool hasThemeFont(HWND part);
     bool isEnabled(HWND part);
     bool hasFocus(HWND part);
     /// How often a host call was made since the last look at the journal.
@@ -47,6 +61,7 @@ protected:
 private:
     std::string m_name;
     HWND m_control = nullptr;
+    std::optional<FirstRects> m_firstRects;  // nothing before the control is shown
 };
 
 }  // namespace support

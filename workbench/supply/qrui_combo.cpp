@@ -17,7 +17,7 @@ ComboWidget* widgetOf(const CWnd& combo) {
 }  // namespace
 
 BOOL CQrUiComboCtrl::Create(DWORD style, const CRect& rect, CWnd* parent, UINT id) {
-    HostCall call("CQrUiComboCtrl::Create", {style, parent, id});
+    HostCall call("CQrUiComboCtrl::Create", {style, rect.Width(), rect.Height(), parent, id});
     if (call.failed())
         return call.returns(0);
     using namespace workbench::supply;
