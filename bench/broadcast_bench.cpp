@@ -1,6 +1,5 @@
 #include "bench/receivers.h"
 #include "bench/session.h"
-
 #include "core/broadcast_messages.h"
 #include "module/manager.h"
 #include "module/module.h"

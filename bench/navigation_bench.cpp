@@ -1,5 +1,4 @@
 #include "bench/session.h"
-
 #include "module/manager.h"
 #include "module/module.h"
 #include "palette/panel_set.h"

@@ -1,15 +1,13 @@
 #include "bench/session.h"
-
 #include "module/manager.h"
 #include "module/module.h"
 #include "palette/panel_set.h"
 #include "palette/tool_items.h"
 
-#include <benchmark/benchmark.h>
-
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>
 
+#include <benchmark/benchmark.h>
 #include <malloc.h>
 
 #include <cstddef>

@@ -6,7 +6,6 @@
 #include "workbench/editor/editor.h"
 
 #include <nlohmann/json.hpp>
-
 #include <unistd.h>
 
 #include <cstdlib>

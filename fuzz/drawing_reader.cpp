@@ -1,4 +1,5 @@
 #include "workbench/drawing/drawing_reader.h"
+
 #include "workbench/base/input_error.h"
 #include "workbench/drawing/drawing_writer.h"
 

@@ -1,4 +1,5 @@
 #include "workbench/menu/menu_reader.h"
+
 #include "workbench/base/input_error.h"
 
 #include <cstddef>

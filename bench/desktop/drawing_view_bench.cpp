@@ -5,12 +5,11 @@
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/view_parameters.h"
 
+#include <benchmark/benchmark.h>
+
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
-
-#include <benchmark/benchmark.h>
-
 #include <cmath>
 #include <memory>
 #include <utility>

@@ -1,7 +1,6 @@
 #include "bench/receivers.h"
 
 #include <benchmark/benchmark.h>
-
 #include <boost/signals2.hpp>
 
 #include <memory>

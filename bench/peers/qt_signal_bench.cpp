@@ -3,7 +3,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QObject>
-
 #include <memory>
 #include <vector>
 

@@ -1,7 +1,6 @@
 #include "bench/receivers.h"
 
 #include <benchmark/benchmark.h>
-
 #include <sigc++/sigc++.h>
 
 #include <memory>

@@ -2,7 +2,6 @@
 
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
-
 #include "core/message_table.h"
 
 #include <hostapi/qrui18/messages.h>

@@ -3,7 +3,6 @@
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
 #include "controls/toolbar_controls.h"
-
 #include "core/message_table.h"
 #include "core/message_values.h"
 #include "core/resources.h"

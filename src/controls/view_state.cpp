@@ -1,9 +1,7 @@
 #include "controls/view_state.h"
 
 #include "controls/current_view.h"
-
 #include "controls/variable_access.h"
-
 #include "core/host_objects.h"
 #include "core/opened_object.h"
 

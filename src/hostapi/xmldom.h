@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/types.h>
 
 /// The interface of XML nodes in which the host keeps profiles.

@@ -1,11 +1,8 @@
 #include "light/light_toolbar.h"
 
-#include "light/sky_state.h"
-
-#include "core/roof.h"
-
 #include "controls/variable_access.h"
-
+#include "core/roof.h"
+#include "light/sky_state.h"
 #include "palette/tool_items.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>

@@ -1,16 +1,13 @@
 #include "light/lighting_tools.h"
 
-#include "light/sky_state.h"
-
-#include "core/host_objects.h"
-#include "core/roof.h"
-#include "core/text.h"
-
 #include "controls/cmd_util.h"
 #include "controls/doc_lock.h"
 #include "controls/variable_access.h"
-
 #include "controls/view_state.h"
+#include "core/host_objects.h"
+#include "core/roof.h"
+#include "core/text.h"
+#include "light/sky_state.h"
 
 #include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/variables.h>

@@ -1,7 +1,6 @@
 #include "light/sky_state.h"
 
 #include "core/opened_object.h"
-
 #include "render/scene_service.h"
 
 #include <hostapi/vxdb18/database.h>

@@ -1,14 +1,13 @@
 #include "module/commands.h"
 
-#include "module/manager.h"
-#include "module/module.h"
-
 #include "core/constants.h"
 #include "core/host_objects.h"
 #include "core/module_call.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
+#include "module/manager.h"
+#include "module/module.h"
 
 #include <hostapi/zorq/commands.h>
 #include <hostapi/zorq/views.h>

@@ -1,13 +1,10 @@
 #include "module/control_manager.h"
 
+#include "controls/cmd_util.h"
+#include "core/module_call.h"
+#include "light/lighting_tools.h"
 #include "module/control_table.h"
 #include "module/family_rows.h"
-
-#include "core/module_call.h"
-
-#include "controls/cmd_util.h"
-
-#include "light/lighting_tools.h"
 #include "nav3d/navigation_tools.h"
 #include "visualstyle/style_reactors.h"
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "core/roof.h"
-
 #include "controls/input_context_reactor.h"
+#include "core/roof.h"
 
 #include <hostapi/window/wnd.h>
 

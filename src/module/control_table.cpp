@@ -1,10 +1,8 @@
 #include "module/control_table.h"
 
-#include "core/text.h"
-
 #include "controls/toolbar_controls.h"
 #include "controls/toolbar_group_ctrl.h"
-
+#include "core/text.h"
 #include "layer/locked_layer_fade_slider.h"
 #include "nav3d/camera_point.h"
 #include "nav3d/step_slider.h"

@@ -1,6 +1,5 @@
-#include "module/module.h"
-
 #include "core/module_call.h"
+#include "module/module.h"
 
 #include <hostapi/export.h>
 #include <hostapi/vxdb18/dynamic_linker.h>

@@ -1,12 +1,9 @@
+#include "core/module_call.h"
+#include "core/roof.h"
 #include "module/control_manager.h"
 #include "module/manager.h"
 #include "module/module.h"
-
-#include "core/module_call.h"
-#include "core/roof.h"
-
 #include "nav3d/force_update.h"
-
 #include "palette/dashboard.h"
 #include "palette/panel_set.h"
 

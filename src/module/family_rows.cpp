@@ -1,7 +1,6 @@
 #include "module/family_rows.h"
 
 #include "core/family_events.h"
-
 #include "layer/filter_refresh.h"
 #include "light/light_toolbar.h"
 #include "visualstyle/material_mode.h"

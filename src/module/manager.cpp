@@ -1,9 +1,6 @@
 #include "module/manager.h"
 
-#include "module/control_manager.h"
-#include "module/manager_reactors.h"
-#include "module/module.h"
-
+#include "controls/variable_access.h"
 #include "core/broadcast_messages.h"
 #include "core/constants.h"
 #include "core/flag_scope.h"
@@ -12,13 +9,12 @@
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/theme.h"
-
-#include "controls/variable_access.h"
-
+#include "module/control_manager.h"
+#include "module/manager_reactors.h"
+#include "module/module.h"
 #include "palette/dashboard.h"
 #include "palette/palette.h"
 #include "palette/panel_set.h"
-
 #include "visualstyle/style_reactors.h"
 
 #include <hostapi/zorq.h>

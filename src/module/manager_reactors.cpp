@@ -1,14 +1,12 @@
 #include "module/manager_reactors.h"
 
+#include "core/broadcast_messages.h"
+#include "core/module_call.h"
+#include "core/text.h"
 #include "module/control_manager.h"
 #include "module/family_rows.h"
 #include "module/manager.h"
 #include "module/module.h"
-
-#include "core/broadcast_messages.h"
-#include "core/module_call.h"
-#include "core/text.h"
-
 #include "palette/panel_set.h"
 
 namespace {

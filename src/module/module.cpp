@@ -1,9 +1,5 @@
 #include "module/module.h"
 
-#include "module/commands.h"
-#include "module/control_manager.h"
-#include "module/manager.h"
-
 #include "core/constants.h"
 #include "core/flag_scope.h"
 #include "core/host_objects.h"
@@ -12,7 +8,9 @@
 #include "core/roof.h"
 #include "core/text.h"
 #include "core/theme.h"
-
+#include "module/commands.h"
+#include "module/control_manager.h"
+#include "module/manager.h"
 #include "visualstyle/style_reactors.h"
 
 #include <hostapi/qrui18/palette_set.h>

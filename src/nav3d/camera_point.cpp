@@ -1,15 +1,10 @@
 #include "nav3d/camera_point.h"
 
 #include "controls/current_view.h"
-#include "controls/value_text.h"
-#include "controls/view_state.h"
-#include "nav3d/move_view_point.h"
-#include "nav3d/navigation_module.h"
-#include "nav3d/white_background.h"
-
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
-
+#include "controls/value_text.h"
+#include "controls/view_state.h"
 #include "core/broadcast_messages.h"
 #include "core/event_names.h"
 #include "core/message_table.h"
@@ -18,6 +13,9 @@
 #include "core/string_ids.h"
 #include "core/text.h"
 #include "core/theme.h"
+#include "nav3d/move_view_point.h"
+#include "nav3d/navigation_module.h"
+#include "nav3d/white_background.h"
 
 #include <hostapi/qrui18/balloon.h>
 #include <hostapi/qrui18/input_edit.h>

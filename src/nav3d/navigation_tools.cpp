@@ -1,14 +1,12 @@
 #include "nav3d/navigation_tools.h"
 
-#include "nav3d/navigation_module.h"
-
+#include "controls/cmd_util.h"
 #include "core/constants.h"
 #include "core/host_objects.h"
 #include "core/resources.h"
 #include "core/string_ids.h"
 #include "core/text.h"
-
-#include "controls/cmd_util.h"
+#include "nav3d/navigation_module.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdb18/dynamic_linker.h>

@@ -1,10 +1,9 @@
 #include "nav3d/step_setting.h"
 
 #include "controls/value_text.h"
-#include "nav3d/step_mapping.h"
-
 #include "core/resources.h"
 #include "core/text.h"
+#include "nav3d/step_mapping.h"
 
 #include <hostapi/vxdb18/database.h>
 

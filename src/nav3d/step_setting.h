@@ -1,7 +1,6 @@
 #pragma once
 
 #include "controls/slider_panel_ctrl.h"
-
 #include "core/event_names.h"
 
 #include <optional>

@@ -1,17 +1,15 @@
 #include "nav3d/step_slider.h"
 
-#include "controls/value_text.h"
-#include "nav3d/step_setting.h"
-
 #include "controls/doc_lock.h"
+#include "controls/value_text.h"
 #include "controls/variable_access.h"
-
 #include "core/broadcast_messages.h"
 #include "core/host_objects.h"
 #include "core/message_table.h"
 #include "core/message_values.h"
 #include "core/resources.h"
 #include "core/text.h"
+#include "nav3d/step_setting.h"
 
 #include <hostapi/qrui18/balloon.h>
 #include <hostapi/qrui18/tool_panel_item.h>

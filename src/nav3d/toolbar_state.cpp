@@ -1,12 +1,10 @@
 #include "nav3d/toolbar_state.h"
 
 #include "controls/view_state.h"
-#include "nav3d/navigation_module.h"
-
 #include "core/host_objects.h"
 #include "core/resources.h"
 #include "core/roof.h"
-
+#include "nav3d/navigation_module.h"
 #include "palette/tool_items.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>

@@ -1,13 +1,8 @@
 #include "nav3d/view_combo.h"
 
-#include "nav3d/force_update.h"
-#include "nav3d/navigation_module.h"
-#include "nav3d/white_background.h"
-
 #include "controls/doc_lock.h"
 #include "controls/edit_messages.h"
 #include "controls/row_items.h"
-
 #include "core/broadcast_messages.h"
 #include "core/event_names.h"
 #include "core/host_objects.h"
@@ -16,6 +11,9 @@
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/theme.h"
+#include "nav3d/force_update.h"
+#include "nav3d/navigation_module.h"
+#include "nav3d/white_background.h"
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "nav3d/view_entries.h"
-
 #include "controls/panel_group_ctrl.h"
+#include "nav3d/view_entries.h"
 
 #include <hostapi/qrui18/combo.h>
 

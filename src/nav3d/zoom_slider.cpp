@@ -2,10 +2,6 @@
 
 #include "controls/value_text.h"
 #include "controls/view_state.h"
-#include "nav3d/lens_mapping.h"
-#include "nav3d/lens_view.h"
-#include "nav3d/toolbar_state.h"
-
 #include "core/broadcast_messages.h"
 #include "core/event_names.h"
 #include "core/host_objects.h"
@@ -15,6 +11,9 @@
 #include "core/roof.h"
 #include "core/string_ids.h"
 #include "core/text.h"
+#include "nav3d/lens_mapping.h"
+#include "nav3d/lens_view.h"
+#include "nav3d/toolbar_state.h"
 
 #include <hostapi/qrui18/balloon.h>
 #include <hostapi/qrui18/tool_panel_item.h>

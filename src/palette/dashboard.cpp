@@ -1,12 +1,5 @@
 #include "palette/dashboard.h"
 
-#include "palette/menu_commands.h"
-#include "palette/menu_lines.h"
-#include "palette/palette.h"
-#include "palette/panel_set.h"
-#include "palette/theme_message.h"
-#include "palette/xml_node.h"
-
 #include "core/constants.h"
 #include "core/message_table.h"
 #include "core/message_values.h"
@@ -14,6 +7,12 @@
 #include "core/roof.h"
 #include "core/string_ids.h"
 #include "core/theme.h"
+#include "palette/menu_commands.h"
+#include "palette/menu_lines.h"
+#include "palette/palette.h"
+#include "palette/panel_set.h"
+#include "palette/theme_message.h"
+#include "palette/xml_node.h"
 
 #include <hostapi/window.h>
 #include <hostapi/zorq/commands.h>

@@ -1,12 +1,10 @@
 #include "palette/item_click.h"
 
-#include "palette/foreign_module.h"
-
+#include "controls/cmd_util.h"
 #include "core/constants.h"
 #include "core/roof.h"
 #include "core/text.h"
-
-#include "controls/cmd_util.h"
+#include "palette/foreign_module.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
 #include <hostapi/vxdashboard.h>

@@ -1,11 +1,10 @@
 #include "palette/palette.h"
 
-#include "palette/dashboard.h"
-#include "palette/panel_set.h"
-
 #include "core/flag_scope.h"
 #include "core/message_table.h"
 #include "core/theme.h"
+#include "palette/dashboard.h"
+#include "palette/panel_set.h"
 
 #include <hostapi/qrui18/messages.h>
 

@@ -1,16 +1,14 @@
 #include "palette/panel.h"
 
+#include "controls/cmd_util.h"
+#include "core/message_table.h"
+#include "core/resources.h"
+#include "core/string_ids.h"
 #include "palette/item_click.h"
 #include "palette/menu_commands.h"
 #include "palette/menu_lines.h"
 #include "palette/panel_set.h"
 #include "palette/tool_palettes.h"
-
-#include "core/message_table.h"
-#include "core/resources.h"
-#include "core/string_ids.h"
-
-#include "controls/cmd_util.h"
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/vxtcui.h>

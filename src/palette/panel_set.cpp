@@ -1,5 +1,9 @@
 #include "palette/panel_set.h"
 
+#include "controls/variable_access.h"
+#include "core/broadcast_messages.h"
+#include "core/message_table.h"
+#include "core/theme.h"
 #include "palette/host_panels.h"
 #include "palette/item_images.h"
 #include "palette/menu_commands.h"
@@ -8,12 +12,6 @@
 #include "palette/theme_message.h"
 #include "palette/tool_panel_builder.h"
 #include "palette/xml_node.h"
-
-#include "core/broadcast_messages.h"
-#include "core/message_table.h"
-#include "core/theme.h"
-
-#include "controls/variable_access.h"
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/zorq/menu_data.h>

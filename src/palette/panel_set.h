@@ -1,10 +1,9 @@
 #pragma once
 
+#include "core/module_window.h"
 #include "palette/item_index.h"
 #include "palette/no_panel_link.h"
 #include "palette/panel_record.h"
-
-#include "core/module_window.h"
 
 #include <hostapi/qrui18/panel_set.h>
 #include <hostapi/types.h>

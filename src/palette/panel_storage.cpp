@@ -1,8 +1,7 @@
 #include "palette/panel_storage.h"
 
-#include "palette/xml_node.h"
-
 #include "core/text.h"
+#include "palette/xml_node.h"
 
 #include <cstddef>
 #include <functional>

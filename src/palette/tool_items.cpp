@@ -1,11 +1,10 @@
 #include "palette/tool_items.h"
 
-#include "palette/item_images.h"
-#include "palette/panel_set.h"
-
 #include "core/resources.h"
 #include "core/roof.h"
 #include "core/text.h"
+#include "palette/item_images.h"
+#include "palette/panel_set.h"
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>

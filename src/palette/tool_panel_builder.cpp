@@ -1,13 +1,12 @@
 #include "palette/tool_panel_builder.h"
 
+#include "core/module_window.h"
+#include "core/roof.h"
+#include "core/text.h"
 #include "palette/foreign_module.h"
 #include "palette/item_images.h"
 #include "palette/panel.h"
 #include "palette/tool_items.h"
-
-#include "core/module_window.h"
-#include "core/roof.h"
-#include "core/text.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/qrui18/tool_panel_item.h>

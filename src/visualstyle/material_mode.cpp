@@ -1,7 +1,6 @@
 #include "visualstyle/material_mode.h"
 
 #include "controls/variable_access.h"
-
 #include "palette/tool_items.h"
 
 #include <iterator>

@@ -1,5 +1,4 @@
 #include "tests/support/control_bench.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/windows/window_system.h"

@@ -3,7 +3,6 @@
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/call_lines.h"
 #include "tests/support/control_bench.h"
-
 #include "workbench/base/text.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/editor/editor.h"

@@ -1,6 +1,5 @@
 #include "tests/hostile/gesture.h"
 #include "tests/hostile/host.h"
-
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/key_gestures.h"

@@ -3,7 +3,6 @@
 #include "tests/hostile/attack_names.h"
 #include "tests/hostile/host.h"
 #include "tests/hostile/hostile_menu.h"
-
 #include "workbench/base/turn.h"
 #include "workbench/core/invalid_argument.h"
 #include "workbench/gestures/gesture_error.h"

@@ -1,6 +1,5 @@
 #include "tests/hostile/gesture.h"
 #include "tests/hostile/host.h"
-
 #include "workbench/gestures/gesture_error.h"
 #include "workbench/profiles/profile_store.h"
 

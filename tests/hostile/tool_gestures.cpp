@@ -1,6 +1,5 @@
 #include "tests/hostile/gesture.h"
 #include "tests/hostile/host.h"
-
 #include "workbench/base/text.h"
 #include "workbench/core/faults.h"
 #include "workbench/gestures/gesture_error.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/control_bench.h"
-
 #include "workbench/base/text.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"

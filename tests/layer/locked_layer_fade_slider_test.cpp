@@ -1,5 +1,4 @@
 #include "tests/layer/fade_fixture.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/slider_widget.h"
 

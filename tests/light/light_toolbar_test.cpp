@@ -4,7 +4,6 @@
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/bench.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/lookup.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/bench.h"
-
 #include "workbench/editor/editor.h"
 
 #include <string>

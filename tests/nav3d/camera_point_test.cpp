@@ -1,5 +1,4 @@
 #include "tests/nav3d/camera_fixture.h"
-
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"

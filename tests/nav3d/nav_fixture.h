@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/control_bench.h"
-
 #include "workbench/base/text.h"
 #include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/current.h"

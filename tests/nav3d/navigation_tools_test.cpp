@@ -1,5 +1,4 @@
 #include "module/control_manager.h"
-
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/bench.h"

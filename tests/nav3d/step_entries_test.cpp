@@ -1,5 +1,4 @@
 #include "tests/nav3d/step_fixture.h"
-
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/toolkit/toolkit.h"
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/support/control_bench.h"
-
 #include "workbench/base/text.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/windows/window_system.h"

@@ -1,5 +1,4 @@
 #include "tests/nav3d/step_fixture.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"

@@ -1,6 +1,5 @@
 #include "tests/nav3d/nav_fixture.h"
 #include "tests/support/call_lines.h"
-
 #include "workbench/toolkit/lookup.h"
 
 #include <hostapi/vxdashboard.h>

@@ -1,5 +1,4 @@
 #include "tests/nav3d/view_combo_fixture.h"
-
 #include "workbench/gestures/list_gestures.h"
 #include "workbench/windows/background_painter.h"
 

@@ -1,5 +1,4 @@
 #include "tests/nav3d/view_combo_fixture.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/key_gestures.h"
 

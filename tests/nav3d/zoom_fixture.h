@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/nav3d/nav_fixture.h"
-
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/windows/window_system.h"
 

@@ -1,5 +1,4 @@
 #include "tests/nav3d/zoom_fixture.h"
-
 #include "workbench/toolkit/lookup.h"
 
 #include <algorithm>

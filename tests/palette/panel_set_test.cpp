@@ -1,8 +1,7 @@
 #include "palette/panel_set.h"
 
-#include "palette/xml_node.h"
-
 #include "core/broadcast_messages.h"
+#include "palette/xml_node.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/allocation_counter.h"
 #include "tests/support/answer_in_place.h"

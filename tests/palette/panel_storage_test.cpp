@@ -1,7 +1,6 @@
 #include "palette/panel_storage.h"
 
 #include "palette/xml_node.h"
-
 #include "tests/palette/palette_fixture.h"
 
 #include <hostapi/vxut.h>

@@ -1,9 +1,8 @@
 #include "palette/tool_panel_builder.h"
 
-#include "palette/tool_items.h"
-
 #include "module/manager.h"
 #include "module/module.h"
+#include "palette/tool_items.h"
 #include "tests/palette/palette_fixture.h"
 #include "workbench/base/text.h"
 #include "workbench/menu/menu_host.h"

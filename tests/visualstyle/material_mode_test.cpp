@@ -1,5 +1,4 @@
 #include "tests/support/bench.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/toolkit/lookup.h"
 

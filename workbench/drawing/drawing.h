@@ -1,11 +1,11 @@
 #pragma once
 
+#include "workbench/drawing/database/database.h"
+
 #include <cstdint>
 #include <map>
 #include <memory>
 #include <string>
-
-#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

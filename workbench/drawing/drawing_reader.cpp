@@ -1,11 +1,5 @@
 #include "workbench/drawing/drawing_reader.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstddef>
-#include <utility>
-
 #include "workbench/base/input_error.h"
 #include "workbench/base/json_parser.h"
 #include "workbench/base/text.h"
@@ -19,6 +13,12 @@
 #include "workbench/drawing/records/layer_filters.h"
 #include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <utility>
 
 namespace workbench::drawing {
 

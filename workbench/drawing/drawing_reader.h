@@ -1,12 +1,12 @@
 #pragma once
 
+#include "workbench/drawing/drawing.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "workbench/drawing/drawing.h"
 
 namespace workbench::drawing {
 

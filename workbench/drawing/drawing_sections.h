@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
-
 #include "workbench/drawing/database/record_kind.h"
+
+#include <array>
 
 namespace workbench::drawing {
 

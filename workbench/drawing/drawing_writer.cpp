@@ -1,13 +1,13 @@
 #include "workbench/drawing/drawing_writer.h"
 
-#include <fstream>
-#include <system_error>
-
 #include "workbench/base/input_error.h"
 #include "workbench/drawing/drawing_reader.h"
 #include "workbench/drawing/drawing_sections.h"
 #include "workbench/drawing/json_text.h"
 #include "workbench/drawing/record_factory.h"
+
+#include <fstream>
+#include <system_error>
 
 namespace workbench::drawing {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "workbench/drawing/drawing.h"
+
 #include <filesystem>
 #include <string>
-
-#include "workbench/drawing/drawing.h"
 
 namespace workbench::drawing {
 

@@ -1,13 +1,13 @@
 #include "workbench/drawing/filter_paths.h"
 
-#include <algorithm>
-#include <cstddef>
-
 #include "workbench/base/text.h"
 #include "workbench/drawing/path_target.h"
 #include "workbench/drawing/path_text.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
 #include "workbench/drawing/records/layer_filters.h"
+
+#include <algorithm>
+#include <cstddef>
 
 namespace workbench::drawing {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "workbench/drawing/database/database.h"
+
 #include <string>
 #include <vector>
-
-#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

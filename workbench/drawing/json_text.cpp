@@ -1,8 +1,8 @@
 #include "workbench/drawing/json_text.h"
 
-#include <cstddef>
-
 #include <nlohmann/json.hpp>
+
+#include <cstddef>
 
 namespace workbench::drawing {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "workbench/base/value.h"
+
+#include <string>
 
 namespace workbench::drawing {
 

@@ -1,12 +1,12 @@
 #include "workbench/drawing/layer_state_operations.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/layer_state.h"
 #include "workbench/drawing/records/viewport.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace workbench::drawing {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string>
-
 #include "workbench/drawing/database/database.h"
+
+#include <string>
 
 namespace workbench::drawing {
 

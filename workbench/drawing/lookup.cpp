@@ -1,10 +1,10 @@
 #include "workbench/drawing/lookup.h"
 
-#include <algorithm>
-
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"
+
+#include <algorithm>
 
 namespace workbench::drawing {
 

@@ -1,10 +1,5 @@
 #include "workbench/drawing/path_access.h"
 
-#include <array>
-#include <cstddef>
-#include <string>
-#include <vector>
-
 #include "workbench/base/text.h"
 #include "workbench/drawing/drawing_sections.h"
 #include "workbench/drawing/filter_paths.h"
@@ -15,6 +10,11 @@
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/viewport.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
 
 namespace workbench::drawing {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <string_view>
-
 #include "workbench/drawing/database/database.h"
+
+#include <string_view>
 
 namespace workbench::drawing {
 

@@ -1,13 +1,13 @@
 #include "workbench/drawing/path_target.h"
 
-#include <array>
-#include <charconv>
-
 #include "workbench/base/text.h"
 #include "workbench/drawing/drawing_sections.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/path_text.h"
 #include "workbench/drawing/records/viewport.h"
+
+#include <array>
+#include <charconv>
 
 namespace workbench::drawing {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "workbench/drawing/database/database.h"
+
 #include <cstddef>
 #include <string>
 #include <vector>
-
-#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

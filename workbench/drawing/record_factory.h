@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
-
 #include "workbench/drawing/database/db_object.h"
+
+#include <memory>
 
 namespace workbench::drawing {
 

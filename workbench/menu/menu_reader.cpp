@@ -1,10 +1,9 @@
 #include "workbench/menu/menu_reader.h"
 
-#include "workbench/menu/flyout_graph.h"
-#include "workbench/menu/menu_item_reader.h"
-
 #include "workbench/base/json_parser.h"
 #include "workbench/base/json_view.h"
+#include "workbench/menu/flyout_graph.h"
+#include "workbench/menu/menu_item_reader.h"
 
 #include <algorithm>
 #include <cstddef>

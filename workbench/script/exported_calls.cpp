@@ -13,6 +13,7 @@
 
 #include <hostapi/vxdashboard.h>
 #include <hostapi/window/module.h>
+
 #include <lua.hpp>
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/window.h>
 
 /// A slider with tick marks. A gesture on it sends `WM_QRUI_POSITION` to its parent; setting its

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/window.h>
 
 /// A line of text that opens a help topic.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/vxdb18/rx_object.h>
 
 /// The loader of host modules, the registry's entry "DynamicLinker"; class "VxRxDynamicLinker".

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/types.h>
 #include <hostapi/window/geometry.h>
 #include <hostapi/window/message_map.h>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/types.h>
 #include <hostapi/vxdb18/rx_object.h>
 

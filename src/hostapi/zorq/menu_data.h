@@ -1,7 +1,6 @@
 #pragma once
 
 #include <hostapi/export.h>
-
 #include <hostapi/types.h>
 
 /// Flag of item data: the item lives in a flyout. Set by the dashboard.

@@ -2,7 +2,6 @@
 
 #include "tests/hostile/module/hostile_control.h"
 #include "tests/hostile/module/hostile_listener.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"

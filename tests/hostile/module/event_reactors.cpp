@@ -2,7 +2,6 @@
 
 #include "tests/hostile/module/actions.h"
 #include "tests/hostile/module/attacker.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
 

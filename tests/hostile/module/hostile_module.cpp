@@ -4,7 +4,6 @@
 #include "tests/hostile/module/event_reactors.h"
 #include "tests/hostile/module/hostile_control.h"
 #include "tests/hostile/module/hostile_listener.h"
-
 #include "workbench/modules/module_start.h"
 
 #include <hostapi/export.h>

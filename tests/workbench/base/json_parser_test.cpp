@@ -1,6 +1,6 @@
 #include "workbench/base/json_parser.h"
-#include "tests/support/temporary_folder.h"
 
+#include "tests/support/temporary_folder.h"
 #include "workbench/base/input_error.h"
 
 #include <gtest/gtest.h>

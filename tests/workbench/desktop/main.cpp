@@ -1,10 +1,9 @@
 #include "workbench/desktop/mirror/accessible.h"
 
-#include <QApplication>
-#include <QFont>
-
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QFont>
 #include <clocale>
 
 // The window's tests draw offscreen, with the font that all pictures are made with.

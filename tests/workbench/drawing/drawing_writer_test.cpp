@@ -1,6 +1,6 @@
 #include "workbench/drawing/drawing_writer.h"
-#include "tests/support/temporary_folder.h"
 
+#include "tests/support/temporary_folder.h"
 #include "workbench/base/input_error.h"
 #include "workbench/drawing/drawing_reader.h"
 #include "workbench/drawing/path_access.h"

@@ -1,5 +1,4 @@
 #include "tests/workbench/editor/editor_fixture.h"
-
 #include "workbench/base/input_error.h"
 #include "workbench/base/turn.h"
 

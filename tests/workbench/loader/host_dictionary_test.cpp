@@ -1,8 +1,7 @@
 #include "workbench/loader/host_dictionary.h"
 
-#include "workbench/loader/service_entry.h"
-
 #include "tests/workbench/loader/loader_fixture.h"
+#include "workbench/loader/service_entry.h"
 
 #include <memory>
 

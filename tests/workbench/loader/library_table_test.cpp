@@ -1,6 +1,6 @@
 #include "workbench/loader/library_table.h"
-#include "tests/support/temporary_folder.h"
 
+#include "tests/support/temporary_folder.h"
 #include "tests/workbench/loader/loader_fixture.h"
 
 #include <filesystem>

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 

@@ -1,6 +1,7 @@
 #include "tests/support/temporary_folder.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include <array>
 #include <cstdio>
@@ -8,8 +9,6 @@
 #include <fstream>
 #include <sstream>
 #include <string>
-
-#include <sys/wait.h>
 
 namespace workbench {
 

@@ -1,11 +1,10 @@
 #include "workbench/menu/menu_host.h"
-#include "tests/support/temporary_folder.h"
 
+#include "tests/support/temporary_folder.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
-
-#include "tests/workbench/host/test_options.h"
 
 #include <gtest/gtest.h>
 

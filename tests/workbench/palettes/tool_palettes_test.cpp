@@ -1,8 +1,7 @@
 #include "workbench/palettes/tool_palettes.h"
 
-#include "workbench/host/workbench.h"
-
 #include "tests/workbench/host/test_options.h"
+#include "workbench/host/workbench.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,6 @@
 #include "tests/support/temporary_folder.h"
 
 #include <fcntl.h>
-
 #include <gtest/gtest.h>
 
 #include <system_error>

@@ -1,8 +1,7 @@
 #include "workbench/profiles/profile_file.h"
 
-#include "workbench/base/input_error.h"
-
 #include "tests/support/temporary_folder.h"
+#include "workbench/base/input_error.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,10 @@
 #include "workbench/profiles/profile_store.h"
 
+#include "tests/support/temporary_folder.h"
+#include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/host/workbench.h"
 #include "workbench/xml/xml_node.h"
-
-#include "tests/support/temporary_folder.h"
-#include "tests/workbench/host/test_options.h"
 
 #include <hostapi/vxut.h>
 

@@ -2,7 +2,6 @@
 
 #include "tests/support/temporary_folder.h"
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/xml/xml_node.h"
 
 #include <gtest/gtest.h>

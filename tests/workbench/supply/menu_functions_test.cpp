@@ -1,5 +1,4 @@
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/menu/menu_host.h"
 
 #include <hostapi/zorq/menu_data.h>

@@ -1,5 +1,4 @@
 #include "tests/workbench/loader/loader_fixture.h"
-
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/vxut.h>

@@ -1,5 +1,4 @@
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/palettes/tool_palettes.h"
 
 #include <hostapi/vxtcui.h>

@@ -1,5 +1,4 @@
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/profiles/profile_store.h"
 
 #include <hostapi/zorq/profiles.h>

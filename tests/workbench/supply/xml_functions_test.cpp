@@ -1,7 +1,6 @@
+#include "tests/workbench/host/test_options.h"
 #include "workbench/host/workbench.h"
 #include "workbench/xml/xml_node_operations.h"
-
-#include "tests/workbench/host/test_options.h"
 
 #include <hostapi/vxut.h>
 

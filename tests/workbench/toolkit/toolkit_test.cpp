@@ -1,7 +1,7 @@
 #include "workbench/toolkit/toolkit.h"
-#include "tests/support/temporary_folder.h"
 
 #include "tests/support/allocation_counter.h"
+#include "tests/support/temporary_folder.h"
 #include "tests/workbench/toolkit/toolkit_fixture.h"
 
 #include <filesystem>

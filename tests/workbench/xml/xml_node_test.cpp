@@ -1,7 +1,6 @@
 #include "workbench/xml/xml_node.h"
 
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/host/workbench.h"
 
 #include <gtest/gtest.h>

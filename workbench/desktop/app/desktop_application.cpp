@@ -14,7 +14,6 @@
 
 #include <QApplication>
 #include <QStyleFactory>
-
 #include <clocale>
 #include <cstdlib>
 #include <exception>

@@ -18,7 +18,6 @@
 #include <QInputDialog>
 #include <QLocale>
 #include <QMenuBar>
-
 #include <functional>
 
 namespace workbench::desktop {

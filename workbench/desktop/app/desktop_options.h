@@ -4,7 +4,6 @@
 #include "workbench/startup/start_options.h"
 
 #include <QSize>
-
 #include <filesystem>
 #include <optional>
 #include <string>

@@ -3,7 +3,6 @@
 #include "workbench/desktop/look/look.h"
 
 #include <QString>
-
 #include <filesystem>
 #include <optional>
 #include <string>

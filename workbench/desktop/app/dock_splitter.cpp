@@ -5,7 +5,6 @@
 #include "workbench/windows/window_system.h"
 
 #include <QMouseEvent>
-
 #include <algorithm>
 
 namespace workbench::desktop {

@@ -5,7 +5,6 @@
 #include "workbench/desktop/pump/pump.h"
 
 #include <QMainWindow>
-
 #include <filesystem>
 #include <memory>
 

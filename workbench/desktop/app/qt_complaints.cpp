@@ -3,7 +3,6 @@
 #include "workbench/startup/start_options.h"
 
 #include <QString>
-
 #include <cstdio>
 #include <cstdlib>
 

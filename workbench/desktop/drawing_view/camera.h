@@ -5,7 +5,6 @@
 
 #include <QPointF>
 #include <QSizeF>
-
 #include <vector>
 
 namespace workbench::desktop {

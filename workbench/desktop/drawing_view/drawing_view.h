@@ -7,7 +7,6 @@
 #include "workbench/drawing/records/view_parameters.h"
 
 #include <QWidget>
-
 #include <map>
 #include <optional>
 

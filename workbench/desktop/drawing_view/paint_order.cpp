@@ -1,7 +1,6 @@
 #include "workbench/desktop/drawing_view/paint_order.h"
 
 #include <QRectF>
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>

@@ -3,7 +3,6 @@
 #include "workbench/desktop/drawing_view/camera.h"
 
 #include <QPolygonF>
-
 #include <cstddef>
 #include <vector>
 

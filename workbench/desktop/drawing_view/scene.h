@@ -4,7 +4,6 @@
 #include "workbench/drawing/database/database.h"
 
 #include <QColor>
-
 #include <vector>
 
 namespace workbench::desktop {

@@ -4,7 +4,6 @@
 
 #include <QPainter>
 #include <QPolygonF>
-
 #include <algorithm>
 #include <cmath>
 #include <utility>

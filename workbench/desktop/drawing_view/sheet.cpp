@@ -1,7 +1,6 @@
 #include "workbench/desktop/drawing_view/sheet.h"
 
 #include <QRectF>
-
 #include <algorithm>
 
 namespace workbench::desktop {

@@ -8,7 +8,6 @@
 
 #include <QLabel>
 #include <QPalette>
-
 #include <algorithm>
 #include <utility>
 

@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QMouseEvent>
-
 #include <algorithm>
 
 namespace workbench::desktop {

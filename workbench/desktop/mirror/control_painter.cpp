@@ -11,7 +11,6 @@
 #include "workbench/windows/window_system.h"
 
 #include <QPainter>
-
 #include <algorithm>
 
 namespace workbench::desktop {

@@ -10,7 +10,6 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QKeyEvent>
-
 #include <algorithm>
 #include <iterator>
 

@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QEvent>
 #include <QPalette>
-
 #include <algorithm>
 
 namespace workbench::desktop {

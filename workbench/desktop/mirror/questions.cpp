@@ -11,7 +11,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QToolTip>
-
 #include <algorithm>
 #include <iterator>
 #include <optional>

@@ -8,7 +8,6 @@
 
 #include <QPoint>
 #include <QString>
-
 #include <functional>
 
 namespace workbench {

@@ -14,7 +14,6 @@
 #include "workbench/windows/window_system.h"
 
 #include <QVBoxLayout>
-
 #include <utility>
 
 namespace workbench::desktop {

@@ -6,7 +6,6 @@
 #include <QPointer>
 #include <QSet>
 #include <QTimer>
-
 #include <functional>
 #include <memory>
 

@@ -3,7 +3,6 @@
 #include <QStringList>
 #include <QStringListModel>
 #include <QWidget>
-
 #include <functional>
 
 class QKeyEvent;

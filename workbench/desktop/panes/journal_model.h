@@ -3,7 +3,6 @@
 #include "workbench/core/journal.h"
 
 #include <QAbstractTableModel>
-
 #include <cstddef>
 #include <deque>
 #include <vector>

@@ -16,7 +16,6 @@
 #include <QTableView>
 #include <QToolButton>
 #include <QVBoxLayout>
-
 #include <algorithm>
 #include <iterator>
 #include <utility>

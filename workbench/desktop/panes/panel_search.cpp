@@ -8,7 +8,6 @@
 #include "workbench/windows/window_system.h"
 
 #include <QStringList>
-
 #include <algorithm>
 #include <optional>
 #include <utility>

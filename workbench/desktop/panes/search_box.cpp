@@ -3,7 +3,6 @@
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QScrollBar>
-
 #include <algorithm>
 
 namespace workbench::desktop {

@@ -5,7 +5,6 @@
 #include <QCompleter>
 #include <QLineEdit>
 #include <QStringListModel>
-
 #include <functional>
 #include <vector>
 

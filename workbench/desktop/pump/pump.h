@@ -3,7 +3,6 @@
 #include <QElapsedTimer>
 #include <QString>
 #include <QTimer>
-
 #include <cstdint>
 #include <functional>
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "workbench/base/value.h"
+
 #include <cstdint>
 #include <string>
-
-#include "workbench/base/value.h"
 
 namespace workbench::drawing {
 

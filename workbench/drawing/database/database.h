@@ -1,15 +1,15 @@
 #pragma once
 
+#include "workbench/drawing/database/db_object.h"
+#include "workbench/drawing/database/record.h"
+#include "workbench/drawing/database/undo_log.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
 #include <string_view>
 #include <utility>
 #include <vector>
-
-#include "workbench/drawing/database/db_object.h"
-#include "workbench/drawing/database/record.h"
-#include "workbench/drawing/database/undo_log.h"
 
 namespace workbench::drawing {
 

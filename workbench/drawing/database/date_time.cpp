@@ -1,12 +1,12 @@
 #include "workbench/drawing/database/date_time.h"
 
+#include "workbench/base/value.h"
+
 #include <array>
 #include <charconv>
 #include <cstddef>
 #include <cstdio>
 #include <string_view>
-
-#include "workbench/base/value.h"
 
 namespace workbench::drawing {
 

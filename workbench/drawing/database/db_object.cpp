@@ -1,8 +1,8 @@
 #include "workbench/drawing/database/db_object.h"
 
-#include <utility>
-
 #include "workbench/drawing/database/database.h"
+
+#include <utility>
 
 namespace workbench::drawing {
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <memory>
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "workbench/base/value.h"
 #include "workbench/drawing/database/object_id.h"
 #include "workbench/drawing/database/reactor_list.h"
 #include "workbench/drawing/database/reactors.h"
 #include "workbench/drawing/database/record_kind.h"
 #include "workbench/drawing/database/status.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace workbench::drawing {
 

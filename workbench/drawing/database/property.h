@@ -1,12 +1,12 @@
 #pragma once
 
+#include "workbench/base/value.h"
+#include "workbench/drawing/database/value_conversion.h"
+
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
-
-#include "workbench/base/value.h"
-#include "workbench/drawing/database/value_conversion.h"
 
 namespace workbench::drawing {
 

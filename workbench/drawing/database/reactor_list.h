@@ -1,11 +1,11 @@
 #pragma once
 
+#include "workbench/base/turn.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
-
-#include "workbench/base/turn.h"
 
 namespace workbench::drawing {
 

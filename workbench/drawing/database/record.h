@@ -1,15 +1,15 @@
 #pragma once
 
+#include "workbench/base/text.h"
+#include "workbench/drawing/database/db_object.h"
+#include "workbench/drawing/database/property.h"
+
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
-#include "workbench/base/text.h"
-
-#include "workbench/drawing/database/db_object.h"
-#include "workbench/drawing/database/property.h"
 
 namespace workbench::drawing {
 

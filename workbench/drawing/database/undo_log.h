@@ -1,11 +1,11 @@
 #pragma once
 
+#include "workbench/drawing/database/status.h"
+
 #include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "workbench/drawing/database/status.h"
 
 namespace workbench::drawing {
 

@@ -1,9 +1,9 @@
 #include "workbench/drawing/database/value_conversion.h"
 
+#include "workbench/drawing/database/database.h"
+
 #include <cmath>
 #include <limits>
-
-#include "workbench/drawing/database/database.h"
 
 namespace workbench::drawing {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "workbench/base/value.h"
 #include "workbench/drawing/database/colour.h"
 #include "workbench/drawing/database/date_time.h"
 #include "workbench/drawing/database/geometry.h"
 #include "workbench/drawing/database/object_id.h"
 #include "workbench/drawing/database/record_kind.h"
+
+#include <string>
+#include <vector>
 
 namespace workbench::drawing {
 

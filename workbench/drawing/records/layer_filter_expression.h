@@ -1,10 +1,10 @@
 #pragma once
 
+#include "workbench/drawing/records/layer.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "workbench/drawing/records/layer.h"
 
 namespace workbench::drawing {
 

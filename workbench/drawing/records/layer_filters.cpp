@@ -1,13 +1,13 @@
 #include "workbench/drawing/records/layer_filters.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
-
 #include "workbench/base/text.h"
 #include "workbench/drawing/database/database.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
 
 namespace workbench::drawing {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "workbench/drawing/database/property.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "workbench/drawing/database/property.h"
 
 namespace workbench::drawing {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "workbench/drawing/database/property.h"
+
 #include <string>
 #include <vector>
-
-#include "workbench/drawing/database/property.h"
 
 namespace workbench::drawing {
 

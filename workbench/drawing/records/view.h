@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "workbench/drawing/database/property.h"
 #include "workbench/drawing/records/view_parameters.h"
+
+#include <string>
+#include <vector>
 
 namespace workbench::drawing {
 

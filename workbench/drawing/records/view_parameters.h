@@ -1,8 +1,8 @@
 #pragma once
 
-#include <vector>
-
 #include "workbench/drawing/database/property.h"
+
+#include <vector>
 
 namespace workbench::drawing {
 

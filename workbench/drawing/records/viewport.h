@@ -1,9 +1,9 @@
 #pragma once
 
-#include <vector>
-
 #include "workbench/drawing/database/property.h"
 #include "workbench/drawing/records/view_parameters.h"
+
+#include <vector>
 
 namespace workbench::drawing {
 

@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
-
-#include <sys/wait.h>
 #include <cstdio>
 #include <fstream>
 #include <string>

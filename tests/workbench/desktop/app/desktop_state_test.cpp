@@ -2,10 +2,9 @@
 
 #include "workbench/base/input_error.h"
 
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
 #include <fstream>
 
 namespace workbench::desktop {

@@ -9,10 +9,9 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
-#include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
+#include <QTemporaryDir>
 #include <fstream>
 #include <sstream>
 

@@ -22,15 +22,14 @@
 
 #include <hostapi/window/locale.h>
 
+#include <gtest/gtest.h>
+
 #include <QAccessible>
 #include <QDockWidget>
 #include <QImage>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <iterator>
 

@@ -4,12 +4,11 @@
 #include "workbench/desktop/look/shade_names.h"
 #include "workbench/startup/open_dashboard.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QImage>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstdlib>
 

@@ -12,9 +12,9 @@
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/editor.h"
 
-#include <QImage>
-
 #include <gtest/gtest.h>
+
+#include <QImage>
 
 namespace workbench::desktop {
 namespace {

@@ -1,9 +1,9 @@
 #include "workbench/desktop/drawing_view/scene_painter.h"
 
+#include <gtest/gtest.h>
+
 #include <QImage>
 #include <QPainter>
-
-#include <gtest/gtest.h>
 
 namespace workbench::desktop {
 namespace {

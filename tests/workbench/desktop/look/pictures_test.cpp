@@ -2,10 +2,10 @@
 
 #include "workbench/toolkit/picture_table.h"
 
+#include <gtest/gtest.h>
+
 #include <QBuffer>
 #include <QImage>
-
-#include <gtest/gtest.h>
 
 namespace workbench::desktop {
 namespace {

@@ -15,10 +15,9 @@
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
-#include <QApplication>
-
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <string>
 #include <vector>
 

@@ -1,5 +1,7 @@
 #include "workbench/desktop/panes/command_line.h"
 
+#include <gtest/gtest.h>
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
@@ -7,8 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-
-#include <gtest/gtest.h>
 
 namespace workbench::desktop {
 

@@ -1,5 +1,7 @@
 #include "workbench/desktop/panes/journal_pane.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
@@ -9,9 +11,6 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QToolButton>
-
-#include <gtest/gtest.h>
-
 #include <chrono>
 #include <fstream>
 #include <iterator>

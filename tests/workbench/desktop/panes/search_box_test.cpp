@@ -2,14 +2,13 @@
 
 #include "tests/support/bench.h"
 
+#include <gtest/gtest.h>
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QMouseEvent>
-
-#include <gtest/gtest.h>
-
 #include <memory>
 
 namespace workbench::desktop {

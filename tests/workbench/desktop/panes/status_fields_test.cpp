@@ -2,12 +2,11 @@
 
 #include "tests/support/bench.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QEvent>
 #include <QLabel>
-
-#include <gtest/gtest.h>
-
 #include <stdexcept>
 
 namespace workbench::desktop {

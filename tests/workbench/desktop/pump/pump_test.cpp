@@ -5,11 +5,10 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
-
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <stdexcept>
 
 namespace workbench::desktop {

@@ -11,14 +11,13 @@
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMenu>
 #include <QProcess>
 #include <QTimer>
-
-#include <gtest/gtest.h>
-
 #include <clocale>
 
 namespace workbench::desktop {

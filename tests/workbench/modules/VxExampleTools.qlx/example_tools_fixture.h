@@ -1,7 +1,6 @@
 #pragma once
 
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/editor/editor.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/windows/window_system.h"

@@ -1,5 +1,4 @@
 #include "tests/workbench/modules/VxExampleTools.qlx/example_tools_fixture.h"
-
 #include "workbench/gestures/slider_gestures.h"
 
 namespace workbench {

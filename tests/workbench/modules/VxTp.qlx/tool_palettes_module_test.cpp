@@ -1,5 +1,4 @@
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/loader/module_loader.h"
 
 #include <hostapi/vxdb18.h>

@@ -1,5 +1,4 @@
 #include "tests/workbench/host/test_options.h"
-
 #include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/view.h"
