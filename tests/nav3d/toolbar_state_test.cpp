@@ -20,6 +20,7 @@ constexpr const wchar_t* kSave = L"ID_Animation_Save";
 class ToolbarStateTest : public NavControlTest {
 protected:
     void SetUp() override {
+        useExampleMenu();
         showControl("3DNavZoomSliderControl");
         idle();
         takeJournal();

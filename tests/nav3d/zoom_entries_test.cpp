@@ -274,7 +274,7 @@ TEST_P(NoNumberTest, IsToldAndChangesNothingInEitherField) {
 INSTANTIATE_TEST_SUITE_P(Entries, NoNumberTest,
                          testing::Values(L"1,5", L"1.5mm", L"3 5", L"--5", L"1e999",
                                          L"\u0663\u0665", L"\uff13\uff15",
-                                         std::wstring(10000, L'x')));
+                                         std::wstring(1000, L'x')));
 
 TEST_F(ZoomSliderTest, AngleIsReadInDegreesWhateverTheUnitItIsShownIn) {
     constexpr int kRadians = 3;

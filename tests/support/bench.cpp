@@ -47,10 +47,12 @@ void Bench::TearDown() {
 void Bench::useMenu(const std::string& menuText) {
     m_folder = std::make_unique<TemporaryFolder>();
     m_folder->write("menu.json", menuText);
+    m_menuChosen = true;
 }
 
 void Bench::useNoMenu() {
     m_noMenu = true;
+    m_menuChosen = true;
 }
 
 workbench::Workbench& Bench::bench() {

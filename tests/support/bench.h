@@ -38,6 +38,10 @@ protected:
     void useMenu(const std::string& menuText);
     /// No menu at all.
     void useNoMenu();
+    /// The example menu, which is what a bench has that isn't told otherwise.
+    void useExampleMenu() { m_menuChosen = true; }
+    /// Whether one of these was called, or the bench has started.
+    bool hasMenu() const { return m_menuChosen || m_bench != nullptr; }
 
     // The module.
 
@@ -114,6 +118,7 @@ private:
 
     std::unique_ptr<TemporaryFolder> m_folder;  // with the menu; null: the example menu
     bool m_noMenu = false;
+    bool m_menuChosen = false;
     std::unique_ptr<workbench::Workbench> m_bench;  // null until it is used first
     std::vector<Sent> m_sent;
     workbench::Journal::Listening m_listening;

@@ -27,6 +27,8 @@ void ControlBench::useMenuOf(const std::string& control) {
 }
 
 void ControlBench::showControl(const std::string& name) {
+    if (!hasMenu())
+        useMenuOf(name);
     m_firstRects.emplace(bench().windows());
     showDashboard();
     m_name = name;

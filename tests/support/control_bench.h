@@ -14,7 +14,8 @@ class ControlBench : public Bench {
 protected:
     /// In place of the example's menu: one panel with one control, so that nobody else calls the host.
     void useMenuOf(const std::string& control);
-    /// Shows the dashboard with this control in view, and forgets what happened so far.
+    /// Shows the dashboard with this control in view, on a panel of its own if no menu was chosen,
+    /// and forgets what happened so far.
     void showControl(const std::string& name);
     /// Takes the panels down and builds them again, the control anew.
     void rebuildControl();
