@@ -20,9 +20,11 @@ inline HDC drawingContextFrom(WPARAM wParam) {
     return reinterpret_cast<HDC>(wParam);
 }
 
-/// The variable or command that a broadcast names in lParam. Good during the message only.
+/// The variable or command that a broadcast names in lParam; empty for none. Good during the message
+/// only.
 inline std::wstring_view eventNameFrom(LPARAM lParam) {
-    return reinterpret_cast<const wchar_t*>(lParam);
+    const auto* name = reinterpret_cast<const wchar_t*>(lParam);
+    return name == nullptr ? std::wstring_view() : std::wstring_view(name);
 }
 
 /// The document that a broadcast names in lParam; null for none.

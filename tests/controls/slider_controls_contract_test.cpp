@@ -191,6 +191,11 @@ TEST_P(SliderContractTest, ForeignVariableIsIgnored) {
     EXPECT_FALSE(hasWritten());
 }
 
+TEST_P(SliderContractTest, EventWithoutANameIsIgnored) {
+    EXPECT_EQ(send(kSysVarChanged, 1, 0), 0);
+    EXPECT_TRUE(takeCalls().empty());
+}
+
 TEST_P(SliderContractTest, GetsBothBroadcastsAndWritesNothingForThem) {
     set(L"LTSCALE", 3.0);
     EXPECT_TRUE(got(kSysVarChanged));
