@@ -29,17 +29,22 @@ void sendNumber(const wchar_t* format, int number) {
     runHostCommand(formatText(format, number), kLightingCommandFlag);
 }
 
+struct ReleaseBuffer {
+    void operator()(VxResultBuffer* buffer) const { vxutRelRb(buffer); }
+};
+/// A buffer of the host's, which goes back to it also when a command throws.
+using HostBuffer = std::unique_ptr<VxResultBuffer, ReleaseBuffer>;
+
 /// Turns a variable of 0 and 1 over by its command.
 class FlipCallback : public Callback {
 public:
     void run() override {
         const VxAxDocLock lock(workingDatabase(), kLockForWrite);
-        VxResultBuffer* buffer = vxutNewRb(kRtShort);
+        const HostBuffer buffer(vxutNewRb(kRtShort));
         if (buffer == nullptr)
             return;
-        vxedGetVar(variable(), buffer);
+        vxedGetVar(variable(), buffer.get());
         sendNumber(command(), 1 - buffer->value.shortInt);
-        vxutRelRb(buffer);
     }
 
 private:
