@@ -10,6 +10,14 @@ function(vx_module_objects target)
   target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 endfunction()
 
+# Keeps all but the names in `map` inside the module, where the platform knows such a list.
+function(vx_module_exports target map)
+  if(CMAKE_EXECUTABLE_FORMAT STREQUAL "ELF")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${map}")
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${map}")
+  endif()
+endfunction()
+
 # Names the module's file exactly, with its extension.
 function(vx_module_file target file)
   set_target_properties(${target} PROPERTIES PREFIX "" SUFFIX "" OUTPUT_NAME "${file}")

@@ -16,7 +16,7 @@ BOOL CVxDaSliderEditPanelCtrl2::PreTranslateMessage(MSG* msg) {
 BOOL CVxDaSliderEditPanelCtrl2::UpdateLayout(BOOL /*invalidate*/) {
     // Kept as it is: the argument is not looked at and the row is not shared out, because the row
     // break lets the toolkit flow slider and fields.
-    return CQrUiToolPanel::UpdateLayout(0);
+    return CQrUiToolPanel::UpdateLayout(0);  // NOLINT(bugprone-parent-virtual-call): see above
 }
 
 BOOL CVxDaSliderEditPanelCtrl2::CreateEditPart() {

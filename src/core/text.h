@@ -14,7 +14,7 @@ VxString trimmed(std::wstring_view text);
 /// A `printf` format filled in; wide strings go in with "%ls". Empty if the format can't be filled.
 template <class... Values>
 VxString formatText(const VxString& format, Values... values) {
-    constexpr std::size_t kLongest = 64 * 1024;  // characters; no text of a dialog comes near
+    constexpr std::size_t kLongest = 65'536;  // characters; no text of a dialog comes near
     VxString text(256, L'\0');
     while (text.size() <= kLongest) {
         const int length = std::swprintf(text.data(), text.size(), format.c_str(), values...);

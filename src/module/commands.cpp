@@ -32,7 +32,7 @@ VxString environmentText(const char* name) {
     if (value == nullptr)
         return {};
     const VxString::size_type length = std::char_traits<char>::length(value);
-    return VxString(value, value + length);
+    return {value, value + length};
 }
 
 bool areCommandsEnabled() {

@@ -23,7 +23,7 @@ public:
     void leaveService();
     /// Destroys and deletes all controls; one whose handler is running ends after it.
     void releaseControls();
-    /// Brings up the two watchers of visual styles, counted.
+    /// Brings up the watcher of visual styles, counted.
     void acquireStyleReactors();
 
     /// A system variable changed.

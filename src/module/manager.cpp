@@ -169,10 +169,12 @@ int VxDaManager::addOrRemoveReactor(VxDaDashboardReactor* reactor, bool add) {
     if (reactor == nullptr)
         return 0;
     const auto found = std::find(m_reactors.begin(), m_reactors.end(), reactor);
-    if (add && found == m_reactors.end())
-        m_reactors.push_back(reactor);
-    if (!add && found != m_reactors.end())
+    if (found == m_reactors.end()) {
+        if (add)
+            m_reactors.push_back(reactor);
+    } else if (!add) {
         m_reactors.erase(found);
+    }
     return 1;
 }
 

@@ -98,7 +98,7 @@ void CVxDaPanel::appendGroupLine(std::size_t index, bool checked) {
 }
 
 bool CVxDaPanel::appendPanelsMenu(CMenu& menu) {
-    CVxDaPanelSet* panelSet = dynamic_cast<CVxDaPanelSet*>(GetParent());
+    auto* panelSet = dynamic_cast<CVxDaPanelSet*>(GetParent());
     if (panelSet == nullptr)
         return true;
     if (panelSet->buildPanelsMenu(&m_panelsMenu) == 0)
@@ -114,7 +114,7 @@ LRESULT CVxDaPanel::onHelp(WPARAM /*command*/, LPARAM /*unused*/) {
 }
 
 LRESULT CVxDaPanel::onHide(WPARAM /*command*/, LPARAM /*unused*/) {
-    if (CVxDaPanelSet* panelSet = dynamic_cast<CVxDaPanelSet*>(GetParent())) {
+    if (auto* panelSet = dynamic_cast<CVxDaPanelSet*>(GetParent())) {
         panelSet->hidePanel(this);
         panelSet->relayout();
     }
@@ -144,7 +144,7 @@ LRESULT CVxDaPanel::onChooseGroup(WPARAM command, LPARAM /*unused*/) {
 }
 
 LRESULT CVxDaPanel::onTogglePanel(WPARAM command, LPARAM /*unused*/) {
-    if (CVxDaPanelSet* panelSet = dynamic_cast<CVxDaPanelSet*>(GetParent())) {
+    if (auto* panelSet = dynamic_cast<CVxDaPanelSet*>(GetParent())) {
         panelSet->togglePanel(LOWORD(command));
     }
     return 0;

@@ -1,58 +1,34 @@
 #include "visualstyle/style_reactors.h"
 
-#include "visualstyle/vs_dic_reactor.h"
 #include "visualstyle/vs_obj_reactor.h"
 
 #include <memory>
 
 namespace {
 
-/// An object that lives while it is counted.
-template <class Object>
-class Counted {
-public:
-    void acquire() {
-        if (m_object == nullptr && m_count == 0)
-            m_object = std::make_unique<Object>();
-        ++m_count;
-    }
-    void release() {
-        --m_count;
-        if (m_count == 0)
-            m_object.reset();
-    }
-    void clear() {
-        m_object.reset();
-        m_count = 0;
-    }
-    Object* get() const { return m_object.get(); }
-
-private:
-    std::unique_ptr<Object> m_object;
-    int m_count = 0;
-};
-
-Counted<CVxDaVSObjReactor> s_objReactor;
-Counted<CVxDaVSDicReactor> s_dicReactor;
+std::unique_ptr<CVxDaVSObjReactor> s_reactor;
+int s_users = 0;
 
 }  // namespace
 
 void acquireStyleReactors() {
-    s_objReactor.acquire();
-    s_dicReactor.acquire();
+    if (s_reactor == nullptr && s_users == 0)
+        s_reactor = std::make_unique<CVxDaVSObjReactor>();
+    ++s_users;
 }
 
 void releaseStyleReactors() {
-    s_objReactor.release();
-    s_dicReactor.release();
+    --s_users;
+    if (s_users == 0)
+        s_reactor.reset();
 }
 
 void deleteStyleReactors() {
-    s_objReactor.clear();
-    s_dicReactor.clear();
+    s_reactor.reset();
+    s_users = 0;
 }
 
 void updateVisualStyleState() {
-    if (CVxDaVSObjReactor* reactor = s_objReactor.get())
-        reactor->update();
+    if (s_reactor != nullptr)
+        s_reactor->update();
 }

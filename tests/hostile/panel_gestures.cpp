@@ -69,9 +69,9 @@ void floatAndDock() {
     workbench::MainFrame& frame = host().toolkit().frame();
     frame.floatAt(bar(), {200, 100, 480, 700});
     letRun();
-    frame.dock(bar(), workbench::Edge::left);
+    frame.dock(bar(), workbench::Edge::Left);
     letRun();
-    frame.dock(bar(), workbench::Edge::right);
+    frame.dock(bar(), workbench::Edge::Right);
     letRun();
 }
 
@@ -79,7 +79,7 @@ void moveByMenu(const Stage& stage) {
     host().answers().queue("dialog", workbench::Value(workbench::Value::Table{{"x", 300}}));
     useMenu(stage, bar().m_hWnd, L"Move");
     host().answers().take("dialog");
-    host().toolkit().frame().dock(bar(), workbench::Edge::right);
+    host().toolkit().frame().dock(bar(), workbench::Edge::Right);
     letRun();
 }
 

@@ -132,7 +132,7 @@ TEST_F(SkyStateTest, AskingForASunMakesNone) {
         drawing::DbObject* object = nullptr;
         ASSERT_EQ(data().open(workbench::fromHostId(sun), drawing::OpenMode::Write,
                               drawing::ErasedObjects::Refuse, object),
-                  drawing::Status::ok);
+                  drawing::Status::Ok);
         object->erase();
         object->close();
     }

@@ -61,7 +61,7 @@ TEST_F(DashboardTest, IsDockedAtTheRightWithItsTitleIconAndTheme) {
     show();
     EXPECT_EQ(dashboard().GetWindowText(), L"Dashboard");
     EXPECT_FALSE(dashboard().IsFloating());
-    EXPECT_EQ(frame().placeOf(dashboard()).edge, workbench::Edge::right);
+    EXPECT_EQ(frame().placeOf(dashboard()).edge, workbench::Edge::Right);
     EXPECT_NE(dashboard().GetTheme(), nullptr);
     EXPECT_EQ(bench().windows().gdi().iconCount(), 1U);
 }

@@ -71,7 +71,7 @@ TEST_F(SceneServiceTest, MissingSunIsTheServicesStatus) {
         workbench::drawing::DbObject* object = nullptr;
         ASSERT_EQ(data().open(workbench::fromHostId(m_sun), workbench::drawing::OpenMode::Write,
                               workbench::drawing::ErasedObjects::Refuse, object),
-                  workbench::drawing::Status::ok);
+                  workbench::drawing::Status::Ok);
         object->erase();
         object->close();
     }

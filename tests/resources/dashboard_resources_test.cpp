@@ -29,7 +29,7 @@ constexpr std::uint32_t kStringNumbers[] = {
     1210, 1211, 1212, 1213, 1214, 1215, 1216, 1217, 1218, 1219, 1220, 1221, 1222,  // views
     1227, 1228, 1229, 1230, 1231, 1232, 1234, 1235, 1236, 1237, 1238,  // walking, camera
     1241, 1242, 1243, 1244, 1245, 1246, 1247, 1248, 1249,              // lens, recording
-    1262, 1263, 1264, 1265,                                            // styles, colors
+    1262, 1263, 1264, 1265,                                            // styles, colours
     1270, 1271, 1272, 1273, 1274, 1275, 1276, 1277, 1278, 1279, 1280, 1281, 1282,  // sun, points
     1292,                                                                          // customize
     3900, 3901, 3902, 3906, 3907, 3908, 3909, 3910, 3911, 3912, 3913,              // render
@@ -187,22 +187,22 @@ TEST_F(DashboardResourcesTest, NoTwoIconsLookTheSame) {
     }
 }
 
-TEST_F(DashboardResourcesTest, FilterStripHasFiveImagesOnTheMaskColor) {
+TEST_F(DashboardResourcesTest, FilterStripHasFiveImagesOnTheMaskColour) {
     const PngPicture strip = decode(library, "#1290", 16);
     EXPECT_EQ(strip.width, 5U * 16U);
     EXPECT_EQ(strip.height, 16U);
 
-    std::set<std::vector<std::uint8_t>> colors;
+    std::set<std::vector<std::uint8_t>> colours;
     for (std::size_t i = 0; i < strip.rgba.size(); i += 4) {
         const auto pixel = strip.rgba.begin() + static_cast<std::ptrdiff_t>(i);
-        colors.insert({pixel, pixel + 4});
+        colours.insert({pixel, pixel + 4});
     }
-    EXPECT_EQ(colors.count({0xFF, 0x00, 0xFF, 0xFF}), 1U);
-    // Only flat colors: a smoothed edge would leave pixels that are nearly the mask color.
-    EXPECT_LE(colors.size(), 4U);
+    EXPECT_EQ(colours.count({0xFF, 0x00, 0xFF, 0xFF}), 1U);
+    // Only flat colours: a smoothed edge would leave pixels that are nearly the mask colour.
+    EXPECT_LE(colours.size(), 4U);
 }
 
-TEST_F(DashboardResourcesTest, CheckMarkHasItsTransparentColorInTheCorner) {
+TEST_F(DashboardResourcesTest, CheckMarkHasItsTransparentColourInTheCorner) {
     const PngPicture check = decode(library, "#1291", 16);
     ASSERT_EQ(check.width, 16U);
     ASSERT_EQ(check.height, 16U);

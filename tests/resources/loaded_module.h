@@ -12,8 +12,7 @@ class LoadedModule {
 public:
     /// `file` is the name in the folder of the build's libraries. Throws if it cannot be opened.
     explicit LoadedModule(const std::string& file)
-        : m_path(std::string(WORKBENCH_BIN_DIR) + "/" + file),
-          m_handle(dlopen(m_path.c_str(), RTLD_NOW | RTLD_LOCAL)) {
+        : m_handle(dlopen((WORKBENCH_BIN_DIR "/" + file).c_str(), RTLD_NOW | RTLD_LOCAL)) {
         if (m_handle == nullptr)
             throw std::runtime_error(dlerror());
     }
@@ -21,14 +20,11 @@ public:
     LoadedModule(const LoadedModule&) = delete;
     LoadedModule& operator=(const LoadedModule&) = delete;
 
-    const std::string& path() const { return m_path; }
-
     /// The module's table; null if the module does not export one.
     const ResourceDirectory* directory() const {
         return static_cast<const ResourceDirectory*>(dlsym(m_handle, kResourceDirectorySymbol));
     }
 
 private:
-    std::string m_path;
     void* m_handle;  // owned, closed by the destructor
 };

@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 #include <iterator>
-#include <memory>
 #include <regex>
 #include <set>
 #include <string>
@@ -24,23 +22,6 @@ class ResourceModulesTest : public testing::TestWithParam<const char*> {
 protected:
     LoadedModule module{GetParam()};
 };
-
-/// The names that a library defines for others.
-std::vector<std::string> exportsOf(const std::string& path) {
-    const std::string command = "nm -D --defined-only --format=posix '" + path + "'";
-    const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-    std::vector<std::string> names;
-    char line[1024];
-    while (pipe && std::fgets(line, sizeof line, pipe.get()) != nullptr) {
-        const std::string_view text(line);
-        names.emplace_back(text.substr(0, text.find(' ')));
-    }
-    return names;
-}
-
-TEST_P(ResourceModulesTest, ExportsItsTableAndNothingElse) {
-    EXPECT_EQ(exportsOf(module.path()), std::vector<std::string>{"vxResourceDirectory"});
-}
 
 TEST_P(ResourceModulesTest, StringsAscendByNumber) {
     const ResourceDirectory* directory = module.directory();

@@ -43,7 +43,7 @@ Zorq::ErrorStatus DatabaseAdapter::getSymbolTable(VxDbViewTable*& table, VxDbOpe
     HostCall call("VxDbDatabase::getSymbolTable", {static_cast<int>(mode)});
     table = nullptr;
     if (call.failed())
-        return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     VxDbObject* object = nullptr;
     const drawing::Status status =
         m_objects.open(m_database.table(drawing::RecordKind::View), openModeOf(mode), object);

@@ -41,7 +41,7 @@ drawing::Status OpenObjects::open(drawing::ObjectId id, drawing::OpenMode mode,
     drawing::DbObject* opened = nullptr;
     const drawing::Status status =
         m_database.open(id, mode, drawing::ErasedObjects::Refuse, opened);
-    if (status == drawing::Status::ok) {
+    if (status == drawing::Status::Ok) {
         m_open.push_back({wrap(*opened), opened});
         object = m_open.back().adapter.get();
     }

@@ -7,7 +7,7 @@ namespace workbench {
 Zorq::ErrorStatus OpenView::getName(VxString& name) const {
     HostCall call("VxDbSymbolTableRecord::getName");
     if (call.failed())
-        return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     name = toWide(data().name);
     return call.returns(Zorq::eOk);
 }

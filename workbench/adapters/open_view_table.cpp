@@ -9,7 +9,7 @@ Zorq::ErrorStatus OpenViewTable::newIterator(VxDbViewTableIterator*& iterator, b
     HostCall call("VxDbViewTable::newIterator", {atStart, skipErased});
     iterator = nullptr;
     if (call.failed())
-        return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     iterator = new ViewTableWalk(owner(), atStart);
     return call.returns(Zorq::eOk);
 }

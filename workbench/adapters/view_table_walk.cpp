@@ -17,7 +17,7 @@ ViewTableWalk::ViewTableWalk(OpenObjects& objects, bool atStart)
 Zorq::ErrorStatus ViewTableWalk::getRecordId(VxDbObjectId& id) const {
     HostCall call("VxDbViewTableIterator::getRecordId");
     if (call.failed() || done())
-        return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     id = toHostId(m_ids[m_place]);
     return call.returns(Zorq::eOk);
 }
@@ -26,7 +26,7 @@ Zorq::ErrorStatus ViewTableWalk::getRecord(VxDbViewTableRecord*& record, VxDbOpe
     HostCall call("VxDbViewTableIterator::getRecord", {static_cast<int>(mode)});
     record = nullptr;
     if (call.failed() || done())
-        return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     VxDbObject* object = nullptr;
     const drawing::Status status = m_objects.open(m_ids[m_place], openModeOf(mode), object);
     record = static_cast<VxDbViewTableRecord*>(object);

@@ -90,23 +90,23 @@ public:
     JsonValue takeRoot() { return std::move(m_root); }
 
     bool null() {
-        add(JsonValue::Kind::null);
+        add(JsonValue::Kind::Null);
         return true;
     }
     bool boolean(bool value) {
-        add(JsonValue::Kind::boolean).boolean = value;
+        add(JsonValue::Kind::Boolean).boolean = value;
         return true;
     }
     bool number_integer(std::int64_t value) { return addNumber(static_cast<double>(value)); }
     bool number_unsigned(std::uint64_t value) { return addNumber(static_cast<double>(value)); }
     bool number_float(double value, const std::string&) { return addNumber(value); }
     bool string(std::string& value) {
-        add(JsonValue::Kind::string).text = std::move(value);
+        add(JsonValue::Kind::String).text = std::move(value);
         return true;
     }
     bool binary(nlohmann::json::binary_t&) { return false; }  // only in the library's other formats
-    bool start_object(std::size_t) { return open(JsonValue::Kind::object); }
-    bool start_array(std::size_t) { return open(JsonValue::Kind::array); }
+    bool start_object(std::size_t) { return open(JsonValue::Kind::Object); }
+    bool start_array(std::size_t) { return open(JsonValue::Kind::Array); }
     bool key(std::string& name) {
         m_open.back()->names.push_back(std::move(name));
         return true;
@@ -126,7 +126,7 @@ public:
 private:
     JsonValue& add(JsonValue::Kind kind);
     bool addNumber(double value) {
-        add(JsonValue::Kind::number).number = value;
+        add(JsonValue::Kind::Number).number = value;
         return true;
     }
     bool open(JsonValue::Kind kind);

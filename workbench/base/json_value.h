@@ -7,9 +7,9 @@ namespace workbench {
 
 /// A value of a JSON text, as read: names keep the order of the file, every value knows its line.
 struct JsonValue {
-    enum class Kind { null, boolean, number, string, array, object };
+    enum class Kind { Null, Boolean, Number, String, Array, Object };
 
-    Kind kind = Kind::null;
+    Kind kind = Kind::Null;
     int line = 1;                    ///< line on which the value begins, from 1
     bool boolean = false;            ///< the value, for a boolean
     double number = 0.0;             ///< the value, for a number

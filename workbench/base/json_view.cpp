@@ -11,17 +11,17 @@ namespace {
 
 std::string_view kindName(JsonValue::Kind kind) {
     switch (kind) {
-    case JsonValue::Kind::null:
+    case JsonValue::Kind::Null:
         return "null";
-    case JsonValue::Kind::boolean:
+    case JsonValue::Kind::Boolean:
         return "true or false";
-    case JsonValue::Kind::number:
+    case JsonValue::Kind::Number:
         return "a number";
-    case JsonValue::Kind::string:
+    case JsonValue::Kind::String:
         return "a string";
-    case JsonValue::Kind::array:
+    case JsonValue::Kind::Array:
         return "an array";
-    case JsonValue::Kind::object:
+    case JsonValue::Kind::Object:
         return "an object";
     }
     return "nothing";
@@ -55,7 +55,7 @@ void JsonView::fail(const std::string& reason) const {
 }
 
 const std::string& JsonView::string() const {
-    require(JsonValue::Kind::string);
+    require(JsonValue::Kind::String);
     return m_value->text;
 }
 
@@ -66,12 +66,12 @@ const std::string& JsonView::name() const {
 }
 
 bool JsonView::boolean() const {
-    require(JsonValue::Kind::boolean);
+    require(JsonValue::Kind::Boolean);
     return m_value->boolean;
 }
 
 std::vector<JsonView> JsonView::array() const {
-    require(JsonValue::Kind::array);
+    require(JsonValue::Kind::Array);
     std::vector<JsonView> elements;
     elements.reserve(m_value->items.size());
     for (std::size_t index = 0; index < m_value->items.size(); ++index)
@@ -90,7 +90,7 @@ JsonObjectView JsonView::object(std::initializer_list<std::string_view> keys) co
 }
 
 JsonObjectView JsonView::object() const {
-    require(JsonValue::Kind::object);
+    require(JsonValue::Kind::Object);
     return JsonObjectView(*this);
 }
 

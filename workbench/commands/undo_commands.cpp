@@ -14,7 +14,7 @@ using drawing::Status;
 
 /// Nothing left to take back is no failure; a group that is still open is.
 CommandState outcomeOf(Status status) {
-    return status == Status::groupIsOpen ? CommandState::Failed : CommandState::Ended;
+    return status == Status::GroupIsOpen ? CommandState::Failed : CommandState::Ended;
 }
 
 class UndoOneCommand final : public Command {
@@ -40,8 +40,8 @@ public:
         const std::optional<double> steps = answer.empty() ? 1.0 : parseNumber(answer);
         if (!steps || *steps < 1)
             return CommandState::Waiting;
-        Status status = Status::ok;
-        for (double done = 0; done < *steps && status == Status::ok; ++done)
+        Status status = Status::Ok;
+        for (double done = 0; done < *steps && status == Status::Ok; ++done)
             status = scope.document.data().undoLog().undo();
         return outcomeOf(status);
     }

@@ -89,7 +89,7 @@ bool deleteView(Database& database, std::wstring_view name) {
     if (id.isNull())
         return false;
     Writing<View> view(database, id);
-    return view && view.erase() == drawing::Status::ok;
+    return view && view.erase() == drawing::Status::Ok;
 }
 
 struct PresetOption {

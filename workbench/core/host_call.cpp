@@ -18,7 +18,7 @@ CallValue::CallValue(const wchar_t* value) {
 Value CallValue::toValue() const {
     struct Shower {
         Value operator()(Shown shown) const {
-            return shown == Shown::object ? Value("object") : Value();
+            return shown == Shown::Object ? Value("object") : Value();
         }
         Value operator()(bool value) const { return value; }
         Value operator()(std::int64_t value) const { return value; }

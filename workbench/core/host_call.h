@@ -30,14 +30,14 @@ public:
     CallValue(const std::wstring& value) : m_value(std::wstring_view(value)) {}
     CallValue(const wchar_t* value);
     /// A pointer shows only whether there is one: addresses differ from run to run.
-    CallValue(const void* value) : m_value(value == nullptr ? Shown::nothing : Shown::object) {}
+    CallValue(const void* value) : m_value(value == nullptr ? Shown::Nothing : Shown::Object) {}
 
     Value toValue() const;
 
 private:
-    enum class Shown { nothing, object };
+    enum class Shown { Nothing, Object };
     std::variant<Shown, bool, std::int64_t, double, std::string_view, std::wstring_view> m_value =
-        Shown::nothing;
+        Shown::Nothing;
 };
 
 /// The scope of one call that the product makes into the host: it enters the journal, and a fault

@@ -61,7 +61,7 @@ public:
     const JsonValue& value() const { return *m_value; }
 
     std::vector<std::pair<std::string, Place>> members() const {
-        require(JsonValue::Kind::object, "an object");
+        require(JsonValue::Kind::Object, "an object");
         std::vector<std::pair<std::string, Place>> all;
         for (std::size_t i = 0; i < m_value->items.size(); ++i) {
             all.emplace_back(m_value->names[i], child(i, m_value->names[i]));
@@ -70,7 +70,7 @@ public:
     }
 
     std::vector<Place> elements() const {
-        require(JsonValue::Kind::array, "an array");
+        require(JsonValue::Kind::Array, "an array");
         std::vector<Place> all;
         for (std::size_t i = 0; i < m_value->items.size(); ++i) {
             all.push_back(child(i, std::to_string(i)));
@@ -105,22 +105,22 @@ Value numberValue(double number) {
 
 Value plainValue(const JsonValue& json) {
     switch (json.kind) {
-    case JsonValue::Kind::null:
+    case JsonValue::Kind::Null:
         break;
-    case JsonValue::Kind::boolean:
+    case JsonValue::Kind::Boolean:
         return json.boolean;
-    case JsonValue::Kind::number:
+    case JsonValue::Kind::Number:
         return numberValue(json.number);
-    case JsonValue::Kind::string:
+    case JsonValue::Kind::String:
         return json.text;
-    case JsonValue::Kind::array: {
+    case JsonValue::Kind::Array: {
         Value::List list;
         for (const JsonValue& item : json.items) {
             list.push_back(plainValue(item));
         }
         return list;
     }
-    case JsonValue::Kind::object: {
+    case JsonValue::Kind::Object: {
         Value::Table table;
         for (std::size_t i = 0; i < json.items.size(); ++i) {
             table.push_back({json.names[i], plainValue(json.items[i])});
@@ -232,7 +232,7 @@ private:
         if (!problem.empty()) {
             place.fail(problem);
         }
-        if (m_drawing->db.add(std::move(object)).status == Status::duplicateName) {
+        if (m_drawing->db.add(std::move(object)).status == Status::DuplicateName) {
             place.fail(std::string("there is another ") + kindName(kind) + " of this name");
         }
     }

@@ -70,12 +70,12 @@ Status restoreLayers(Database& database, const LayerState& state, UnknownLayers 
             layer->on = false;
         }
     }
-    return Status::ok;
+    return Status::Ok;
 }
 
 Status restoreViewport(Database& database, const LayerState& state, ObjectId id) {
     if (freezingViewport(database, id) == nullptr) {
-        return Status::ok;
+        return Status::Ok;
     }
     Writing<Viewport> viewport(database, id);
     if (!viewport) {
@@ -88,7 +88,7 @@ Status restoreViewport(Database& database, const LayerState& state, ObjectId id)
             frozen.push_back(saved.layer);
         }
     }
-    return Status::ok;
+    return Status::Ok;
 }
 
 }  // namespace
@@ -96,7 +96,7 @@ Status restoreViewport(Database& database, const LayerState& state, ObjectId id)
 Added saveLayerState(Database& database, const std::string& name, const std::string& description,
                      ObjectId viewport) {
     if (name.empty()) {
-        return {Status::invalidName, {}};
+        return {Status::InvalidName, {}};
     }
     LayerState state;
     state.name = name;
@@ -143,7 +143,7 @@ Status restoreLayerState(Database& database, ObjectId state, ObjectId viewport,
         return current.status();
     }
     const Status layers = restoreLayers(database, saved, unknown, current->layer);
-    if (layers != Status::ok) {
+    if (layers != Status::Ok) {
         return layers;
     }
     current->layerState = saved.name;

@@ -96,7 +96,7 @@ class Change {
 public:
     Change(Database& database, ObjectId id, const Steps& steps, std::size_t used) {
         const Status status = database.open(id, OpenMode::Write, ErasedObjects::Refuse, m_object);
-        if (status != Status::ok) {
+        if (status != Status::Ok) {
             failPath(steps, used, std::string("it can't be changed now: ") + statusName(status));
         }
     }
@@ -197,7 +197,7 @@ void addObject(Database& database, const PathTarget& target, const Steps& steps,
     setProperties(*object, table, steps, target.used, database);
     const UndoGroup together(database.undoLog(), "add");
     const Added added = database.add(std::move(object));
-    if (added.status != Status::ok) {
+    if (added.status != Status::Ok) {
         failPath(steps, target.used - 1, statusName(added.status));
     }
     if (target.isActive) {

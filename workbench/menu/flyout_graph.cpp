@@ -6,7 +6,7 @@ namespace workbench {
 
 namespace {
 
-enum class Mark : char { unseen, onPath, done };
+enum class Mark : char { Unseen, OnPath, Done };
 
 struct Step {
     std::size_t panel;
@@ -28,19 +28,19 @@ std::vector<std::size_t> cycleFrom(const std::vector<Step>& path, std::size_t pa
 std::vector<std::size_t> searchFrom(std::size_t start, const FlyoutGraph& graph,
                                     std::vector<Mark>& marks) {
     std::vector<Step> path{{start, 0}};
-    marks[start] = Mark::onPath;
+    marks[start] = Mark::OnPath;
     while (!path.empty()) {
         Step& step = path.back();
         if (step.nextFlyout == graph[step.panel].size()) {
-            marks[step.panel] = Mark::done;
+            marks[step.panel] = Mark::Done;
             path.pop_back();
             continue;
         }
         const std::size_t target = graph[step.panel][step.nextFlyout++];
-        if (marks[target] == Mark::onPath)
+        if (marks[target] == Mark::OnPath)
             return cycleFrom(path, target);
-        if (marks[target] == Mark::unseen) {
-            marks[target] = Mark::onPath;
+        if (marks[target] == Mark::Unseen) {
+            marks[target] = Mark::OnPath;
             path.push_back({target, 0});
         }
     }
@@ -50,9 +50,9 @@ std::vector<std::size_t> searchFrom(std::size_t start, const FlyoutGraph& graph,
 }  // namespace
 
 std::vector<std::size_t> findFlyoutCycle(const FlyoutGraph& graph) {
-    std::vector<Mark> marks(graph.size(), Mark::unseen);
+    std::vector<Mark> marks(graph.size(), Mark::Unseen);
     for (std::size_t start = 0; start < graph.size(); ++start) {
-        if (marks[start] != Mark::unseen)
+        if (marks[start] != Mark::Unseen)
             continue;
         std::vector<std::size_t> cycle = searchFrom(start, graph, marks);
         if (!cycle.empty())

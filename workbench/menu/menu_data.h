@@ -6,11 +6,11 @@
 namespace workbench {
 
 /// The kinds of item on a tool panel; the numbers are those of the toolkit.
-enum class MenuItemType { button = 0, flyout = 1, control = 2, separator = 3, rowBreak = 4 };
+enum class MenuItemType { Button = 0, Flyout = 1, Control = 2, Separator = 3, RowBreak = 4 };
 
 /// One item of a tool panel. What a type has no use for is empty.
 struct MenuItem {
-    MenuItemType type = MenuItemType::button;
+    MenuItemType type = MenuItemType::Button;
     std::string id;               ///< the item's key; one key may stand on several tool panels
     std::string name;             ///< label and tooltip
     std::string smallImage;       ///< resource key or file name of the 16-pixel picture

@@ -65,11 +65,11 @@ struct ItemKind {
 };
 
 constexpr std::array<ItemKind, 5> kItemKinds{{
-    {"button", MenuItemType::button, readButton},
-    {"flyout", MenuItemType::flyout, readFlyout},
-    {"control", MenuItemType::control, readControl},
-    {"separator", MenuItemType::separator, readSpacer},
-    {"rowBreak", MenuItemType::rowBreak, readSpacer},
+    {"button", MenuItemType::Button, readButton},
+    {"flyout", MenuItemType::Flyout, readFlyout},
+    {"control", MenuItemType::Control, readControl},
+    {"separator", MenuItemType::Separator, readSpacer},
+    {"rowBreak", MenuItemType::RowBreak, readSpacer},
 }};
 
 }  // namespace

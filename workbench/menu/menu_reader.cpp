@@ -113,7 +113,7 @@ void MenuReader::linkFlyouts(const JsonView& view) {
         std::size_t position = 0;
         for (const JsonView& item : entry.object().at("items").array()) {
             const MenuItem& read = toolPanel.items[position++];
-            if (read.type != MenuItemType::flyout)
+            if (read.type != MenuItemType::Flyout)
                 continue;
             const auto target = m_toolPanels.find({toolPanel.menuGroup, read.flyoutId});
             if (target == m_toolPanels.end()) {

@@ -13,7 +13,7 @@ struct PngPicture {
     std::uint32_t width = 0;         ///< pixels
     std::uint32_t height = 0;        ///< pixels
     std::vector<std::uint8_t> rgba;  ///< four bytes a pixel, rows from top to bottom, no padding;
-                                     ///< alpha is not multiplied into the colors
+                                     ///< alpha is not multiplied into the colours
 };
 
 /// Decodes the bytes of a PNG file. `place` names the picture in errors.

@@ -76,7 +76,7 @@ std::string Arguments::words(int number) const {
     case LUA_TBOOLEAN:
     case LUA_TNUMBER:
     case LUA_TSTRING: {
-        const std::string text = luaL_tolstring(m_lua, index(number), nullptr);
+        std::string text = luaL_tolstring(m_lua, index(number), nullptr);
         lua_pop(m_lua, 1);
         return text;
     }

@@ -26,12 +26,12 @@ Zorq::ErrorStatus vxdbOpenObject(VxDbObject*& object, VxDbObjectId id, VxDbOpenM
     HostCall call("vxdbOpenObject", {id.number, static_cast<int>(mode)});
     object = nullptr;
     if (call.failed())
-        return call.returns(call.status(toHostStatus(drawing::Status::unknownId)));
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     if (id.isNull())
-        return call.returns(toHostStatus(drawing::Status::nullObjectId));
+        return call.returns(toHostStatus(drawing::Status::NullObjectId));
     Document* document = documentOf(id);
     if (document == nullptr)
-        return call.returns(toHostStatus(drawing::Status::unknownId));
+        return call.returns(toHostStatus(drawing::Status::UnknownId));
     return call.returns(
         toHostStatus(document->openObjects().open(fromHostId(id), openModeOf(mode), object)));
 }

@@ -49,7 +49,7 @@ std::optional<BarPlace> loadBarPlace(IXMLDOMNode* node) {
         return {};
     BarPlace result;
     result.floating = stand == L"floating";
-    result.edge = edge == L"left" ? Edge::left : Edge::right;
+    result.edge = edge == L"left" ? Edge::Left : Edge::Right;
     std::int32_t anchored = 0;
     result.anchored = VxUt::GetAttributeValue(place.get(), kAnchored, anchored) && anchored != 0;
     for (const Side& side : kSides) {
@@ -72,7 +72,7 @@ bool saveBarPlace(IXMLDOMNode* node, const BarPlace& place) {
     if (target == nullptr)
         return false;
     VxUt::SetAttributeValue(target, kStand, VxString(place.floating ? L"floating" : L"docked"));
-    VxUt::SetAttributeValue(target, kEdge, VxString(place.edge == Edge::left ? L"left" : L"right"));
+    VxUt::SetAttributeValue(target, kEdge, VxString(place.edge == Edge::Left ? L"left" : L"right"));
     VxUt::SetAttributeValue(target, kAnchored, std::int32_t{place.anchored ? 1 : 0});
     for (const Side& side : kSides)
         VxUt::SetAttributeValue(target, side.name, std::int32_t{place.rect.*side.coordinate});

@@ -8,12 +8,12 @@
 namespace workbench {
 
 /// An edge of the main frame at which bars dock.
-enum class Edge { left, right };
+enum class Edge { Left, Right };
 
 /// Where a bar stands.
 struct BarPlace {
     bool floating = false;
-    Edge edge = Edge::right;  ///< Where it docks, now or when it is docked again.
+    Edge edge = Edge::Right;  ///< Where it docks, now or when it is docked again.
     bool anchored = false;    ///< Docked as a thin strip.
     CRect rect;  ///< Floating: the small frame on the screen. Docked: only the width counts.
 

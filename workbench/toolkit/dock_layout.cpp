@@ -22,7 +22,7 @@ DockLayout layoutDocks(CSize client, const std::vector<DockedBar>& bars) {
     Stack right;
     DockLayout layout;
     for (const DockedBar& bar : bars) {
-        Stack& stack = bar.edge == Edge::left ? left : right;
+        Stack& stack = bar.edge == Edge::Left ? left : right;
         const int top = bar.shown ? stack.bottom : 0;
         const int room = std::max(kLowestBar, dockHeight - top);
         const int height = bar.height < 0 ? room : std::clamp(bar.height, kLowestBar, room);

@@ -10,7 +10,7 @@ namespace workbench {
 
 /// A bar that docks at an edge of the main frame, in pixels.
 struct DockedBar {
-    Edge edge = Edge::right;
+    Edge edge = Edge::Right;
     int width = 0;
     int height = -1;  ///< -1: all that the edge has.
     bool shown = false;

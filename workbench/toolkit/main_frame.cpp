@@ -101,7 +101,7 @@ void MainFrame::forget(CQrUiPaletteSet& set) {
 
 void MainFrame::restore(CQrUiPaletteSet& set, UINT dockBar, const CRect& rectangle) {
     BarPlace first;
-    first.edge = dockBar == kLeftDockBar ? Edge::left : Edge::right;
+    first.edge = dockBar == kLeftDockBar ? Edge::Left : Edge::Right;
     first.rect = rectangle;
     put(set, m_tools.placeOf(m_sets.of(&set).toolId).value_or(first));
 }
@@ -207,7 +207,7 @@ void MainFrame::layout() {
 
 bool MainFrame::isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const {
     const PaletteSetState* const state = m_sets.find(&set);
-    const DWORD wanted = edge == Edge::left ? kDockLeft : kDockRight;
+    const DWORD wanted = edge == Edge::Left ? kDockLeft : kDockRight;
     return state != nullptr && state->dockingAllowed && (state->edges & wanted) != 0;
 }
 
@@ -250,7 +250,7 @@ void MainFrame::showPalettes(CQrUiPaletteSet& set) {
 HWND MainFrame::homeOf(CQrUiPaletteSet& set) {
     const BarPlace& place = m_sets.of(&set).place;
     if (!place.floating)
-        return place.edge == Edge::left ? m_leftDock.m_hWnd : m_rightDock.m_hWnd;
+        return place.edge == Edge::Left ? m_leftDock.m_hWnd : m_rightDock.m_hWnd;
     std::unique_ptr<FloatingFrame>& floating = m_floating[&set];
     if (!floating)
         floating = std::make_unique<FloatingFrame>(m_windows, place.rect);

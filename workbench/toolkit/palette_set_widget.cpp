@@ -69,7 +69,7 @@ std::string PaletteSetWidget::describe(const Window& window) const {
     const BarPlace& place = stateOf(window).place;
     if (place.floating)
         return "floating";
-    const std::string edge = place.edge == Edge::left ? "left" : "right";
+    const std::string edge = place.edge == Edge::Left ? "left" : "right";
     return (place.anchored ? "anchored " : "docked ") + edge;
 }
 

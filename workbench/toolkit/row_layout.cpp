@@ -15,15 +15,15 @@ int buttonSize(const RowMetrics& metrics) {
 /// The width that an item needs at least.
 int neededWidth(Kind kind, const RowMetrics& metrics) {
     switch (kind) {
-    case Kind::button:
+    case Kind::Button:
         return buttonSize(metrics);
-    case Kind::flyout:
+    case Kind::Flyout:
         return buttonSize(metrics) + kFlyoutArrowWidth;
-    case Kind::control:
+    case Kind::Control:
         return kMinimumControlWidth;
-    case Kind::separator:
+    case Kind::Separator:
         return kSeparatorWidth;
-    case Kind::rowBreak:
+    case Kind::RowBreak:
         break;
     }
     return 0;
@@ -35,7 +35,7 @@ public:
     void add(std::size_t index, Kind kind, int needed) {
         m_indexes.push_back(index);
         m_needed += needed;
-        if (kind == Kind::control)
+        if (kind == Kind::Control)
             ++m_controls;
     }
     bool isEmpty() const { return m_indexes.empty(); }
@@ -72,7 +72,7 @@ private:
         const RowItem& item = m_items[index];
         if (item.hidden)
             return;
-        if (item.kind == Kind::rowBreak) {
+        if (item.kind == Kind::RowBreak) {
             place();
             return;
         }
@@ -104,7 +104,7 @@ private:
             const Kind kind = m_items[index].kind;
             int width = neededWidth(kind, m_metrics);
             int height = buttonSize(m_metrics);
-            if (kind == Kind::control) {
+            if (kind == Kind::Control) {
                 const int share = spare / controls--;
                 spare -= share;
                 width += share;

@@ -10,8 +10,8 @@ namespace workbench {
 
 /// What a tool panel's layout knows of an item.
 struct RowItem {
-    enum class Kind { button, flyout, control, separator, rowBreak };
-    Kind kind = Kind::button;
+    enum class Kind { Button, Flyout, Control, Separator, RowBreak };
+    Kind kind = Kind::Button;
     bool hidden = false;  ///< Takes no place.
 };
 

@@ -13,15 +13,15 @@ namespace {
 RowItem::Kind kindOf(int type) {
     switch (type) {
     case kItemFlyout:
-        return RowItem::Kind::flyout;
+        return RowItem::Kind::Flyout;
     case kItemControl:
-        return RowItem::Kind::control;
+        return RowItem::Kind::Control;
     case kItemSeparator:
-        return RowItem::Kind::separator;
+        return RowItem::Kind::Separator;
     case kItemRowBreak:
-        return RowItem::Kind::rowBreak;
+        return RowItem::Kind::RowBreak;
     default:
-        return RowItem::Kind::button;
+        return RowItem::Kind::Button;
     }
 }
 

@@ -13,8 +13,8 @@ TEST(HostValuesTest, IdsGoThereAndBack) {
 TEST(HostValuesTest, ModesAndStatusesAreTheHosts) {
     EXPECT_EQ(openModeOf(VxDbOpenMode::kForRead), drawing::OpenMode::Read);
     EXPECT_EQ(openModeOf(VxDbOpenMode::kForWrite), drawing::OpenMode::Write);
-    EXPECT_EQ(toHostStatus(drawing::Status::ok), Zorq::eOk);
-    EXPECT_NE(toHostStatus(drawing::Status::unknownId), Zorq::eOk);
+    EXPECT_EQ(toHostStatus(drawing::Status::Ok), Zorq::eOk);
+    EXPECT_NE(toHostStatus(drawing::Status::UnknownId), Zorq::eOk);
 }
 
 }  // namespace workbench

@@ -42,7 +42,7 @@ TEST_F(OpenObjectsTest, WhatWasLeftOpenIsClosedAtTheEnd) {
     {
         OpenObjects objects(data());
         VxDbObject* object = nullptr;
-        ASSERT_EQ(objects.open(layer, drawing::OpenMode::Read, object), drawing::Status::ok);
+        ASSERT_EQ(objects.open(layer, drawing::OpenMode::Read, object), drawing::Status::Ok);
         EXPECT_TRUE(data().peek(layer)->isOpenForRead());
     }
     EXPECT_FALSE(data().peek(layer)->isOpenForRead());

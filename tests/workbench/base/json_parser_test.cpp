@@ -37,17 +37,17 @@ std::string nested(int depth) {
 
 TEST(JsonParserTest, EveryKindOfValueIsRead) {
     const JsonValue root = parse(R"([null, true, -2, 18446744073709551615, 1.5, "Wände", {}])");
-    ASSERT_EQ(root.kind, JsonValue::Kind::array);
+    ASSERT_EQ(root.kind, JsonValue::Kind::Array);
     ASSERT_EQ(root.items.size(), 7U);
-    EXPECT_EQ(root.items[0].kind, JsonValue::Kind::null);
-    EXPECT_EQ(root.items[1].kind, JsonValue::Kind::boolean);
+    EXPECT_EQ(root.items[0].kind, JsonValue::Kind::Null);
+    EXPECT_EQ(root.items[1].kind, JsonValue::Kind::Boolean);
     EXPECT_TRUE(root.items[1].boolean);
-    EXPECT_EQ(root.items[2].kind, JsonValue::Kind::number);
+    EXPECT_EQ(root.items[2].kind, JsonValue::Kind::Number);
     EXPECT_DOUBLE_EQ(root.items[2].number, -2.0);
     EXPECT_DOUBLE_EQ(root.items[3].number, 18446744073709551615.0);
     EXPECT_DOUBLE_EQ(root.items[4].number, 1.5);
     EXPECT_EQ(root.items[5].text, "Wände");
-    EXPECT_EQ(root.items[6].kind, JsonValue::Kind::object);
+    EXPECT_EQ(root.items[6].kind, JsonValue::Kind::Object);
 }
 
 TEST(JsonParserTest, NamesKeepTheOrderOfTheText) {
@@ -100,7 +100,7 @@ TEST(JsonParserTest, AKeyThatStandsTwiceIsPlacedAtTheSecond) {
 }
 
 TEST(JsonParserTest, NestingIsTakenToTheLimitAndNoDeeper) {
-    EXPECT_EQ(parse(nested(kMaxJsonDepth)).kind, JsonValue::Kind::array);
+    EXPECT_EQ(parse(nested(kMaxJsonDepth)).kind, JsonValue::Kind::Array);
     EXPECT_EQ(complaintAbout(nested(kMaxJsonDepth + 1)),
               "menu.json:1: nested deeper than 200 levels");
 }

@@ -27,7 +27,7 @@ TEST(NewDrawing, HasWhatEveryDrawingNeeds) {
 
 TEST(NewDrawing, HasNothingToUndo) {
     const auto drawing = makeNewDrawing();
-    EXPECT_EQ(drawing->db.undoLog().undo(), Status::nothingToUndo);
+    EXPECT_EQ(drawing->db.undoLog().undo(), Status::NothingToUndo);
 }
 
 }  // namespace

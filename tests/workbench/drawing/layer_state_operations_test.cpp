@@ -35,7 +35,7 @@ TEST_F(LayerStateOperationsTest, MatchesUntilALayerChanges) {
 TEST_F(LayerStateOperationsTest, RestoringBringsAllBackAndIsOneUndo) {
     set("layers.Walls.colour", 5);
     set("layers.Notes.on", true);
-    EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::ok);
+    EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::Ok);
     EXPECT_TRUE(matchesLayerState(m_db, m_state, {}));
     EXPECT_EQ(get("current.layerState"), Value("Before"));
     m_db.undoLog().undo();
@@ -57,7 +57,7 @@ TEST_F(LayerStateOperationsTest, CurrentLayerIsNotFrozenByARestore) {
     const ObjectId frozen = saveLayerState(m_db, "Frozen", "", {}).id;
     set("layers.Walls.frozen", false);
     set("current.layer", "Walls");
-    EXPECT_EQ(restoreLayerState(m_db, frozen, {}, UnknownLayers::Keep), Status::ok);
+    EXPECT_EQ(restoreLayerState(m_db, frozen, {}, UnknownLayers::Keep), Status::Ok);
     EXPECT_EQ(get("layers.Walls.frozen"), Value(false));
 }
 
@@ -77,17 +77,17 @@ TEST_F(LayerStateOperationsTest, GoneLayersAndGoneStates) {
     set("layers.Notes", Value());
     EXPECT_TRUE(matchesLayerState(m_db, m_state, {}));
     set("states.Before", Value());
-    EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::wasErased);
+    EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::WasErased);
 }
 
 TEST_F(LayerStateOperationsTest, NamesAreNeededAndUnique) {
-    EXPECT_EQ(saveLayerState(m_db, "", "", {}).status, Status::invalidName);
-    EXPECT_EQ(saveLayerState(m_db, "BEFORE", "", {}).status, Status::duplicateName);
+    EXPECT_EQ(saveLayerState(m_db, "", "", {}).status, Status::InvalidName);
+    EXPECT_EQ(saveLayerState(m_db, "BEFORE", "", {}).status, Status::DuplicateName);
 }
 
 TEST_F(LayerStateOperationsTest, BusyLayerStopsTheRestore) {
     const Reading<Layer> reader(m_db, m_db.find(RecordKind::Layer, "Notes"));
-    EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::wasOpenForRead);
+    EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::WasOpenForRead);
 }
 
 }  // namespace

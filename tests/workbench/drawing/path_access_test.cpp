@@ -103,7 +103,7 @@ TEST_F(PathAccessTest, SettingGoesThroughAnOpeningWithItsNotifications) {
     EXPECT_EQ(counter.told, "om");
     EXPECT_EQ(get("layers.Walls.frozen"), Value(true));
     m_drawing->db.removeReactor(&counter);
-    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::ok);
+    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::Ok);
     EXPECT_EQ(get("layers.Walls.frozen"), Value(false));
 }
 
@@ -122,7 +122,7 @@ TEST_F(PathAccessTest, ViewThatMovesIsNoNamedOneAnyMore) {
     EXPECT_EQ(get("viewports.2.appliedView"), Value("Garden"));
     set("viewports.2.eye.x", 12);
     EXPECT_EQ(get("viewports.2.appliedView"), Value());
-    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::ok);
+    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::Ok);
     EXPECT_EQ(get("viewports.2.appliedView"), Value("Garden"));
 }
 
@@ -140,9 +140,9 @@ TEST_F(PathAccessTest, WhatIsShownIsAddedWhenItIsMissing) {
     EXPECT_EQ(get("viewports.2.background"), Value("background"));
     set("geo.latitude", 48.2);
     EXPECT_EQ(get("geo.latitude"), Value(48.2));
-    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::ok);
+    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::Ok);
     EXPECT_EQ(get("geo"), Value());
-    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::ok);
+    EXPECT_EQ(m_drawing->db.undoLog().undo(), Status::Ok);
     EXPECT_EQ(get("background"), Value());
 }
 

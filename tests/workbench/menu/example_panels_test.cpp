@@ -31,7 +31,7 @@ protected:
     const MenuItem* button(const std::string& id) const {
         for (const MenuToolPanel& toolPanel : m_menu.data().toolPanels) {
             for (const MenuItem& item : toolPanel.items) {
-                if (item.type == MenuItemType::button && item.id == id)
+                if (item.type == MenuItemType::Button && item.id == id)
                     return &item;
             }
         }
@@ -55,7 +55,7 @@ private:
         if (!seen.insert(toolPanel).second)
             return;
         for (const MenuItem& item : toolPanel->items) {
-            if (item.type == MenuItemType::flyout)
+            if (item.type == MenuItemType::Flyout)
                 reach(m_menu.findToolPanel(toolPanel->menuGroup, item.flyoutId), seen);
         }
     }
@@ -69,7 +69,7 @@ struct FlyoutRow {
 }  // namespace
 
 TEST_F(ExamplePanelsTest, EveryCustomControlStandsOnAPanel) {
-    const std::vector<MenuItem> controls = items(MenuItemType::control);
+    const std::vector<MenuItem> controls = items(MenuItemType::Control);
     for (const char* name : {"LayerStateComboControl",
                              "LayerLockTransparencySliderControl",
                              "LayerFilterComboControl",
@@ -187,7 +187,7 @@ TEST_F(ExamplePanelsTest, EveryFlyoutHasItsToolsInTheOrderOfTheirValues) {
         {"TPL_0044",
          {"ID_VSLIGHTINGQUALITY_FACET", "ID_VSLIGHTINGQUALITY_SMOOTH",
           "ID_VSLIGHTINGQUALITY_SMOOTHEST"}}};
-    const std::vector<MenuItem> flyouts = items(MenuItemType::flyout);
+    const std::vector<MenuItem> flyouts = items(MenuItemType::Flyout);
     for (const FlyoutRow& row : rows) {
         const auto flyout =
             std::find_if(flyouts.begin(), flyouts.end(),
@@ -237,7 +237,7 @@ TEST_F(ExamplePanelsTest, TwoWorkspacesShowDifferentPanels) {
 TEST_F(ExamplePanelsTest, TheExampleModuleServesAButtonAndAControl) {
     ASSERT_NE(button("ID_ExampleCount"), nullptr);
     EXPECT_EQ(button("ID_ExampleCount")->module, "VxExampleTools.qlx");
-    const std::vector<MenuItem> controls = items(MenuItemType::control);
+    const std::vector<MenuItem> controls = items(MenuItemType::Control);
     EXPECT_EQ(std::count_if(controls.begin(), controls.end(),
                             [](const MenuItem& item) {
                                 return item.controlName == "ExampleScaleControl" &&
@@ -259,14 +259,14 @@ TEST_F(ExamplePanelsTest, NoToolPanelIsOutOfReach) {
 }
 
 TEST_F(ExamplePanelsTest, EveryButtonHasANameAndDoesSomething) {
-    for (const MenuItem& item : items(MenuItemType::button)) {
+    for (const MenuItem& item : items(MenuItemType::Button)) {
         EXPECT_FALSE(item.name.empty()) << item.id;
         EXPECT_FALSE(item.macro.empty() && item.module.empty()) << item.id;
     }
 }
 
 TEST_F(ExamplePanelsTest, ImageKeysFollowTheItemIds) {
-    for (const MenuItem& item : items(MenuItemType::button)) {
+    for (const MenuItem& item : items(MenuItemType::Button)) {
         std::string key = "RCDATA_TOOL_";
         for (const char letter : item.id) {
             const auto byte = static_cast<unsigned char>(letter);
@@ -280,10 +280,10 @@ TEST_F(ExamplePanelsTest, ImageKeysFollowTheItemIds) {
 TEST_F(ExamplePanelsTest, EachCustomControlHasARowOfItsOwn) {
     for (const MenuToolPanel& toolPanel : m_menu.data().toolPanels) {
         for (std::size_t at = 1; at < toolPanel.items.size(); ++at) {
-            const bool besideControl = toolPanel.items[at].type == MenuItemType::control ||
-                                       toolPanel.items[at - 1].type == MenuItemType::control;
-            const bool atBreak = toolPanel.items[at].type == MenuItemType::rowBreak ||
-                                 toolPanel.items[at - 1].type == MenuItemType::rowBreak;
+            const bool besideControl = toolPanel.items[at].type == MenuItemType::Control ||
+                                       toolPanel.items[at - 1].type == MenuItemType::Control;
+            const bool atBreak = toolPanel.items[at].type == MenuItemType::RowBreak ||
+                                 toolPanel.items[at - 1].type == MenuItemType::RowBreak;
             EXPECT_TRUE(!besideControl || atBreak) << toolPanel.id << ", item " << at;
         }
     }

@@ -29,7 +29,7 @@ class BadMenuItemTest : public testing::TestWithParam<BadItem> {};
 TEST(MenuItemReaderTest, AButtonTakesAllItsKeys) {
     const MenuItem item = read(R"({"type": "button", "id": "ID_A", "name": "Line",
         "smallImage": "S", "largeImage": "L.bmp", "macro": "_line\n", "module": "M.qlx"})");
-    EXPECT_EQ(item.type, MenuItemType::button);
+    EXPECT_EQ(item.type, MenuItemType::Button);
     EXPECT_EQ(item.id, "ID_A");
     EXPECT_EQ(item.name, "Line");
     EXPECT_EQ(item.smallImage, "S");
@@ -51,7 +51,7 @@ TEST(MenuItemReaderTest, OneImageStandsForBothSizes) {
 
 TEST(MenuItemReaderTest, AFlyoutNamesItsToolPanelAndHasNoPictureOfItsOwnUnlessItSaysSo) {
     const MenuItem plain = read(R"({"type": "flyout", "id": "F", "flyout": "T"})");
-    EXPECT_EQ(plain.type, MenuItemType::flyout);
+    EXPECT_EQ(plain.type, MenuItemType::Flyout);
     EXPECT_EQ(plain.flyoutId, "T");
     EXPECT_FALSE(plain.flyoutOwnImage);
     const MenuItem own =
@@ -62,7 +62,7 @@ TEST(MenuItemReaderTest, AFlyoutNamesItsToolPanelAndHasNoPictureOfItsOwnUnlessIt
 
 TEST(MenuItemReaderTest, AControlBearsItsNameAsIdUnlessItHasOne) {
     const MenuItem plain = read(R"({"type": "control", "control": "UCSControl"})");
-    EXPECT_EQ(plain.type, MenuItemType::control);
+    EXPECT_EQ(plain.type, MenuItemType::Control);
     EXPECT_EQ(plain.controlName, "UCSControl");
     EXPECT_EQ(plain.id, "UCSControl");
     const MenuItem named =
@@ -78,8 +78,8 @@ TEST(MenuItemReaderTest, AControlThatNobodyKnowsIsTaken) {
 }
 
 TEST(MenuItemReaderTest, SeparatorsAndRowBreaksAreBare) {
-    EXPECT_EQ(read(R"({"type": "separator"})").type, MenuItemType::separator);
-    EXPECT_EQ(read(R"({"type": "rowBreak"})").type, MenuItemType::rowBreak);
+    EXPECT_EQ(read(R"({"type": "separator"})").type, MenuItemType::Separator);
+    EXPECT_EQ(read(R"({"type": "rowBreak"})").type, MenuItemType::RowBreak);
 }
 
 TEST_P(BadMenuItemTest, IsRefusedWithItsPlace) {

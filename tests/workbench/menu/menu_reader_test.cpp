@@ -76,7 +76,7 @@ TEST(MenuReaderTest, SectionsMayStandInAnyOrder) {
     ASSERT_EQ(menu.toolPanels.size(), 3U);
     EXPECT_EQ(menu.toolPanels[0].items[0].flyoutId, "F");
     ASSERT_EQ(menu.toolPanels[1].items.size(), 2U);
-    EXPECT_EQ(menu.toolPanels[1].items[1].type, MenuItemType::separator);
+    EXPECT_EQ(menu.toolPanels[1].items[1].type, MenuItemType::Separator);
 }
 
 TEST(MenuReaderTest, WorkspacesListPanelsByIdAndMenuGroup) {

@@ -166,10 +166,10 @@ TEST_F(GraphicsSystemTest, WhatIsChangedInBetweenIsUndoneAlone) {
     graphics().setLens(kTile, 10);
     drawing::Writing<drawing::Viewport>(data(), tile())->brightness = 3;
     graphics().setLens(kTile, 20);
-    EXPECT_EQ(data().undoLog().undo(), drawing::Status::ok);
+    EXPECT_EQ(data().undoLog().undo(), drawing::Status::Ok);
     EXPECT_EQ(shown().lens, 10);
     EXPECT_EQ(viewport().brightness, 3);
-    EXPECT_EQ(data().undoLog().undo(), drawing::Status::ok);
+    EXPECT_EQ(data().undoLog().undo(), drawing::Status::Ok);
     EXPECT_EQ(viewport().brightness, 0);
     EXPECT_EQ(shown().lens, 10);
 }
@@ -194,7 +194,7 @@ TEST_F(GraphicsSystemTest, AStepOfOneDrawingTakesInNoChangeOfAnother) {
     graphics().setLens(kTile, 20);
     data().undoLog().undo();
     EXPECT_EQ(viewport().brightness, 3);
-    EXPECT_EQ(first.data().undoLog().undo(), drawing::Status::ok);
+    EXPECT_EQ(first.data().undoLog().undo(), drawing::Status::Ok);
 }
 
 TEST_F(GraphicsSystemTest, WithoutARecordEachChangeIsUndoneAlone) {

@@ -24,12 +24,12 @@ protected:
     }
 
     XmlNode* m_node;  // counted
-    const BarPlace m_floating{true, Edge::left, false, {10, 20, 310, 420}};
+    const BarPlace m_floating{true, Edge::Left, false, {10, 20, 310, 420}};
 };
 
 TEST_F(BarPlaceTest, APlaceComesBackAsItWasSaved) {
     for (const BarPlace& place :
-         {m_floating, BarPlace{false, Edge::right, true, {0, 0, 235, 300}}}) {
+         {m_floating, BarPlace{false, Edge::Right, true, {0, 0, 235, 300}}}) {
         EXPECT_TRUE(saveBarPlace(m_node, place));
         EXPECT_EQ(loadBarPlace(m_node), place);
     }
@@ -54,7 +54,7 @@ TEST_F(BarPlaceTest, APlaceThatMakesNoSenseIsNone) {
 TEST_F(BarPlaceTest, ASetSavesAndLoadsItsPlace) {
     frame().floatAt(*m_set, m_floating.rect);
     EXPECT_EQ(m_set->Save(m_node), 1);
-    frame().dock(*m_set, Edge::right);
+    frame().dock(*m_set, Edge::Right);
     EXPECT_EQ(m_set->Load(m_node), 1);
     EXPECT_TRUE(m_set->IsFloating());
     EXPECT_EQ(frame().placeOf(*m_set).rect, m_floating.rect);

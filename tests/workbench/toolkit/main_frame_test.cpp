@@ -98,18 +98,18 @@ TEST_F(MainFrameTest, DockingAgainEndsTheSmallFrame) {
     const std::size_t before = windows().count();
     frame().floatAt(*m_set, {10, 20, 310, 420});
     EXPECT_EQ(windows().count(), before + 2);
-    EXPECT_TRUE(frame().dock(*m_set, Edge::right));
+    EXPECT_TRUE(frame().dock(*m_set, Edge::Right));
     EXPECT_EQ(windows().count(), before);
     EXPECT_FALSE(m_set->IsFloating());
 }
 
 TEST_F(MainFrameTest, OnlyAllowedEdgesDock) {
     m_set->EnableDocking(0x4000);
-    EXPECT_FALSE(frame().dock(*m_set, Edge::left));
-    EXPECT_TRUE(frame().dock(*m_set, Edge::right));
+    EXPECT_FALSE(frame().dock(*m_set, Edge::Left));
+    EXPECT_TRUE(frame().dock(*m_set, Edge::Right));
     m_set->EnableDocking(0x1000);
-    EXPECT_TRUE(frame().dock(*m_set, Edge::left));
-    EXPECT_FALSE(frame().anchor(*m_set, false) && frame().dock(*m_set, Edge::right));
+    EXPECT_TRUE(frame().dock(*m_set, Edge::Left));
+    EXPECT_FALSE(frame().anchor(*m_set, false) && frame().dock(*m_set, Edge::Right));
 }
 
 TEST_F(MainFrameTest, AnAnchoredSetIsAThinStripUntilItRollsOut) {

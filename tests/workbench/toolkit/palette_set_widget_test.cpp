@@ -53,10 +53,10 @@ TEST_F(PaletteSetWidgetTest, CloseOnlyHides) {
 TEST_F(PaletteSetWidgetTest, DockingCanBeForbiddenAndAllowedAgain) {
     chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Allow docking");
     EXPECT_FALSE(readContextMenu(toolkit(), m_set->m_hWnd)[4].checked);
-    EXPECT_FALSE(frame().dock(*m_set, Edge::left));
+    EXPECT_FALSE(frame().dock(*m_set, Edge::Left));
     chooseFromContextMenu(toolkit(), m_set->m_hWnd, L"Allow docking");
     EXPECT_TRUE(readContextMenu(toolkit(), m_set->m_hWnd)[4].checked);
-    EXPECT_TRUE(frame().dock(*m_set, Edge::left));
+    EXPECT_TRUE(frame().dock(*m_set, Edge::Left));
 }
 
 TEST_F(PaletteSetWidgetTest, MoveAndSizeTakeTheUsersNumbers) {

@@ -12,9 +12,9 @@ class ToolPanelLayoutTest : public ToolkitTest {};
 TEST_F(ToolPanelLayoutTest, EachItemTypeHasItsKind) {
     constexpr int kHostIcon = 6;
     const std::pair<int, Kind> types[] = {
-        {kItemButton, Kind::button},     {kItemFlyout, Kind::flyout},
-        {kItemControl, Kind::control},   {kItemSeparator, Kind::separator},
-        {kItemRowBreak, Kind::rowBreak}, {kHostIcon, Kind::button},
+        {kItemButton, Kind::Button},     {kItemFlyout, Kind::Flyout},
+        {kItemControl, Kind::Control},   {kItemSeparator, Kind::Separator},
+        {kItemRowBreak, Kind::RowBreak}, {kHostIcon, Kind::Button},
     };
     for (const auto& [type, kind] : types)
         addItem(type, L"ID");

@@ -25,7 +25,7 @@ TEST(ToolRegistryTest, ALaterEntryReplacesAnEarlierOne) {
 
 TEST(ToolRegistryTest, APlaceIsRememberedWithOrWithoutATool) {
     ToolRegistry tools;
-    const BarPlace place{true, Edge::left, false, {1, 2, 30, 40}};
+    const BarPlace place{true, Edge::Left, false, {1, 2, 30, 40}};
     EXPECT_EQ(tools.placeOf(kOther), std::nullopt);
     tools.rememberPlace(kOther, place);
     EXPECT_EQ(tools.placeOf(kOther), place);

@@ -146,7 +146,7 @@ void DesktopMenus::fillView(QMenu& menu, QDockWidget& journal) {
 }
 
 void DesktopMenus::fillThemes(QMenu& menu) {
-    for (const Shade shade : {Shade::light, Shade::dark}) {
+    for (const Shade shade : {Shade::Light, Shade::Dark}) {
         addChoice(menu, QString::fromLatin1(nameOf(shade)), m_window.shade() == shade,
                   [this, shade] { m_window.setShade(shade); });
     }

@@ -18,7 +18,7 @@ struct DesktopOptions : StartOptions {
     std::filesystem::path snapshot;            ///< A picture to write before the end; empty: none.
     bool wholeWindow = false;                  ///< The picture shows more than the dashboard.
     bool stay = false;                         ///< The window stays open behind a script.
-    Shade shade = Shade::light;
+    Shade shade = Shade::Light;
     double scale = 1.0;     ///< Pixels a logical pixel, 1 to 4.
     QSize size{1280, 860};  ///< Of the window, logical pixels.
     std::string workspace;  ///< To begin with; empty: the menu's own.

@@ -36,7 +36,7 @@ void DockSplitter::follow() {
     if (set == nullptr)
         return;
     const CRect bar = m_stage.windows.screenRect(set->m_hWnd);
-    const bool isRight = m_stage.toolkit.paletteSets().of(set).place.edge == Edge::right;
+    const bool isRight = m_stage.toolkit.paletteSets().of(set).place.edge == Edge::Right;
     setGeometry(isRight ? bar.left - kWidth : bar.right, 0, kWidth, parentWidget()->height());
     raise();
 }
@@ -52,7 +52,7 @@ void DockSplitter::mouseMoveEvent(QMouseEvent* event) {
     const int left = mapToParent(event->position().toPoint()).x() - m_grip;
     BarPlace place = m_stage.toolkit.paletteSets().of(set).place;
     const int room = parentWidget()->width();
-    const int wanted = place.edge == Edge::right ? room - left - kWidth : left;
+    const int wanted = place.edge == Edge::Right ? room - left - kWidth : left;
     place.rect.right = place.rect.left + std::clamp(wanted, 1, std::max(1, room - kLeastDrawing));
     m_stage.pump.act([this, set, &place] { m_stage.toolkit.frame().put(*set, place); });
 }

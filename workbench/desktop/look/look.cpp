@@ -39,7 +39,7 @@ const Look& lookOf(Shade shade) {
         .drawing = QColor(0x22272d),
         .drawingLines = QColor(0xaab4be),
     };
-    return shade == Shade::dark ? dark : light;
+    return shade == Shade::Dark ? dark : light;
 }
 
 }  // namespace workbench::desktop

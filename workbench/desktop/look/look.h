@@ -5,7 +5,7 @@
 namespace workbench::desktop {
 
 /// The two sets of colours.
-enum class Shade { light, dark };
+enum class Shade { Light, Dark };
 
 /// The colours that all of the window is drawn with.
 struct Look {

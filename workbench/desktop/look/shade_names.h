@@ -10,15 +10,15 @@ namespace workbench::desktop {
 /// The shade of a name, "light" or "dark"; nothing for another name.
 constexpr std::optional<Shade> shadeOf(std::string_view name) {
     if (name == "light")
-        return Shade::light;
+        return Shade::Light;
     if (name == "dark")
-        return Shade::dark;
+        return Shade::Dark;
     return {};
 }
 
 /// The name of a shade.
 constexpr const char* nameOf(Shade shade) {
-    return shade == Shade::dark ? "dark" : "light";
+    return shade == Shade::Dark ? "dark" : "light";
 }
 
 }  // namespace workbench::desktop

@@ -36,22 +36,22 @@ void FloatingMirror::mousePressEvent(QMouseEvent* event) {
     if (parts.close.contains(point))
         close();
     else if (parts.corner.contains(point))
-        m_hold = Hold::corner;
+        m_hold = Hold::Corner;
     else if (parts.caption.contains(point))
-        m_hold = Hold::caption;
+        m_hold = Hold::Caption;
 }
 
 void FloatingMirror::mouseMoveEvent(QMouseEvent* event) {
     const QPoint now = event->globalPosition().toPoint();
-    if (m_hold != Hold::none)
+    if (m_hold != Hold::None)
         moveOrSize(now - m_last);
     m_last = now;
 }
 
 void FloatingMirror::mouseReleaseEvent(QMouseEvent* event) {
-    if (m_hold == Hold::caption)
+    if (m_hold == Hold::Caption)
         dockIfAtEdge(event->globalPosition().toPoint());
-    m_hold = Hold::none;
+    m_hold = Hold::None;
 }
 
 void FloatingMirror::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -79,7 +79,7 @@ void FloatingMirror::moveOrSize(QPoint by) {
         CRect rect = host()->rect;
         rect.right += by.x();
         rect.bottom += by.y();
-        if (m_hold == Hold::caption) {
+        if (m_hold == Hold::Caption) {
             rect.left += by.x();
             rect.top += by.y();
         }
@@ -100,7 +100,7 @@ void FloatingMirror::dockIfAtEdge(QPoint screenPoint) {
         return;
     stage().pump.act([this, atLeft] {
         if (CQrUiPaletteSet* set = shownSet())
-            stage().toolkit.frame().dock(*set, atLeft ? Edge::left : Edge::right);
+            stage().toolkit.frame().dock(*set, atLeft ? Edge::Left : Edge::Right);
     });
 }
 

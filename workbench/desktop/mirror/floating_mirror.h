@@ -22,13 +22,13 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    enum class Hold { none, caption, corner };
+    enum class Hold { None, Caption, Corner };
 
     CQrUiPaletteSet* shownSet() const;
     void moveOrSize(QPoint by);
     void dockIfAtEdge(QPoint screenPoint);
 
-    Hold m_hold = Hold::none;
+    Hold m_hold = Hold::None;
     QPoint m_last;  // of the drag, on the screen
 };
 

@@ -25,9 +25,10 @@ bool JournalFilter::filterAcceptsRow(int row, const QModelIndex& /*parent*/) con
     const auto textOf = [this, row](int column) {
         return m_model.index(row, column).data().toString();
     };
-    if (!m_hiddenKinds.isEmpty() && m_hiddenKinds.contains(textOf(JournalModel::kKind)))
+    if (!m_hiddenKinds.isEmpty() && m_hiddenKinds.contains(textOf(JournalModel::KindColumn)))
         return false;
-    return m_text.isEmpty() || textOf(JournalModel::kText).contains(m_text, Qt::CaseInsensitive);
+    return m_text.isEmpty() ||
+           textOf(JournalModel::TextColumn).contains(m_text, Qt::CaseInsensitive);
 }
 
 }  // namespace workbench::desktop

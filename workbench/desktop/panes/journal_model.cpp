@@ -51,21 +51,21 @@ int JournalModel::rowCount(const QModelIndex& parent) const {
 }
 
 int JournalModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : kColumnCount;
+    return parent.isValid() ? 0 : ColumnCount;
 }
 
 QVariant JournalModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid())
         return {};
-    if (role == Qt::TextAlignmentRole && index.column() == kTime)
+    if (role == Qt::TextAlignmentRole && index.column() == TimeColumn)
         return QVariant::fromValue(Qt::Alignment(Qt::AlignRight | Qt::AlignVCenter));
     if (role != Qt::DisplayRole)
         return {};
     const JournalRecord& shown = record(index.row());
     switch (index.column()) {
-    case kTime:
+    case TimeColumn:
         return QString::number(shown.time);
-    case kKind:
+    case KindColumn:
         return toQt(std::string_view(shown.kind));
     default:
         return toQt(std::string_view(describeEvent(shown)));
@@ -76,9 +76,9 @@ QVariant JournalModel::headerData(int section, Qt::Orientation orientation, int 
     if (role != Qt::DisplayRole || orientation != Qt::Horizontal)
         return {};
     switch (section) {
-    case kTime:
+    case TimeColumn:
         return QStringLiteral("Time (ms)");
-    case kKind:
+    case KindColumn:
         return QStringLiteral("Kind");
     default:
         return QStringLiteral("What happened");

@@ -12,7 +12,7 @@ namespace workbench::desktop {
 /// Records of the journal as rows: time, kind, what happened. The oldest go when there are too many.
 class JournalModel final : public QAbstractTableModel {
 public:
-    enum Column { kTime, kKind, kText, kColumnCount };
+    enum Column { TimeColumn, KindColumn, TextColumn, ColumnCount };
     static constexpr std::size_t kMostRows = 20'000;
 
     /// Adds rows at the end, all at once.

@@ -111,8 +111,8 @@ QTableView* JournalPane::makeTable() {
     table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     table->horizontalHeader()->setStretchLastSection(true);
     table->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    table->setColumnWidth(JournalModel::kTime, kTimeWidth);
-    table->setColumnWidth(JournalModel::kKind, kKindWidth);
+    table->setColumnWidth(JournalModel::TimeColumn, kTimeWidth);
+    table->setColumnWidth(JournalModel::KindColumn, kKindWidth);
     QScrollBar* const bar = table->verticalScrollBar();
     connect(bar, &QScrollBar::valueChanged, this,
             [this, bar](int value) { m_follows = value >= bar->maximum(); });

@@ -39,10 +39,10 @@ void Database::sayGoodbye() {
 
 Added Database::add(std::unique_ptr<DbObject> object) {
     if (object->database() != nullptr) {
-        return {Status::alreadyInDatabase, {}};
+        return {Status::AlreadyInDatabase, {}};
     }
     if (!object->name().empty() && !find(object->kind(), object->name()).isNull()) {
-        return {Status::duplicateName, {}};
+        return {Status::DuplicateName, {}};
     }
     const RecordKind kind = object->kind();
     DbObject& itsTable = *find(table(kind));
@@ -52,33 +52,33 @@ Added Database::add(std::unique_ptr<DbObject> object) {
     m_undo.add(added.erasureChange());
     m_reactors.notify([&added](DatabaseReactor& reactor) { reactor.objectAppended(added); });
     itsTable.tellModified();
-    return {Status::ok, added.id()};
+    return {Status::Ok, added.id()};
 }
 
 Status Database::open(ObjectId id, OpenMode mode, ErasedObjects erased, DbObject*& object) {
     object = nullptr;
     if (id.isNull()) {
-        return Status::nullObjectId;
+        return Status::NullObjectId;
     }
     DbObject* found = find(id);
     if (found == nullptr) {
-        return Status::unknownId;
+        return Status::UnknownId;
     }
     if (found->m_erased && erased == ErasedObjects::Refuse) {
-        return Status::wasErased;
+        return Status::WasErased;
     }
     if (found->m_writing) {
-        return Status::wasOpenForWrite;
+        return Status::WasOpenForWrite;
     }
     if (mode == OpenMode::Read) {
         ++found->m_readers;
     } else if (found->m_readers > 0) {
-        return Status::wasOpenForRead;
+        return Status::WasOpenForRead;
     } else {
         found->startWriting();
     }
     object = found;
-    return Status::ok;
+    return Status::Ok;
 }
 
 const DbObject* Database::peek(ObjectId id) const {

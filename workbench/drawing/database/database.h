@@ -21,7 +21,7 @@ enum class ErasedObjects { Refuse, Accept };
 
 /// What adding an object answers: the id is null unless the status is ok.
 struct Added {
-    Status status = Status::ok;
+    Status status = Status::Ok;
     ObjectId id;
 };
 
@@ -55,7 +55,7 @@ public:
         return add(std::unique_ptr<DbObject>(std::make_unique<Record<Data>>(std::move(data))));
     }
 
-    /// Opens an object; on `ok` it is in `object` and must be closed, otherwise `object` is null.
+    /// Opens an object; on `Ok` it is in `object` and must be closed, otherwise `object` is null.
     Status open(ObjectId id, OpenMode mode, ErasedObjects erased, DbObject*& object);
 
     /// The object without opening it, for looking only, erased ones too; null if there is none.
@@ -122,11 +122,11 @@ private:
 template <class Data>
 class Reading {
 public:
-    Reading(Database& database, ObjectId id, ErasedObjects erased = ErasedObjects::Refuse) {
-        m_status = database.open(id, OpenMode::Read, erased, m_object);
-        m_record = dynamic_cast<Record<Data>*>(m_object);
-        if (m_status == Status::ok && m_record == nullptr) {
-            m_status = Status::wrongKind;
+    Reading(Database& database, ObjectId id, ErasedObjects erased = ErasedObjects::Refuse)
+        : m_status(database.open(id, OpenMode::Read, erased, m_object)),
+          m_record(dynamic_cast<Record<Data>*>(m_object)) {
+        if (m_status == Status::Ok && m_record == nullptr) {
+            m_status = Status::WrongKind;
         }
     }
     ~Reading() {
@@ -137,15 +137,15 @@ public:
     Reading(const Reading&) = delete;
     Reading& operator=(const Reading&) = delete;
 
-    explicit operator bool() const { return m_status == Status::ok; }
+    explicit operator bool() const { return m_status == Status::Ok; }
     Status status() const { return m_status; }
     const Data* operator->() const { return &m_record->data(); }
     const Data& operator*() const { return m_record->data(); }
 
 private:
-    DbObject* m_object = nullptr;
-    Record<Data>* m_record = nullptr;
-    Status m_status = Status::ok;
+    DbObject* m_object = nullptr;  // stands first: the opening fills it in
+    Status m_status;
+    Record<Data>* m_record;
 };
 
 /// An opening for the length of a scope, for write of one kind of record.
@@ -155,7 +155,7 @@ public:
     Writing(Database& database, ObjectId id, ErasedObjects erased = ErasedObjects::Refuse) {
         // The kind is looked at first: opening alone would tell the reactors already.
         if (database.look<Data>(id) == nullptr && database.peek(id) != nullptr) {
-            m_status = Status::wrongKind;
+            m_status = Status::WrongKind;
             return;
         }
         DbObject* object = nullptr;
@@ -170,7 +170,7 @@ public:
     Writing(const Writing&) = delete;
     Writing& operator=(const Writing&) = delete;
 
-    explicit operator bool() const { return m_status == Status::ok; }
+    explicit operator bool() const { return m_status == Status::Ok; }
     Status status() const { return m_status; }
     Data* operator->() const { return &m_record->edit(); }
     Data& operator*() const { return m_record->edit(); }
@@ -181,7 +181,7 @@ public:
 
 private:
     Record<Data>* m_record = nullptr;
-    Status m_status = Status::ok;
+    Status m_status = Status::Ok;
 };
 
 }  // namespace workbench::drawing

@@ -70,54 +70,54 @@ bool DbObject::isUndoing() const {
 
 Status DbObject::upgradeOpen() {
     if (m_database == nullptr) {
-        return Status::notInDatabase;
+        return Status::NotInDatabase;
     }
     if (m_writing) {
-        return Status::wasOpenForWrite;
+        return Status::WasOpenForWrite;
     }
     if (m_readers == 0) {
-        return Status::notOpen;
+        return Status::NotOpen;
     }
     if (m_readers > 1) {
-        return Status::wasOpenForRead;
+        return Status::WasOpenForRead;
     }
     m_readers = 0;
     startWriting();
-    return Status::ok;
+    return Status::Ok;
 }
 
 Status DbObject::close() {
     if (m_database == nullptr) {
-        return Status::notInDatabase;
+        return Status::NotInDatabase;
     }
     if (m_writing) {
         finishWriting();
-        return Status::ok;
+        return Status::Ok;
     }
     if (m_readers == 0) {
-        return Status::notOpen;
+        return Status::NotOpen;
     }
     --m_readers;
-    return Status::ok;
+    return Status::Ok;
 }
 
 Status DbObject::cancel() {
     if (!m_writing) {
-        return Status::notOpenForWrite;
+        return Status::NotOpenForWrite;
     }
     swapState(*m_before);
     m_erased = m_erasedBefore;
     m_before.reset();
     m_writing = false;
-    return Status::ok;
+    return Status::Ok;
 }
 
 Status DbObject::erase(bool erasing) {
     if (!m_writing) {
-        return m_database == nullptr ? Status::notInDatabase : Status::notOpenForWrite;
+        return m_database == nullptr ? Status::NotInDatabase : Status::NotOpenForWrite;
     }
     m_erased = erasing;
-    return Status::ok;
+    return Status::Ok;
 }
 
 void DbObject::startWriting() {

@@ -4,37 +4,37 @@ namespace workbench::drawing {
 
 const char* statusName(Status status) {
     switch (status) {
-    case Status::ok:
+    case Status::Ok:
         return "ok";
-    case Status::nullObjectId:
+    case Status::NullObjectId:
         return "nullObjectId";
-    case Status::unknownId:
+    case Status::UnknownId:
         return "unknownId";
-    case Status::wrongKind:
+    case Status::WrongKind:
         return "wrongKind";
-    case Status::wasErased:
+    case Status::WasErased:
         return "wasErased";
-    case Status::wasOpenForRead:
+    case Status::WasOpenForRead:
         return "wasOpenForRead";
-    case Status::wasOpenForWrite:
+    case Status::WasOpenForWrite:
         return "wasOpenForWrite";
-    case Status::notOpen:
+    case Status::NotOpen:
         return "notOpen";
-    case Status::notOpenForWrite:
+    case Status::NotOpenForWrite:
         return "notOpenForWrite";
-    case Status::notInDatabase:
+    case Status::NotInDatabase:
         return "notInDatabase";
-    case Status::alreadyInDatabase:
+    case Status::AlreadyInDatabase:
         return "alreadyInDatabase";
-    case Status::invalidName:
+    case Status::InvalidName:
         return "invalidName";
-    case Status::duplicateName:
+    case Status::DuplicateName:
         return "duplicateName";
-    case Status::nothingToUndo:
+    case Status::NothingToUndo:
         return "nothingToUndo";
-    case Status::nothingToRedo:
+    case Status::NothingToRedo:
         return "nothingToRedo";
-    case Status::groupIsOpen:
+    case Status::GroupIsOpen:
         return "groupIsOpen";
     }
     return "unknown";

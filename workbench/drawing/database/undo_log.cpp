@@ -42,10 +42,10 @@ void UndoLog::add(std::unique_ptr<UndoRecord> record) {
 
 Status UndoLog::undo() {
     if (isGroupOpen() || isRunning()) {
-        return Status::groupIsOpen;
+        return Status::GroupIsOpen;
     }
     if (m_done.empty()) {
-        return Status::nothingToUndo;
+        return Status::NothingToUndo;
     }
     Group group = std::move(m_done.back());
     m_done.pop_back();
@@ -55,15 +55,15 @@ Status UndoLog::undo() {
     }
     m_running = Running::None;
     m_undone.push_back(std::move(group));
-    return Status::ok;
+    return Status::Ok;
 }
 
 Status UndoLog::redo() {
     if (isGroupOpen() || isRunning()) {
-        return Status::groupIsOpen;
+        return Status::GroupIsOpen;
     }
     if (m_undone.empty()) {
-        return Status::nothingToRedo;
+        return Status::NothingToRedo;
     }
     Group group = std::move(m_undone.back());
     m_undone.pop_back();
@@ -73,7 +73,7 @@ Status UndoLog::redo() {
     }
     m_running = Running::None;
     m_done.push_back(std::move(group));
-    return Status::ok;
+    return Status::Ok;
 }
 
 std::string UndoLog::undoName() const {

@@ -43,7 +43,7 @@ TEST(DesktopOptionsTest, TheLookIsRead) {
     const DesktopOptions options =
         *read({"--theme", "dark", "--scale", "2", "--size", "900x700", "--workspace", "Drafting"})
              .options;
-    EXPECT_EQ(options.shade, Shade::dark);
+    EXPECT_EQ(options.shade, Shade::Dark);
     EXPECT_EQ(options.scale, 2.0);
     EXPECT_EQ(options.size, QSize(900, 700));
     EXPECT_EQ(options.workspace, "Drafting");

@@ -24,9 +24,9 @@ protected:
 };
 
 TEST_F(DesktopStateTest, IsReadAsItWasWritten) {
-    DesktopState{Shade::dark, {L"Layers", L"J\u00e4ger"}}.write(m_folder);
+    DesktopState{Shade::Dark, {L"Layers", L"J\u00e4ger"}}.write(m_folder);
     const DesktopState state = read();
-    EXPECT_EQ(state.shade, Shade::dark);
+    EXPECT_EQ(state.shade, Shade::Dark);
     EXPECT_EQ(state.rolledUp, (std::vector<std::wstring>{L"Layers", L"J\u00e4ger"}));
     EXPECT_TRUE(m_complaint.isEmpty());
 }

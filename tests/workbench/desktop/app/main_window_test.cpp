@@ -85,7 +85,7 @@ protected:
     }
 
     Workbench m_workbench{testOptions(PROJECT_SOURCE_ROOT "/examples/panels.json")};
-    MainWindow m_window{m_workbench, Shade::light};
+    MainWindow m_window{m_workbench, Shade::Light};
 };
 
 TEST_F(MainWindowTest, TheHostsFrameIsAsLargeAsItsPlace) {
@@ -131,10 +131,10 @@ TEST_F(MainWindowTest, AFieldLosesTheKeyboardToAPane) {
 
 TEST_F(MainWindowTest, ThemesAreSwitchedWhileItRuns) {
     const QColor light = m_window.grab().toImage().pixelColor(m_window.width() - 100, 120);
-    m_window.setShade(Shade::dark);
+    m_window.setShade(Shade::Dark);
     const QColor dark = m_window.grab().toImage().pixelColor(m_window.width() - 100, 120);
     EXPECT_GT(light.lightness(), dark.lightness());
-    m_window.setShade(Shade::light);
+    m_window.setShade(Shade::Light);
     EXPECT_EQ(m_window.grab().toImage().pixelColor(m_window.width() - 100, 120), light);
 }
 
@@ -281,13 +281,13 @@ TEST_F(MainWindowTest, NothingThatCanBeUsedIsWithoutAName) {
 }
 
 TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
-    m_window.setShade(Shade::dark);
+    m_window.setShade(Shade::Dark);
     collapsePanels(m_workbench.toolkit(), {L"Layers", L"Light"});
     m_window.close();
-    m_window.setShade(Shade::light);
+    m_window.setShade(Shade::Light);
     collapsePanels(m_workbench.toolkit(), {L"Sun"});
     m_window.recall();
-    EXPECT_EQ(m_window.shade(), Shade::dark);
+    EXPECT_EQ(m_window.shade(), Shade::Dark);
     EXPECT_EQ(collapsedPanels(m_workbench.toolkit()),
               (std::vector<std::wstring>{L"Layers", L"Light"}));
 }

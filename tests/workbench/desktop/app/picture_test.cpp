@@ -63,7 +63,7 @@ TEST_P(PictureTest, TheDashboardLooksAsItsPictureDoes) {
     EXPECT_LT(difference.share, 0.01);
 }
 
-INSTANTIATE_TEST_SUITE_P(Themes, PictureTest, testing::Values(Shade::light, Shade::dark));
+INSTANTIATE_TEST_SUITE_P(Themes, PictureTest, testing::Values(Shade::Light, Shade::Dark));
 
 }  // namespace
 }  // namespace workbench::desktop

@@ -61,13 +61,13 @@ protected:
     Pump m_pump{m_workbench};
     Document& m_document =
         m_workbench.editor().documents().open(PROJECT_SOURCE_ROOT "/examples/house.json");
-    DrawingView m_view{m_pump, m_document, lookOf(Shade::light)};
+    DrawingView m_view{m_pump, m_document, lookOf(Shade::Light)};
 };
 
 TEST_F(DrawingViewTest, ShowsTheDrawing) {
     const QImage image = picture();
-    EXPECT_NE(image.pixelColor(200, 150), lookOf(Shade::light).drawing);
-    EXPECT_EQ(image.pixelColor(2, 2), lookOf(Shade::light).drawing);
+    EXPECT_NE(image.pixelColor(200, 150), lookOf(Shade::Light).drawing);
+    EXPECT_EQ(image.pixelColor(2, 2), lookOf(Shade::Light).drawing);
 }
 
 TEST_F(DrawingViewTest, FollowsChangesOfTheDrawingAtOnce) {
@@ -85,8 +85,8 @@ TEST_F(DrawingViewTest, FadingAndColoursAreTakenOver) {
     m_view.setFading(90);
     const QImage faded = picture();
     EXPECT_NE(faded, before);
-    m_view.setLook(lookOf(Shade::dark));
-    EXPECT_EQ(picture().pixelColor(2, 2), lookOf(Shade::dark).drawing);
+    m_view.setLook(lookOf(Shade::Dark));
+    EXPECT_EQ(picture().pixelColor(2, 2), lookOf(Shade::Dark).drawing);
 }
 
 TEST_F(DrawingViewTest, ADragOrbitsInOneStepOfTheViewsHistory) {
@@ -233,7 +233,7 @@ TEST_F(DrawingViewTest, ADragThatComesBackToItsStartIsNoStep) {
 TEST_F(DrawingViewTest, OutlivesItsDocument) {
     m_workbench.editor().documents().close(m_document);
     EXPECT_EQ(m_view.document(), nullptr);
-    EXPECT_EQ(picture().pixelColor(200, 150), lookOf(Shade::light).drawing);
+    EXPECT_EQ(picture().pixelColor(200, 150), lookOf(Shade::Light).drawing);
     turnWheel(m_view, 1);
     drag({10, 10});
 }

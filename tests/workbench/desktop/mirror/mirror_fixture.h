@@ -79,7 +79,7 @@ protected:
 
     Workbench m_workbench{testOptions(PROJECT_SOURCE_ROOT "/examples/panels.json")};
     Pump m_pump{m_workbench};
-    Stage m_stage{m_workbench, m_pump, Shade::light};
+    Stage m_stage{m_workbench, m_pump, Shade::Light};
     QWidget m_top;
     FrameHome m_home{&m_top};
     WindowMirror m_mirror{m_stage, m_home};

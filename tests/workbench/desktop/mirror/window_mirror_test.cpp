@@ -210,7 +210,7 @@ TEST_F(MirrorTest, LetGoAtAnEdgeOfTheHostsWindowTheDashboardDocksThere) {
     release(*frame, frame->mapFromGlobal(m_home.mapToGlobal(QPoint(10, 400))));
     rest();
     EXPECT_FALSE(set.IsFloating());
-    EXPECT_EQ(m_stage.toolkit.paletteSets().of(&set).place.edge, Edge::left);
+    EXPECT_EQ(m_stage.toolkit.paletteSets().of(&set).place.edge, Edge::Left);
     EXPECT_LT(widget(set.m_hWnd)->mapTo(&m_home, QPoint()).x(), 100);
 }
 

@@ -27,9 +27,9 @@ TEST(JournalModelTest, ARowTellsTimeKindAndWhatHappened) {
     JournalModel model;
     model.append(records(1));
     ASSERT_EQ(model.rowCount(), 1);
-    EXPECT_EQ(textOf(model, 0, JournalModel::kTime), "300");
-    EXPECT_EQ(textOf(model, 0, JournalModel::kKind), "var");
-    EXPECT_EQ(textOf(model, 0, JournalModel::kText), "A: 1 -> 2");
+    EXPECT_EQ(textOf(model, 0, JournalModel::TimeColumn), "300");
+    EXPECT_EQ(textOf(model, 0, JournalModel::KindColumn), "var");
+    EXPECT_EQ(textOf(model, 0, JournalModel::TextColumn), "A: 1 -> 2");
 }
 
 TEST(JournalModelTest, EachColumnHasATitle) {

@@ -41,7 +41,7 @@ protected:
     }
     QTableView& table() { return *pane.findChild<QTableView*>(); }
     int rows() { return table().model()->rowCount(); }
-    std::string text(int row, int column = JournalModel::kText) {
+    std::string text(int row, int column = JournalModel::TextColumn) {
         return table().model()->index(row, column).data().toString().toStdString();
     }
     void click(const char* button) {
@@ -109,8 +109,8 @@ TEST_F(JournalPaneTest, RecordsOfAnOlderListenerStandInTheirOrder) {
     listening.takeOver();
     const QAbstractItemModel& model = *listening.findChild<QTableView*>()->model();
     ASSERT_EQ(model.rowCount(), 2);
-    EXPECT_EQ(model.index(0, JournalModel::kKind).data(), QStringLiteral("call"));
-    EXPECT_EQ(model.index(1, JournalModel::kKind).data(), QStringLiteral("dialog"));
+    EXPECT_EQ(model.index(0, JournalModel::KindColumn).data(), QStringLiteral("call"));
+    EXPECT_EQ(model.index(1, JournalModel::KindColumn).data(), QStringLiteral("dialog"));
 }
 
 TEST_F(JournalPaneTest, TheNewestRowStaysInView) {
@@ -196,7 +196,7 @@ TEST_F(JournalPaneTest, KindsAndTextFilterTheRows) {
     setKindShown("tip", true);
     pane.findChild<QLineEdit*>()->setText(QStringLiteral("SKY"));
     ASSERT_EQ(rows(), 1);
-    EXPECT_EQ(text(0, JournalModel::kKind), "tip");
+    EXPECT_EQ(text(0, JournalModel::KindColumn), "tip");
 }
 
 TEST_F(JournalPaneTest, ClearEmptiesThePaneButNotTheJournal) {

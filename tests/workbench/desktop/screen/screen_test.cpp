@@ -65,7 +65,7 @@ protected:
     std::int64_t fading() { return m_workbench.editor().read(L"LAYLOCKFADECTL").asInteger(); }
 
     Workbench m_workbench{testOptions(PROJECT_SOURCE_ROOT "/examples/panels.json")};
-    MainWindow m_window{m_workbench, Shade::light};
+    MainWindow m_window{m_workbench, Shade::Light};
 };
 
 TEST_F(ScreenTest, TheFadeSliderIsDragged) {

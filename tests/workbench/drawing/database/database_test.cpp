@@ -51,7 +51,7 @@ protected:
 
     void watch(ObjectId id) {
         DbObject* object = nullptr;
-        ASSERT_EQ(m_db.open(id, OpenMode::Read, ErasedObjects::Accept, object), Status::ok);
+        ASSERT_EQ(m_db.open(id, OpenMode::Read, ErasedObjects::Accept, object), Status::Ok);
         object->addReactor(&m_recorder);
         object->close();
     }
@@ -59,13 +59,13 @@ protected:
     void erase(ObjectId id) {
         Writing<Layer> layer(m_db, id);
         ASSERT_TRUE(layer);
-        EXPECT_EQ(layer.erase(), Status::ok);
+        EXPECT_EQ(layer.erase(), Status::Ok);
     }
 
     Status tryOpen(ObjectId id, OpenMode mode, ErasedObjects erased = ErasedObjects::Refuse) {
         DbObject* object = nullptr;
         const Status status = m_db.open(id, mode, erased, object);
-        EXPECT_EQ(status == Status::ok, object != nullptr);
+        EXPECT_EQ(status == Status::Ok, object != nullptr);
         if (object != nullptr) {
             object->close();
         }
@@ -88,22 +88,22 @@ TEST_F(DatabaseTest, IdsTellTheirDatabaseAndAreNotUsedAgain) {
 }
 
 TEST_F(DatabaseTest, NamesAreUniqueAmongTheLivingOfAKind) {
-    EXPECT_EQ(m_db.add(layerNamed("WALLS")).status, Status::duplicateName);
+    EXPECT_EQ(m_db.add(layerNamed("WALLS")).status, Status::DuplicateName);
     TextStyle style;
     style.name = "Walls";
-    EXPECT_EQ(m_db.add(style).status, Status::ok);
+    EXPECT_EQ(m_db.add(style).status, Status::Ok);
     EXPECT_EQ(m_db.ids(RecordKind::Layer).size(), 1U);
 }
 
 TEST_F(DatabaseTest, OpeningSaysWhyItFails) {
-    EXPECT_EQ(tryOpen(ObjectId(), OpenMode::Read), Status::nullObjectId);
-    EXPECT_EQ(tryOpen(ObjectId(4, 1), OpenMode::Read), Status::unknownId);
-    EXPECT_EQ(tryOpen(ObjectId(3, 999), OpenMode::Read), Status::unknownId);
-    EXPECT_EQ(Reading<TextStyle>(m_db, m_walls).status(), Status::wrongKind);
-    EXPECT_EQ(Writing<TextStyle>(m_db, m_walls).status(), Status::wrongKind);
+    EXPECT_EQ(tryOpen(ObjectId(), OpenMode::Read), Status::NullObjectId);
+    EXPECT_EQ(tryOpen(ObjectId(4, 1), OpenMode::Read), Status::UnknownId);
+    EXPECT_EQ(tryOpen(ObjectId(3, 999), OpenMode::Read), Status::UnknownId);
+    EXPECT_EQ(Reading<TextStyle>(m_db, m_walls).status(), Status::WrongKind);
+    EXPECT_EQ(Writing<TextStyle>(m_db, m_walls).status(), Status::WrongKind);
     erase(m_walls);
-    EXPECT_EQ(tryOpen(m_walls, OpenMode::Write), Status::wasErased);
-    EXPECT_EQ(tryOpen(m_walls, OpenMode::Write, ErasedObjects::Accept), Status::ok);
+    EXPECT_EQ(tryOpen(m_walls, OpenMode::Write), Status::WasErased);
+    EXPECT_EQ(tryOpen(m_walls, OpenMode::Write, ErasedObjects::Accept), Status::Ok);
 }
 
 TEST_F(DatabaseTest, ManyReadOrOneWrites) {
@@ -111,11 +111,11 @@ TEST_F(DatabaseTest, ManyReadOrOneWrites) {
         const Reading<Layer> first(m_db, m_walls);
         const Reading<Layer> second(m_db, m_walls);
         EXPECT_TRUE(second);
-        EXPECT_EQ(Writing<Layer>(m_db, m_walls).status(), Status::wasOpenForRead);
+        EXPECT_EQ(Writing<Layer>(m_db, m_walls).status(), Status::WasOpenForRead);
     }
     const Writing<Layer> writing(m_db, m_walls);
-    EXPECT_EQ(Reading<Layer>(m_db, m_walls).status(), Status::wasOpenForWrite);
-    EXPECT_EQ(Writing<Layer>(m_db, m_walls).status(), Status::wasOpenForWrite);
+    EXPECT_EQ(Reading<Layer>(m_db, m_walls).status(), Status::WasOpenForWrite);
+    EXPECT_EQ(Writing<Layer>(m_db, m_walls).status(), Status::WasOpenForWrite);
 }
 
 TEST_F(DatabaseTest, OnlyTheOnlyReaderIsUpgraded) {
@@ -123,15 +123,15 @@ TEST_F(DatabaseTest, OnlyTheOnlyReaderIsUpgraded) {
     m_db.open(m_walls, OpenMode::Read, ErasedObjects::Refuse, object);
     {
         const Reading<Layer> other(m_db, m_walls);
-        EXPECT_EQ(object->upgradeOpen(), Status::wasOpenForRead);
+        EXPECT_EQ(object->upgradeOpen(), Status::WasOpenForRead);
     }
-    EXPECT_EQ(object->erase(), Status::notOpenForWrite);
-    EXPECT_EQ(object->upgradeOpen(), Status::ok);
+    EXPECT_EQ(object->erase(), Status::NotOpenForWrite);
+    EXPECT_EQ(object->upgradeOpen(), Status::Ok);
     EXPECT_TRUE(object->isOpenForWrite());
-    EXPECT_EQ(object->upgradeOpen(), Status::wasOpenForWrite);
-    EXPECT_EQ(object->close(), Status::ok);
-    EXPECT_EQ(object->close(), Status::notOpen);
-    EXPECT_EQ(object->upgradeOpen(), Status::notOpen);
+    EXPECT_EQ(object->upgradeOpen(), Status::WasOpenForWrite);
+    EXPECT_EQ(object->close(), Status::Ok);
+    EXPECT_EQ(object->close(), Status::NotOpen);
+    EXPECT_EQ(object->upgradeOpen(), Status::NotOpen);
 }
 
 TEST_F(DatabaseTest, RecordOfAClosedObjectCannotBeChanged) {
@@ -180,7 +180,7 @@ TEST_F(DatabaseTest, CancelPutsTheObjectBack) {
     m_db.open(m_walls, OpenMode::Write, ErasedObjects::Refuse, object);
     dynamic_cast<Record<Layer>&>(*object).edit().locked = true;
     object->erase();
-    EXPECT_EQ(object->cancel(), Status::ok);
+    EXPECT_EQ(object->cancel(), Status::Ok);
     EXPECT_EQ(m_recorder.take(), Told{"open Walls"});
     EXPECT_FALSE(m_db.look<Layer>(m_walls)->locked);
     EXPECT_FALSE(m_db.peek(m_walls)->isErased());
@@ -211,10 +211,10 @@ TEST_F(DatabaseTest, UndoAndRedoOfAChangeTellLikeTheChangeItself) {
         layer->locked = true;
     }
     watch(m_walls);
-    EXPECT_EQ(m_db.undoLog().undo(), Status::ok);
+    EXPECT_EQ(m_db.undoLog().undo(), Status::Ok);
     EXPECT_FALSE(m_db.look<Layer>(m_walls)->locked);
     EXPECT_EQ(m_recorder.take(), (Told{"open Walls", "modified Walls"}));
-    EXPECT_EQ(m_db.undoLog().redo(), Status::ok);
+    EXPECT_EQ(m_db.undoLog().redo(), Status::Ok);
     EXPECT_TRUE(m_db.look<Layer>(m_walls)->locked);
     EXPECT_EQ(m_recorder.take(), (Told{"open Walls", "modified Walls"}));
 }
@@ -226,7 +226,7 @@ TEST_F(DatabaseTest, UndoBringsAnErasedObjectBackUnderItsId) {
     EXPECT_EQ(m_db.find(RecordKind::Layer, "Walls"), m_walls);
     EXPECT_EQ(m_recorder.take(), (Told{"open Walls", "returned Walls"}));
     m_db.undoLog().redo();
-    EXPECT_EQ(tryOpen(m_walls, OpenMode::Read), Status::wasErased);
+    EXPECT_EQ(tryOpen(m_walls, OpenMode::Read), Status::WasErased);
 }
 
 TEST_F(DatabaseTest, UndoOfAnAdditionErasesAndRedoReturnsIt) {
@@ -268,8 +268,8 @@ TEST_F(DatabaseTest, ObjectCannotJoinTwice) {
     Added added;
     {
         auto object = std::make_unique<Record<Layer>>(layerNamed("Roof"));
-        EXPECT_EQ(object->close(), Status::notInDatabase);
-        EXPECT_EQ(object->upgradeOpen(), Status::notInDatabase);
+        EXPECT_EQ(object->close(), Status::NotInDatabase);
+        EXPECT_EQ(object->upgradeOpen(), Status::NotInDatabase);
         object->edit().locked = true;
         added = m_db.add(std::move(object));
     }

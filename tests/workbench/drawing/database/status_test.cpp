@@ -6,13 +6,13 @@ namespace workbench::drawing {
 namespace {
 
 TEST(Status, SuccessIsZero) {
-    EXPECT_EQ(static_cast<int>(Status::ok), 0);
+    EXPECT_EQ(static_cast<int>(Status::Ok), 0);
 }
 
 TEST(Status, NamesAreThoseOfTheValues) {
-    EXPECT_STREQ(statusName(Status::ok), "ok");
-    EXPECT_STREQ(statusName(Status::wasOpenForWrite), "wasOpenForWrite");
-    EXPECT_STREQ(statusName(Status::groupIsOpen), "groupIsOpen");
+    EXPECT_STREQ(statusName(Status::Ok), "ok");
+    EXPECT_STREQ(statusName(Status::WasOpenForWrite), "wasOpenForWrite");
+    EXPECT_STREQ(statusName(Status::GroupIsOpen), "groupIsOpen");
     EXPECT_STREQ(statusName(static_cast<Status>(-1)), "unknown");
 }
 

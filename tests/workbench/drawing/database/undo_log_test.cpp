@@ -31,9 +31,9 @@ protected:
 
 TEST_F(UndoLogTest, ForeignStateIsRestoredAndRedone) {
     write(5);
-    EXPECT_EQ(m_log.undo(), Status::ok);
+    EXPECT_EQ(m_log.undo(), Status::Ok);
     EXPECT_EQ(m_value, 0);
-    EXPECT_EQ(m_log.redo(), Status::ok);
+    EXPECT_EQ(m_log.redo(), Status::Ok);
     EXPECT_EQ(m_value, 5);
 }
 
@@ -46,11 +46,11 @@ TEST_F(UndoLogTest, GroupIsTakenBackAsOneInReverseOrder) {
         write(3);
     }
     EXPECT_EQ(m_log.undoName(), "MOVE");
-    EXPECT_EQ(m_log.undo(), Status::ok);
+    EXPECT_EQ(m_log.undo(), Status::Ok);
     EXPECT_EQ(m_value, 0);
     EXPECT_EQ(m_log.redoName(), "MOVE");
-    EXPECT_EQ(m_log.undo(), Status::nothingToUndo);
-    EXPECT_EQ(m_log.redo(), Status::ok);
+    EXPECT_EQ(m_log.undo(), Status::NothingToUndo);
+    EXPECT_EQ(m_log.redo(), Status::Ok);
     EXPECT_EQ(m_value, 3);
 }
 
@@ -59,7 +59,7 @@ TEST_F(UndoLogTest, NewChangeForgetsWhatCouldBeRedone) {
     m_log.undo();
     write(7);
     EXPECT_FALSE(m_log.canRedo());
-    EXPECT_EQ(m_log.redo(), Status::nothingToRedo);
+    EXPECT_EQ(m_log.redo(), Status::NothingToRedo);
     EXPECT_EQ(m_value, 7);
 }
 
@@ -92,24 +92,24 @@ TEST_F(UndoLogTest, JoinedGroupsAreTakenBackAsOneUnderTheEarlierNumber) {
     m_log.joinLastTwo();
     write(1);
     m_log.joinLastTwo();
-    EXPECT_EQ(m_log.undo(), Status::ok);
+    EXPECT_EQ(m_log.undo(), Status::Ok);
     write(1);
     write(2);
     const std::size_t second = m_log.lastGroup();
     write(3);
     m_log.joinLastTwo();
     EXPECT_EQ(m_log.lastGroup(), second);
-    EXPECT_EQ(m_log.undo(), Status::ok);
+    EXPECT_EQ(m_log.undo(), Status::Ok);
     EXPECT_EQ(m_value, 1);
-    EXPECT_EQ(m_log.redo(), Status::ok);
+    EXPECT_EQ(m_log.redo(), Status::Ok);
     EXPECT_EQ(m_value, 3);
 }
 
 TEST_F(UndoLogTest, InTheMiddleOfAGroupNothingIsUndone) {
     write(1);
     const UndoGroup group(m_log, "LINE");
-    EXPECT_EQ(m_log.undo(), Status::groupIsOpen);
-    EXPECT_EQ(m_log.redo(), Status::groupIsOpen);
+    EXPECT_EQ(m_log.undo(), Status::GroupIsOpen);
+    EXPECT_EQ(m_log.redo(), Status::GroupIsOpen);
     EXPECT_EQ(m_value, 1);
 }
 

@@ -62,9 +62,9 @@ TEST_F(SkyStatusTest, TheDrawingsSkyIsUsedAgain) {
 
 TEST_F(SkyStatusTest, AChangeIsOneStepOfUndo) {
     writeSkyStatus(data(), 2);
-    EXPECT_EQ(data().undoLog().undo(), drawing::Status::ok);
+    EXPECT_EQ(data().undoLog().undo(), drawing::Status::Ok);
     EXPECT_EQ(readSkyStatus(data()), 0);
-    EXPECT_EQ(data().undoLog().undo(), drawing::Status::nothingToUndo);
+    EXPECT_EQ(data().undoLog().undo(), drawing::Status::NothingToUndo);
 }
 
 TEST_F(SkyStatusTest, AViewportThatIsOpenElsewhereIsLeftAlone) {

@@ -39,7 +39,7 @@ protected:
             drawing::DbObject* object = nullptr;
             ASSERT_EQ(database.open(fromHostId(sun), drawing::OpenMode::Write,
                                     drawing::ErasedObjects::Refuse, object),
-                      drawing::Status::ok);
+                      drawing::Status::Ok);
             object->erase();
             object->close();
         }
