@@ -13,8 +13,8 @@ VxDbObjectId toHostId(drawing::ObjectId id) {
 }
 
 drawing::ObjectId fromHostId(VxDbObjectId id) {
-    return drawing::ObjectId(static_cast<std::uint32_t>(id.number >> kHandleBits),
-                             static_cast<std::uint32_t>(id.number));
+    return {static_cast<std::uint32_t>(id.number >> kHandleBits),
+            static_cast<std::uint32_t>(id.number)};
 }
 
 drawing::OpenMode openModeOf(VxDbOpenMode mode) {

@@ -102,7 +102,7 @@ void JsonView::require(JsonValue::Kind kind) const {
 }
 
 JsonView JsonView::child(std::size_t index, std::string_view step) const {
-    return JsonView(m_value->items[index], *m_file, m_pointer + "/" + escaped(step));
+    return {m_value->items[index], *m_file, m_pointer + "/" + escaped(step)};
 }
 
 std::optional<JsonView> JsonObjectView::find(std::string_view key) const {

@@ -45,7 +45,7 @@ void Turn::putOff(std::function<void()> work) {
 
 void Turn::keep(std::shared_ptr<void> object) {
     if (isUnderWay())
-        s_putOff.push_back([kept = std::move(object)] {});
+        s_putOff.emplace_back([kept = std::move(object)] {});
 }
 
 }  // namespace workbench

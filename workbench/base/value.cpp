@@ -15,7 +15,7 @@ namespace {
 std::string realText(double value) {
     char buffer[32];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-    return std::string(buffer, end);
+    return {buffer, end};
 }
 
 bool sameTable(const Value::Table& left, const Value& right) {

@@ -176,10 +176,9 @@ std::wstring feetText(double value, LinearUnit unit, int precision) {
     const double rounded = roundedInches(value, unit, precision);
     const double feet = std::floor(rounded / kInchesInFoot);
     const double inches = rounded - feet * kInchesInFoot;
-    const std::wstring inchText =
-        (unit == LinearUnit::Architectural ? fractionText(inches, precision)
-                                           : fixedText(inches, precision)) +
-        L"\"";
+    std::wstring inchText = (unit == LinearUnit::Architectural ? fractionText(inches, precision)
+                                                               : fixedText(inches, precision)) +
+                            L"\"";
     if (feet == 0.0)
         return inchText;
     const std::wstring footText = fixedText(feet, 0) + L"'";

@@ -73,7 +73,7 @@ public:
 
 protected:
     struct DataState final : State {
-        explicit DataState(const Data& source) : data(source) {}
+        explicit DataState(Data source) : data(std::move(source)) {}
         Data data;
     };
 

@@ -64,16 +64,17 @@ void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
     }
 }
 
+constexpr const char* kAllLayers = "All";
+
 }  // namespace
 
-LayerFilters::LayerFilters() {
-    root.name = "All";
+LayerFilters::LayerFilters() : current(kAllLayers) {
+    root.name = kAllLayers;
     root.kind = FilterKind::All;
     LayerFilter used;
     used.name = "All Used Layers";
     used.kind = FilterKind::Used;
     root.children.push_back(used);
-    current = root.name;
 }
 
 const std::vector<Property<LayerFilters>>& LayerFilters::properties() {

@@ -29,7 +29,7 @@ bool writeLayer(const VariableScope& scope, const Value& value) {
         return false;
     const drawing::Database& database = *scope.database;
     const drawing::ObjectId id = database.find(RecordKind::Layer, value.asString());
-    const Layer* layer = database.look<Layer>(id);
+    const auto* layer = database.look<Layer>(id);
     // Work can't go on on a frozen layer, so it can't become the current one.
     return layer != nullptr && !layer->frozen &&
            writeRecord<Current>(scope, currentRecord,
