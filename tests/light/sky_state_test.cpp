@@ -136,7 +136,10 @@ TEST_F(SkyStateTest, AskingForASunMakesNone) {
         object->erase();
         object->close();
     }
+    drawing::Writing<drawing::Viewport>(data(), drawing::activeViewport(data()))->sun = {};
+    forget();
     EXPECT_FALSE(readSkyIllumination());
+    EXPECT_EQ(callCount("VxRxDynamicLinker::getSymbolAddress"), 1) << "the view has no sun";
     EXPECT_NE(getActiveSun(sun, false), Zorq::eOk);
 }
 
