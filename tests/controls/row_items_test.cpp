@@ -65,6 +65,16 @@ TEST_F(RowItemsTest, ItemsAreAppendedWithTheirTypesAndIds) {
     inner.DestroyWindow();
 }
 
+TEST_F(RowItemsTest, ItemsKnowTheControlThatTheyStandOn) {
+    addRowBreakItem(&m_row);
+    addSeparatorItem(&m_row);
+    addControlItem(&m_row, m_row.m_hWnd);
+    addIconItem(&m_row, L"TPB_X", L"RCDATA_NO_SUCH_PICTURE");
+    ASSERT_EQ(m_row.GetToolPanelItemCount(), 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(m_row.GetToolPanelItem(i)->m_record->toolPanel, &m_row) << i;
+}
+
 TEST_F(RowItemsTest, NoControlOrNoWindowAddsNothing) {
     EXPECT_EQ(addRowBreakItem(nullptr), 0);
     EXPECT_EQ(addSeparatorItem(nullptr), 0);

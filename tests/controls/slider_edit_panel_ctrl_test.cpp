@@ -51,6 +51,11 @@ TEST_F(SliderEditTest, LayoutSizesTheSliderInItsPlaceAndThenSetsTheFieldBehindTh
     const CRect slider = rectOf(control.slider());
     const CRect edit = rectOf(control.edit());
     ASSERT_NE(edit.top, 0) << "or a lost place would not show";
+    CRect place;
+    control.GetToolPanelItem(3)->GetRect(place, 1);
+    EXPECT_EQ(edit.Height(), place.Height());
+    control.GetToolPanelItem(1)->GetRect(place, 1);
+    EXPECT_EQ(slider.Height(), place.Height());
     forget();
     control.UpdateLayout(0);
     EXPECT_EQ(rectOf(control.slider()), slider);

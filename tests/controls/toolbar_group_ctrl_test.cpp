@@ -1,6 +1,7 @@
 #include "controls/toolbar_group_ctrl.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/answer_in_place.h"
 #include "tests/support/call_lines.h"
 #include "tests/support/control_bench.h"
 #include "workbench/base/text.h"
@@ -129,6 +130,14 @@ TEST_F(LayerListTest, HostIsAskedOnceForEachNoticeWithItsParameters) {
     EXPECT_EQ(asked(), (Calls{"HandleToolbarComboMessage(1111, 7, 459863)",
                               "HandleToolbarComboMessage(1111, 8, 525399)",
                               "HandleToolbarComboMessage(1111, 9, 590935)"}));
+}
+
+TEST_F(LayerListTest, OpeningAndClosingEndHereAndOtherNoticesGoOnToTheToolkit) {
+    const auto control = reinterpret_cast<LPARAM>(list());
+    const support::AnswerInPlace toolkit(bench().windows(), window(), WM_COMMAND, 5);
+    EXPECT_EQ(command(7, control), 0);
+    EXPECT_EQ(command(8, control), 0);
+    EXPECT_EQ(command(9, control), 5);
 }
 
 TEST_F(LayerListTest, ListCountsAsOpenBeforeTheHostIsAsked) {

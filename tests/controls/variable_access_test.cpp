@@ -1,6 +1,7 @@
 #include "controls/variable_access.h"
 
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/heap_use.h"
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
 
@@ -54,6 +55,23 @@ TEST_F(VariableAccessTest, TextReadTakesTextsOnly) {
     EXPECT_FALSE(readVariableText(L"TILEMODE").has_value());
     EXPECT_FALSE(readVariableText(L"NOSUCHVARIABLE").has_value());
 }
+
+class TextMemoryTest : public VariableAccessTest,
+                       public testing::WithParamInterface<void (*)(const wchar_t*)> {};
+
+TEST_P(TextMemoryTest, IsGivenBack) {
+    constexpr int kReads = 10;
+    bench().journal().setRecording(false);
+    GetParam()(L"CPROFILE");
+    const std::size_t before = support::heapBytesTaken();
+    for (int i = 0; i < kReads; ++i)
+        GetParam()(L"CPROFILE");
+    EXPECT_EQ(support::heapBytesTaken(), before);
+}
+
+INSTANTIATE_TEST_SUITE_P(Reads, TextMemoryTest,
+                         testing::Values([](const wchar_t* name) { readVariableText(name); },
+                                         [](const wchar_t* name) { readVariableStrict(name); }));
 
 TEST_F(VariableAccessTest, WriteGoesThrough) {
     writeVariableShort(L"LAYLOCKFADECTL", 12);

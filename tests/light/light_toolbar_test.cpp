@@ -5,6 +5,7 @@
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/bench.h"
 #include "workbench/editor/editor.h"
+#include "workbench/editor/variables/sky_status.h"
 #include "workbench/toolkit/lookup.h"
 
 #include <ostream>
@@ -202,6 +203,15 @@ protected:
         return {state(L"ID_Adjust_Exposure"), state(L"ID_DistantLight"),
                 state(L"LightSliderControl5"), state(L"TPL_0030"), sky};
     }
+    /// What changed of the items, in order, such as "TPL_0030 hidden".
+    std::vector<std::string> takeItemChanges() {
+        std::vector<std::string> changes;
+        for (const workbench::JournalRecord& record : bench().journal().take("item")) {
+            changes.push_back(record.field("id").asString() + " " +
+                              record.field("field").asString());
+        }
+        return changes;
+    }
     std::vector<std::string> takeReads() {
         return takeLines({"vxedGetVar", "vxdbHostApplicationServices",
                           "VxDbHostApplicationServices::workingDatabase", "vxedActiveViewportId"});
@@ -219,6 +229,25 @@ TEST_F(LinkedLightToolbarTest, StatesFollowTheUnitsAndTheSpace) {
     set(L"LIGHTINGUNITS", 0);
     EXPECT_EQ(states(), (LightStates{kDisabled, 0, kHidden, kHidden, kDisabled}))
         << "generic units leave the sky tools alone";
+}
+
+TEST_F(LinkedLightToolbarTest, ItemsChangeFromTheExposureToTheFlyouts) {
+    set(L"LIGHTINGUNITS", 1);
+    set(L"TILEMODE", 0);
+    forget();
+    set(L"LIGHTINGUNITS", 0);
+    EXPECT_EQ(takeItemChanges(),
+              (std::vector<std::string>{"ID_Adjust_Exposure disabled", "ID_DistantLight disabled",
+                                        "TPL_0030 hidden", "LightSliderControl5 hidden",
+                                        "TPL_0042 tool"}));
+    ASSERT_TRUE(workbench::writeSkyStatus(bench().editor().documents().current()->data(), 2));
+    set(L"LIGHTINGUNITS", 2);
+    EXPECT_EQ(takeItemChanges(),
+              (std::vector<std::string>{
+                  "ID_Adjust_Exposure disabled", "ID_DistantLight disabled", "TPL_0030 hidden",
+                  "LightSliderControl5 hidden", "ID_Skylight_Off disabled",
+                  "ID_Skylight_Background disabled", "ID_Skylight_Illumination disabled",
+                  "TPL_0030 tool", "TPL_0042 tool"}));
 }
 
 TEST_F(LinkedLightToolbarTest, GenericUnitsReadNothingButTheUnits) {

@@ -136,7 +136,10 @@ TEST_F(SkyStateTest, AskingForASunMakesNone) {
         object->erase();
         object->close();
     }
+    drawing::Writing<drawing::Viewport>(data(), drawing::activeViewport(data()))->sun = {};
+    forget();
     EXPECT_FALSE(readSkyIllumination());
+    EXPECT_EQ(callCount("VxRxDynamicLinker::getSymbolAddress"), 1) << "the view has no sun";
     EXPECT_NE(getActiveSun(sun, false), Zorq::eOk);
 }
 
@@ -164,6 +167,7 @@ TEST_F(SheetSkyTest, ViewportHasABackgroundAndASunOfItsOwn) {
     setSky(2);
     EXPECT_EQ(readSkyStatus(), kSkyStatusOn);
     EXPECT_TRUE(readSkyIllumination());
+    EXPECT_EQ(callCount("VxRxDynamicLinker::getSymbolAddress"), 0) << "the viewport has its sun";
     EXPECT_TRUE(allClosed());
 }
 

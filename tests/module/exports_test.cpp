@@ -210,6 +210,16 @@ TEST_F(ExportsTest, VisiblePanelsAreListedInTheOrderOfTheRecords) {
     EXPECT_EQ(panels.back(), (std::pair<VxString, VxString>{L"HouseTools", L"HOUSETOOLS"}));
 }
 
+TEST_F(ExportsTest, ListOfPanelsThatIsNoneAnswersZeroAndChangesNothing) {
+    showDashboard();
+    const VxDaPanelList before = visiblePanels();
+    takeJournal();
+    EXPECT_EQ(exported<VxDaGetVisiblePanelsFn>("VxDaGetVisiblePanels")(nullptr), 0);
+    EXPECT_EQ(exported<VxDaSetVisiblePanelsFn>("VxDaSetVisiblePanels")(nullptr), 0);
+    EXPECT_TRUE(takeCalls().empty());
+    EXPECT_EQ(visiblePanels(), before);
+}
+
 TEST_F(ExportsTest, SetVisiblePanelsWithoutTheRefreshFlagOnlyHides) {
     showDashboard();
     EXPECT_EQ(setVisiblePanels({{L"Layers", L"ZORQ"}}), 1);

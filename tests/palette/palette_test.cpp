@@ -195,6 +195,23 @@ TEST_F(PaletteWindowTest, AReplacedPanelSetFillsThePalette) {
     EXPECT_EQ(panelSet().GetParent(), &palette());
 }
 
+TEST_F(PaletteWindowTest, AReplacementInsideAReplacementChangesNothing) {
+    show();
+    bool asked = false;
+    forget();
+    const auto watch = bench().journal().addListener([&](const workbench::JournalRecord& record) {
+        if (record.field("name") != workbench::Value("CWnd::DestroyWindow") || asked)
+            return;
+        asked = true;
+        palette().replacePanelSet();
+    });
+    palette().replacePanelSet();
+    EXPECT_TRUE(asked);
+    EXPECT_EQ(takeLines({"CQrUiPanelSet::Create"}),
+              Lines{"CQrUiPanelSet::Create(1342177280, object, 1)"});
+    EXPECT_TRUE(IsWindow(panelSet().m_hWnd));
+}
+
 TEST_F(PaletteWindowTest, WithoutAWindowTheReplacedPanelSetHasNoneEither) {
     fail("QrUiGetThemeManager", 100);
     load();

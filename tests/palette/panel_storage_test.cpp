@@ -62,6 +62,13 @@ TEST_F(PanelStorageTest, WithoutAnElementTheRecordsKeepWhatTheyHave) {
     EXPECT_EQ(readVisible(), (Flags{true, true, true}));
 }
 
+TEST_F(PanelStorageTest, WithoutTheSetsElementNothingElseIsRead) {
+    forget();
+    readSavedPanels(m_root.get(), m_records);
+    EXPECT_EQ(takeLines(),
+              std::vector<std::string>{"VxUt::GetChildNode(object, \"CVxDaPanelSet\")"});
+}
+
 /// A saved "Visible" and what it means.
 struct VisibleRow {
     const wchar_t* saved;
@@ -198,6 +205,14 @@ TEST_F(PanelStorageTest, WritesAnElementForEachRecordInOrder) {
     }
     EXPECT_EQ(written, (std::vector<VxString>{L"CVxDaPanel MAIN/A 0 ", L"CVxDaPanel MAIN/B 0 Doors",
                                               L"CVxDaPanel OTHER/A 0 "}));
+}
+
+TEST_F(PanelStorageTest, ASetsElementThatIsRefusedEndsTheSaveAtOnce) {
+    forget();
+    fail("VxUt::AddChildNode");
+    EXPECT_FALSE(writeSavedPanels(m_root.get(), m_records));
+    EXPECT_EQ(takeLines(),
+              std::vector<std::string>{"VxUt::AddChildNode(object, \"CVxDaPanelSet\", 1)"});
 }
 
 TEST_F(PanelStorageTest, APanelThatWasNeverMadeIsSavedAsHiddenWhateverItsFlagSays) {

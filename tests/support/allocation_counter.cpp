@@ -1,12 +1,24 @@
 #include "tests/support/allocation_counter.h"
 
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
 #include <new>
 
 namespace {
 
 std::atomic<std::size_t> s_allocations = 0;
+
+/// Overwrites memory that is about to be given back, so that whoever still uses it breaks. The words
+/// are no addresses, and lie so far apart that a list whose ends they are doesn't pass for an empty
+/// one.
+void spoil(void* memory, std::size_t size) {
+    constexpr std::uintptr_t kFirstWord = UINTPTR_MAX / 15 * 13;  // 0xdd in every byte
+    constexpr std::uintptr_t kDistance = 64;
+    auto* const words = static_cast<volatile std::uintptr_t*>(memory);  // or nothing is written
+    for (std::size_t i = 0; i < size / sizeof(std::uintptr_t); ++i)
+        words[i] = kFirstWord + i * kDistance;
+}
 
 }  // namespace
 
@@ -37,6 +49,8 @@ void operator delete(void* memory) noexcept {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t) noexcept {
+void operator delete(void* memory, std::size_t size) noexcept {
+    if (memory != nullptr)
+        spoil(memory, size);
     std::free(memory);
 }
