@@ -11,7 +11,7 @@ assert(layers:visible() and light:visible())
 
 -- The menu of a panel lists all panels; those on show are checked.
 local function checked(panel, line)
-    local lines, checks = panel:menu()
+    local lines, _, checks = panel:menu()
     for _, text in ipairs(lines) do
         if text == line then
             return checks[line] == true

@@ -26,7 +26,7 @@ wb.load()
 wb.type("DASHBOARDOLD\n")
 assert(wb.panel("Light"):visible())
 assert(wb.panel("Sun") == nil)
-local _, checks = wb.panel("Light"):menu()
+local _, _, checks = wb.panel("Light"):menu()
 assert(checks["Tool Palette Group/Furniture"])
 assert(not checks["Panels/Sun and sky"])
 

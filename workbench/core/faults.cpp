@@ -2,8 +2,9 @@
 
 namespace workbench {
 
-void Faults::fail(std::string_view call, std::optional<int> status, std::optional<int> count) {
-    m_faults.insert_or_assign(std::string(call), Pending{status, count, false});
+void Faults::fail(std::string_view call, std::optional<int> status, std::optional<int> count,
+                  int after) {
+    m_faults.insert_or_assign(std::string(call), Pending{status, count, after, false});
 }
 
 void Faults::unfail(std::string_view call) {
@@ -35,6 +36,10 @@ std::optional<Faults::Fault> Faults::take(std::string_view call) {
     const auto found = m_faults.find(call);
     if (found == m_faults.end())
         return {};
+    if (found->second.passes > 0) {
+        --found->second.passes;
+        return {};
+    }
     const Fault fault{found->second.status};
     found->second.taken = true;
     if (found->second.left && --*found->second.left <= 0)

@@ -14,8 +14,9 @@ namespace workbench {
 class Faults {
 public:
     /// Has a host call fail: with a status, or with the call's usual one; `count` times, or until
-    /// `unfail`. An earlier fault of the call is replaced.
-    void fail(std::string_view call, std::optional<int> status = {}, std::optional<int> count = {});
+    /// `unfail`; the first `after` calls from now on go well. An earlier fault of the call is replaced.
+    void fail(std::string_view call, std::optional<int> status = {}, std::optional<int> count = {},
+              int after = 0);
     void unfail(std::string_view call);
     /// Ends a fault that was given no count.
     void endLasting(std::string_view call);
@@ -40,6 +41,7 @@ private:
     struct Pending {
         std::optional<int> status;
         std::optional<int> left;  // nothing: without end
+        int passes = 0;           // calls that still go well
         bool taken = false;
     };
     std::map<std::string, Pending, std::less<>> m_faults;

@@ -24,7 +24,28 @@ void openMenu(Toolkit& toolkit, HWND window, PopupMenus::Chooser chooser) {
     throw GestureError("no context menu opens");
 }
 
+void addLines(const std::vector<MenuLine>& menu, const std::wstring& path,
+              std::vector<PlacedLine>& all) {
+    for (const MenuLine& line : menu) {
+        all.push_back({line.separator ? path + L"-" : path + line.text, &line});
+        addLines(line.children, path + line.text + L"/", all);
+    }
+}
+
+/// What choosing a line answers the menu; nothing if a user can't choose it.
+std::optional<UINT> answerOf(const MenuLine& line) {
+    if (line.disabled || line.command == 0)
+        return {};
+    return line.command;
+}
+
 }  // namespace
+
+std::vector<PlacedLine> linesInOrder(const std::vector<MenuLine>& menu) {
+    std::vector<PlacedLine> all;
+    addLines(menu, {}, all);
+    return all;
+}
 
 std::vector<MenuLine> readContextMenu(Toolkit& toolkit, HWND window) {
     std::vector<MenuLine> read;
@@ -40,12 +61,23 @@ void chooseFromContextMenu(Toolkit& toolkit, HWND window, const std::wstring& pa
     openMenu(toolkit, window, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
         const MenuLine* const line = findMenuLine(lines, path);
         found = line != nullptr;
-        if (line == nullptr || line->disabled || line->command == 0)
-            return {};
-        return line->command;
+        return line == nullptr ? std::nullopt : answerOf(*line);
     });
     if (!found)
         throw GestureError("the menu has no line \"" + toUtf8(path) + "\"");
+}
+
+void chooseLineOfContextMenu(Toolkit& toolkit, HWND window, std::size_t number) {
+    std::size_t count = 0;
+    openMenu(toolkit, window, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
+        const std::vector<PlacedLine> all = linesInOrder(lines);
+        count = all.size();
+        return number < 1 || number > count ? std::nullopt : answerOf(*all[number - 1].line);
+    });
+    if (number < 1 || number > count) {
+        throw GestureError("the menu has no line " + std::to_string(number) + ": it has " +
+                           std::to_string(count));
+    }
 }
 
 }  // namespace workbench::gestures

@@ -4,6 +4,7 @@
 
 #include <hostapi/types.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -20,5 +21,16 @@ std::vector<MenuLine> readContextMenu(Toolkit& toolkit, HWND window);
 /// Opens the context menu and chooses the line under a path of labels, such as "Panels/Layers".
 /// Raises `GestureError` if there is no such line.
 void chooseFromContextMenu(Toolkit& toolkit, HWND window, const std::wstring& path);
+/// The same by the line's number from 1 on, as `linesInOrder` counts them.
+void chooseLineOfContextMenu(Toolkit& toolkit, HWND window, std::size_t number);
+
+/// A line of a menu or of one of its popups.
+struct PlacedLine {
+    std::wstring
+        path;  ///< its label behind those of the popups that it stands in; "-" for a separator
+    const MenuLine* line;  ///< of the menu that was read
+};
+/// All lines as they stand below each other, those of a popup behind the popup's own.
+std::vector<PlacedLine> linesInOrder(const std::vector<MenuLine>& menu);
 
 }  // namespace workbench::gestures

@@ -136,6 +136,31 @@ int put(Session& session, Arguments& arguments) {
     return 0;
 }
 
+/// Key by key, behind what the field holds where it hasn't got the focus yet.
+int type(Session& session, Arguments& arguments) {
+    const std::string typed = arguments.text(1);
+    const HWND field = fieldOf(session, arguments, 2);
+    if (windows(session).focus() != field && !gestures::focusField(session.toolkit(), field))
+        throw ScriptError("the field is disabled");
+    session.settle();
+    for (const wchar_t letter : toWide(typed)) {
+        gestures::typeText(session.toolkit(), std::wstring_view(&letter, 1));
+        session.settle();
+    }
+    return 0;
+}
+
+/// Result: the control's answer.
+int send(Session& session, Arguments& arguments) {
+    const HWND control = controlOf(session, arguments);
+    const LRESULT answer = windows(session).send(control, static_cast<UINT>(arguments.int32(1)),
+                                                 static_cast<WPARAM>(arguments.integerOr(2, 0)),
+                                                 static_cast<LPARAM>(arguments.integerOr(3, 0)));
+    session.settle();
+    lua_pushinteger(arguments.lua(), static_cast<lua_Integer>(answer));
+    return 1;
+}
+
 int enter(Session& session, Arguments& arguments) {
     putText(session, arguments);
     gestures::pressKey(session.toolkit(), "enter");
@@ -282,9 +307,11 @@ const std::vector<Call>& controlMethods() {
         {"range", range},
         {"release", release, CallKind::Acts},
         {"selected", selected},
+        {"send", send, CallKind::Acts},
         {"slider", slider},
         {"text", text},
         {"tip", tip},
+        {"type", type, CallKind::Acts},
         {"visible", visible},
         {"wheel", wheel, CallKind::Acts},
     };

@@ -144,7 +144,9 @@ int redo(Session& session, Arguments& arguments) {
 
 int db(Session& session, Arguments& arguments) {
     const std::string path = arguments.text(1);
-    drawing::Database& data = currentDocument(session).data();
+    drawing::Database& data =
+        (arguments.has(3) ? documentNamed(session, arguments.text(3)) : currentDocument(session))
+            .data();
     if (arguments.count() < 2) {
         push(arguments.lua(), drawing::getByPath(data, path));
         return 1;

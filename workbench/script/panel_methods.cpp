@@ -11,33 +11,47 @@ namespace workbench::script {
 
 namespace {
 
-/// Adds each line's text, "-" for a separator; the lines of a popup follow it as "Popup/Line".
-void addLines(const std::vector<MenuLine>& lines, const std::string& path, Value::List& texts,
-              Value::Table& checked) {
-    for (const MenuLine& line : lines) {
-        const std::string text = line.separator ? path + "-" : path + toUtf8(line.text);
-        texts.push_back(text);
-        if (line.checked)
-            checked.push_back({text, true});
-        addLines(line.children, text + "/", texts, checked);
+/// A table with true at the number, and under the text, of each line that has a mark.
+void pushMarks(lua_State* lua, const std::vector<gestures::PlacedLine>& lines,
+               bool MenuLine::*mark) {
+    lua_newtable(lua);
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (!(lines[i].line->*mark))
+            continue;
+        lua_pushboolean(lua, 1);
+        lua_rawseti(lua, -2, static_cast<lua_Integer>(i + 1));
+        lua_pushboolean(lua, 1);
+        lua_setfield(lua, -2, toUtf8(lines[i].path).c_str());
     }
 }
 
-/// Results without a path: the lines, and a table with true for each checked one.
+int chooseLine(Session& session, Arguments& arguments, HWND window) {
+    if (lua_isinteger(arguments.lua(), arguments.index(1)) != 0) {
+        const std::int64_t number = arguments.integer(1);
+        gestures::chooseLineOfContextMenu(session.toolkit(), window,
+                                          number < 0 ? 0 : static_cast<std::size_t>(number));
+    } else {
+        gestures::chooseFromContextMenu(session.toolkit(), window, toWide(arguments.text(1)));
+    }
+    session.settle();
+    return 0;
+}
+
+/// Results without a line: the lines, the marks of those that are disabled, and of those that are
+/// checked.
 int menu(Session& session, Arguments& arguments) {
     const HWND window = panelOf(session, arguments).m_hWnd;
-    const auto path = arguments.optionalText(1);
-    if (path) {
-        gestures::chooseFromContextMenu(session.toolkit(), window, toWide(*path));
-        session.settle();
-        return 0;
-    }
-    Value::List texts;
-    Value::Table checked;
-    addLines(gestures::readContextMenu(session.toolkit(), window), "", texts, checked);
-    push(arguments.lua(), Value(std::move(texts)));
-    push(arguments.lua(), Value(std::move(checked)));
-    return 2;
+    if (arguments.has(1))
+        return chooseLine(session, arguments, window);
+    const std::vector<MenuLine> read = gestures::readContextMenu(session.toolkit(), window);
+    const std::vector<gestures::PlacedLine> lines = gestures::linesInOrder(read);
+    std::vector<std::string> texts;
+    for (const gestures::PlacedLine& each : lines)
+        texts.push_back(toUtf8(each.path));
+    push(arguments.lua(), texts);
+    pushMarks(arguments.lua(), lines, &MenuLine::disabled);
+    pushMarks(arguments.lua(), lines, &MenuLine::checked);
+    return 3;
 }
 
 int visible(Session& session, Arguments& arguments) {

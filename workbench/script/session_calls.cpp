@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
 
 namespace workbench::script {
@@ -29,8 +30,11 @@ int unhide(Session& session, Arguments& arguments) {
 }
 
 int fail(Session& session, Arguments& arguments) {
+    const int after = arguments.optionalInt32(4).value_or(0);
+    if (after < 0)
+        throw ScriptError("the number of calls that go well can't be negative");
     session.workbench().faults().fail(arguments.text(1), arguments.optionalInt32(2),
-                                      arguments.optionalInt32(3));
+                                      arguments.optionalInt32(3), after);
     return 0;
 }
 
@@ -83,6 +87,16 @@ int saveProfile(Session& session, Arguments& /*arguments*/) {
     return 0;
 }
 
+int theme(Session& session, Arguments& arguments) {
+    const std::string name = arguments.text(1);
+    const std::optional<Shade> shade = shadeOf(name);
+    if (!shade)
+        throw ScriptError("there is no theme \"" + name + "\": light or dark");
+    session.toolkit().setShade(*shade);
+    session.settle();
+    return 0;
+}
+
 int workspace(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
     if (!session.workbench().menu().switchWorkspace(name)) {
@@ -117,6 +131,7 @@ const std::vector<Call>& sessionCalls() {
         {"quit_abort", quitAbort, CallKind::Acts},
         {"quit_begin", quitBegin, CallKind::Acts},
         {"save_profile", saveProfile, CallKind::Acts},
+        {"theme", theme, CallKind::Acts},
         {"unfail", unfail, CallKind::Acts},
         {"unhide", unhide, CallKind::Acts},
         {"wait", wait, CallKind::Acts},

@@ -1,8 +1,18 @@
 #include "workbench/toolkit/toolkit.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/windows/window_system.h"
 
+#include <algorithm>
+
 namespace workbench {
+
+namespace {
+
+constexpr const wchar_t* kThemeName = L"ToolPanel";
+constexpr int kAllElements = 0;
+
+}  // namespace
 
 Toolkit::Toolkit(WindowSystem& windows, Journal& journal, Answers& answers, const ShownTexts& texts)
     : m_windows(windows),
@@ -16,6 +26,26 @@ Toolkit::Toolkit(WindowSystem& windows, Journal& journal, Answers& answers, cons
       m_boxes(answers, m_notes),
       m_menus(answers),
       m_mouse(*this) {}
+
+void Toolkit::setShade(Shade shade) {
+    if (shade == m_shade)
+        return;
+    const Turn turn;
+    m_journal.add("control", {{"name", "MainFrame"},
+                              {"field", "theme"},
+                              {"old", nameOf(m_shade)},
+                              {"new", nameOf(shade)}});
+    m_shade = shade;
+    Theme* const theme = m_themes.find(kThemeName);
+    theme->changeElement(kAllElements);
+    // A set may go while another is told: each is asked for again before its turn.
+    const std::vector<CQrUiPaletteSet*> round = m_frame.bars();
+    for (CQrUiPaletteSet* set : round) {
+        const std::vector<CQrUiPaletteSet*>& now = m_frame.bars();
+        if (std::find(now.begin(), now.end(), set) != now.end() && set->GetTheme() == theme)
+            set->ThemeModified(kAllElements);
+    }
+}
 
 void Toolkit::idleUpdate() {
     const std::vector<CQrUiPaletteSet*>& bars = m_frame.bars();

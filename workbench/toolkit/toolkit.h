@@ -7,6 +7,7 @@
 #include "workbench/toolkit/object_states.h"
 #include "workbench/toolkit/picture_table.h"
 #include "workbench/toolkit/popup_menus.h"
+#include "workbench/toolkit/shade.h"
 #include "workbench/toolkit/shown_texts.h"
 #include "workbench/toolkit/state_table.h"
 #include "workbench/toolkit/text_notes.h"
@@ -56,6 +57,11 @@ public:
     int iconSize() const { return m_iconSize; }
     void setIconSize(int pixels) { m_iconSize = pixels; }
 
+    Shade shade() const { return m_shade; }
+    /// Shows everything in a shade, as the user chooses it: who watches the theme "ToolPanel" is told
+    /// that all of it changed, then the palette sets that have it. Nothing if it has the shade.
+    void setShade(Shade shade);
+
     /// One idle tick: the palette sets bring their commands up to date.
     void idleUpdate();
 
@@ -84,6 +90,7 @@ private:
     PopupMenus m_menus;
     Mouse m_mouse;
     int m_iconSize = 16;  // pixels
+    Shade m_shade = Shade::Light;
     int m_liveItems = 0;
 };
 

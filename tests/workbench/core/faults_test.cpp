@@ -23,6 +23,16 @@ TEST(FaultsTest, ACountedFaultEndsByItself) {
     EXPECT_FALSE(faults.take("vxedSetVar").has_value());
 }
 
+TEST(FaultsTest, TheFirstCallsGoWellIfSoAsked) {
+    Faults faults;
+    faults.fail("vxedSetVar", 5001, 1, 2);
+    EXPECT_FALSE(faults.take("vxedSetVar").has_value());
+    EXPECT_FALSE(faults.take("vxedSetVar").has_value());
+    EXPECT_EQ(faults.untaken(), std::vector<std::string>{"vxedSetVar"});
+    EXPECT_EQ(faults.take("vxedSetVar")->status, 5001);
+    EXPECT_FALSE(faults.take("vxedSetVar").has_value());
+}
+
 TEST(FaultsTest, ALaterFaultReplacesTheEarlier) {
     Faults faults;
     faults.fail("vxedSetVar", 5001, 1);

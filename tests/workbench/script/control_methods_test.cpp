@@ -93,6 +93,31 @@ TEST_F(ControlMethodsTest, UnknownFieldOrKeyIsNamed) {
     )");
 }
 
+TEST_F(ControlMethodsTest, TypingGoesKeyByKeyAndEndsNoEntry) {
+    runOnFade(R"(
+        fade:put("4")
+        fade:type("2")
+        assert(fade:text():find("42", 1, true) and wb.var("LAYLOCKFADECTL") == 50)
+        fade:key("enter")
+        assert(wb.var("LAYLOCKFADECTL") == 42)
+        fade:enabled("edit")
+        wb.begin("LINE")
+        local done, reason = pcall(fade.type, fade, "7")
+        assert(not done and reason:find("the field is disabled", 1, true))
+        wb.finish()
+    )");
+}
+
+TEST_F(ControlMethodsTest, MessageIsSentToTheControlItself) {
+    runOnFade(R"(
+        wb.journal()
+        assert(fade:send(1566) == 1)
+        local sent = wb.journal("message")[1]
+        assert(sent.control == "LayerLockTransparencySliderControl" and sent.number == 1566)
+        assert(sent.wparam == 0 and sent.lparam == 0)
+    )");
+}
+
 TEST_F(ControlMethodsTest, ControlOnAHiddenPanelTakesNoGesture) {
     runOnFade(R"(
         wb.panel("Layers"):menu("Hide")

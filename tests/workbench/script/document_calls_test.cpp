@@ -82,6 +82,13 @@ TEST_F(DocumentCallsTest, DrawingIsReadAndChangedByPath) {
         "assert(wb.db('layers.Nowhere') == nil)");
 }
 
+TEST_F(DocumentCallsTest, DrawingOfAnotherDocumentIsChangedByItsName) {
+    run("wb.new('A') wb.new('B') wb.db('layers.Pipes', {}, 'A') "
+        "assert(wb.db('layers.Pipes') == nil) "
+        "wb.activate('A') assert(wb.db('layers.Pipes') ~= nil)");
+    EXPECT_EQ(complaintOf("wb.db('layers.Pipes', {}, 'C')"), "wb.db: there is no document \"C\"");
+}
+
 TEST_F(DocumentCallsTest, WrongPathTellsWhy) {
     EXPECT_EQ(complaintOf("wb.db('nonsense.x')").find("wb.db: "), 0U);
 }

@@ -9,12 +9,37 @@ class PanelMethodsTest : public ScriptTest {};
 
 TEST_F(PanelMethodsTest, MenuIsReadAsLinesWithTheirMarks) {
     runOnDashboard(R"(
-        local lines, checks = wb.panel("Layers"):menu()
+        local lines, _, checks = wb.panel("Layers"):menu()
         local found = {}
         for _, line in ipairs(lines) do found[line] = true end
         assert(lines[1] == "Collapse" and lines[2] == "-")
         assert(found["Panels"] and found["Panels/Light"] and found["Hide"])
         assert(checks["Panels/Light"] == true and checks["Hide"] == nil)
+    )");
+}
+
+TEST_F(PanelMethodsTest, DisabledLinesAreMarkedByNumberAndByText) {
+    runOnDashboard(R"(
+        local lines, disabled = wb.panel("Layers"):menu()
+        for number, line in ipairs(lines) do
+            if line ~= "-" then assert(disabled[number] == disabled[line], line) end
+        end
+        assert(not disabled["Hide"])
+    )");
+}
+
+TEST_F(PanelMethodsTest, LineIsChosenByItsNumber) {
+    runOnDashboard(R"(
+        local layers = wb.panel("Layers")
+        local lines = layers:menu()
+        for number, line in ipairs(lines) do
+            if line == "Panels/Light" then layers:menu(number) break end
+        end
+        assert(not wb.panel("Light"):visible())
+        for _, number in ipairs({0, -1, #lines + 1}) do
+            local done, reason = pcall(layers.menu, layers, number)
+            assert(not done and reason:find("the menu has no line", 1, true))
+        end
     )");
 }
 

@@ -32,6 +32,43 @@ TEST_F(SessionCallsTest, FaultComesAsOftenAsAsked) {
     )");
 }
 
+TEST_F(SessionCallsTest, FaultComesAfterTheCallsThatAreToGoWell) {
+    runOnDashboard(R"(
+        local fade = wb.control("LayerLockTransparencySliderControl")
+        wb.fail("vxedSetVar", -5001, 1, 1)
+        fade:enter("20")
+        assert(wb.var("LAYLOCKFADECTL") == 20)
+        fade:enter("30")
+        assert(wb.var("LAYLOCKFADECTL") == 20)
+        fade:enter("40")
+        assert(wb.var("LAYLOCKFADECTL") == 40)
+    )");
+    EXPECT_EQ(complaintOf("wb.fail('vxedSetVar', nil, 1, -1)"),
+              "wb.fail: the number of calls that go well can't be negative");
+}
+
+TEST_F(SessionCallsTest, ThemeIsSwitchedAndTheControlsHearOfIt) {
+    runOnDashboard(R"(
+        wb.journal()
+        wb.theme("dark")
+        local theme, heard = nil, {}
+        for _, record in ipairs(wb.journal()) do
+            if record.kind == "control" and record.field == "theme" then theme = record end
+            if record.kind == "message" and record.number == 1565 then
+                heard[record.control] = true
+            end
+        end
+        assert(theme.old == "light" and theme.new == "dark")
+        assert(heard["3DNavPointTriplet1"] and heard["LayerLockTransparencySliderControl"])
+        wb.theme("dark")
+        for _, record in ipairs(wb.journal()) do
+            assert(record.kind ~= "message" and record.kind ~= "control", "it is dark already")
+        end
+    )");
+    EXPECT_EQ(complaintOf("wb.theme('pink')"),
+              "wb.theme: there is no theme \"pink\": light or dark");
+}
+
 TEST_F(SessionCallsTest, FaultWithoutCountStaysUntilTakenBack) {
     runOnDashboard(R"(
         local fade = wb.control("LayerLockTransparencySliderControl")

@@ -2,13 +2,13 @@
 
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/app/main_window.h"
-#include "workbench/desktop/look/shade_names.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/window_mirror.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/toolkit/shade.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/vxdashboard.h>

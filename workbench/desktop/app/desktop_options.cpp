@@ -1,6 +1,6 @@
 #include "workbench/desktop/app/desktop_options.h"
 
-#include "workbench/desktop/look/shade_names.h"
+#include "workbench/toolkit/shade.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,8 @@
 #include "workbench/desktop/app/desktop_state.h"
 
 #include "workbench/base/input_error.h"
-#include "workbench/desktop/look/shade_names.h"
 #include "workbench/desktop/look/text.h"
+#include "workbench/toolkit/shade.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -127,6 +127,8 @@ void MainWindow::runCommand(const QString& text) {
 
 /// Whatever was done, the panes take it over here; the mirrored windows have their own notices.
 void MainWindow::onRest() {
+    if (m_shade != m_stage.toolkit.shade())
+        showShade(m_stage.toolkit.shade());
     m_splitter->follow();
     m_tabs->refresh();
     m_status->refresh(m_workbench);
@@ -149,12 +151,16 @@ void MainWindow::leaveDashboard(const QWidget* now) {
 }
 
 void MainWindow::setShade(Shade shade) {
+    m_pump.act([this, shade] { m_stage.toolkit.setShade(shade); });
+    showShade(shade);
+}
+
+void MainWindow::showShade(Shade shade) {
     m_shade = shade;
     m_stage.look = &lookOf(shade);
     QApplication::setPalette(paletteOf(*m_stage.look));
     QToolTip::setPalette(paletteOf(*m_stage.look));
     m_tabs->setLook(*m_stage.look);
-    m_pump.act([this] { tellThemeChanged(m_stage); });
     m_mirror->redrawAll();
 }
 

@@ -40,7 +40,7 @@ public:
     DocumentTabs& documentTabs() { return *m_tabs; }
 
     Shade shade() const { return m_shade; }
-    /// Changes all colours, those of the dashboard too.
+    /// Changes all colours, those of the dashboard too, which is told.
     void setShade(Shade shade);
     /// The user's language and formats from now on.
     void setLocale(const std::string& locale);
@@ -58,6 +58,7 @@ protected:
 
 private:
     void buildPanes();
+    void showShade(Shade shade);
     void onRest();
     void runCommand(const QString& text);
     void leaveDashboard(const QWidget* now);

@@ -18,9 +18,6 @@ namespace workbench::desktop {
 
 namespace {
 
-/// Elements of the toolkit's theme: titles, links, controls.
-constexpr int kThemeElements[] = {1, 2, 3};
-
 void showDashboard(Stage& stage) {
     for (const CQrUiPaletteSet* set : stage.toolkit.frame().bars()) {
         if (stage.windows.isOnScreen(set->m_hWnd))
@@ -81,13 +78,6 @@ void reveal(Stage& stage, WindowMirror& mirror, const SearchHit& hit) {
     stage.pump.act([&] { mirror.scrollIntoView(panel->m_hWnd); });
     mirror.sync();
     mark(mirror, *item);
-}
-
-void tellThemeChanged(Stage& stage) {
-    if (Theme* theme = stage.toolkit.themes().find(L"ToolPanel")) {
-        for (const int element : kThemeElements)
-            theme->changeElement(element);
-    }
 }
 
 QWidget* floatingDashboard(Stage& stage, WindowMirror& mirror) {

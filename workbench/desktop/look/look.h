@@ -1,11 +1,10 @@
 #pragma once
 
+#include "workbench/toolkit/shade.h"
+
 #include <QColor>
 
 namespace workbench::desktop {
-
-/// The two sets of colours.
-enum class Shade { Light, Dark };
 
 /// The colours that all of the window is drawn with.
 struct Look {

@@ -7,7 +7,6 @@
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/drawing_view/drawing_view.h"
-#include "workbench/desktop/look/shade_names.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/window_mirror.h"
 #include "workbench/desktop/panes/command_line.h"
@@ -16,6 +15,7 @@
 #include "workbench/editor/editor.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/shade.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_parts.h"
 #include "workbench/windows/window_system.h"
@@ -136,6 +136,16 @@ TEST_F(MainWindowTest, ThemesAreSwitchedWhileItRuns) {
     EXPECT_GT(light.lightness(), dark.lightness());
     m_window.setShade(Shade::Light);
     EXPECT_EQ(m_window.grab().toImage().pixelColor(m_window.width() - 100, 120), light);
+}
+
+TEST_F(MainWindowTest, TheWindowFollowsAThemeThatTheHostSwitches) {
+    const QColor light = m_window.grab().toImage().pixelColor(m_window.width() - 100, 120);
+    m_window.stage().pump.act([this] { m_workbench.toolkit().setShade(Shade::Dark); });
+    EXPECT_EQ(m_window.shade(), Shade::Dark);
+    const QColor dark = m_window.grab().toImage().pixelColor(m_window.width() - 100, 120);
+    EXPECT_GT(light.lightness(), dark.lightness());
+    m_window.setShade(Shade::Light);
+    EXPECT_EQ(m_workbench.toolkit().shade(), Shade::Light);
 }
 
 TEST_F(MainWindowTest, ASearchShowsAndMarksWhatItFound) {

@@ -1,8 +1,8 @@
 #include "tests/workbench/host/test_options.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/app/main_window.h"
-#include "workbench/desktop/look/shade_names.h"
 #include "workbench/startup/open_dashboard.h"
+#include "workbench/toolkit/shade.h"
 
 #include <gtest/gtest.h>
 

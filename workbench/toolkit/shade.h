@@ -1,11 +1,12 @@
 #pragma once
 
-#include "workbench/desktop/look/look.h"
-
 #include <optional>
 #include <string_view>
 
-namespace workbench::desktop {
+namespace workbench {
+
+/// The two sets of colours that the host is shown in.
+enum class Shade { Light, Dark };
 
 /// The shade of a name, "light" or "dark"; nothing for another name.
 constexpr std::optional<Shade> shadeOf(std::string_view name) {
@@ -21,4 +22,4 @@ constexpr const char* nameOf(Shade shade) {
     return shade == Shade::Dark ? "dark" : "light";
 }
 
-}  // namespace workbench::desktop
+}  // namespace workbench
