@@ -7,33 +7,19 @@ namespace workbench {
 
 namespace {
 
-int s_depth = 0;
 std::deque<std::function<void()>> s_putOff;
 
+}  // namespace
+
+int Turn::s_depth = 0;
+
 /// Does what was put off, and what that puts off in its turn.
-void catchUp() {
+void Turn::catchUp() {
     while (!s_putOff.empty()) {
         const std::function<void()> work = std::move(s_putOff.front());
         s_putOff.pop_front();
         work();
     }
-}
-
-}  // namespace
-
-Turn::Turn() {
-    ++s_depth;
-}
-
-Turn::~Turn() {
-    // The turn is still under way: what ends now may start turns of its own.
-    if (s_depth == 1)
-        catchUp();
-    --s_depth;
-}
-
-bool Turn::isUnderWay() {
-    return s_depth > 0;
 }
 
 void Turn::putOff(std::function<void()> work) {
