@@ -26,11 +26,15 @@ void spoil(void* memory, std::size_t size) {
         words[i] = kFirstWord + i * kDistance;
 }
 
-/// Gives memory back a while later, so that it isn't soon another's and looks well again.
+/// Gives an object's memory back a while later, so that it isn't soon another's and looks well again.
+/// What is larger goes at once.
 void giveBack(void* memory, std::size_t size) {
+    constexpr std::size_t kLargestObject = 4096;  // bytes
     constexpr std::size_t kWaiting = 1024;
     static std::atomic<void*> s_waiting[kWaiting];
     static std::atomic<std::size_t> s_next = 0;
+    if (size > kLargestObject)
+        return std::free(memory);
     spoil(memory, size);
     std::free(s_waiting[s_next++ % kWaiting].exchange(memory));
 }
