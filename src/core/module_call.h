@@ -16,7 +16,7 @@ public:
     /// The end of the outermost call frees what `keepDuringCall` was given, in that order.
     ~ModuleCall() {
         // Before the count goes down, so that a call from a destructor isn't taken for the outermost.
-        if (s_depth == 1)
+        if (s_depth == 1 && s_isAnyEnding)
             freeEnding();
         --s_depth;
     }
@@ -25,7 +25,8 @@ private:
     friend void keepDuringCall(std::shared_ptr<void> object);
     static void freeEnding();
 
-    static int s_depth;  // calls that run
+    static int s_depth;         // calls that run
+    static bool s_isAnyEnding;  // something is kept
 };
 
 /// Keeps an object until the outermost call returns; it ends at once while no call runs.

@@ -12,6 +12,7 @@ std::deque<std::function<void()>> s_putOff;
 }  // namespace
 
 int Turn::s_depth = 0;
+bool Turn::s_isWorkWaiting = false;
 
 /// Does what was put off, and what that puts off in its turn.
 void Turn::catchUp() {
@@ -20,18 +21,19 @@ void Turn::catchUp() {
         s_putOff.pop_front();
         work();
     }
+    s_isWorkWaiting = false;
 }
 
 void Turn::putOff(std::function<void()> work) {
-    if (isUnderWay())
-        s_putOff.push_back(std::move(work));
-    else
-        work();
+    if (!isUnderWay())
+        return work();
+    s_putOff.push_back(std::move(work));
+    s_isWorkWaiting = true;
 }
 
 void Turn::keep(std::shared_ptr<void> object) {
     if (isUnderWay())
-        s_putOff.emplace_back([kept = std::move(object)] {});
+        putOff([kept = std::move(object)] {});
 }
 
 }  // namespace workbench

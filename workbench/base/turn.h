@@ -15,7 +15,7 @@ public:
     Turn& operator=(const Turn&) = delete;
     ~Turn() {
         // The turn is still under way: what ends now may start turns of its own.
-        if (s_depth == 1)
+        if (s_depth == 1 && s_isWorkWaiting)
             catchUp();
         --s_depth;
     }
@@ -31,7 +31,8 @@ public:
 private:
     static void catchUp();
 
-    static int s_depth;  // turns that are under way
+    static int s_depth;           // turns that are under way
+    static bool s_isWorkWaiting;  // something was put off
 };
 
 }  // namespace workbench
