@@ -4,6 +4,7 @@
 #include <hostapi/window/gdi.h>
 #include <hostapi/window/messages.h>
 
+#include <cwchar>
 #include <string_view>
 
 class VxApDocument;
@@ -25,6 +26,12 @@ inline HDC drawingContextFrom(WPARAM wParam) {
 inline std::wstring_view eventNameFrom(LPARAM lParam) {
     const auto* name = reinterpret_cast<const wchar_t*>(lParam);
     return name == nullptr ? std::wstring_view() : std::wstring_view(name);
+}
+
+/// Whether a broadcast names this variable or command, spelt just so. Cheaper than asking its name.
+inline bool isEventNamed(LPARAM lParam, const wchar_t* name) {
+    const auto* given = reinterpret_cast<const wchar_t*>(lParam);
+    return given != nullptr && std::wcscmp(given, name) == 0;
 }
 
 /// The document that a broadcast names in lParam; null for none.

@@ -10,11 +10,23 @@
 /// members of `this` may still be touched; whether they are still in use is the object's to know.
 class ModuleCall {
 public:
-    ModuleCall() noexcept;
+    ModuleCall() noexcept { ++s_depth; }
     ModuleCall(const ModuleCall&) = delete;
     ModuleCall& operator=(const ModuleCall&) = delete;
     /// The end of the outermost call frees what `keepDuringCall` was given, in that order.
-    ~ModuleCall();
+    ~ModuleCall() {
+        // Before the count goes down, so that a call from a destructor isn't taken for the outermost.
+        if (s_depth == 1 && s_isAnyEnding)
+            freeEnding();
+        --s_depth;
+    }
+
+private:
+    friend void keepDuringCall(std::shared_ptr<void> object);
+    static void freeEnding();
+
+    static int s_depth;         // calls that run
+    static bool s_isAnyEnding;  // something is kept
 };
 
 /// Keeps an object until the outermost call returns; it ends at once while no call runs.

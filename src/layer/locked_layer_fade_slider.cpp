@@ -122,7 +122,7 @@ LRESULT CVxDaLockedLayerTransparencySliderCtrl::onTimer(WPARAM timer, LPARAM /*u
 }
 
 LRESULT CVxDaLockedLayerTransparencySliderCtrl::onSysVarChanged(WPARAM /*success*/, LPARAM name) {
-    if (eventNameFrom(name) != kVariable)
+    if (!isEventNamed(name, kVariable))
         return 0;
     const int fade = readVariableStrict(kVariable);
     if (fade == m_fade)

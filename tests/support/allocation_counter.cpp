@@ -9,16 +9,36 @@ namespace {
 
 std::atomic<std::size_t> s_allocations = 0;
 
+#if defined(__SANITIZE_ADDRESS__) || defined(NDEBUG)
+/// The sanitizer watches over what was given back; a measurement wants nothing watched.
+void giveBack(void* memory, std::size_t /*size*/) {
+    std::free(memory);
+}
+#else
 /// Overwrites memory that is about to be given back, so that whoever still uses it breaks. The words
-/// are no addresses, and lie so far apart that a list whose ends they are doesn't pass for an empty
-/// one.
+/// are no addresses, their bytes are truths, and they lie so far apart that a list whose ends they
+/// are doesn't pass for an empty one.
 void spoil(void* memory, std::size_t size) {
-    constexpr std::uintptr_t kFirstWord = UINTPTR_MAX / 15 * 13;  // 0xdd in every byte
-    constexpr std::uintptr_t kDistance = 64;
+    constexpr std::uintptr_t kFirstWord = UINTPTR_MAX / 0xff;  // 1 in every byte
+    constexpr std::uintptr_t kDistance = 0x1000000;
     auto* const words = static_cast<volatile std::uintptr_t*>(memory);  // or nothing is written
     for (std::size_t i = 0; i < size / sizeof(std::uintptr_t); ++i)
         words[i] = kFirstWord + i * kDistance;
 }
+
+/// Gives an object's memory back a while later, so that it isn't soon another's and looks well again.
+/// What is larger goes at once.
+void giveBack(void* memory, std::size_t size) {
+    constexpr std::size_t kLargestObject = 4096;  // bytes
+    constexpr std::size_t kWaiting = 1024;
+    static std::atomic<void*> s_waiting[kWaiting];
+    static std::atomic<std::size_t> s_next = 0;
+    if (size > kLargestObject)
+        return std::free(memory);
+    spoil(memory, size);
+    std::free(s_waiting[s_next++ % kWaiting].exchange(memory));
+}
+#endif
 
 }  // namespace
 
@@ -51,6 +71,5 @@ void operator delete(void* memory) noexcept {
 
 void operator delete(void* memory, std::size_t size) noexcept {
     if (memory != nullptr)
-        spoil(memory, size);
-    std::free(memory);
+        giveBack(memory, size);
 }

@@ -7,45 +7,33 @@ namespace workbench {
 
 namespace {
 
-int s_depth = 0;
 std::deque<std::function<void()>> s_putOff;
 
+}  // namespace
+
+int Turn::s_depth = 0;
+bool Turn::s_isWorkWaiting = false;
+
 /// Does what was put off, and what that puts off in its turn.
-void catchUp() {
+void Turn::catchUp() {
     while (!s_putOff.empty()) {
         const std::function<void()> work = std::move(s_putOff.front());
         s_putOff.pop_front();
         work();
     }
-}
-
-}  // namespace
-
-Turn::Turn() {
-    ++s_depth;
-}
-
-Turn::~Turn() {
-    // The turn is still under way: what ends now may start turns of its own.
-    if (s_depth == 1)
-        catchUp();
-    --s_depth;
-}
-
-bool Turn::isUnderWay() {
-    return s_depth > 0;
+    s_isWorkWaiting = false;
 }
 
 void Turn::putOff(std::function<void()> work) {
-    if (isUnderWay())
-        s_putOff.push_back(std::move(work));
-    else
-        work();
+    if (!isUnderWay())
+        return work();
+    s_putOff.push_back(std::move(work));
+    s_isWorkWaiting = true;
 }
 
 void Turn::keep(std::shared_ptr<void> object) {
     if (isUnderWay())
-        s_putOff.emplace_back([kept = std::move(object)] {});
+        putOff([kept = std::move(object)] {});
 }
 
 }  // namespace workbench

@@ -213,6 +213,7 @@ std::string entryText(const ComboWidget& combo, int index) {
 int items(Session& session, Arguments& arguments) {
     const ComboWidget& combo = comboOf(session, arguments);
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(combo.count()));
     for (int i = 0; i < combo.count(); ++i)
         texts.push_back(entryText(combo, i));
     push(arguments.lua(), texts);

@@ -20,11 +20,11 @@ BOOL CQrUiInputEditCtrl::Create(DWORD style, const CRect& rect, CWnd* parent, UI
 }
 
 void CQrUiInputEditCtrl::SetToolTipText(const VxString& text) {
-    if (EditWidget* const edit = workbench::supply::windows().widgetOf<EditWidget>(this))
+    if (auto* const edit = workbench::supply::windows().widgetOf<EditWidget>(this))
         edit->setTip(text);
 }
 
 void CQrUiInputEditCtrl::SetBkNorm(COLORREF colour) {
-    if (EditWidget* const edit = workbench::supply::windows().widgetOf<EditWidget>(this))
+    if (auto* const edit = workbench::supply::windows().widgetOf<EditWidget>(this))
         edit->setBackground(colour);
 }

@@ -28,7 +28,7 @@ BOOL CQrUiQuickStartLink::Create(const VxString& text, DWORD style, const CRect&
 }
 
 void CQrUiQuickStartLink::SetTopic(const VxString& topic) {
-    if (LinkWidget* const link = workbench::supply::windows().widgetOf<LinkWidget>(this))
+    if (auto* const link = workbench::supply::windows().widgetOf<LinkWidget>(this))
         link->setTopic(topic);
 }
 

@@ -22,7 +22,7 @@ BOOL CQrToolTipCtrl::Create(CWnd* parent) {
 
 void CQrToolTipCtrl::AddTool(CWnd* tool, const VxString& text) {
     HostCall call("CQrToolTipCtrl::AddTool", {text});
-    ControlWidget* const widget = windows().widgetOf<ControlWidget>(tool);
+    auto* const widget = windows().widgetOf<ControlWidget>(tool);
     if (!call.failed() && m_hWnd != nullptr && widget != nullptr)
         widget->setTip(text);
 }

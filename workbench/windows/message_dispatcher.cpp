@@ -37,6 +37,49 @@ private:
     MessageDispatcher& m_dispatcher;
 };
 
+/// The row for a message that is no command, from a table on.
+inline FoundRow MessageDispatcher::findRowOfMessage(const Dispatch& dispatch,
+                                                    const MessageMap& map) {
+    // A module's windows and objects end before it is unloaded, and what was found for them is
+    // forgotten then. Nothing is remembered for an object whose window is gone.
+    return dispatch.object->m_hWnd == nullptr ? MessageRows::search(map, dispatch.message)
+                                              : m_rows.find(map, dispatch.message);
+}
+
+// The steps of each message stand first, so that they can be inlined.
+
+inline LRESULT MessageDispatcher::runRow(Dispatch& dispatch, const FoundRow& found) {
+    dispatch.step = Dispatch::Step::Table;
+    dispatch.map = found.holder;
+    const Running running(*this, dispatch);
+    return found.row->handler(dispatch.object, dispatch.wParam, dispatch.lParam);
+}
+
+inline LRESULT MessageDispatcher::handleCommonly(const Dispatch& dispatch) {
+    if (dispatch.message != WM_SETFONT)
+        return 0;
+    Window* const window = m_tree.find(dispatch.window);
+    if (window == nullptr)
+        return 0;
+    window->font = dispatch.wParam;
+    if (dispatch.lParam != 0)
+        m_changes.invalidate(dispatch.window);
+    return 0;
+}
+
+inline LRESULT MessageDispatcher::runWidget(Dispatch& dispatch) {
+    Window* const window = m_tree.find(dispatch.window);
+    if (window != nullptr && window->widget != nullptr) {
+        dispatch.step = Dispatch::Step::Widget;
+        const Running running(*this, dispatch);
+        LRESULT answer = 0;
+        if (window->widget->handle(*window, dispatch.message, dispatch.wParam, dispatch.lParam,
+                                   answer))
+            return answer;
+    }
+    return handleCommonly(dispatch);
+}
+
 LRESULT MessageDispatcher::send(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     const Window* const found = m_tree.find(window);
     if (found == nullptr)
@@ -49,8 +92,10 @@ LRESULT MessageDispatcher::send(HWND window, UINT message, WPARAM wParam, LPARAM
 
 LRESULT MessageDispatcher::dispatch(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
     Dispatch dispatch{&object, object.m_hWnd, message, wParam, lParam};
-    if (message != WM_COMMAND)
-        return runTables(dispatch, &object.GetMessageMap());
+    if (message != WM_COMMAND) {
+        const FoundRow found = findRowOfMessage(dispatch, object.GetMessageMap());
+        return found.row == nullptr ? runWidget(dispatch) : runRow(dispatch, found);
+    }
     dispatch.step = Dispatch::Step::Command;
     {
         const Running running(*this, dispatch);
@@ -99,42 +144,7 @@ FoundRow MessageDispatcher::findRow(const Dispatch& dispatch, const MessageMap* 
     if (dispatch.message == WM_COMMAND)
         return dispatch.lParam != 0 ? FoundRow{}
                                     : MessageRows::searchCommand(*map, LOWORD(dispatch.wParam));
-    // A module's windows and objects end before it is unloaded, and what was found for them is
-    // forgotten then. Nothing is remembered for an object whose window is gone.
-    return dispatch.object->m_hWnd == nullptr ? MessageRows::search(*map, dispatch.message)
-                                              : m_rows.find(*map, dispatch.message);
-}
-
-LRESULT MessageDispatcher::runRow(Dispatch& dispatch, const FoundRow& found) {
-    dispatch.step = Dispatch::Step::Table;
-    dispatch.map = found.holder;
-    const Running running(*this, dispatch);
-    return found.row->handler(dispatch.object, dispatch.wParam, dispatch.lParam);
-}
-
-LRESULT MessageDispatcher::runWidget(Dispatch& dispatch) {
-    Window* const window = m_tree.find(dispatch.window);
-    if (window != nullptr && window->widget != nullptr) {
-        dispatch.step = Dispatch::Step::Widget;
-        const Running running(*this, dispatch);
-        LRESULT answer = 0;
-        if (window->widget->handle(*window, dispatch.message, dispatch.wParam, dispatch.lParam,
-                                   answer))
-            return answer;
-    }
-    return handleCommonly(dispatch);
-}
-
-LRESULT MessageDispatcher::handleCommonly(const Dispatch& dispatch) {
-    if (dispatch.message != WM_SETFONT)
-        return 0;
-    Window* const window = m_tree.find(dispatch.window);
-    if (window == nullptr)
-        return 0;
-    window->font = dispatch.wParam;
-    if (dispatch.lParam != 0)
-        m_changes.invalidate(dispatch.window);
-    return 0;
+    return findRowOfMessage(dispatch, *map);
 }
 
 void MessageDispatcher::objectEnds(const CWnd& object) {

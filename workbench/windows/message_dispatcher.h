@@ -60,6 +60,7 @@ private:
 
     LRESULT runTables(Dispatch& dispatch, const MessageMap* map);
     FoundRow findRow(const Dispatch& dispatch, const MessageMap* map);
+    FoundRow findRowOfMessage(const Dispatch& dispatch, const MessageMap& map);
     LRESULT runRow(Dispatch& dispatch, const FoundRow& found);
     LRESULT runWidget(Dispatch& dispatch);
     LRESULT handleCommonly(const Dispatch& dispatch);

@@ -41,14 +41,14 @@ std::string lineAndColumn(std::string_view text, std::size_t offset) {
 }  // namespace
 
 std::shared_ptr<XmlTree> XmlTree::make(std::string_view rootName) {
-    const std::shared_ptr<XmlTree> tree(new XmlTree);
+    std::shared_ptr<XmlTree> tree(new XmlTree);
     tree->m_document.append_child(std::string(rootName).c_str());
     return tree;
 }
 
 std::shared_ptr<XmlTree> XmlTree::parse(std::string_view text, std::string_view rootName,
                                         std::string& reason) {
-    const std::shared_ptr<XmlTree> tree(new XmlTree);
+    std::shared_ptr<XmlTree> tree(new XmlTree);
     // A text of blanks alone is a text too.
     const pugi::xml_parse_result result = tree->m_document.load_buffer(
         text.data(), text.size(), pugi::parse_default | pugi::parse_ws_pcdata_single,
