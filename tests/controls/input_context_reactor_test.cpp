@@ -1,9 +1,13 @@
 #include "controls/input_context_reactor.h"
 
+#include "tests/support/noting_action.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -12,28 +16,8 @@ using VxDaCmdUtil::InputContextReactor;
 
 class InputContextReactorTest : public testing::Test {
 protected:
-    /// Notes its run and its end, and can act while it runs.
-    class Noting final : public InputContextReactor::Callback {
-    public:
-        Noting(std::vector<std::string>& notes, std::string name, std::function<void()> act)
-            : m_notes(notes),
-              m_name(std::move(name)),
-              m_act(std::move(act)) {}
-        ~Noting() override { m_notes.push_back("end " + m_name); }
-        void run() override {
-            m_notes.push_back("run " + m_name);
-            if (m_act)
-                m_act();
-        }
-
-    private:
-        std::vector<std::string>& m_notes;
-        std::string m_name;
-        std::function<void()> m_act;
-    };
-
     void queue(const std::string& name, std::function<void()> act = {}) {
-        m_reactor->append(std::make_unique<Noting>(m_notes, name, std::move(act)));
+        m_reactor->append(std::make_unique<support::NotingAction>(m_notes, name, std::move(act)));
     }
 
     std::vector<std::string> m_notes;

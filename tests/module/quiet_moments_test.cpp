@@ -2,6 +2,7 @@
 #include "module/control_manager.h"
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
+#include "tests/support/noting_action.h"
 #include "workbench/editor/editor.h"
 
 #include <functional>
@@ -14,26 +15,6 @@ namespace {
 
 using Notes = std::vector<std::string>;
 
-/// Notes its run and its end, and can act while it runs.
-class Noting final : public QuiescentAction {
-public:
-    Noting(Notes& notes, std::string name, std::function<void()> act)
-        : m_notes(notes),
-          m_name(std::move(name)),
-          m_act(std::move(act)) {}
-    ~Noting() override { m_notes.push_back("end " + m_name); }
-    void run() override {
-        m_notes.push_back("run " + m_name);
-        if (m_act)
-            m_act();
-    }
-
-private:
-    Notes& m_notes;
-    std::string m_name;
-    std::function<void()> m_act;
-};
-
 /// The module's own manager, with a command in progress.
 class QuietMomentsTest : public PaletteTest {
 protected:
@@ -42,7 +23,8 @@ protected:
         bench().editor().beginCommand(L"LINE");
     }
     void queue(const std::string& name, std::function<void()> act = {}) {
-        controlManager()->runWhenQuiescent(std::make_unique<Noting>(m_notes, name, std::move(act)));
+        controlManager()->runWhenQuiescent(
+            std::make_unique<support::NotingAction>(m_notes, name, std::move(act)));
     }
 
     Notes m_notes;

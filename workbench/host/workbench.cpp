@@ -15,11 +15,7 @@
 
 namespace workbench {
 
-namespace {
-
-Workbench* s_living = nullptr;  // not owned; null: none lives
-
-}  // namespace
+Workbench* Workbench::s_living = nullptr;
 
 Workbench::Workbench(WorkbenchOptions options) : m_options(std::move(options)) {
     if (s_living != nullptr)
@@ -39,14 +35,8 @@ Workbench::~Workbench() {
     s_living = nullptr;
 }
 
-Workbench& Workbench::current() {
-    if (s_living == nullptr)
-        throw std::logic_error("no workbench lives");
-    return *s_living;
-}
-
-Workbench* Workbench::living() {
-    return s_living;
+void Workbench::complainOfNone() {
+    throw std::logic_error("no workbench lives");
 }
 
 void Workbench::makeUnits() {

@@ -48,9 +48,13 @@ public:
     ~Workbench();
 
     /// The workbench that lives now. Throws std::logic_error if there is none.
-    static Workbench& current();
+    static Workbench& current() {
+        if (s_living == nullptr)
+            complainOfNone();
+        return *s_living;
+    }
     /// The workbench that lives now, null for none: for what may end after it.
-    static Workbench* living();
+    static Workbench* living() { return s_living; }
 
     const WorkbenchOptions& options() const { return m_options; }
     /// The user's language and formats from now on, such as "de_DE".
@@ -75,8 +79,11 @@ public:
     NavigationTool& navigation() { return *m_navigation; }
 
 private:
+    [[noreturn]] static void complainOfNone();
     void makeUnits();
     void endUnits();
+
+    static Workbench* s_living;  // not owned; null: none lives
 
     WorkbenchOptions m_options;
     Photographer m_photographer;

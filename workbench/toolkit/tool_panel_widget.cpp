@@ -88,9 +88,7 @@ bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM
                              LRESULT& answer) {
     switch (message) {
     case WM_SIZE:
-        if (standsIn<ToolPanelWidget>(windows(), window) &&
-            !m_toolkit.toolPanels().of(&panelOf(window)).beingPlaced)
-            panelOf(window).UpdateLayout(1);
+        resize(window);
         return true;
     case kLeftButtonDown:
         press(window, unpackPoint(lParam));
@@ -99,10 +97,8 @@ bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM
         release(window, static_cast<UINT>(wParam), unpackPoint(lParam));
         return true;
     case kContextMenuMessage:
-        answer = windows().send(window.parent, message, wParam, lParam);
-        return true;
     case kMouseWheel:
-        answer = windows().send(window.parent, message, wParam, lParam);
+        passOn(window, message, wParam, lParam, answer);
         return true;
     case WM_QRUI_THEME_CHANGED:
         changeTheme(window, wParam, lParam);
@@ -110,6 +106,19 @@ bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM
     default:
         return false;
     }
+}
+
+void ToolPanelWidget::resize(const Window& window) {
+    CQrUiToolPanel& panel = panelOf(window);
+    if (standsIn<ToolPanelWidget>(windows(), window) &&
+        !m_toolkit.toolPanels().of(&panel).beingPlaced)
+        panel.UpdateLayout(1);
+}
+
+/// Leaves a message to the panel that this one stands on.
+void ToolPanelWidget::passOn(const Window& window, UINT message, WPARAM wParam, LPARAM lParam,
+                             LRESULT& answer) {
+    answer = windows().send(window.parent, message, wParam, lParam);
 }
 
 std::string ToolPanelWidget::describe(const Window& window) const {

@@ -33,6 +33,8 @@ private:
     WindowSystem& windows() const;
     RowLayout rows(const CQrUiToolPanel& panel, int width) const;
     int indentOf(const CQrUiToolPanel& panel) const;
+    void resize(const Window& window);
+    void passOn(const Window& window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
     void press(const Window& window, CPoint point);
     void release(Window& window, UINT flags, CPoint point);
     void click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point);
