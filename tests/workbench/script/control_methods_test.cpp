@@ -111,9 +111,9 @@ TEST_F(ControlMethodsTest, TypingGoesKeyByKeyAndEndsNoEntry) {
 TEST_F(ControlMethodsTest, MessageIsSentToTheControlItself) {
     runOnFade(R"(
         wb.journal()
-        assert(fade:send(1566) == 1)
+        assert(fade:send(1567) == 1)
         local sent = wb.journal("message")[1]
-        assert(sent.control == "LayerLockTransparencySliderControl" and sent.number == 1566)
+        assert(sent.control == "LayerLockTransparencySliderControl" and sent.number == 1567)
         assert(sent.wparam == 0 and sent.lparam == 0)
     )");
 }
