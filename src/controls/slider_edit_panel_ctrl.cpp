@@ -28,7 +28,7 @@ RowSum placeEarlierItems(const CQrUiToolPanel& panel, int separatorX) {
         if (item == nullptr)
             continue;
         CRect rect;
-        item->GetRect(rect, 1);
+        item->GetRect(rect, kItemClientRect);
         if (item->GetType() == kItemSeparator) {
             item->SetPosition({separatorX, item->GetPosition().y});
             sum.separator = rect.Width();

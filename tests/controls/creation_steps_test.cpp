@@ -27,16 +27,27 @@ Steps window(int id) {
 
 /// A picture in both sizes.
 Steps icon(const std::string& key) {
-    const std::string start = "QrUiLoadImageFromResource(object, \"" + key + "\", ";
+    const std::string start = "QrUiLoadImageFromResource(\"VxDashboardRes.dll\", \"" + key + "\", ";
     return {start + "16, -1)", start + "32, -1)"};
 }
 
-/// Slider, icon and first field.
-Steps row(int sliderId, const std::string& key) {
+/// The gap in front of a field.
+const char* const kSeparatorStyle =
+    "CQrUiToolPanelItem::SetStyle(\"TPB_VXDA_SLIDER_SEPARATOR\", 4)";
+
+/// Has an item drawn anew.
+std::string repaint(const std::string& item) {
+    return "CQrUiToolPanelItem::Invalidate(\"" + item + "\")";
+}
+
+/// Slider, icon and what belongs to the first field.
+Steps row(int sliderId, const std::string& key,
+          const Steps& field = {kSeparatorStyle,
+                                "CQrUiInputEditCtrl::Create(1350631552, object, 10001, 0)"}) {
     return joined(
         {{"CQrUiProgSliderCtrl::Create(1342177280, object, " + std::to_string(sliderId) + ", 2)"},
          icon(key),
-         {"CQrUiInputEditCtrl::Create(1350631552, object, 10001, 0)"}});
+         field});
 }
 
 std::string loadString(int number) {
@@ -73,14 +84,16 @@ CreationCase fadeSlider() {
                     {showText("      50%"), loadString(3997), loadString(3995),
                      "CWnd::EnableWindow(\"CQrUiProgSliderCtrl\", 1)",
                      "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)"},
-                    icon(kFadeButton)})};
+                    icon(kFadeButton),
+                    {repaint("TPB_LAYER_SLIDERCONTROL1")}})};
 }
 
 CreationCase zoomSlider() {
     return {"3DNavZoomSliderControl",
             joined({window(101),
-                    row(5004, "RCDATA_3DNAV_SLIDERCONTROL1"),
-                    {"CQrUiInputEditCtrl::Create(1350631552, object, 10002, 0)",
+                    row(5004, "RCDATA_3DNAV_SLIDERCONTROL1",
+                        {"CQrUiInputEditCtrl::Create(1350631552, object, 10001, 0)"}),
+                    {kSeparatorStyle, "CQrUiInputEditCtrl::Create(1350631552, object, 10002, 0)",
                      "CWnd::EnableWindow(\"CQrUiInputEditCtrl\", 1)", loadString(1241),
                      loadString(1243), loadString(1245)}})};
 }
@@ -110,7 +123,8 @@ CreationCase stepsPerSecSlider() {
 
 /// An entry of the list of views.
 Steps preset(int text, const std::string& key) {
-    return {loadString(text), "QrUiLoadImageFromResource(object, \"" + key + "\", 16, -1)"};
+    return {loadString(text),
+            "QrUiLoadImageFromResource(\"VxDashboardRes.dll\", \"" + key + "\", 16, -1)"};
 }
 
 /// The list of views of a drawing without named ones.
@@ -139,7 +153,7 @@ CreationCase viewCombo() {
                     {"CQrUiComboCtrl::Create(1345389091, 200, 300, object, 5007)"},
                     listOfViews(),
                     icon("RCDATA_3DNAV_COMBO"),
-                    {loadString(1238), loadString(1280)},
+                    {loadString(1238), repaint("TPB_3DNAV_COMBO"), loadString(1280)},
                     listOfViews(),
                     {"vxInternalIsCurVPZoomUndoAvailable()"}})};
 }
@@ -212,7 +226,7 @@ CreationCase lineTypes() {
         "LineTypeControl",
         {"CQrUiToolPanel::Create(1342177280, object, 701, 0)", "CQrUiToolPanel::OnCreate(object)",
          "getVxToolbarControl(object, 0, 0, 220, 400, 2222)",
-         "QrUiLoadImageFromResource(object, \"RCDATA_OPLTYPE_ICON\", 16, -1)"}};
+         "QrUiLoadImageFromResource(\"VxDashboardRes.dll\", \"RCDATA_OPLTYPE_ICON\", 16, -1)"}};
 }
 
 class CreationTest : public support::ControlBench,

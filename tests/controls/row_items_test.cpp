@@ -95,7 +95,8 @@ TEST_F(RowItemsTest, IconShowsThePictureOfItsKeyInBothSizes) {
               "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     EXPECT_EQ(largeImageOf(*icon), "RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON");
     const std::string start =
-        "QrUiLoadImageFromResource(object, \"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\", ";
+        "QrUiLoadImageFromResource(\"VxDashboardRes.dll\", "
+        "\"RCDATA_LAYER_TRANSPARENCE_SLIDER_BTN_ON\", ";
     EXPECT_EQ(calls({"QrUiLoadImageFromResource"}),
               (std::vector<std::string>{start + "16, -1)", start + "32, -1)"}));
     EXPECT_EQ(m_row.GetToolPanelItem(0), icon);

@@ -52,9 +52,9 @@ TEST_F(SliderEditTest, LayoutSizesTheSliderInItsPlaceAndThenSetsTheFieldBehindTh
     const CRect edit = rectOf(control.edit());
     ASSERT_NE(edit.top, 0) << "or a lost place would not show";
     CRect place;
-    control.GetToolPanelItem(3)->GetRect(place, 1);
+    control.GetToolPanelItem(3)->GetRect(place, kItemClientRect);
     EXPECT_EQ(edit.Height(), place.Height());
-    control.GetToolPanelItem(1)->GetRect(place, 1);
+    control.GetToolPanelItem(1)->GetRect(place, kItemClientRect);
     EXPECT_EQ(slider.Height(), place.Height());
     forget();
     control.UpdateLayout(0);

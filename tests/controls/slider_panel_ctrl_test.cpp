@@ -85,7 +85,7 @@ TEST_F(SliderPanelTest, EnterAndEscapeInsideGoTheOrdinaryWay) {
 TEST_F(SliderPanelTest, LayoutLeavesTheSliderAsTheToolkitPlacedIt) {
     EXPECT_EQ(control.UpdateLayout(1), 1);
     CRect placed;
-    control.GetToolPanelItem(1)->GetRect(placed, 1);
+    control.GetToolPanelItem(1)->GetRect(placed, kItemClientRect);
     const CRect slider = control.slider().GetWindowRect();
     EXPECT_EQ(slider.Width(), (kWidth - kIconWidth) / 2);
     EXPECT_EQ(slider.Width(), placed.Width());

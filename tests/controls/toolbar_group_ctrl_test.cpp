@@ -216,7 +216,10 @@ TEST_F(ToolbarCreationTest, IconIsLoadedSmall) {
             }
         });
     showControl("LineTypeControl");
-    EXPECT_EQ(loaded, Calls{"QrUiLoadImageFromResource(object, \"RCDATA_OPLTYPE_ICON\", 16, -1)"});
+    EXPECT_EQ(
+        loaded,
+        Calls{
+            "QrUiLoadImageFromResource(\"VxDashboardRes.dll\", \"RCDATA_OPLTYPE_ICON\", 16, -1)"});
 }
 
 TEST_F(ToolbarCreationTest, MissingPictureLeavesTheIconWithoutOne) {

@@ -64,10 +64,10 @@ TEST_F(DashboardThemeTest, ChangeOfAnyElementReplacesTheFontByOneOfItsNewDescrip
     toolkitTheme().setFont(kControlFont, {L"Narrow", 9, 300, false});
     forget();
     toolkitTheme().changeElement(1);
-    EXPECT_EQ(
-        takeLines(),
-        (Lines{"CQrUiTheme::GetFont(3)", "CFont::CreateFontIndirect(\"Narrow\", 9, 300)",
-               "CQrUiTheme::SetDataPtr(2, object)", "CQrUiTheme::ResumeModifiedNotifications()"}));
+    EXPECT_EQ(takeLines(), (Lines{"CFont::~CFont(\"DejaVu Sans\")", "CQrUiTheme::GetFont(3)",
+                                  "CFont::CreateFontIndirect(\"Narrow\", 9, 300)",
+                                  "CQrUiTheme::SetDataPtr(2, object)",
+                                  "CQrUiTheme::ResumeModifiedNotifications()"}));
     EXPECT_EQ(toolkitTheme().dataPtr(kFontPointer), m_theme.font());
     EXPECT_EQ(fonts(), 1U);
     m_theme.deleteFont();

@@ -60,7 +60,7 @@ void chooseFromFlyout(const Stage& stage, const std::wstring& flyout) {
     CQrUiToolPanelItem& item = itemOf(flyout);
     const HWND panel = workbench::toolPanelOf(item)->m_hWnd;
     CRect rect;
-    item.GetRect(rect, 1);
+    item.GetRect(rect, kItemClientRect);
     host().toolkit().menus().answerNext([&stage](const std::vector<workbench::MenuLine>& lines) {
         stage.reach(Point::MenuOpen);
         return std::optional<UINT>(lines.back().command);

@@ -176,8 +176,8 @@ TEST_F(ModuleTest, UnloadWithoutADashboardTakesItsStepsInOrder) {
         (Lines{"VxEdCommandStack::removeGroup(\"ZorqVxDashboard\")",
                "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
                "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
-               "VxApDocManager::removeReactor(object)", "CQrUiTheme::UnregisterReactor(object)",
-               "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxApDocManager::removeReactor(object)", "CFont::~CFont(\"DejaVu Sans\")",
+               "CQrUiTheme::UnregisterReactor(object)", "CQrUiThemeManager::ReleaseTheme(object)",
                "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
 }
 
@@ -199,9 +199,9 @@ TEST_F(ModuleTest, UnloadEndsPanelsAndBarFirstAndTheControlsOutsideBeforeTheMana
                "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
                "CWnd::DestroyWindow(\"CQrUiToolPanel\")",
                "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
-               "VxApDocManager::removeReactor(object)", "CQrUiTheme::UnregisterReactor(object)",
-               "CQrUiThemeManager::ReleaseTheme(object)",
-               "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
+               "VxApDocManager::removeReactor(object)", "CFont::~CFont(\"DejaVu Sans\")",
+               "CQrUiTheme::UnregisterReactor(object)", "CQrUiThemeManager::ReleaseTheme(object)",
+               "VxRxDictionary::remove(\"ZorqVxDashboard\")", "CFont::~CFont(\"DejaVu Sans\")"}));
 }
 
 TEST_F(ModuleTest, FontLivesUntilTheManagersHaveEndedAndIsGoneBeforeTheThemeIsLeft) {
@@ -247,8 +247,8 @@ TEST_F(ModuleTest, UnloadWithThePanelsDownDeletesThePaletteSetWithTheManager) {
                "FreeLibrary(\"VxDashboardRes.dll\")", "AfxTermExtensionModule(\"\")",
                "VxApProfileManager::removeReactor(object)", "VxEditor::removeReactor(object)",
                "VxApDocManager::removeReactor(object)", "DestroyIcon()",
-               "CWnd::DestroyWindow(\"CQrUiPaletteSet\")", "CQrUiTheme::UnregisterReactor(object)",
-               "CQrUiThemeManager::ReleaseTheme(object)",
+               "CWnd::DestroyWindow(\"CQrUiPaletteSet\")", "CFont::~CFont(\"DejaVu Sans\")",
+               "CQrUiTheme::UnregisterReactor(object)", "CQrUiThemeManager::ReleaseTheme(object)",
                "VxRxDictionary::remove(\"ZorqVxDashboard\")"}));
 }
 

@@ -15,8 +15,9 @@ TEST_F(ViewComboTest, PicturesAreLoadedSmallForThePresetsAlone) {
     Calls expected;
     for (const char* view :
          {"TOP", "BOTTOM", "FRONT", "BACK", "LEFT", "RIGHT", "SW", "SE", "NE", "NW"}) {
-        expected.push_back(std::string("QrUiLoadImageFromResource(object, \"RCDATA_3DNAV_VIEW_") +
-                           view + "\", 16, -1)");
+        expected.push_back(
+            std::string("QrUiLoadImageFromResource(\"VxDashboardRes.dll\", \"RCDATA_3DNAV_VIEW_") +
+            view + "\", 16, -1)");
     }
     EXPECT_EQ(takeCallLines({"QrUiLoadImageFromResource"}), expected);
 }

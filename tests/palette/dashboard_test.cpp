@@ -415,10 +415,10 @@ TEST_F(DashboardTest, AnErrorOfTheStoreBecomesTheLastError) {
     show();
     const NodePtr node = makeNode();
     SetLastError(0);
-    bench().faults().fail("VxUt::SetAttributeValue");
+    constexpr int kCode = 0x1234;
+    bench().faults().fail("CQrUiPaletteSet::Save", kCode);
     EXPECT_EQ(dashboard().Save(node.get()), 0);
-    bench().faults().unfail("VxUt::SetAttributeValue");
-    EXPECT_NE(GetLastError(), 0U);
+    EXPECT_EQ(GetLastError(), 0x1234U);
 }
 
 TEST_F(DashboardTest, AChangeOfTheThemeGoesToThePanelSet) {

@@ -91,29 +91,32 @@ protected:
 TEST_F(PictureSourceTest, TheLibraryOfToolImagesComesFirstThenTheGroupsModuleForEachSize) {
     show();
     loadImages(L"OTHER", L"SMALL", L"LARGE");
-    EXPECT_EQ(takeQuestions(), (Lines{"QrUiLoadImageFromResource(object, \"SMALL\", 16, -1)",
-                                      "vxedGetPanelSetResourceHandle(\"OTHER\")",
-                                      "QrUiLoadImageFromResource(object, \"SMALL\", 16, -1)",
-                                      "QrUiLoadImageFromResource(object, \"LARGE\", 32, -1)",
-                                      "vxedGetPanelSetResourceHandle(\"OTHER\")",
-                                      "QrUiLoadImageFromResource(object, \"LARGE\", 32, -1)"}));
+    EXPECT_EQ(takeQuestions(),
+              (Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"SMALL\", 16, -1)",
+                     "vxedGetPanelSetResourceHandle(\"OTHER\")",
+                     "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"SMALL\", 16, -1)",
+                     "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"LARGE\", 32, -1)",
+                     "vxedGetPanelSetResourceHandle(\"OTHER\")",
+                     "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"LARGE\", 32, -1)"}));
 }
 
 TEST_F(PictureSourceTest, AGroupWithoutAModuleIsNoSource) {
     show();
     loadImages(L"MAIN", L"SMALL", L"LARGE");
-    EXPECT_EQ(takeQuestions(), (Lines{"QrUiLoadImageFromResource(object, \"SMALL\", 16, -1)",
-                                      "vxedGetPanelSetResourceHandle(\"MAIN\")",
-                                      "QrUiLoadImageFromResource(object, \"LARGE\", 32, -1)",
-                                      "vxedGetPanelSetResourceHandle(\"MAIN\")"}));
+    EXPECT_EQ(takeQuestions(),
+              (Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"SMALL\", 16, -1)",
+                     "vxedGetPanelSetResourceHandle(\"MAIN\")",
+                     "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"LARGE\", 32, -1)",
+                     "vxedGetPanelSetResourceHandle(\"MAIN\")"}));
 }
 
 TEST_F(PictureSourceTest, WhatTheLibraryHasIsLookedForNowhereElse) {
     show();
     loadImages(L"OTHER", L"RCDATA_TOOL_ID_LINE", L"RCDATA_TOOL_ID_ERASE");
-    EXPECT_EQ(takeQuestions(),
-              (Lines{"QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_LINE\", 16, -1)",
-                     "QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_ERASE\", 32, -1)"}));
+    EXPECT_EQ(
+        takeQuestions(),
+        (Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_TOOL_ID_LINE\", 16, -1)",
+               "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_TOOL_ID_ERASE\", 32, -1)"}));
     EXPECT_EQ(m_small, "RCDATA_TOOL_ID_LINE");
     EXPECT_EQ(m_large, "RCDATA_TOOL_ID_ERASE");
 }
@@ -122,11 +125,11 @@ TEST_F(PictureSourceTest, ASizeWithoutAKeyAsksForNothing) {
     show();
     loadImages(L"OTHER", L"", L"RCDATA_TOOL_ID_LINE");
     EXPECT_EQ(takeQuestions(),
-              Lines{"QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_LINE\", 32, -1)"});
+              Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_TOOL_ID_LINE\", 32, -1)"});
     EXPECT_EQ(m_small, "");
     loadImages(L"OTHER", L"RCDATA_TOOL_ID_LINE", L"");
     EXPECT_EQ(takeQuestions(),
-              Lines{"QrUiLoadImageFromResource(object, \"RCDATA_TOOL_ID_LINE\", 16, -1)"});
+              Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_TOOL_ID_LINE\", 16, -1)"});
     EXPECT_EQ(m_large, "");
     loadImages(L"OTHER", L"", L"");
     EXPECT_EQ(takeQuestions(), Lines{});
@@ -147,17 +150,19 @@ TEST_F(PictureSourceTest, APanelsImageIsLookedForInTheLibraryThenTheGroupThenAsA
     show();
     EXPECT_NE(loadPanelImage(L"RCDATA_PANEL_DRAW", L"OTHER"), nullptr);
     EXPECT_EQ(takeQuestions(),
-              Lines{"QrUiLoadImageFromResource(object, \"RCDATA_PANEL_DRAW\", 16, -1)"});
+              Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_PANEL_DRAW\", 16, -1)"});
     EXPECT_NE(loadPanelImage(L"RCDATA_PANEL_HOUSETOOLS", L"OTHER"), nullptr);
-    EXPECT_EQ(takeQuestions(),
-              (Lines{"QrUiLoadImageFromResource(object, \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
-                     "vxedGetPanelSetResourceHandle(\"OTHER\")",
-                     "QrUiLoadImageFromResource(object, \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)"}));
+    EXPECT_EQ(
+        takeQuestions(),
+        (Lines{
+            "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
+            "vxedGetPanelSetResourceHandle(\"OTHER\")",
+            "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)"}));
     EXPECT_EQ(loadPanelImage(L"RCDATA_NOWHERE", L"OTHER"), nullptr);
     EXPECT_EQ(takeQuestions(),
-              (Lines{"QrUiLoadImageFromResource(object, \"RCDATA_NOWHERE\", 16, -1)",
+              (Lines{"QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_NOWHERE\", 16, -1)",
                      "vxedGetPanelSetResourceHandle(\"OTHER\")",
-                     "QrUiLoadImageFromResource(object, \"RCDATA_NOWHERE\", 16, -1)",
+                     "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"RCDATA_NOWHERE\", 16, -1)",
                      "LoadBitmapFileGdiPlus(\"RCDATA_NOWHERE\")"}));
 }
 

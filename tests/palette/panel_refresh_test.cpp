@@ -248,15 +248,15 @@ TEST_F(PanelRefreshTest, APanelIsMadeHiddenFilledAndThenShown) {
         takeLines({"CQrUiPanel::Create", "QrUiLoadImageFromResource", "vxedGetToolPanelData",
                    "CQrUiToolPanel::Create", "CWnd::ShowWindow", "CWnd::PostMessage"}),
         (Names{"CQrUiPanel::Create(1073741824, \"House\", object)",
-               "QrUiLoadImageFromResource(object, \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
-               "QrUiLoadImageFromResource(object, \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
+               "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
+               "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"RCDATA_PANEL_HOUSETOOLS\", 16, -1)",
                "vxedGetToolPanelData(\"OTHER\", \"HouseTools\")",
                "CQrUiToolPanel::Create(1342177280, object, " + std::to_string(lastToolPanelId()) +
                    ", 2)",
-               "QrUiLoadImageFromResource(object, \"RCDATA_TOOL_HT_WALL\", 16, -1)",
-               "QrUiLoadImageFromResource(object, \"RCDATA_TOOL_HT_WALL\", 16, -1)",
-               "QrUiLoadImageFromResource(object, \"RCDATA_TOOL_HT_WALL\", 32, -1)",
-               "QrUiLoadImageFromResource(object, \"RCDATA_TOOL_HT_WALL\", 32, -1)",
+               "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_TOOL_HT_WALL\", 16, -1)",
+               "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"RCDATA_TOOL_HT_WALL\", 16, -1)",
+               "QrUiLoadImageFromResource(\"ZORQbtn.xmx\", \"RCDATA_TOOL_HT_WALL\", 32, -1)",
+               "QrUiLoadImageFromResource(\"HouseTools.xmx\", \"RCDATA_TOOL_HT_WALL\", 32, -1)",
                "CWnd::ShowWindow(\"Draw\", 5)", "CWnd::PostMessage(\"CQrUiPalette\", 1534)"}));
 }
 

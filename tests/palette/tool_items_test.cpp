@@ -105,8 +105,10 @@ TEST_F(ToolItemsTest, APictureComesSmallFromTheDashboardsOwnLibrary) {
     show();
     SetItemFlag(L"ID_Line", true, kChecked, nullptr, L"RCDATA_LIGHT_SUN_ON");
     const std::string question =
-        "QrUiLoadImageFromResource(object, \"RCDATA_LIGHT_SUN_ON\", 16, -1)";
-    EXPECT_EQ(takeLines(), (std::vector<std::string>{question, question})) << "one for each item";
+        "QrUiLoadImageFromResource(\"VxDashboardRes.dll\", \"RCDATA_LIGHT_SUN_ON\", 16, -1)";
+    const std::string repaint = "CQrUiToolPanelItem::Invalidate(\"ID_Line\")";
+    EXPECT_EQ(takeLines(), (std::vector<std::string>{question, repaint, question, repaint}))
+        << "one for each item";
     EXPECT_EQ(item(L"ID_Line")->m_record->largeImage, nullptr);
     EXPECT_EQ(item(L"ID_Line")->GetName(), L"");
 }

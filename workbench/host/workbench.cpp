@@ -2,6 +2,7 @@
 
 #include "workbench/commands/host_commands.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/bar_memory.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/navigation/navigation_tool.h"
@@ -44,6 +45,7 @@ void Workbench::makeUnits() {
     m_modules = std::make_unique<ModuleLoader>(m_options.libraryDir, m_faults);
     m_toolkit = std::make_unique<Toolkit>(*m_windows, m_journal, m_answers, m_texts);
     m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
+    m_barMemory = std::make_unique<BarMemory>(*m_toolkit, *m_profiles);
     m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
     addHostCommands(m_editor->commands());
     m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());
@@ -60,6 +62,7 @@ void Workbench::endUnits() {
     m_toolPalettes.reset();
     m_menu.reset();
     m_editor.reset();
+    m_barMemory.reset();
     m_profiles.reset();
     m_toolkit.reset();
     m_modules.reset();

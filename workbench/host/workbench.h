@@ -14,6 +14,7 @@
 
 namespace workbench {
 
+class BarMemory;
 class Editor;
 class MenuHost;
 class ModuleLoader;
@@ -97,6 +98,7 @@ private:
     std::unique_ptr<ModuleLoader> m_modules;
     std::unique_ptr<Toolkit> m_toolkit;
     std::unique_ptr<ProfileStore> m_profiles;
+    std::unique_ptr<BarMemory> m_barMemory;
     std::unique_ptr<Editor> m_editor;
     std::unique_ptr<MenuHost> m_menu;
     std::unique_ptr<ToolPalettes> m_toolPalettes;

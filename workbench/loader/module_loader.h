@@ -53,7 +53,6 @@ public:
     HostModule* findByPacket(const void* packet) const;
     /// The library of the module whose entry point is running; null outside.
     HINSTANCE runningModule() const;
-    std::size_t moduleCount() const { return m_modules.size(); }
 
     /// Why the last load or unload failed.
     const std::string& failureText() const { return m_failureText; }

@@ -57,30 +57,36 @@ IXMLDOMNode* Profile::createNode(const wchar_t* path) {
     HostCall call("VxApProfileStorage::createNode", {path});
     if (call.failed() || path == nullptr)
         return call.returns<IXMLDOMNode*>(nullptr);
-    const std::vector<std::string> parts = partsOf(toUtf8(path));
-    if (parts.empty())
-        return call.returns<IXMLDOMNode*>(nullptr);
-    pugi::xml_node element = section(kStorage);
-    for (const std::string& part : parts) {
-        const pugi::xml_node child = element.child(part.c_str());
-        element = child ? child : element.append_child(part.c_str());
-    }
-    return call.returns<IXMLDOMNode*>(m_tree->makeNode(element));
+    return call.returns(makeNode(toUtf8(path)));
 }
 
 IXMLDOMNode* Profile::openNode(const wchar_t* path) {
     HostCall call("VxApProfileStorage::openNode", {path});
     if (call.failed() || path == nullptr)
         return call.returns<IXMLDOMNode*>(nullptr);
-    const std::vector<std::string> parts = partsOf(toUtf8(path));
+    return call.returns(findNode(toUtf8(path)));
+}
+
+IXMLDOMNode* Profile::makeNode(std::string_view path) {
+    const std::vector<std::string> parts = partsOf(path);
     if (parts.empty())
-        return call.returns<IXMLDOMNode*>(nullptr);
+        return nullptr;
+    pugi::xml_node element = section(kStorage);
+    for (const std::string& part : parts) {
+        const pugi::xml_node child = element.child(part.c_str());
+        element = child ? child : element.append_child(part.c_str());
+    }
+    return m_tree->makeNode(element);
+}
+
+IXMLDOMNode* Profile::findNode(std::string_view path) {
+    const std::vector<std::string> parts = partsOf(path);
+    if (parts.empty())
+        return nullptr;
     pugi::xml_node element = section(kStorage);
     for (const std::string& part : parts)
         element = element.child(part.c_str());
-    if (!element)
-        return call.returns<IXMLDOMNode*>(nullptr);
-    return call.returns<IXMLDOMNode*>(m_tree->makeNode(element));
+    return element ? m_tree->makeNode(element) : nullptr;
 }
 
 pugi::xml_node Profile::section(const char* name) const {

@@ -32,6 +32,11 @@ public:
     /// Writes the file, atomically. Throws `InputError`; the old file is untouched then.
     void save() const;
 
+    /// The node at a path below the storage, counted for the caller; the first makes what is
+    /// missing, the other gives null then. Null for an empty path.
+    IXMLDOMNode* makeNode(std::string_view path);
+    IXMLDOMNode* findNode(std::string_view path);
+
     // VxApProfileStorage:
     IXMLDOMNode* createNode(const wchar_t* path) override;
     IXMLDOMNode* openNode(const wchar_t* path) override;

@@ -30,6 +30,12 @@ public:
 
     const std::filesystem::path& folder() const { return m_folder; }
     const std::string& currentName() const { return m_current->name(); }
+    /// The current profile. Good until another one is.
+    Profile& current() const { return *m_current; }
+
+    /// Tells a reactor of the host's own until `endWatch`; it must live until then.
+    void watch(VxApProfileManagerReactor& reactor) { m_reactors.add(&reactor); }
+    void endWatch(VxApProfileManagerReactor& reactor) { m_reactors.remove(&reactor); }
 
     /// Makes a profile the current one, a fresh one if there is none of this name, and tells the
     /// reactors; the old one is not saved. Switching to the current one does nothing. Throws

@@ -1,3 +1,4 @@
+#include "workbench/audit/audit.h"
 #include "workbench/script/calls.h"
 #include "workbench/script/lua_values.h"
 #include "workbench/script/script_error.h"
@@ -28,6 +29,17 @@ int sent(Session& session, Arguments& arguments) {
     return 1;
 }
 
+int auditAll(Session& session, Arguments& arguments) {
+    Value::List list;
+    for (const AuditFinding& finding : audit(session.workbench()))
+        list.push_back(Value::Table{{"control", finding.control},
+                                    {"field", finding.field},
+                                    {"shown", finding.shown},
+                                    {"expected", finding.expected}});
+    push(arguments.lua(), Value(std::move(list)));
+    return 1;
+}
+
 int journal(Session& session, Arguments& arguments) {
     Value::List list;
     const std::string kind = arguments.optionalText(1).value_or("");
@@ -52,6 +64,7 @@ int snapshot(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& recordCalls() {
     static const std::vector<Call> calls{
+        {"audit", auditAll},
         {"journal", journal},
         {"sent", sent},
         {"snapshot", snapshot},

@@ -28,8 +28,11 @@ Type* windowUnlessFailed(const char* name, Type& window) {
 }  // namespace
 
 CFrameWnd* CControlBar::GetDockingFrame() const {
+    HostCall call("CControlBar::GetDockingFrame");
     const auto* const set = dynamic_cast<const CQrUiPaletteSet*>(this);
-    return set == nullptr ? nullptr : mainFrame().frameOf(*set);
+    CFrameWnd* const frame = set == nullptr || call.failed() ? nullptr : mainFrame().frameOf(*set);
+    call.returns(static_cast<const void*>(frame));
+    return frame;
 }
 
 void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay) {

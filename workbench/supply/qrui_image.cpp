@@ -32,7 +32,8 @@ std::vector<std::uint8_t> readPicture(const std::filesystem::path& file) {
 }  // namespace
 
 HBITMAP QrUiLoadImageFromResource(HINSTANCE library, const wchar_t* key, int size, int flags) {
-    HostCall call("QrUiLoadImageFromResource", {library, key, size, flags});
+    HostCall call("QrUiLoadImageFromResource",
+                  {Workbench::current().modules().libraries().fileName(library), key, size, flags});
     HBITMAP picture = nullptr;
     if (!call.failed() && library != nullptr && key != nullptr && size > 0) {
         const std::string name = workbench::toUtf8(key);

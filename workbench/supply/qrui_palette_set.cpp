@@ -82,7 +82,7 @@ BOOL CQrUiPaletteSet::AddContextMenuItems(CMenu& /*menu*/) {
 }
 
 void CQrUiPaletteSet::ThemeModified(int /*element*/) {
-    Invalidate();
+    windows().invalidate(m_hWnd);
 }
 
 int CQrUiPaletteSet::OnCreate(const CREATESTRUCT* create) {

@@ -1,6 +1,7 @@
 #include "workbench/core/host_call.h"
 #include "workbench/supply/qrui_window.h"
 #include "workbench/toolkit/bar_place.h"
+#include "workbench/toolkit/held_node.h"
 #include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/qrui18/palette_set.h>
@@ -8,6 +9,7 @@
 #include <optional>
 
 using workbench::BarPlace;
+using workbench::HeldNode;
 using workbench::HostCall;
 using workbench::PaletteSetState;
 using workbench::supply::toolkit;
@@ -22,28 +24,24 @@ IXMLDOMNode* nodeOf(IUnknown* storageNode) {
     return static_cast<IXMLDOMNode*>(node);
 }
 
-/// Counts a node down at the end of the scope.
-class Releasing {
-public:
-    explicit Releasing(IXMLDOMNode& node) : m_node(node) {}
-    Releasing(const Releasing&) = delete;
-    Releasing& operator=(const Releasing&) = delete;
-    ~Releasing() { m_node.Release(); }
-
-private:
-    IXMLDOMNode& m_node;
-};
+/// A call that is told to fail with a code raises it, as the store does; without one it just fails.
+void raiseIfTold(const HostCall& call) {
+    constexpr int kNoCode = 0;
+    if (call.failed() && call.status(kNoCode) != kNoCode)
+        throw VxComError{call.status(kNoCode)};
+}
 
 }  // namespace
 
 BOOL CQrUiPaletteSet::Load(IUnknown* storageNode) {
     HostCall call("CQrUiPaletteSet::Load", {storageNode});
+    raiseIfTold(call);
     IXMLDOMNode* const node = call.failed() ? nullptr : nodeOf(storageNode);
     if (node == nullptr)
         return call.returns(0);
-    const Releasing releasing(*node);
+    const HeldNode held(node);
     const std::optional<BarPlace> place = workbench::loadBarPlace(node);
-    if (!place)
+    if (!place || !toolkit().frame().mayStand(*this, *place))
         return call.returns(0);
     PaletteSetState& state = toolkit().paletteSets().of(this);
     toolkit().tools().rememberPlace(state.toolId, *place);
@@ -54,12 +52,13 @@ BOOL CQrUiPaletteSet::Load(IUnknown* storageNode) {
 
 BOOL CQrUiPaletteSet::Save(IUnknown* storageNode) {
     HostCall call("CQrUiPaletteSet::Save", {storageNode});
+    raiseIfTold(call);
     IXMLDOMNode* const node = call.failed() ? nullptr : nodeOf(storageNode);
     if (node == nullptr)
         return call.returns(0);
-    const Releasing releasing(*node);
-    const bool saved = workbench::saveBarPlace(node, toolkit().frame().placeOf(*this));
-    return call.returns(saved ? 1 : 0);
+    const HeldNode held(node);
+    workbench::saveBarPlace(node, toolkit().frame().placeOf(*this));
+    return call.returns(1);
 }
 
 BOOL CQrUiDockControlBar::IsFloating() const {

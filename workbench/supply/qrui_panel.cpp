@@ -41,7 +41,7 @@ void CQrUiPanel::SetImage(int slot, HBITMAP picture) {
     HBITMAP& present = toolkit().panels().of(this).images[slot];
     toolkit().pictures().release(present);
     present = picture;
-    Invalidate();
+    windows().invalidate(m_hWnd);
 }
 
 void CQrUiPanel::AddPanelChild(CQrUiToolPanel* toolPanel) {

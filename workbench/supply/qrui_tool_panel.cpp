@@ -45,7 +45,7 @@ BOOL CQrUiToolPanel::UpdateLayout(BOOL invalidate) {
     if (auto* const widget = windows().widgetOf<ToolPanelWidget>(this)) {
         widget->layout(*windows().find(m_hWnd));
         if (invalidate != 0)
-            Invalidate();
+            windows().invalidate(m_hWnd);
     }
     return 1;
 }

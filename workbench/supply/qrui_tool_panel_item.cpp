@@ -1,4 +1,5 @@
 #include "workbench/base/text.h"
+#include "workbench/core/host_call.h"
 #include "workbench/supply/qrui_window.h"
 #include "workbench/toolkit/item_notes.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -11,11 +12,21 @@
 
 #include <algorithm>
 
+using workbench::HostCall;
 using workbench::noteItem;
 using workbench::PictureTable;
 using workbench::toUtf8;
 using workbench::supply::toolkit;
 using workbench::supply::windows;
+
+namespace {
+
+void repaint(const CQrUiToolPanelItem& item) {
+    if (item.m_record->laidOut && item.m_record->toolPanel != nullptr)
+        windows().invalidate(item.m_record->toolPanel->m_hWnd);
+}
+
+}  // namespace
 
 CQrUiToolPanelItem::CQrUiToolPanelItem(CQrUiToolPanel* toolPanel) : m_record(new Record) {
     m_record->toolPanel = toolPanel;
@@ -70,11 +81,15 @@ void CQrUiToolPanelItem::SetState(UINT state) {
     m_record->state = state;
     if (workbench::isNoted(toolkit().journal(), *this))
         workbench::noteItemState(toolkit().journal(), *this, before, state);
-    Invalidate();
+    repaint(*this);
 }
 
 void CQrUiToolPanelItem::SetStyle(UINT style) {
+    const HostCall call("CQrUiToolPanelItem::SetStyle", {workbench::knownId(*this), style});
+    if (call.failed())
+        return;
     m_record->style = style;
+    repaint(*this);
 }
 
 void CQrUiToolPanelItem::SetImage(int slot, HBITMAP picture) {
@@ -86,7 +101,7 @@ void CQrUiToolPanelItem::SetImage(int slot, HBITMAP picture) {
                  pictures.source(picture));
     pictures.release(present);
     present = picture;
-    Invalidate();
+    repaint(*this);
 }
 
 HWND CQrUiToolPanelItem::GetControl() const {
@@ -99,8 +114,9 @@ void CQrUiToolPanelItem::SetControl(HWND control) {
         windows().setName(control, toUtf8(m_record->data->controlName));
 }
 
-void CQrUiToolPanelItem::GetRect(CRect& rect, int /*which*/) const {
-    rect = m_record->rect;
+void CQrUiToolPanelItem::GetRect(CRect& rect, int which) const {
+    const HostCall call("CQrUiToolPanelItem::GetRect", {workbench::knownId(*this), which});
+    rect = which == kItemClientRect && !call.failed() ? m_record->rect : CRect{};
 }
 
 CPoint CQrUiToolPanelItem::GetPosition() const {
@@ -113,8 +129,9 @@ void CQrUiToolPanelItem::SetPosition(CPoint position) {
 }
 
 void CQrUiToolPanelItem::Invalidate() {
-    if (m_record->laidOut && m_record->toolPanel != nullptr)
-        windows().invalidate(m_record->toolPanel->m_hWnd);
+    const HostCall call("CQrUiToolPanelItem::Invalidate", {workbench::knownId(*this)});
+    if (!call.failed())
+        repaint(*this);
 }
 
 void CQrUiToolPanelItem::AppendFlyoutItem(CQrUiToolPanelItem* item) {

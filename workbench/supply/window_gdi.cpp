@@ -16,8 +16,11 @@ workbench::GdiTable& gdi() {
 }  // namespace
 
 CFont::~CFont() {
-    if (m_handle != 0 && Workbench::living() != nullptr)
-        gdi().removeFont(m_handle);
+    if (m_handle == 0 || Workbench::living() == nullptr)
+        return;
+    const LOGFONT* const font = gdi().findFont(m_handle);
+    const HostCall call("CFont::~CFont", {font == nullptr ? VxString() : font->faceName});
+    gdi().removeFont(m_handle);
 }
 
 BOOL CFont::CreateFontIndirect(const LOGFONT& font) {

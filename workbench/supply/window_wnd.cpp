@@ -173,8 +173,10 @@ void CWnd::SetWindowPos(int x, int y, int cx, int cy, UINT flags) {
         windows().place(m_hWnd, {x, y, x + cx, y + cy}, flags);
 }
 
-void CWnd::Invalidate(BOOL) {
-    windows().invalidate(m_hWnd);
+void CWnd::Invalidate(BOOL erase) {
+    const HostCall call("CWnd::Invalidate", {shown(this), erase});
+    if (!call.failed())
+        windows().invalidate(m_hWnd);
 }
 
 const MessageMap& CWnd::GetMessageMap() const {

@@ -1,82 +1,71 @@
 #include "workbench/toolkit/bar_place.h"
 
-#include <hostapi/vxut.h>
+#include "workbench/toolkit/held_node.h"
+#include "workbench/xml/xml_node_operations.h"
 
 #include <cstdint>
+#include <string>
 
 namespace workbench {
 
 namespace {
 
-constexpr const wchar_t* kPlaceNode = L"Place";
-constexpr const wchar_t* kStand = L"Stand";
-constexpr const wchar_t* kEdge = L"Edge";
-constexpr const wchar_t* kAnchored = L"Anchored";
+constexpr const char* kPlaceNode = "Place";
+constexpr const char* kStand = "Stand";
+constexpr const char* kEdge = "Edge";
+constexpr const char* kAnchored = "Anchored";
 
 struct Side {
-    const wchar_t* name;
+    const char* name;
     int CRect::*coordinate;
 };
-constexpr Side kSides[] = {{L"Left", &CRect::left},
-                           {L"Top", &CRect::top},
-                           {L"Right", &CRect::right},
-                           {L"Bottom", &CRect::bottom}};
+constexpr Side kSides[] = {{"Left", &CRect::left},
+                           {"Top", &CRect::top},
+                           {"Right", &CRect::right},
+                           {"Bottom", &CRect::bottom}};
 
-/// A node that is released at the end of the scope.
-class HeldNode {
-public:
-    explicit HeldNode(IXMLDOMNode* node) : m_node(node) {}
-    HeldNode(const HeldNode&) = delete;
-    HeldNode& operator=(const HeldNode&) = delete;
-    ~HeldNode() {
-        if (m_node != nullptr)
-            m_node->Release();
-    }
-    IXMLDOMNode* get() const { return m_node; }
-
-private:
-    IXMLDOMNode* m_node;  // counted; null for none
-};
+/// A whole number in an attribute; nothing if it is missing or none.
+std::optional<std::int32_t> readNumber(const XmlNode& node, const char* name) {
+    const std::optional<std::string> text = readAttribute(node, name);
+    return text ? parseWholeNumber(*text) : std::nullopt;
+}
 
 }  // namespace
 
 std::optional<BarPlace> loadBarPlace(IXMLDOMNode* node) {
-    const HeldNode place(VxUt::GetChildNode(node, kPlaceNode));
-    VxString stand;
-    VxString edge;
-    if (place.get() == nullptr || !VxUt::GetAttributeValue(place.get(), kStand, stand) ||
-        !VxUt::GetAttributeValue(place.get(), kEdge, edge))
+    XmlNode* const child = findChild(xmlNodeOf(node), kPlaceNode);
+    const HeldNode held(child);
+    if (child == nullptr)
+        return {};
+    const std::optional<std::string> stand = readAttribute(*child, kStand);
+    const std::optional<std::string> edge = readAttribute(*child, kEdge);
+    if (!stand || !edge)
         return {};
     BarPlace result;
-    result.floating = stand == L"floating";
-    result.edge = edge == L"left" ? Edge::Left : Edge::Right;
-    std::int32_t anchored = 0;
-    result.anchored = VxUt::GetAttributeValue(place.get(), kAnchored, anchored) && anchored != 0;
+    result.floating = *stand == "floating";
+    result.edge = *edge == "left" ? Edge::Left : Edge::Right;
+    result.anchored = readNumber(*child, kAnchored).value_or(0) != 0;
     for (const Side& side : kSides) {
-        std::int32_t value = 0;
-        if (!VxUt::GetAttributeValue(place.get(), side.name, value))
+        const std::optional<std::int32_t> value = readNumber(*child, side.name);
+        if (!value)
             return {};
-        result.rect.*side.coordinate = value;
+        result.rect.*side.coordinate = *value;
     }
     if (result.rect.Width() <= 0 || result.rect.Height() <= 0)
         return {};
     return result;
 }
 
-bool saveBarPlace(IXMLDOMNode* node, const BarPlace& place) {
-    HeldNode present(VxUt::GetChildNode(node, kPlaceNode));
-    HeldNode made(present.get() == nullptr
-                      ? VxUt::AddChildNode(node, kPlaceNode, VxUt::kElementNode)
-                      : nullptr);
-    IXMLDOMNode* const target = present.get() == nullptr ? made.get() : present.get();
-    if (target == nullptr)
-        return false;
-    VxUt::SetAttributeValue(target, kStand, VxString(place.floating ? L"floating" : L"docked"));
-    VxUt::SetAttributeValue(target, kEdge, VxString(place.edge == Edge::Left ? L"left" : L"right"));
-    VxUt::SetAttributeValue(target, kAnchored, std::int32_t{place.anchored ? 1 : 0});
+void saveBarPlace(IXMLDOMNode* node, const BarPlace& place) {
+    const XmlNode& parent = xmlNodeOf(node);
+    XmlNode* const present = findChild(parent, kPlaceNode);
+    XmlNode* const target = present != nullptr ? present : addChild(parent, kPlaceNode);
+    const HeldNode held(target);
+    writeAttribute(*target, kStand, place.floating ? "floating" : "docked");
+    writeAttribute(*target, kEdge, place.edge == Edge::Left ? "left" : "right");
+    writeAttribute(*target, kAnchored, place.anchored ? "1" : "0");
     for (const Side& side : kSides)
-        VxUt::SetAttributeValue(target, side.name, std::int32_t{place.rect.*side.coordinate});
-    return true;
+        writeAttribute(*target, side.name, std::to_string(place.rect.*side.coordinate));
 }
 
 }  // namespace workbench

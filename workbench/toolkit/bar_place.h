@@ -20,10 +20,10 @@ struct BarPlace {
     friend bool operator==(const BarPlace&, const BarPlace&) = default;
 };
 
-/// Reads a place from below a node; nothing if there is none or it makes no sense.
+/// Reads a place from below a node; nothing if there is none or it makes no sense. Raises
+/// `VxComError` for a node of none of the host's documents.
 std::optional<BarPlace> loadBarPlace(IXMLDOMNode* node);
-/// Writes a place below a node, in place of an earlier one. False if the tree refuses; raises
-/// `VxComError`.
-bool saveBarPlace(IXMLDOMNode* node, const BarPlace& place);
+/// Writes a place below a node, in place of an earlier one. Raises `VxComError` as reading does.
+void saveBarPlace(IXMLDOMNode* node, const BarPlace& place);
 
 }  // namespace workbench

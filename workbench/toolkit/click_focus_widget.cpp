@@ -1,7 +1,7 @@
 #include "workbench/toolkit/click_focus_widget.h"
 
+#include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
-#include "workbench/windows/window_system.h"
 
 namespace workbench {
 
@@ -9,7 +9,7 @@ bool ClickFocusWidget::handle(Window& window, UINT message, WPARAM /*wParam*/, L
                               LRESULT& /*answer*/) {
     if (message != kLeftButtonDown)
         return false;
-    m_windows.setFocus(window.handle);
+    takeFocus(m_toolkit, window.handle);
     return true;
 }
 

@@ -4,19 +4,20 @@
 
 namespace workbench {
 
-class WindowSystem;
+class Toolkit;
 
-/// A window of the host's own, such as the drawing view, that a click gives the focus.
+/// A window of the host's own, such as the drawing view, that a click gives the focus if it may be
+/// taken from where it is.
 class ClickFocusWidget final : public Widget {
 public:
-    explicit ClickFocusWidget(WindowSystem& windows) : m_windows(windows) {}
+    explicit ClickFocusWidget(Toolkit& toolkit) : m_toolkit(toolkit) {}
 
     // Widget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                 LRESULT& answer) override;
 
 private:
-    WindowSystem& m_windows;
+    Toolkit& m_toolkit;
 };
 
 }  // namespace workbench

@@ -69,9 +69,9 @@ void ComboWidget::select(Window& window, int index) {
 
 bool ComboWidget::open(Window& window) {
     const Turn turn;
-    if (m_open)
-        return false;
     const HWND combo = window.handle;
+    if (m_open || !mayTakeFocus(m_toolkit, combo) || m_toolkit.windows().find(combo) == nullptr)
+        return false;
     m_focusBefore = m_toolkit.windows().focus();
     m_open = true;
     m_toolkit.windows().setFocus(combo);
@@ -121,6 +121,9 @@ bool ComboWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPa
     switch (message) {
     case kLeftButtonDown:
         m_open ? close(window) : open(window);
+        return true;
+    case WM_QRUI_THEME_CHANGED:
+        takeFontOf(window, lParam);
         return true;
     case WM_KEYDOWN:
         if (!key(window, wParam))

@@ -2,6 +2,8 @@
 
 #include "workbench/windows/window_system.h"
 
+#include <hostapi/qrui18/messages.h>
+
 #include <algorithm>
 
 namespace workbench {
@@ -21,12 +23,24 @@ CWnd* ContainerWidget::control(int index) const {
                                          : nullptr;
 }
 
-bool ContainerWidget::handle(Window& window, UINT message, WPARAM /*wParam*/, LPARAM /*lParam*/,
+bool ContainerWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                              LRESULT& /*answer*/) {
-    if (message != WM_SIZE)
+    switch (message) {
+    case WM_SIZE:
+        layOut(window);
+        return true;
+    case WM_QRUI_THEME_CHANGED:
+        changeTheme(window, wParam, lParam);
+        return true;
+    default:
         return false;
-    layOut(window);
-    return true;
+    }
+}
+
+void ContainerWidget::changeTheme(const Window& window, WPARAM wParam, LPARAM lParam) {
+    const std::vector<HWND> children = window.children;
+    for (const HWND child : children)
+        m_windows.send(child, WM_QRUI_THEME_CHANGED, wParam, lParam);
 }
 
 void ContainerWidget::layOut(const Window& window) {

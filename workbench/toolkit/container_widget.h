@@ -28,6 +28,7 @@ public:
 
 private:
     void layOut(const Window& window);
+    void changeTheme(const Window& window, WPARAM wParam, LPARAM lParam);
 
     WindowSystem& m_windows;
     std::vector<std::unique_ptr<CWnd>> m_controls;

@@ -14,6 +14,10 @@ public:
     /// The text of the tooltip over a client point; empty for none.
     virtual std::wstring tipAt(const Window& window, CPoint point) const;
 
+    /// Gives a window that has a font the one that a theme (the lParam of `WM_QRUI_THEME_CHANGED`)
+    /// keeps for controls; a theme that keeps none leaves it without one.
+    static void takeFontOf(Window& window, LPARAM theme);
+
     /// The window's own tooltip.
     const std::wstring& tip() const { return m_tip; }
     void setTip(std::wstring tip) { m_tip = std::move(tip); }

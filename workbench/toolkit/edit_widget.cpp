@@ -1,5 +1,6 @@
 #include "workbench/toolkit/edit_widget.h"
 
+#include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/toolkit.h"
@@ -42,6 +43,9 @@ bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPar
         return true;
     case EM_SCROLLCARET:
         return true;
+    case WM_QRUI_THEME_CHANGED:
+        takeFontOf(window, lParam);
+        return true;
     case kCharMessage:
         character(window, static_cast<wchar_t>(wParam));
         return true;
@@ -72,7 +76,7 @@ void EditWidget::press(Window& window, CPoint point) {
     const int place = (along + kCharacterWidth / 2) / kCharacterWidth;
     m_editor.moveTo(first + static_cast<std::size_t>(place), false);
     m_toolkit.windows().invalidate(window.handle);
-    m_toolkit.windows().setFocus(window.handle);
+    takeFocus(m_toolkit, window.handle);
 }
 
 void EditWidget::character(Window& window, wchar_t character) {
@@ -115,8 +119,10 @@ bool EditWidget::key(Window& window, WPARAM key) {
 }
 
 void EditWidget::showText(Window& window) {
-    if (window.text != m_editor.text())
-        m_toolkit.windows().state().setText(window.handle, m_editor.text());
+    if (window.text == m_editor.text())
+        return;
+    m_typed = m_editor.text();
+    m_toolkit.windows().state().setText(window.handle, m_editor.text());
 }
 
 }  // namespace workbench

@@ -3,6 +3,9 @@
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/line_editor.h"
 
+#include <optional>
+#include <string>
+
 namespace workbench {
 
 class Toolkit;
@@ -30,6 +33,7 @@ public:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                 LRESULT& answer) override;
     bool reportsFocus() const override { return true; }
+    bool holdsTyping(const Window& window) const override { return m_typed == window.text; }
     int naturalHeight(const Window& window, int width) const override;
 
 private:
@@ -40,6 +44,7 @@ private:
 
     Toolkit& m_toolkit;
     LineEditor m_editor;
+    std::optional<std::wstring> m_typed;  // the last text that the user made; nothing: none
     COLORREF m_background = 0xffffff;
 };
 

@@ -5,6 +5,9 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace workbench {
 
 namespace {
@@ -30,13 +33,55 @@ bool palettesAgree(Toolkit& toolkit, const CQrUiPaletteSet& set) {
     }
 }
 
-/// Takes the focus from within a set to the drawing view, if its palettes agree.
+/// The custom controls around a window, the nearest first.
+std::vector<HWND> controlsAround(const WindowSystem& windows, HWND window) {
+    std::vector<HWND> controls;
+    for (const Window* found = windows.find(window); found != nullptr;
+         found = windows.find(found->parent)) {
+        if (isCustomControl(windows, found->handle))
+            controls.push_back(found->handle);
+    }
+    return controls;
+}
+
+/// Whether a control around the window with the focus has a list on show that needs it.
+bool hasListDropped(WindowSystem& windows, HWND focus) {
+    const std::vector<HWND> controls = controlsAround(windows, focus);
+    return std::any_of(controls.begin(), controls.end(), [&windows](HWND control) {
+        return windows.send(control, WM_QRUI_LIST_DROPPED, 0, 0) != 0;
+    });
+}
+
+/// Whether the focus may be taken from within a set.
+bool isFocusFree(Toolkit& toolkit, const CQrUiPaletteSet& set) {
+    return palettesAgree(toolkit, set) &&
+           !hasListDropped(toolkit.windows(), toolkit.windows().focus());
+}
+
+/// Takes the focus from within a set to the drawing view, if it is free.
 void takeFocusFrom(Toolkit& toolkit, const CQrUiPaletteSet& set) {
-    if (palettesAgree(toolkit, set))
+    if (isFocusFree(toolkit, set))
         toolkit.windows().setFocus(toolkit.frame().drawingView().m_hWnd);
 }
 
 }  // namespace
+
+bool mayTakeFocus(Toolkit& toolkit, HWND window) {
+    const Turn turn;
+    const WindowSystem& windows = toolkit.windows();
+    const HWND focus = windows.focus();
+    const CQrUiPaletteSet* const set = paletteSetAbove(windows, focus);
+    if (set == nullptr || focus == window)
+        return true;
+    const std::vector<HWND> controls = controlsAround(windows, focus);
+    if (!controls.empty() && windows.isWithin(window, controls.back()))
+        return true;
+    return isFocusFree(toolkit, *set);
+}
+
+bool takeFocus(Toolkit& toolkit, HWND window) {
+    return mayTakeFocus(toolkit, window) && toolkit.windows().setFocus(window);
+}
 
 void giveFocusBack(Toolkit& toolkit, HWND from, HWND before) {
     const WindowSystem& windows = toolkit.windows();

@@ -6,8 +6,15 @@ namespace workbench {
 
 class Toolkit;
 
+/// Whether a gesture may give a window the keyboard focus: within the custom control that has it
+/// always; elsewhere only if the palettes of that control's set agree and none of the controls
+/// around the focus has dropped a list (`WM_QRUI_LIST_DROPPED`).
+bool mayTakeFocus(Toolkit& toolkit, HWND window);
+/// Gives a window the focus for a gesture on it, if that may be. Whether it has it then.
+bool takeFocus(Toolkit& toolkit, HWND window);
+
 /// The toolkit takes the keyboard focus back to the drawing view after a gesture in a palette set,
-/// if all palettes of the set agree. `from` is the window of the gesture, `before` the window that
+/// if it may be taken. `from` is the window of the gesture, `before` the window that
 /// had the focus when it began. An edit field keeps the focus if the gesture gave it to the field.
 void giveFocusBack(Toolkit& toolkit, HWND from, HWND before);
 

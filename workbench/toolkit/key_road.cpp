@@ -1,6 +1,7 @@
 #include "workbench/toolkit/key_road.h"
 
 #include "workbench/toolkit/edit_widget.h"
+#include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
@@ -13,9 +14,10 @@ namespace workbench {
 
 namespace {
 
-void moveToNextField(WindowSystem& windows) {
+void moveToNextField(Toolkit& toolkit) {
+    WindowSystem& windows = toolkit.windows();
     const HWND next = nextField(windows, windows.focus(), windows.keys().isHeld(VK_SHIFT));
-    if (next == nullptr || !windows.setFocus(next))
+    if (next == nullptr || !takeFocus(toolkit, next))
         return;
     Window& window = *windows.find(next);
     if (auto* const edit = dynamic_cast<EditWidget*>(window.widget.get()); edit != nullptr)
@@ -26,7 +28,7 @@ void moveToNextField(WindowSystem& windows) {
 
 void passKeyOn(Toolkit& toolkit, WPARAM key, LPARAM details) {
     if (key == kKeyTab) {
-        moveToNextField(toolkit.windows());
+        moveToNextField(toolkit);
         return;
     }
     toolkit.windows().send(toolkit.frame().commandLine().m_hWnd, WM_KEYDOWN, key, details);

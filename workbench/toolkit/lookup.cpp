@@ -54,6 +54,15 @@ CQrUiPanel* panelAbove(const WindowSystem& windows, HWND window) {
     return objectAbove<CQrUiPanel, PanelWidget>(windows, window);
 }
 
+bool isCustomControl(const WindowSystem& windows, HWND window) {
+    const auto isToolPanel = [&windows](HWND handle) {
+        const Window* const found = windows.find(handle);
+        return found != nullptr &&
+               dynamic_cast<const ToolPanelWidget*>(found->widget.get()) != nullptr;
+    };
+    return isToolPanel(window) && isToolPanel(windows.find(window)->parent);
+}
+
 std::vector<CQrUiPanel*> allPanels(const WindowSystem& windows) {
     return allWith<CQrUiPanel, PanelWidget>(windows);
 }

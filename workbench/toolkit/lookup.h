@@ -16,6 +16,9 @@ CQrUiPaletteSet* paletteSetAbove(const WindowSystem& windows, HWND window);
 /// The panel at or above a window, null for none.
 CQrUiPanel* panelAbove(const WindowSystem& windows, HWND window);
 
+/// Whether a window is a custom control: a tool panel that stands in another one.
+bool isCustomControl(const WindowSystem& windows, HWND window);
+
 /// The panels with an ID, in the order of the window tree, hidden ones too.
 std::vector<CQrUiPanel*> findPanels(const WindowSystem& windows, std::wstring_view id);
 /// All panels with a window, in the order of the window tree.

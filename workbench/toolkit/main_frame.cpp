@@ -3,6 +3,7 @@
 #include "workbench/toolkit/click_focus_widget.h"
 #include "workbench/toolkit/dock_layout.h"
 #include "workbench/toolkit/reparent.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <algorithm>
 
@@ -14,6 +15,11 @@ constexpr CRect kFrameRect{0, 0, 1280, 800};
 constexpr int kStripWidth = 24;  // pixels of an anchored set
 constexpr DWORD kDockLeft = 0x1000;
 constexpr DWORD kDockRight = 0x4000;
+
+/// An edge as `EnableDocking` takes it.
+DWORD bitOf(Edge edge) {
+    return edge == Edge::Left ? kDockLeft : kDockRight;
+}
 
 /// The smallest and the largest size that the palettes of a set ask for, applied to a size.
 CSize limited(const PaletteSetState& state, CSize size) {
@@ -34,10 +40,11 @@ CSize limited(const PaletteSetState& state, CSize size) {
 
 }  // namespace
 
-MainFrame::MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools)
-    : m_windows(windows),
-      m_sets(sets),
-      m_tools(tools) {
+MainFrame::MainFrame(Toolkit& toolkit)
+    : m_toolkit(toolkit),
+      m_windows(toolkit.windows()),
+      m_sets(toolkit.paletteSets()),
+      m_tools(toolkit.tools()) {
     makeWindow(m_frame, "CFrameWnd", "", 0);
     makeWindow(m_drawingView, "DrawingView", "DrawingView", 0);
     makeWindow(m_commandLine, "CommandLine", "CommandLine", 0);
@@ -61,7 +68,7 @@ void MainFrame::makeWindow(CWnd& object, const char* className, const char* name
     creation.id = static_cast<int>(id);
     if (creation.parent != nullptr)
         creation.style |= WS_CHILD;
-    creation.widget = std::make_unique<ClickFocusWidget>(m_windows);
+    creation.widget = std::make_unique<ClickFocusWidget>(m_toolkit);
     m_windows.create(object, std::move(creation));
     if (*name != '\0')
         m_windows.setName(object.m_hWnd, name);
@@ -103,7 +110,19 @@ void MainFrame::restore(CQrUiPaletteSet& set, UINT dockBar, const CRect& rectang
     BarPlace first;
     first.edge = dockBar == kLeftDockBar ? Edge::Left : Edge::Right;
     first.rect = rectangle;
-    put(set, m_tools.placeOf(m_sets.of(&set).toolId).value_or(first));
+    const GUID tool = m_sets.of(&set).toolId;
+    const HWND window = set.m_hWnd;
+    if (!m_tools.placeOf(tool))
+        m_toolkit.bars().load(set);
+    if (m_windows.find(window) == nullptr)
+        return;
+    const BarPlace last = m_tools.placeOf(tool).value_or(first);
+    put(set, mayStand(set, last) ? last : first);
+}
+
+bool MainFrame::mayStand(const CQrUiPaletteSet& set, const BarPlace& place) const {
+    const PaletteSetState* const state = m_sets.find(&set);
+    return state != nullptr && (place.floating || (state->edges & bitOf(place.edge)) != 0);
 }
 
 void MainFrame::put(CQrUiPaletteSet& set, BarPlace place) {
@@ -207,8 +226,7 @@ void MainFrame::layout() {
 
 bool MainFrame::isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const {
     const PaletteSetState* const state = m_sets.find(&set);
-    const DWORD wanted = edge == Edge::Left ? kDockLeft : kDockRight;
-    return state != nullptr && state->dockingAllowed && (state->edges & wanted) != 0;
+    return state != nullptr && state->dockingAllowed && (state->edges & bitOf(edge)) != 0;
 }
 
 /// Moves the set's window to where its place says.

@@ -17,6 +17,8 @@
 
 namespace workbench {
 
+class Toolkit;
+
 constexpr UINT kLeftDockBar = 59420;   ///< ID of the main frame's left dock bar.
 constexpr UINT kRightDockBar = 59421;  ///< ID of the main frame's right dock bar.
 
@@ -26,7 +28,8 @@ class MainFrame {
 public:
     using SetStates = StateTable<CQrUiPaletteSet, PaletteSetState>;
 
-    MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools);
+    /// A part of the toolkit, whose windows, palette sets and tools must be there already.
+    explicit MainFrame(Toolkit& toolkit);
     MainFrame(const MainFrame&) = delete;
     MainFrame& operator=(const MainFrame&) = delete;
     /// Lets all windows go without a message.
@@ -46,7 +49,10 @@ public:
     void add(CQrUiPaletteSet& set);
     /// Lets a set go whose window ends.
     void forget(CQrUiPaletteSet& set);
-    /// Puts a set where the user last had its tool, or else at a dock bar with a width.
+    /// Whether a set may stand at a place: one that floats anywhere, another one where it may dock.
+    bool mayStand(const CQrUiPaletteSet& set, const BarPlace& place) const;
+    /// Puts a set where the user last had its tool, if it may stand there, or else at a dock bar
+    /// with a width.
     void restore(CQrUiPaletteSet& set, UINT dockBar, const CRect& rectangle);
     /// Puts a set at a place, with no question whether the edge is allowed.
     void put(CQrUiPaletteSet& set, BarPlace place);
@@ -76,6 +82,7 @@ private:
     HWND homeOf(CQrUiPaletteSet& set);
     int widthOf(const CQrUiPaletteSet& set) const;
 
+    Toolkit& m_toolkit;
     WindowSystem& m_windows;
     SetStates& m_sets;
     ToolRegistry& m_tools;

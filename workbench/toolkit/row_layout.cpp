@@ -77,9 +77,11 @@ private:
             return;
         }
         const int needed = neededWidth(item.kind, m_metrics);
-        if (!m_row.isEmpty() && m_row.needed() + needed > m_width)
+        if (!m_row.isEmpty() && (item.alone || m_row.needed() + needed > m_width))
             place();
         m_row.add(index, item.kind, needed);
+        if (item.alone)
+            place();
     }
 
     /// Gives the items of the row their rectangles and begins a new row.

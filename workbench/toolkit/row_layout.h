@@ -13,6 +13,7 @@ struct RowItem {
     enum class Kind { Button, Flyout, Control, Separator, RowBreak };
     Kind kind = Kind::Button;
     bool hidden = false;  ///< Takes no place.
+    bool alone = false;   ///< A control that shares its row with no other item.
 };
 
 /// The measures of a tool panel's rows.
@@ -34,7 +35,8 @@ constexpr int kMinimumControlWidth = 40;  ///< Pixels; a narrower rest of a row 
 constexpr int kRowGap = 2;                ///< Pixels between two rows.
 
 /// Lays items out in rows of a width. Buttons, flyouts and separators have fixed widths, controls
-/// share the rest of their row; what doesn't fit begins a new row, and so does a row break.
+/// share the rest of their row; what doesn't fit begins a new row, and so does a row break, and
+/// what stands before and behind a control that stands alone.
 /// `heightOf` gives the height of the control at an index for a width.
 RowLayout layoutRows(const std::vector<RowItem>& items, int width, const RowMetrics& metrics,
                      const std::function<int(std::size_t index, int width)>& heightOf);

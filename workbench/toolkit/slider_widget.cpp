@@ -78,7 +78,7 @@ void SliderWidget::press(Window& window, CPoint point) {
     m_drag = Drag{grip, point.x, windows.focus()};
     m_toolkit.mouse().capture(window.handle);
     const HWND slider = window.handle;
-    windows.setFocus(slider);
+    takeFocus(m_toolkit, slider);
     // Whoever lost the focus may have ended this window.
     Window* const living = windows.find(slider);
     if (living != nullptr && !onThumb)

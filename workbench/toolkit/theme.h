@@ -11,6 +11,9 @@ namespace workbench {
 /// A theme of the toolkit.
 class Theme final : public CQrUiTheme {
 public:
+    /// Index of the pointer to the font of controls, a `CFont` that whoever set it owns.
+    static constexpr int kControlFontPointer = 2;
+
     Theme() = default;
     Theme(const Theme&) = delete;
     Theme& operator=(const Theme&) = delete;

@@ -18,6 +18,8 @@ struct CQrUiToolPanelItem::Record {
     HBITMAP largeImage = nullptr;  ///< Owned; null for none.
     HWND control = nullptr;        ///< Null for none.
     bool controlHidden = false;    ///< The layout hid the control along with the item.
+    bool asked = false;            ///< The custom control has told how it stands in its row.
+    bool sharesRow = true;         ///< What it told: it shares a row with other items.
     bool laidOut = false;          ///< It has stood on a panel; from then on a user sees it.
     CRect rect;                    ///< In the tool panel's client area.
     std::vector<CQrUiToolPanelItem*> flyoutItems;  ///< Owned.

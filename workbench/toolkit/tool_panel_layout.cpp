@@ -1,6 +1,7 @@
 #include "workbench/toolkit/tool_panel_layout.h"
 
 #include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/tool_panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -56,14 +57,50 @@ void placeControl(Toolkit& toolkit, HWND control, const CRect& rect) {
     panel.UpdateLayout(0);
 }
 
+/// An item whose custom control was not asked yet; null for none.
+CQrUiToolPanelItem* nextToAsk(const WindowSystem& windows, const CQrUiToolPanel& panel) {
+    for (int index = 0; index < panel.GetToolPanelItemCount(); ++index) {
+        CQrUiToolPanelItem* const item = panel.GetToolPanelItem(index);
+        if (!item->m_record->asked && isCustomControl(windows, item->GetControl()))
+            return item;
+    }
+    return nullptr;
+}
+
+/// Whether an item still stands on a panel.
+bool standsOn(const CQrUiToolPanel& panel, const CQrUiToolPanelItem* item) {
+    for (int index = 0; index < panel.GetToolPanelItemCount(); ++index) {
+        if (panel.GetToolPanelItem(index) == item)
+            return true;
+    }
+    return false;
+}
+
 }  // namespace
+
+bool askControls(Toolkit& toolkit, const CQrUiToolPanel& panel) {
+    WindowSystem& windows = toolkit.windows();
+    const HWND handle = panel.m_hWnd;
+    while (CQrUiToolPanelItem* const item = nextToAsk(windows, panel)) {
+        item->m_record->asked = true;
+        const HWND control = item->GetControl();
+        const bool sharesRow = windows.send(control, WM_QRUI_ROW_QUERY, 0, 0) != 0;
+        if (windows.find(handle) == nullptr)
+            return false;
+        if (standsOn(panel, item))
+            item->m_record->sharesRow = sharesRow;
+    }
+    return true;
+}
 
 std::vector<RowItem> rowItemsOf(const CQrUiToolPanel& panel) {
     std::vector<RowItem> items;
     items.reserve(static_cast<std::size_t>(panel.GetToolPanelItemCount()));
     for (int index = 0; index < panel.GetToolPanelItemCount(); ++index) {
         const CQrUiToolPanelItem& item = *panel.GetToolPanelItem(index);
-        items.push_back({kindOf(item.GetType()), (item.GetState() & kItemHidden) != 0});
+        items.push_back({.kind = kindOf(item.GetType()),
+                         .hidden = (item.GetState() & kItemHidden) != 0,
+                         .alone = !item.m_record->sharesRow});
     }
     return items;
 }

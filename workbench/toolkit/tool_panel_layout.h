@@ -11,6 +11,9 @@ namespace workbench {
 class Toolkit;
 class WindowSystem;
 
+/// Asks the custom controls on a tool panel that weren't asked yet whether they share their row
+/// with other items (`WM_QRUI_ROW_QUERY`). The answers are kept. False if the panel ended meanwhile.
+bool askControls(Toolkit& toolkit, const CQrUiToolPanel& panel);
 /// The items of a tool panel as its row layout takes them.
 std::vector<RowItem> rowItemsOf(const CQrUiToolPanel& panel);
 /// The height that the window of a control item wants at a width; 0 without a window.

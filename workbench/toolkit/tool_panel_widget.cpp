@@ -69,6 +69,8 @@ void ToolPanelWidget::layout(Window& window) {
     const Turn turn;
     CQrUiToolPanel& panel = panelOf(window);
     const HWND handle = window.handle;
+    if (!askControls(m_toolkit, panel))
+        return;
     const RowLayout places = rows(panel, window.rect.Width());
     for (std::size_t index = 0; index < places.items.size(); ++index) {
         // Placing a control may run its code, which may change the panel or end it.
@@ -149,23 +151,29 @@ void ToolPanelWidget::release(Window& window, UINT flags, CPoint point) {
     const HWND handle = window.handle;
     const HWND before = m_focusBefore;
     const bool isControl = standsIn<ToolPanelWidget>(windows(), window);
-    if (item != nullptr)
-        click(window, *item, flags, point);
-    else if (isControl)
-        panelOf(window).OnLButtonClicked(flags, point);
+    const bool takesClick =
+        item == nullptr || (item->GetState() & (kItemDisabled | kItemHidden)) == 0;
+    if (isControl && takesClick)
+        clickIcon(window, flags, point);
+    else if (!isControl && takesClick && item != nullptr)
+        click(window, *item, point);
     if (isControl)
         giveFocusBackFromControl(m_toolkit, handle, before);
     else
         giveFocusBack(m_toolkit, handle, before);
 }
 
-void ToolPanelWidget::click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point) {
-    if ((item.GetState() & (kItemDisabled | kItemHidden)) != 0)
-        return;
-    if (standsIn<ToolPanelWidget>(windows(), window)) {
-        panelOf(window).OnLButtonClicked(flags, point);
-        return;
-    }
+/// A click on a custom control beside its parts is one on its icon, if the control says that it has
+/// one.
+void ToolPanelWidget::clickIcon(const Window& window, UINT flags, CPoint point) {
+    const HWND handle = window.handle;
+    CQrUiToolPanel& panel = panelOf(window);
+    const bool hasIcon = windows().send(handle, WM_QRUI_HAS_ICON, 0, 0) != 0;
+    if (hasIcon && windows().find(handle) != nullptr)
+        panel.OnLButtonClicked(flags, point);
+}
+
+void ToolPanelWidget::click(const Window& window, CQrUiToolPanelItem& item, CPoint point) {
     const bool onArrow =
         item.GetType() == kItemFlyout && point.x >= item.m_record->rect.right - kFlyoutArrowWidth;
     if (onArrow && !openFlyout(m_toolkit, item))

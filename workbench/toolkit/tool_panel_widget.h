@@ -37,7 +37,8 @@ private:
     void passOn(const Window& window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
     void press(const Window& window, CPoint point);
     void release(Window& window, UINT flags, CPoint point);
-    void click(Window& window, CQrUiToolPanelItem& item, UINT flags, CPoint point);
+    void clickIcon(const Window& window, UINT flags, CPoint point);
+    void click(const Window& window, CQrUiToolPanelItem& item, CPoint point);
     void changeTheme(Window& window, WPARAM wParam, LPARAM lParam);
 
     Toolkit& m_toolkit;

@@ -22,6 +22,20 @@ std::optional<BarPlace> ToolRegistry::placeOf(const GUID& id) const {
     return entry == nullptr ? std::nullopt : entry->place;
 }
 
+void ToolRegistry::forgetPlaces() {
+    for (Entry& entry : m_entries)
+        entry.place.reset();
+}
+
+std::vector<GUID> ToolRegistry::placedTools() const {
+    std::vector<GUID> tools;
+    for (const Entry& entry : m_entries) {
+        if (entry.place)
+            tools.push_back(entry.id);
+    }
+    return tools;
+}
+
 ToolRegistry::Entry& ToolRegistry::entryOf(const GUID& id) {
     if (findEntry(id) == nullptr)
         m_entries.push_back({id, {}, {}});

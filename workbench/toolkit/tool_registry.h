@@ -28,6 +28,10 @@ public:
     void rememberPlace(const GUID& id, const BarPlace& place);
     /// Where the user last had the bar of a tool; nothing if it never stood anywhere.
     std::optional<BarPlace> placeOf(const GUID& id) const;
+    /// Forgets where all bars stood.
+    void forgetPlaces();
+    /// The tools whose bars have stood somewhere, in the order in which they came up.
+    std::vector<GUID> placedTools() const;
 
 private:
     struct Entry {

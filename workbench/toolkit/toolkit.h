@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/toolkit/balloon_tips.h"
+#include "workbench/toolkit/kept_bars.h"
 #include "workbench/toolkit/main_frame.h"
 #include "workbench/toolkit/message_boxes.h"
 #include "workbench/toolkit/mouse.h"
@@ -38,6 +39,7 @@ public:
     // Its parts.
 
     MainFrame& frame() { return m_frame; }
+    KeptBars& bars() { return m_bars; }
     ThemeManager& themes() { return m_themes; }
     ToolRegistry& tools() { return m_tools; }
     PictureTable& pictures() { return m_pictures; }
@@ -83,6 +85,7 @@ private:
     StateTable<CQrUiPanel, PanelState> m_panels;
     StateTable<CQrUiPanelSet, PanelSetState> m_panelSets;
     StateTable<CQrUiPaletteSet, PaletteSetState> m_paletteSets;
+    KeptBars m_bars;
     MainFrame m_frame;
     BalloonTips m_balloons;
     ToolTips m_toolTips;

@@ -50,16 +50,6 @@ public:
     /// How many objects live.
     std::size_t count() const { return m_count; }
 
-    /// Calls a function with each living object, in the order of their places. The function must
-    /// not add or take objects.
-    template <class Function>
-    void forEach(Function function) const {
-        for (const Slot& slot : m_slots) {
-            if (slot.object != nullptr)
-                function(*slot.object);
-        }
-    }
-
 private:
     struct Slot {
         std::uintptr_t generation = 1;

@@ -42,8 +42,11 @@ void KeyboardFocus::leaveWithin(HWND root) {
 }
 
 void KeyboardFocus::windowDisabled(HWND window) {
-    // What stands in a field that is disabled is no entry.
-    if (m_window == window)
+    const Window* const focus = m_tree.find(m_window);
+    const bool isEntry =
+        focus != nullptr && focus->widget != nullptr && focus->widget->holdsTyping(*focus);
+    // Without typing there is no entry that its parent could take.
+    if (!isEntry && focus != nullptr && m_tree.isWithin(m_window, window))
         m_reported = nullptr;
     leaveWithin(window);
 }

@@ -29,8 +29,8 @@ public:
     bool moveTo(HWND window);
     /// Takes the focus from a window and all below it.
     void leaveWithin(HWND root);
-    /// A window was disabled: its user has not left it, so its parent isn't told, and all below it
-    /// lose the focus.
+    /// A window was disabled, and it and all below it lose the focus. The parent of a field is told
+    /// only if the field holds what its user typed: that is an entry, all else is none.
     void windowDisabled(HWND window);
     /// A window is gone: nobody is told.
     void windowEnded(HWND window);

@@ -2,6 +2,7 @@
 
 #include "workbench/base/turn.h"
 #include "workbench/windows/message_words.h"
+#include "workbench/windows/window_parts.h"
 
 #include <cstdint>
 #include <utility>
@@ -157,9 +158,10 @@ void MessageDispatcher::objectEnds(const CWnd& object) {
 
 void MessageDispatcher::noteMessage(const Window& window, UINT message, WPARAM wParam,
                                     LPARAM lParam) {
-    if (window.name.empty())
+    std::string name = journalName(m_tree, window);
+    if (name.empty())
         return;
-    m_journal.add("message", {{"control", window.name},
+    m_journal.add("message", {{"control", std::move(name)},
                               {"number", static_cast<std::int64_t>(message)},
                               {"wparam", static_cast<std::int64_t>(wParam)},
                               {"lparam", shownLParam(message, lParam)}});

@@ -6,6 +6,10 @@ bool Widget::handle(Window&, UINT, WPARAM, LPARAM, LRESULT&) {
     return false;
 }
 
+bool Widget::holdsTyping(const Window&) const {
+    return false;
+}
+
 std::string Widget::describe(const Window&) const {
     return {};
 }

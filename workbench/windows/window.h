@@ -21,6 +21,8 @@ public:
                         LRESULT& answer);
     /// Whether the parent is told of the focus coming and going (`EN_SETFOCUS`, `EN_KILLFOCUS`).
     virtual bool reportsFocus() const { return false; }
+    /// Whether what the user typed into it stands in it still.
+    virtual bool holdsTyping(const Window& window) const;
     /// Whether the Tab key brings the keyboard here.
     virtual bool takesTab() const { return reportsFocus(); }
     /// Words for the window tree behind class and ID, such as the slider's position; may be empty.

@@ -68,4 +68,13 @@ HWND findPart(const WindowTree& windows, HWND owner, const std::string& part) {
     return nullptr;
 }
 
+std::string journalName(const WindowTree& windows, const Window& window) {
+    if (!window.name.empty())
+        return window.name;
+    if (window.className == "CFrameWnd")
+        return "MainFrame";
+    return window.className == "CQrToolTipCtrl" ? windows.ownerName(window.handle) + ".tooltip"
+                                                : std::string();
+}
+
 }  // namespace workbench

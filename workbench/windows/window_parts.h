@@ -16,4 +16,9 @@ std::string partName(const WindowTree& windows, HWND window);
 /// The window that is a part of `owner` under a name; null for none.
 HWND findPart(const WindowTree& windows, HWND owner, const std::string& part);
 
+/// By what name the journal tells a window's messages: its own, "MainFrame" for the main window, that
+/// of the named window around it with ".tooltip" behind it for a tooltip; empty for all others, whose
+/// messages aren't told.
+std::string journalName(const WindowTree& windows, const Window& window);
+
 }  // namespace workbench

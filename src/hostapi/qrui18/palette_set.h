@@ -44,9 +44,9 @@ public:
     /// The pixels that title bar and borders take from a floating set.
     CSize GetNonClientSize() const;
 
-    /// Reads the set's place from a node; 0 on failure.
+    /// Reads the set's place from a node; 0 on failure. Raises `VxComError` of the store.
     virtual BOOL Load(IUnknown* storageNode);
-    /// Writes the set's place below a node; 0 on failure.
+    /// Writes the set's place below a node; 0 on failure. Raises `VxComError` of the store.
     virtual BOOL Save(IUnknown* storageNode);
     /// Adds lines to the context menu that the toolkit has begun. Returns 0 on failure.
     virtual BOOL AddContextMenuItems(CMenu& menu);

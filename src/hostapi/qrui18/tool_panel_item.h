@@ -20,6 +20,9 @@ constexpr UINT kItemDisabled = 2;
 constexpr UINT kItemChecked = 16;
 constexpr UINT kItemHidden = 32;
 
+/// Kinds of an item's rectangle.
+constexpr int kItemClientRect = 1;  ///< In the tool panel's client coordinates.
+
 /// Image slots of an item.
 constexpr int kItemSmallImage = 5;  ///< 16 pixels.
 constexpr int kItemLargeImage = 6;  ///< 32 pixels.
@@ -51,7 +54,7 @@ public:
     /// The window of a control item, null for none. The window is not owned.
     HWND GetControl() const;
     void SetControl(HWND control);
-    /// The item's rectangle: 1 in the tool panel's client coordinates.
+    /// The item's rectangle of a kind: `kItemClientRect`; empty for any other.
     void GetRect(CRect& rect, int which) const;
     /// The item's top left corner in the tool panel's client coordinates.
     CPoint GetPosition() const;

@@ -68,7 +68,10 @@ public:
     void ShowWindow(int command);
     /// Whether the window itself takes input; its parents aren't asked.
     BOOL IsWindowEnabled() const;
-    /// Enables or disables input.
+    /// Enables or disables input. If the window or one below it has the keyboard focus when it is
+    /// disabled, the focus goes to no window. Whichever of them was disabled, the parent of a field
+    /// that had the focus is told of that (`EN_KILLFOCUS`) if the field holds what its user typed; a
+    /// text that was set is no entry, and goes unsaid.
     void EnableWindow(BOOL enable);
 
     /// The window's text.

@@ -25,7 +25,7 @@ TEST_F(ModuleLoaderTest, ALoadedModuleHasRegisteredItsService) {
 TEST_F(ModuleLoaderTest, LoadingTwiceLoadsOnce) {
     EXPECT_TRUE(modules().loadModule(kModule));
     EXPECT_TRUE(modules().loadModule(L"VXTP.QLX"));
-    EXPECT_EQ(modules().moduleCount(), 1U);
+    EXPECT_EQ(libraries().openCount(), 1U);
     EXPECT_TRUE(modules().unloadModule(kModule));
     EXPECT_EQ(libraries().find(kModule), nullptr);
 }

@@ -1,6 +1,11 @@
 #include "tests/workbench/script/script_fixture.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/script/calls.h"
+#include "workbench/windows/window_system.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
 
 namespace workbench::script {
 
@@ -67,6 +72,31 @@ TEST_F(SessionCallsTest, ThemeIsSwitchedAndTheControlsHearOfIt) {
     )");
     EXPECT_EQ(complaintOf("wb.theme('pink')"),
               "wb.theme: there is no theme \"pink\": light or dark");
+}
+
+TEST_F(SessionCallsTest, NoWindowKeepsADeadFontWhenTheThemeChanges) {
+    runOnDashboard("");
+    std::size_t dressed = 0;
+    const auto deadFonts = [&] {
+        std::vector<std::string> dead;
+        dressed = 0;
+        WindowSystem& windows = workbench().windows();
+        for (const HWND top : windows.topWindows()) {
+            for (const HWND handle : windows.descendants(top)) {
+                const Window& window = *windows.find(handle);
+                dressed += window.font != 0 ? 1U : 0U;
+                if (window.font != 0 && windows.gdi().findFont(window.font) == nullptr)
+                    dead.push_back(windows.ownerName(handle) + ": " + window.className);
+            }
+        }
+        return dead;
+    };
+    EXPECT_EQ(deadFonts(), std::vector<std::string>{});
+    EXPECT_EQ(dressed, 8U) << "the list of views, six coordinates and the link";
+    run("wb.theme('dark')");
+    EXPECT_EQ(deadFonts(), std::vector<std::string>{});
+    run("wb.theme('light')");
+    EXPECT_EQ(deadFonts(), std::vector<std::string>{});
 }
 
 TEST_F(SessionCallsTest, FaultWithoutCountStaysUntilTakenBack) {

@@ -30,7 +30,7 @@ protected:
 TEST_F(BarPlaceTest, APlaceComesBackAsItWasSaved) {
     for (const BarPlace& place :
          {m_floating, BarPlace{false, Edge::Right, true, {0, 0, 235, 300}}}) {
-        EXPECT_TRUE(saveBarPlace(m_node, place));
+        saveBarPlace(m_node, place);
         EXPECT_EQ(loadBarPlace(m_node), place);
     }
     const CTypedPtrArray<IXMLDOMNode*> places = VxUt::GetChildNodes(m_node);
@@ -58,6 +58,13 @@ TEST_F(BarPlaceTest, ASetSavesAndLoadsItsPlace) {
     EXPECT_EQ(m_set->Load(m_node), 1);
     EXPECT_TRUE(m_set->IsFloating());
     EXPECT_EQ(frame().placeOf(*m_set).rect, m_floating.rect);
+}
+
+TEST_F(BarPlaceTest, ASetDoesNotLoadAPlaceWhereItMayNotStand) {
+    saveBarPlace(m_node, BarPlace{false, Edge::Left, false, {0, 0, 235, 300}});
+    m_set->EnableDocking(0x4000);
+    EXPECT_EQ(m_set->Load(m_node), 0);
+    EXPECT_EQ(frame().placeOf(*m_set).edge, Edge::Right);
 }
 
 TEST_F(BarPlaceTest, ASetWithoutANodeOrPlaceFails) {

@@ -80,5 +80,49 @@ TEST_F(FocusReturnTest, AFocusOutsideTheSetStaysWhereItIs) {
     EXPECT_EQ(windows().focus(), commandLine);
 }
 
+TEST_F(FocusReturnTest, AClickIntoTheDrawingTakesTheFocusOnlyIfThePalettesAgree) {
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
+    m_palette->releasesFocus = false;
+    gestures::clickAt(toolkit(), view(), {5, 5});
+    EXPECT_EQ(windows().focus(), m_edit.m_hWnd);
+    m_palette->releasesFocus = true;
+    gestures::clickAt(toolkit(), view(), {5, 5});
+    EXPECT_EQ(windows().focus(), view());
+}
+
+TEST_F(FocusReturnTest, WhileAControlsListIsDroppedNoGestureElsewhereTakesTheFocus) {
+    CQrUiInputEditCtrl elsewhere;
+    elsewhere.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 20}, m_toolPanel, 10009, 0);
+    addControlTo(*m_toolPanel, elsewhere);
+    m_panelSet.UpdateLayout();
+    bool dropped = true;
+    m_control.answers[WM_QRUI_LIST_DROPPED] = [&dropped](WPARAM, LPARAM) {
+        return LRESULT{dropped ? 1 : 0};
+    };
+    windows().setFocus(m_slider.m_hWnd);
+    gestures::clickAt(toolkit(), view(), {5, 5});
+    gestures::clickAt(toolkit(), frame().commandLine().m_hWnd, {5, 5});
+    gestures::clickAt(toolkit(), elsewhere.m_hWnd, {5, 5});
+    gestures::clickItem(toolkit(), m_item);
+    gestures::pressKey(toolkit(), "tab");
+    EXPECT_EQ(windows().focus(), m_slider.m_hWnd);
+    gestures::clickAt(toolkit(), m_edit.m_hWnd, {5, 5});
+    EXPECT_EQ(windows().focus(), m_edit.m_hWnd) << "within the control it goes where it likes";
+    dropped = false;
+    gestures::clickAt(toolkit(), elsewhere.m_hWnd, {5, 5});
+    EXPECT_EQ(windows().focus(), elsewhere.m_hWnd);
+}
+
+TEST_F(FocusReturnTest, AControlThatEndsWhileItIsAskedTakesNobodysFocus) {
+    gestures::focusField(toolkit(), m_edit.m_hWnd);
+    m_control.answers[WM_QRUI_LIST_DROPPED] = [this](WPARAM, LPARAM) {
+        m_control.DestroyWindow();
+        return LRESULT{1};
+    };
+    gestures::clickAt(toolkit(), view(), {5, 5});
+    EXPECT_EQ(windows().find(m_control.m_hWnd), nullptr);
+    EXPECT_EQ(windows().focus(), nullptr);
+}
+
 }  // namespace
 }  // namespace workbench

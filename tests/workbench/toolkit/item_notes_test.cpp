@@ -86,6 +86,7 @@ TEST_F(ItemNotesTest, TheIdOfTheMenuDataCounts) {
 }
 
 TEST_F(ItemNotesTest, AnUnchangedStateTakesNoMemory) {
+    journal().setRecording(false);
     const std::size_t before = support::allocationCount();
     m_item.SetState(0);
     EXPECT_EQ(m_item.GetState(), 0U);

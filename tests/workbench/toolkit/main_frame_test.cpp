@@ -68,6 +68,23 @@ TEST_F(MainFrameTest, RestoringPutsASetWhereItsToolWasLast) {
     EXPECT_EQ(frame().placeOf(again).rect, (CRect{10, 20, 310, 420}));
 }
 
+TEST_F(MainFrameTest, ASetIsNotRestoredAtAnEdgeWhereItMayNotDock) {
+    frame().dock(*m_set, Edge::Left);
+    m_set.reset();
+    Listening<CQrUiPaletteSet> again(0U);
+    again.SetToolID(kTool);
+    again.Create(L"Again", 0, {50, 50, 285, 350}, &frame().frame(), 0);
+    again.EnableDocking(0x4000);
+    again.RestoreControlBar(kRightDockBar, {50, 50, 285, 350});
+    EXPECT_EQ(frame().placeOf(again).edge, Edge::Right);
+}
+
+TEST_F(MainFrameTest, ASetMayHaveNoFrame) {
+    frame().floatAt(*m_set, {10, 20, 310, 420});
+    m_workbench.faults().fail("CControlBar::GetDockingFrame");
+    EXPECT_EQ(m_set->GetDockingFrame(), nullptr);
+}
+
 TEST_F(MainFrameTest, AFloatingSetStandsInADockBarOfASmallFrame) {
     frame().floatAt(*m_set, {10, 20, 310, 420});
     EXPECT_TRUE(m_set->IsFloating());

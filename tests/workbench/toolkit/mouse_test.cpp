@@ -73,8 +73,8 @@ TEST_F(MouseTest, ADoubleClickIsAClickAndAnother) {
     std::vector<UINT> numbers;
     for (const Received& message : m_inner.received)
         numbers.push_back(message.message);
-    EXPECT_THAT(numbers,
-                ElementsAre(kLeftButtonDown, kLeftButtonUp, kLeftButtonDoubleClick, kLeftButtonUp));
+    EXPECT_THAT(numbers, ElementsAre(kLeftButtonDown, kLeftButtonUp, WM_QRUI_HAS_ICON,
+                                     kLeftButtonDoubleClick, kLeftButtonUp));
 }
 
 TEST_F(MouseTest, TheWheelTurnsInBothDirections) {

@@ -73,6 +73,12 @@ TEST(RowLayoutTest, AControlNarrowerThanTheLeastBeginsANewRow) {
                 ElementsAre(CRect{0, 0, 22, 22}, CRect{22, 3, 62, 19}));
 }
 
+TEST(RowLayoutTest, AControlThatStandsAloneHasItsRowForItself) {
+    EXPECT_THAT(
+        place({{Kind::Button}, {.kind = Kind::Control, .alone = true}, {Kind::Button}}, 200),
+        ElementsAre(CRect{0, 0, 22, 22}, CRect{0, 24, 200, 40}, CRect{0, 42, 22, 64}));
+}
+
 TEST(RowLayoutTest, AControlIsAskedForItsHeightAtItsWidth) {
     std::vector<int> asked;
     const RowLayout layout = layoutRows({{Kind::Control}, {Kind::Button}}, 100, {},

@@ -49,6 +49,39 @@ TEST_F(ToolPanelLayoutTest, AControlInAControlIsAsHighAsItsRows) {
     EXPECT_EQ(controlHeight(windows(), addControlTo(*m_toolPanel, control), 100), 46);
 }
 
+TEST_F(ToolPanelLayoutTest, AControlIsAskedOnceWhetherItSharesItsRow) {
+    ListeningToolPanel control;
+    control.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 22}, m_toolPanel, 1, 0);
+    control.answers[WM_QRUI_ROW_QUERY] = [](WPARAM, LPARAM) { return LRESULT{0}; };
+    addControlTo(*m_toolPanel, control);
+    EXPECT_FALSE(rowItemsOf(*m_toolPanel).front().alone) << "not asked yet";
+    EXPECT_TRUE(askControls(toolkit(), *m_toolPanel));
+    EXPECT_TRUE(askControls(toolkit(), *m_toolPanel));
+    EXPECT_EQ(control.of(WM_QRUI_ROW_QUERY), (std::vector<Received>{{WM_QRUI_ROW_QUERY, 0, 0}}));
+    EXPECT_TRUE(rowItemsOf(*m_toolPanel).front().alone);
+}
+
+TEST_F(ToolPanelLayoutTest, OnlyCustomControlsAreAsked) {
+    CQrUiProgSliderCtrl slider;
+    slider.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 99}, m_toolPanel, 1, 2);
+    addControlTo(*m_toolPanel, slider);
+    journal().take();
+    EXPECT_TRUE(askControls(toolkit(), *m_toolPanel));
+    EXPECT_FALSE(rowItemsOf(*m_toolPanel).front().alone);
+}
+
+TEST_F(ToolPanelLayoutTest, APanelThatEndsWhileItsControlIsAskedIsNotLaidOut) {
+    ListeningToolPanel control;
+    control.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 22}, m_toolPanel, 1, 0);
+    addControlTo(*m_toolPanel, control);
+    control.answers[WM_QRUI_ROW_QUERY] = [this](WPARAM, LPARAM) {
+        m_toolPanel->DestroyWindow();
+        return LRESULT{1};
+    };
+    EXPECT_EQ(m_toolPanel->UpdateLayout(1), 1);
+    EXPECT_EQ(m_toolPanel->m_hWnd, nullptr);
+}
+
 TEST_F(ToolPanelLayoutTest, AnItemWithoutAWindowOnlyGetsItsRectangle) {
     CQrUiToolPanelItem& item = addItem(kItemControl, L"ID");
     placeItem(toolkit(), item, {1, 2, 3, 4});

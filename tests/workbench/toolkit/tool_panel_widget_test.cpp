@@ -93,6 +93,21 @@ TEST_F(ToolPanelWidgetTest, AClickBesideItemsReachesOnlyControls) {
     EXPECT_THAT(m_toolPanel->clicks, IsEmpty());
 }
 
+TEST_F(ToolPanelWidgetTest, AControlWithoutAnIconGetsNoClickOnOne) {
+    ListeningToolPanel control;
+    control.Create(WS_CHILD | WS_VISIBLE, {0, 0, 50, 22}, m_toolPanel, 1, 0);
+    addItemTo(control, kItemButton, L"ICON");
+    addControlTo(*m_toolPanel, control);
+    m_panelSet.UpdateLayout();
+    control.answers[WM_QRUI_HAS_ICON] = [](WPARAM, LPARAM) { return LRESULT{0}; };
+    gestures::clickAt(toolkit(), control.m_hWnd, {5, 5});
+    EXPECT_TRUE(control.clicks.empty());
+    EXPECT_EQ(control.of(WM_QRUI_HAS_ICON).size(), 1U);
+    control.answers[WM_QRUI_HAS_ICON] = [](WPARAM, LPARAM) { return LRESULT{1}; };
+    gestures::clickAt(toolkit(), control.m_hWnd, {5, 5});
+    EXPECT_EQ(control.clicks.size(), 1U);
+}
+
 TEST_F(ToolPanelWidgetTest, AControlTakesTheRestOfItsRowAndRenewsItsLayout) {
     addItem(kItemButton, L"ID_A");
     ListeningToolPanel& control = addControl();
@@ -144,7 +159,7 @@ TEST_F(ToolPanelWidgetTest, APanelImageIndentsTheRows) {
     const CQrUiToolPanelItem& item = addItemTo(*indented, kItemButton, L"ID_A");
     m_panelSet.UpdateLayout();
     CRect rect;
-    item.GetRect(rect, 1);
+    item.GetRect(rect, kItemClientRect);
     EXPECT_EQ(rect, (CRect{24, 0, 46, 22}));
 }
 

@@ -71,6 +71,10 @@ public:
 /// A custom control as the host's modules make them: a tool panel within a tool panel.
 class ListeningToolPanel final : public Listening<CQrUiToolPanel> {
 public:
+    ListeningToolPanel() {
+        for (const UINT query : {WM_QRUI_HAS_ICON, WM_QRUI_ROW_QUERY})
+            answers[query] = [](WPARAM, LPARAM) { return LRESULT{1}; };
+    }
     void OnLButtonClicked(UINT flags, CPoint point) override {
         clicks.push_back(point);
         if (onClick)

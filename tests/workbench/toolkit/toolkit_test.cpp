@@ -36,7 +36,7 @@ TEST_F(ToolkitUnitTest, LargeIconsShowAtTheNextLayout) {
     toolkit().setIconSize(32);
     m_panelSet.UpdateLayout();
     CRect rect;
-    item.GetRect(rect, 1);
+    item.GetRect(rect, kItemClientRect);
     EXPECT_EQ(rect, (CRect{0, 0, 38, 38}));
 }
 

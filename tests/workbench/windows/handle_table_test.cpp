@@ -37,15 +37,4 @@ TEST(HandleTableTest, NoHandleIsGivenOutTwice) {
     }
 }
 
-TEST(HandleTableTest, TheLivingAreVisited) {
-    Numbers numbers;
-    numbers.add(std::make_unique<int>(1));
-    const auto gone = numbers.add(std::make_unique<int>(10));
-    numbers.add(std::make_unique<int>(100));
-    numbers.take(gone);
-    int sum = 0;
-    numbers.forEach([&sum](int number) { sum += number; });
-    EXPECT_EQ(sum, 101);
-}
-
 }  // namespace workbench

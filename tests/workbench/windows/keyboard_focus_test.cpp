@@ -37,6 +37,8 @@ protected:
         ASSERT_TRUE(make(plain, &parent, 3));
     }
 
+    void holdTyping(const CWnd& field) { windows().widgetOf<FocusReporter>(&field)->typed = true; }
+
     FocusParent parent;
     CWnd first;
     CWnd second;
@@ -84,18 +86,37 @@ TEST_F(KeyboardFocusTest, AFieldInAHiddenOrDisabledParentTakesNoFocus) {
     EXPECT_NE(CWnd::GetFocus(), &first);
 }
 
-TEST_F(KeyboardFocusTest, AFieldThatIsDisabledLosesTheFocusInSilence) {
+TEST_F(KeyboardFocusTest, AFieldThatIsDisabledLosesTheFocusAndItsParentHearsOfAnEntry) {
+    holdTyping(first);
     first.SetFocus();
     first.EnableWindow(0);
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
-    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001"}));
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 lost, focus none"}));
 }
 
-TEST_F(KeyboardFocusTest, AFieldWhoseParentIsDisabledLosesTheFocus) {
+TEST_F(KeyboardFocusTest, AFieldWhoseParentIsDisabledLosesTheFocusInTheSameWay) {
+    holdTyping(first);
     first.SetFocus();
     parent.EnableWindow(0);
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
-    EXPECT_EQ(parent.log.back(), "10001 lost, focus none");
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 lost, focus none"}));
+}
+
+TEST_F(KeyboardFocusTest, WithoutAnEntryTheFocusGoesInSilence) {
+    first.SetFocus();
+    first.EnableWindow(0);
+    first.EnableWindow(1);
+    first.SetFocus();
+    parent.EnableWindow(0);
+    EXPECT_EQ(CWnd::GetFocus(), nullptr);
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 got, focus 10001"}));
+}
+
+TEST_F(KeyboardFocusTest, AWindowBesidesTheFocusIsDisabledWithoutEffectOnIt) {
+    first.SetFocus();
+    second.EnableWindow(0);
+    plain.SetFocus();
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 lost, focus 3"}));
 }
 
 TEST_F(KeyboardFocusTest, AFieldWhoseParentIsHiddenLosesTheFocus) {

@@ -56,6 +56,9 @@ public:
 class FocusReporter : public Widget {
 public:
     bool reportsFocus() const override { return true; }
+    bool holdsTyping(const Window& /*window*/) const override { return typed; }
+
+    bool typed = false;  // by the user
 };
 
 /// A workbench whose windows the tests make by hand.

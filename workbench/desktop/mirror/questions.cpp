@@ -89,7 +89,7 @@ bool isDisabledAt(const Stage& stage, HWND window) {
     for (int i = 0; i < panel->GetToolPanelItemCount(); ++i) {
         const CQrUiToolPanelItem& item = *panel->GetToolPanelItem(i);
         CRect rect;
-        item.GetRect(rect, 1);
+        item.GetRect(rect, kItemClientRect);
         if (rect.PtInRect(stage.toolkit.mouse().point()))
             return (item.GetState() & kItemDisabled) != 0;
     }
