@@ -3,6 +3,7 @@
 #include "tests/workbench/desktop/mirror/mirror_fixture.h"
 
 #include <QAbstractButton>
+#include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
@@ -89,6 +90,17 @@ TEST_F(QuestionsTest, WhileAScriptHasTheHostNobodyIsAsked) {
 TEST_F(QuestionsTest, AQueuedAnswerComesFirst) {
     m_workbench.answers().queue("box", "cancel");
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 1, ""), MessageBoxes::kCancel);
+}
+
+TEST_F(QuestionsTest, NoTooltipComesOnceTheMouseHasLeft) {
+    ItemWidget* line = item(L"ID_Parallel_Projection");
+    hover(*line->parentWidget(), line->geometry().center());
+    QCursor::setPos(m_top.mapToGlobal(QPoint(-40, -40)));
+    QEvent leaving(QEvent::Leave);
+    QApplication::sendEvent(line->parentWidget(), &leaving);
+    windows().advance(600);
+    EXPECT_EQ(m_stage.toolkit.toolTips().shown(), L"");
+    EXPECT_EQ(m_stage.toolkit.mouse().over(), nullptr);
 }
 
 TEST_F(QuestionsTest, TooltipsComeWhenTheMouseRestsAndTellWhyAToolIsDisabled) {
