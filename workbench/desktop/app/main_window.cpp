@@ -31,6 +31,7 @@
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolTip>
@@ -74,6 +75,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     m_mirror = std::make_unique<WindowMirror>(m_stage, *m_home);
     m_questions = std::make_unique<Questions>(m_stage, *this);
     m_home->attach(m_stage);
+    keepOnScreen();
     buildPanes();
     m_menus = std::make_unique<DesktopMenus>(*this, *m_journalDock);
     setShade(shade);
@@ -87,6 +89,15 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
 MainWindow::~MainWindow() {
     m_pump.setOnRest(nullptr);
     m_pump.setOnFailure(nullptr);
+}
+
+/// Small frames stand on the screens that there are.
+void MainWindow::keepOnScreen() {
+    const auto follow = [this](const QRect& all) {
+        m_stage.toolkit.frame().setRoom({all.left(), all.top(), all.right() + 1, all.bottom() + 1});
+    };
+    follow(screen()->availableVirtualGeometry());
+    connect(screen(), &QScreen::virtualGeometryChanged, this, follow);
 }
 
 void MainWindow::buildPanes() {

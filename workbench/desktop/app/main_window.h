@@ -57,6 +57,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void keepOnScreen();
     void buildPanes();
     void showShade(Shade shade);
     void onRest();
