@@ -11,22 +11,20 @@
 
 namespace workbench {
 
-namespace {
-
-void moveToNextField(WindowSystem& windows) {
-    const HWND next = nextField(windows, windows.focus(), windows.keys().isHeld(VK_SHIFT));
+bool goToNextField(WindowSystem& windows, HWND from, bool backwards) {
+    const HWND next = nextField(windows, from, backwards);
     if (next == nullptr || !windows.setFocus(next))
-        return;
+        return false;
     Window& window = *windows.find(next);
     if (auto* const edit = dynamic_cast<EditWidget*>(window.widget.get()); edit != nullptr)
         edit->selectAll(window);
+    return true;
 }
-
-}  // namespace
 
 void passKeyOn(Toolkit& toolkit, WPARAM key, LPARAM details) {
     if (key == kKeyTab) {
-        moveToNextField(toolkit.windows());
+        WindowSystem& windows = toolkit.windows();
+        goToNextField(windows, windows.focus(), windows.keys().isHeld(VK_SHIFT));
         return;
     }
     toolkit.windows().send(toolkit.frame().commandLine().m_hWnd, WM_KEYDOWN, key, details);

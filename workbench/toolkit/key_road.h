@@ -16,4 +16,7 @@ void passKeyOn(Toolkit& toolkit, WPARAM key, LPARAM details);
 /// take input; null for none.
 HWND nextField(const WindowSystem& windows, HWND from, bool backwards = false);
 
+/// Brings the keyboard there; all of a field's text is selected then. False if there is nowhere to go.
+bool goToNextField(WindowSystem& windows, HWND from, bool backwards);
+
 }  // namespace workbench

@@ -3,10 +3,35 @@
 #include "workbench/desktop/drawing_view/drawing_view.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
+#include "workbench/navigation/navigation_tool.h"
 
 namespace workbench::desktop {
+
+namespace {
+
+/// What a drag does while the navigation tool runs in a mode.
+DragMode dragModeOf(int mode) {
+    switch (mode) {
+    case NavigationTool::kPan:
+        return DragMode::Pan;
+    case NavigationTool::kZoom:
+    case NavigationTool::kDistance:
+        return DragMode::Zoom;
+    case NavigationTool::kSwivel:
+        return DragMode::Swivel;
+    case NavigationTool::kWalk:
+        return DragMode::Walk;
+    case NavigationTool::kFly:
+        return DragMode::Fly;
+    default:
+        return DragMode::Orbit;
+    }
+}
+
+}  // namespace
 
 DocumentTabs::DocumentTabs(Stage& stage) : m_stage(stage) {
     setDocumentMode(true);
@@ -32,8 +57,6 @@ int DocumentTabs::indexOf(const Document* document) const {
 
 void DocumentTabs::refresh() {
     const DocumentList& documents = m_stage.workbench.editor().documents();
-    const auto fading =
-        static_cast<int>(m_stage.workbench.editor().read(L"LAYLOCKFADECTL").asInteger());
     m_refreshing = true;
     for (int index = count() - 1; index >= 0; --index) {
         if (viewAt(index).document() == nullptr)
@@ -41,12 +64,32 @@ void DocumentTabs::refresh() {
     }
     for (Document* document : documents.all()) {
         if (indexOf(document) < 0)
-            addTab(new DrawingView(m_stage.pump, *document, *m_stage.look), toQt(document->name()));
+            add(*document);
     }
     for (int index = 0; index < count(); ++index)
-        viewAt(index).setFading(fading);
+        refreshView(viewAt(index));
     setCurrentIndex(indexOf(documents.active()));
     m_refreshing = false;
+}
+
+void DocumentTabs::refreshView(DrawingView& view) const {
+    Workbench& workbench = m_stage.workbench;
+    view.setFading(static_cast<int>(workbench.editor().read(L"LAYLOCKFADECTL").asInteger()));
+    view.setDragMode(dragModeOf(workbench.navigation().mode()));
+    view.setPointing(view.document()->processor().asksForPoint());
+}
+
+void DocumentTabs::add(Document& document) {
+    auto* const view = new DrawingView(m_stage.pump, document, *m_stage.look);
+    view->setOnPressed([this](QPointF point) {
+        if (m_onPressed)
+            m_onPressed(point);
+    });
+    view->setOnPointed([this](const drawing::Vec3& point) {
+        if (m_onPointed)
+            m_onPointed(point);
+    });
+    addTab(view, toQt(document.name()));
 }
 
 void DocumentTabs::setLook(const Look& look) {

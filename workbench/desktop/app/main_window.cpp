@@ -1,6 +1,7 @@
 #include "workbench/desktop/app/main_window.h"
 
 #include "workbench/base/input_error.h"
+#include "workbench/base/number_text.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
@@ -9,10 +10,12 @@
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
+#include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/questions.h"
 #include "workbench/desktop/mirror/window_mirror.h"
+#include "workbench/desktop/panes/command_echo.h"
 #include "workbench/desktop/panes/command_line.h"
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
@@ -22,6 +25,7 @@
 #include "workbench/editor/variables/variable_definition.h"
 #include "workbench/host/workbench.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -32,9 +36,11 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolTip>
+#include <utility>
 
 namespace workbench::desktop {
 
@@ -42,6 +48,7 @@ namespace {
 
 constexpr int kTellMs = 8000;
 constexpr int kSearchWidth = 320;  // pixels
+constexpr int kDecimalsOfAPoint = 4;
 
 /// The names that can be typed at the command line.
 QStringList namesToType(Workbench& workbench) {
@@ -104,7 +111,7 @@ void MainWindow::buildPanes() {
     MainFrame& frame = m_stage.toolkit.frame();
     m_mirror->fill(frame.drawingView().m_hWnd, *m_tabs);
     m_mirror->fill(frame.commandLine().m_hWnd, *m_commandLine);
-    m_mirror->setOnKeyboardToDrawing([this] { m_commandLine->input().setFocus(); });
+    m_mirror->setOnKeyboardToDrawing([this] { leaveToCommandLine(); });
     m_stage.typed = [this](const QString& text) { m_commandLine->begin(text); };
     m_stage.whyDisabled = [this] {
         return m_workbench.editor().documents().active() == nullptr
@@ -114,6 +121,11 @@ void MainWindow::buildPanes() {
     m_commandLine->setOnEnter(
         [this](const QString& text) { runCommand(text + QLatin1Char('\n')); });
     m_commandLine->setOnCancel([this] { runCommand(QStringLiteral("\x1b")); });
+    m_echo = std::make_unique<CommandEcho>(
+        m_workbench.journal(), [this](const QString& line) { m_commandLine->echo(line); });
+    m_commandLine->setOnTab([this](bool backwards) { return enterDashboard(backwards); });
+    m_tabs->setOnPointed([this](const drawing::Vec3& point) { answerPoint(point); });
+    m_tabs->setOnPressed([this](QPointF point) { pressDrawing(point); });
     m_commandLine->setNames([this] { return namesToType(m_workbench); });
     m_journal->setOnFailure([this](const QString& text) { tell(text); });
     m_search->setOnChosen([this](const SearchHit& hit) { reveal(m_stage, *m_mirror, hit); });
@@ -127,6 +139,61 @@ void MainWindow::buildPanes() {
     m_search->setMaximumWidth(kSearchWidth);
     bar->addWidget(m_search);
     statusBar()->addPermanentWidget(m_status);
+    addShortcuts();
+}
+
+void MainWindow::addShortcuts() {
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { switchPane(); });
+    connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, [this] {
+        m_search->setFocus(Qt::ShortcutFocusReason);
+        m_search->selectAll();
+    });
+}
+
+/// Brings the keyboard to the first, or the last, part of a dashboard on show. False if there is none.
+bool MainWindow::enterDashboard(bool backwards) {
+    bool entered = false;
+    m_pump.act([&] {
+        MainFrame& frame = m_stage.toolkit.frame();
+        const std::vector<CQrUiPaletteSet*> bars = frame.bars();
+        for (CQrUiPaletteSet* set : bars) {
+            if (entered || !m_stage.windows.isOnScreen(set->m_hWnd))
+                continue;
+            if (m_stage.toolkit.paletteSets().of(set).place.anchored)
+                frame.rollOut(*set, true);
+            entered = goToNextField(m_stage.windows, set->m_hWnd, backwards);
+        }
+    });
+    return entered;
+}
+
+void MainWindow::switchPane() {
+    if (paletteSetAbove(m_stage.windows, m_stage.windows.focus()) != nullptr)
+        m_commandLine->input().setFocus();
+    else
+        enterDashboard(false);
+}
+
+/// The host's drawing view has been clicked; what is typed from now on is for the command line.
+void MainWindow::pressDrawing(QPointF point) {
+    const HWND view = m_stage.toolkit.frame().drawingView().m_hWnd;
+    const CPoint place = toHost(point.toPoint());
+    m_pump.act([this, view, place] {
+        if (m_stage.toolkit.mouse().press(view, place))
+            m_stage.toolkit.mouse().release(view, place);
+    });
+    if (m_stage.windows.focus() == view)
+        m_commandLine->input().setFocus();
+}
+
+/// As if it had been typed.
+void MainWindow::answerPoint(const drawing::Vec3& point) {
+    const auto number = [](double value) { return toQt(fixedText(value, kDecimalsOfAPoint)); };
+    const QString answer = number(point.x) + QLatin1Char(',') + number(point.y);
+    const Document* const document = m_workbench.editor().documents().active();
+    if (document != nullptr)
+        m_commandLine->echo(toQt(document->processor().prompt()) + QLatin1Char(' ') + answer);
+    runCommand(answer + QLatin1Char('\n'));
 }
 
 void MainWindow::runCommand(const QString& text) {
@@ -144,12 +211,21 @@ void MainWindow::onRest() {
     m_tabs->refresh();
     m_status->refresh(m_workbench);
     const Document* const document = m_workbench.editor().documents().active();
+    if (document != std::exchange(m_front, document))
+        m_stage.toolkit.balloons().dismiss();
     m_commandLine->setPrompt(document == nullptr ? QString()
                                                  : toQt(document->processor().prompt()));
     m_journal->takeOver();
     // Nobody asks for the records of a session by hand: they would only pile up.
     if (!m_pump.isHeld())
         m_workbench.journal().take();
+}
+
+/// The keyboard has left the dashboard, unless for another pane.
+void MainWindow::leaveToCommandLine() {
+    const QWidget* const now = QApplication::focusWidget();
+    if (now == nullptr || dynamic_cast<const MirrorWidget*>(now) != nullptr)
+        m_commandLine->input().setFocus();
 }
 
 /// A pane that takes the keyboard takes it from the dashboard, as the drawing would.

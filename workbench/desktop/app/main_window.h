@@ -3,6 +3,7 @@
 #include "workbench/desktop/look/look.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/desktop/pump/pump.h"
+#include "workbench/drawing/database/geometry.h"
 
 #include <QMainWindow>
 #include <filesystem>
@@ -10,8 +11,13 @@
 
 class QDockWidget;
 
+namespace workbench {
+class Document;
+}
+
 namespace workbench::desktop {
 
+class CommandEcho;
 class CommandLine;
 class DesktopMenus;
 class DockSplitter;
@@ -63,6 +69,12 @@ private:
     void onRest();
     void runCommand(const QString& text);
     void leaveDashboard(const QWidget* now);
+    void leaveToCommandLine();
+    bool enterDashboard(bool backwards);
+    void switchPane();
+    void addShortcuts();
+    void pressDrawing(QPointF point);
+    void answerPoint(const drawing::Vec3& point);
     QRect dashboardPlace();
 
     Workbench& m_workbench;
@@ -77,9 +89,11 @@ private:
     JournalPane* m_journal;
     SearchBox* m_search;
     QDockWidget* m_journalDock;
+    const Document* m_front = nullptr;  // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
     std::unique_ptr<DesktopMenus> m_menus;
+    std::unique_ptr<CommandEcho> m_echo;
 };
 
 }  // namespace workbench::desktop

@@ -208,7 +208,8 @@ bool MirrorWidget::focusNextPrevChild(bool /*next*/) {
 
 bool MirrorWidget::event(QEvent* event) {
     // Keys of edit fields are no shortcuts of the window.
-    if (event->type() == QEvent::ShortcutOverride) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        isOwnKey(m_stage, *static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }

@@ -12,6 +12,7 @@
 #include "workbench/desktop/panes/command_line.h"
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
@@ -27,7 +28,9 @@
 #include <QAccessible>
 #include <QDockWidget>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -108,6 +111,30 @@ TEST_F(MainWindowTest, LinesOfTheCommandLineAreRun) {
     EXPECT_EQ(editor().read(L"CMDACTIVE"), Value(0));
 }
 
+TEST_F(MainWindowTest, AnUnknownCommandAndABadValueAreAnsweredInOneLineEach) {
+    const auto* log = m_window.commandLine().findChild<QPlainTextEdit*>();
+    enter("NOSUCH");
+    EXPECT_TRUE(log->toPlainText().endsWith(
+        QLatin1String("Unknown command \"NOSUCH\": the workbench has none of that name.")));
+    enter("LUPREC");
+    enter("many");
+    EXPECT_TRUE(log->toPlainText().endsWith(
+        QLatin1String("\"many\" is no value of LUPREC: enter a number from 0 to 8.")));
+}
+
+TEST_F(MainWindowTest, AClickInTheDrawingAnswersAPointPrompt) {
+    enter("LINE");
+    DrawingView& view = m_window.documentTabs().viewAt(0);
+    click(view, {300, 400});
+    const Document& document = *editor().documents().active();
+    EXPECT_EQ(document.processor().prompt(), L"Specify next point:");
+    const std::size_t before = document.data().ids(drawing::RecordKind::Entity).size();
+    click(view, {350, 380});
+    EXPECT_EQ(document.data().ids(drawing::RecordKind::Entity).size(), before + 1);
+    enter("");
+    EXPECT_FALSE(document.processor().isActive());
+}
+
 TEST_F(MainWindowTest, EachDocumentHasATab) {
     m_window.stage().pump.act([this] { editor().documents().create(L"Plan"); });
     DocumentTabs& tabs = m_window.documentTabs();
@@ -127,6 +154,40 @@ TEST_F(MainWindowTest, AFieldLosesTheKeyboardToAPane) {
     EXPECT_EQ(windows().focus(), edit()->handle());
     Q_EMIT qApp->focusChanged(edit(), &m_window.searchBox());
     EXPECT_EQ(windows().focus(), m_workbench.toolkit().frame().drawingView().m_hWnd);
+}
+
+TEST_F(MainWindowTest, AClickInTheDrawingBringsTheKeyboardToTheCommandLine) {
+    click(*edit());
+    rest();
+    EXPECT_EQ(m_window.focusWidget(), edit());
+    click(m_window.documentTabs().viewAt(0), {300, 200});
+    rest();
+    EXPECT_EQ(windows().focus(), m_workbench.toolkit().frame().drawingView().m_hWnd);
+    EXPECT_EQ(m_window.focusWidget(), &m_window.commandLine().input());
+}
+
+TEST_F(MainWindowTest, TabGoesFromTheCommandLineToTheDashboard) {
+    pressKey(m_window.commandLine().input(), Qt::Key_Tab);
+    rest();
+    const HWND first = windows().focus();
+    ASSERT_NE(paletteSetAbove(windows(), first), nullptr);
+    EXPECT_EQ(m_window.focusWidget(), m_window.mirror().widgetOf(first));
+    m_window.commandLine().input().setFocus();
+    m_window.stage().pump.act(
+        [this] { windows().setFocus(m_workbench.toolkit().frame().drawingView().m_hWnd); });
+    pressKey(m_window.commandLine().input(), Qt::Key_Backtab, {}, Qt::ShiftModifier);
+    rest();
+    ASSERT_NE(paletteSetAbove(windows(), windows().focus()), nullptr);
+    EXPECT_NE(windows().focus(), first);
+}
+
+TEST_F(MainWindowTest, ABalloonGoesWithTheDocument) {
+    m_window.stage().pump.act([this] {
+        m_workbench.toolkit().balloons().show(edit()->host()->parent, edit()->handle(), L"No.");
+    });
+    EXPECT_TRUE(m_workbench.toolkit().balloons().isShown());
+    m_window.stage().pump.act([this] { editor().documents().create(L"Plan"); });
+    EXPECT_FALSE(m_workbench.toolkit().balloons().isShown());
 }
 
 TEST_F(MainWindowTest, ThemesAreSwitchedWhileItRuns) {

@@ -81,6 +81,8 @@ TEST_F(MirrorTest, TypedNumberIsTakenWithEnterAndGivenUpWithEscape) {
     EXPECT_EQ(edit->host()->text, L"35");
     pressKey(*edit, Qt::Key_Return);
     EXPECT_EQ(editor().read(L"LAYLOCKFADECTL").asInteger(), 35);
+    EXPECT_EQ(windows().focus(), m_stage.toolkit.frame().drawingView().m_hWnd);
+    click(*edit);
     pressKey(*edit, Qt::Key_A, QStringLiteral("\x01"), Qt::ControlModifier);
     typeText(*edit, QStringLiteral("80"));
     pressKey(*edit, Qt::Key_Escape);
@@ -162,6 +164,7 @@ TEST_F(MirrorTest, RefusedEntryHasItsBalloonBesideTheField) {
     ASSERT_NE(bubble, nullptr);
     EXPECT_TRUE(bubble->isVisible());
     EXPECT_TRUE(bubble->text().startsWith(QLatin1String("Enter a step size")));
+    EXPECT_EQ(windows().focus(), edit->handle()) << "to be corrected";
     pressKey(*edit, Qt::Key_Escape);
     click(*widget(kFade, "edit"));
     rest();
