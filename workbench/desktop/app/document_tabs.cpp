@@ -8,6 +8,8 @@
 #include "workbench/host/workbench.h"
 #include "workbench/navigation/navigation_tool.h"
 
+#include <QPainter>
+
 namespace workbench::desktop {
 
 namespace {
@@ -45,6 +47,23 @@ DocumentTabs::DocumentTabs(Stage& stage) : m_stage(stage) {
 
 DrawingView& DocumentTabs::viewAt(int index) const {
     return *static_cast<DrawingView*>(widget(index));
+}
+
+DrawingView* DocumentTabs::view() const {
+    return count() == 0 ? nullptr : &viewAt(currentIndex());
+}
+
+void DocumentTabs::paintEvent(QPaintEvent* event) {
+    QTabWidget::paintEvent(event);
+    if (count() > 0)
+        return;
+    QPainter painter(this);
+    painter.fillRect(rect(), m_stage.look->drawing);
+    painter.setPen(m_stage.look->text);
+    painter.drawText(
+        rect(), Qt::AlignCenter | Qt::TextWordWrap,
+        QStringLiteral("No drawing is open.\n\nDocument \u203a New begins one (Ctrl+N), "
+                       "Document \u203a Open... takes one from a file (Ctrl+O)."));
 }
 
 int DocumentTabs::indexOf(const Document* document) const {
@@ -106,8 +125,8 @@ void DocumentTabs::activate(int index) {
 }
 
 void DocumentTabs::close(int index) {
-    m_stage.pump.act(
-        [this, index] { m_stage.workbench.editor().documents().close(*viewAt(index).document()); });
+    if (m_onClosing)
+        m_onClosing(*viewAt(index).document());
 }
 
 }  // namespace workbench::desktop

@@ -7,9 +7,11 @@
 #include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/dock_splitter.h"
 #include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
+#include "workbench/desktop/app/space_tabs.h"
 #include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
@@ -17,6 +19,7 @@
 #include "workbench/desktop/mirror/window_mirror.h"
 #include "workbench/desktop/panes/command_echo.h"
 #include "workbench/desktop/panes/command_line.h"
+#include "workbench/desktop/panes/help_page.h"
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
 #include "workbench/desktop/panes/status_fields.h"
@@ -40,6 +43,7 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolTip>
+#include <QVBoxLayout>
 #include <utility>
 
 namespace workbench::desktop {
@@ -49,6 +53,9 @@ namespace {
 constexpr int kTellMs = 8000;
 constexpr int kSearchWidth = 320;  // pixels
 constexpr int kDecimalsOfAPoint = 4;
+constexpr const char* kFirstHint =
+    "In the drawing, drag with the left button to orbit and with the middle one to pan; "
+    "the wheel zooms. Help is in the menu, or F1.";
 
 /// The names that can be typed at the command line.
 QStringList namesToType(Workbench& workbench) {
@@ -72,6 +79,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
       m_home(new FrameHome(this)),
       m_splitter(new DockSplitter(m_stage, *m_home)),
       m_tabs(new DocumentTabs(m_stage)),
+      m_spaces(new SpaceTabs(m_stage)),
       m_commandLine(new CommandLine),
       m_status(new StatusFields),
       m_journal(new JournalPane(workbench.journal())),
@@ -84,6 +92,9 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     m_home->attach(m_stage);
     keepOnScreen();
     buildPanes();
+    m_files = std::make_unique<FileActions>(*this);
+    m_tabs->setOnClosing([this](Document& document) { m_files->close(document); });
+    m_help = std::make_unique<HelpPage>(m_workbench.journal(), *this);
     m_menus = std::make_unique<DesktopMenus>(*this, *m_journalDock);
     setShade(shade);
     m_pump.setOnFailure([this](const QString& text) { tell(text); });
@@ -109,7 +120,13 @@ void MainWindow::keepOnScreen() {
 
 void MainWindow::buildPanes() {
     MainFrame& frame = m_stage.toolkit.frame();
-    m_mirror->fill(frame.drawingView().m_hWnd, *m_tabs);
+    auto* const drawing = new QWidget;
+    auto* const column = new QVBoxLayout(drawing);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_tabs);
+    column->addWidget(m_spaces);
+    m_mirror->fill(frame.drawingView().m_hWnd, *drawing);
     m_mirror->fill(frame.commandLine().m_hWnd, *m_commandLine);
     m_mirror->setOnKeyboardToDrawing([this] { leaveToCommandLine(); });
     m_stage.typed = [this](const QString& text) { m_commandLine->begin(text); };
@@ -209,6 +226,8 @@ void MainWindow::onRest() {
         showShade(m_stage.toolkit.shade());
     m_splitter->follow();
     m_tabs->refresh();
+    m_spaces->refresh();
+    m_files->files().follow();
     m_status->refresh(m_workbench);
     const Document* const document = m_workbench.editor().documents().active();
     if (document != std::exchange(m_front, document))
@@ -256,6 +275,10 @@ void MainWindow::setLocale(const std::string& locale) {
     m_pump.act([] {});
 }
 
+void MainWindow::showHelp() {
+    m_help->open();
+}
+
 void MainWindow::tell(const QString& text) {
     statusBar()->showMessage(text, kTellMs);
 }
@@ -293,15 +316,26 @@ void MainWindow::recall() {
         tell(complaint);
     if (state.shade)
         setShade(*state.shade);
+    m_files->files().setLastFolder(state.lastFolder);
+    if (!DesktopState::exists(m_workbench.profiles().folder()))
+        m_commandLine->echo(QString::fromLatin1(kFirstHint));
     m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
 }
 
 void MainWindow::remember() {
     m_workbench.profiles().save();
-    DesktopState{m_shade, collapsedPanels(m_stage.toolkit)}.write(m_workbench.profiles().folder());
+    DesktopState{m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()}.write(
+        m_workbench.profiles().folder());
 }
 
+/// The host begins to quit, and stays if its user wants to keep a change.
 void MainWindow::closeEvent(QCloseEvent* event) {
+    m_pump.act([this] { m_workbench.editor().quitBegin(); });
+    if (!m_files->mayLeaveAll()) {
+        m_pump.act([this] { m_workbench.editor().quitAbort(); });
+        event->ignore();
+        return;
+    }
     m_pump.act([this] { remember(); });
     QMainWindow::closeEvent(event);
 }

@@ -22,10 +22,13 @@ class CommandLine;
 class DesktopMenus;
 class DockSplitter;
 class DocumentTabs;
+class FileActions;
 class FrameHome;
+class HelpPage;
 class JournalPane;
 class Questions;
 class SearchBox;
+class SpaceTabs;
 class StatusFields;
 class WindowMirror;
 
@@ -44,6 +47,8 @@ public:
     CommandLine& commandLine() { return *m_commandLine; }
     SearchBox& searchBox() { return *m_search; }
     DocumentTabs& documentTabs() { return *m_tabs; }
+    SpaceTabs& spaceTabs() { return *m_spaces; }
+    FileActions& fileActions() { return *m_files; }
 
     Shade shade() const { return m_shade; }
     /// Changes all colours, those of the dashboard too, which is told.
@@ -56,6 +61,8 @@ public:
     /// Takes over what was remembered of an earlier run, and remembers how things stand now.
     void recall();
     void remember();
+    /// Opens the page about the dashboard.
+    void showHelp();
     /// Says something in the status bar.
     void tell(const QString& text);
 
@@ -84,6 +91,7 @@ private:
     FrameHome* m_home;
     DockSplitter* m_splitter;
     DocumentTabs* m_tabs;
+    SpaceTabs* m_spaces;
     CommandLine* m_commandLine;
     StatusFields* m_status;
     JournalPane* m_journal;
@@ -92,8 +100,10 @@ private:
     const Document* m_front = nullptr;  // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
+    std::unique_ptr<FileActions> m_files;
     std::unique_ptr<DesktopMenus> m_menus;
     std::unique_ptr<CommandEcho> m_echo;
+    std::unique_ptr<HelpPage> m_help;
 };
 
 }  // namespace workbench::desktop

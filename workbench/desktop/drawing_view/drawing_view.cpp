@@ -3,6 +3,7 @@
 #include "workbench/desktop/drawing_view/camera.h"
 #include "workbench/desktop/drawing_view/scene_painter.h"
 #include "workbench/desktop/drawing_view/sheet.h"
+#include "workbench/desktop/drawing_view/view_fit.h"
 #include "workbench/desktop/drawing_view/view_motion.h"
 #include "workbench/desktop/pump/pump.h"
 #include "workbench/drawing/lookup.h"
@@ -250,7 +251,9 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event) {
         return;
     const QPointF way = event->position() - m_drag->from;
     const QSizeF picture = placeOf(m_drag->port).size();
-    m_drag->now = dragged(*m_drag, way, picture);
+    const ViewParameters next = dragged(*m_drag, way, picture);
+    if (m_drag->mode != DragMode::Zoom || isInReason(m_drag->port, next))
+        m_drag->now = next;
     update();
 }
 
@@ -270,8 +273,21 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
     if (notches == 0 || m_document == nullptr || m_drag)
         return;
     const ObjectId port = movablePort(m_document->data());
+    if (port.isNull())
+        return;
+    const ViewParameters next = zoomed(shownIn(port), notches);
+    if (isInReason(port, next))
+        write(port, next);
+}
+
+void DrawingView::fit() {
+    const ObjectId port = m_document == nullptr ? ObjectId() : movablePort(m_document->data());
     if (!port.isNull())
-        write(port, zoomed(shownIn(port), notches));
+        write(port, fitted(shownIn(port), ballAround(sceneIn(port)), placeOf(port).size()));
+}
+
+bool DrawingView::isInReason(ObjectId port, const ViewParameters& view) {
+    return isZoomInReason(shownIn(port), view, ballAround(sceneIn(port)));
 }
 
 }  // namespace workbench::desktop

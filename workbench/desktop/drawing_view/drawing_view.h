@@ -39,6 +39,8 @@ public:
     Document* document() const { return m_document; }
     /// Told of each press of a button at a point, before anything comes of it.
     void setOnPressed(std::function<void(QPointF)> told) { m_onPressed = std::move(told); }
+    /// Shows the whole drawing, from where it is seen now.
+    void fit();
     /// What a drag with the left button does from now on.
     void setDragMode(DragMode mode) { m_mode = mode; }
     /// While points are asked for, a click tells one instead of beginning a drag.
@@ -82,6 +84,7 @@ private:
     const Scene& sceneIn(drawing::ObjectId port);
     QRect placeOf(drawing::ObjectId port) const;
     void point(QPointF place);
+    bool isInReason(drawing::ObjectId port, const drawing::ViewParameters& view);
     void paintModel(QPainter& painter, drawing::ObjectId port);
     void paintSheet(QPainter& painter, drawing::ObjectId layout);
 

@@ -43,6 +43,7 @@ protected:
         onceThereIs<QMessageBox>(&QApplication::activeModalWidget,
                                  [this, button](QMessageBox& box) {
                                      m_boxText = box.text();
+                                     m_boxIcon = box.icon();
                                      box.button(button)->click();
                                  });
     }
@@ -50,6 +51,7 @@ protected:
     Questions m_questions{m_stage, m_top};
     QStringList m_lines;
     QString m_boxText;
+    QMessageBox::Icon m_boxIcon = QMessageBox::NoIcon;
 };
 
 TEST_F(QuestionsTest, APanelsContextMenuOpensAndItsChoiceIsTaken) {
@@ -76,7 +78,11 @@ TEST_F(QuestionsTest, AMessageBoxIsAsked) {
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 4, ""), MessageBoxes::kNo);
     EXPECT_EQ(m_boxText, QStringLiteral("Really?"));
     answerBox(QMessageBox::Ok);
-    EXPECT_EQ(m_stage.toolkit.boxes().show(L"So it is.", 0, ""), MessageBoxes::kOk);
+    EXPECT_EQ(m_stage.toolkit.boxes().show(L"So it is.", 0x40, ""), MessageBoxes::kOk);
+    EXPECT_EQ(m_boxIcon, QMessageBox::Information);
+    answerBox(QMessageBox::Ok);
+    m_stage.toolkit.boxes().show(L"Mind it.", 0x30, "");
+    EXPECT_EQ(m_boxIcon, QMessageBox::Warning);
 }
 
 TEST_F(QuestionsTest, WhileAScriptHasTheHostNobodyIsAsked) {
