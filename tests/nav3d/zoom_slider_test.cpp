@@ -1,4 +1,5 @@
 #include "tests/nav3d/zoom_fixture.h"
+#include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/lookup.h"
 
 #include <algorithm>
@@ -139,6 +140,7 @@ TEST_F(ZoomSliderTest, ShowsTheLensThatWasReadAndNotTheSlidersStep) {
 
 TEST_F(ZoomSliderTest, TipShowsLensAndAngleAndComesUp) {
     setLens(35.0);
+    workbench::gestures::hoverAt(bench().toolkit(), slider(), {5, 5});
     takeJournal();
     tellOf(L"CVPORT");
     const std::wstring tip = filled(1242, {L"35.00"}) + L"\n" + filled(1244, {text("edit2")});

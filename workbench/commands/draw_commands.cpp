@@ -1,6 +1,7 @@
 #include "workbench/commands/draw_commands.h"
 
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/entity.h"
@@ -21,6 +22,10 @@ using drawing::Entity;
 using drawing::RecordKind;
 using drawing::Vec3;
 
+CommandState refusePoint(const CommandScope& scope, std::wstring_view answer) {
+    return askAgain(scope, inQuotes(answer) + L" is no point: enter x,y or x,y,z.");
+}
+
 /// Adds a run of straight pieces on the current layer.
 void addRun(Database& database, std::vector<Vec3> points) {
     Entity entity;
@@ -40,7 +45,7 @@ public:
             return CommandState::Ended;
         const std::optional<Vec3> point = parsePoint(answer);
         if (!point)
-            return CommandState::Waiting;
+            return refusePoint(scope, answer);
         if (m_last)
             addRun(scope.document.data(), {*m_last, *point});
         m_last = point;
@@ -50,6 +55,8 @@ public:
     std::wstring prompt() const override {
         return m_last ? L"Specify next point:" : L"Specify first point:";
     }
+
+    bool asksForPoint() const override { return true; }
 
 private:
     std::optional<Vec3> m_last;  // nothing: the first point is asked for
@@ -65,11 +72,12 @@ public:
             return CommandState::Cancelled;
         if (!m_centre) {
             m_centre = parsePoint(answer);
-            return CommandState::Waiting;
+            return m_centre ? CommandState::Waiting : refusePoint(scope, answer);
         }
         const std::optional<double> radius = parseNumber(answer);
         if (!radius || *radius <= 0)
-            return CommandState::Waiting;
+            return askAgain(scope,
+                            inQuotes(answer) + L" is no radius: enter a number greater than 0.");
         addRun(scope.document.data(), circle(*m_centre, *radius));
         return CommandState::Ended;
     }
@@ -77,6 +85,8 @@ public:
     std::wstring prompt() const override {
         return m_centre ? L"Specify radius of circle:" : L"Specify center point for circle:";
     }
+
+    bool asksForPoint() const override { return !m_centre; }
 
 private:
     static std::vector<Vec3> circle(const Vec3& centre, double radius) {

@@ -1,6 +1,7 @@
 #include "workbench/commands/erase_command.h"
 
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/editor/document.h"
@@ -34,6 +35,8 @@ public:
             m_chosen = entities;
         else if (choosesOption(answer, L"Last") && !entities.empty())
             choose(entities.back());
+        else
+            return askAgain(scope, inQuotes(answer) + L" chooses no object.");
         return CommandState::Waiting;
     }
 

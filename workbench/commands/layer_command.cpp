@@ -2,6 +2,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/layer.h"
@@ -39,15 +40,20 @@ void addLayers(Database& database, std::wstring_view names) {
 
 /// Changes the layers that fit one of the patterns of a list.
 template <class Change>
-void changeLayers(Database& database, std::wstring_view patterns, Change change) {
+void changeLayers(const CommandScope& scope, std::wstring_view patterns, Change change) {
+    Database& database = scope.document.data();
     for (const std::wstring& pattern : splitList(patterns)) {
+        bool fitsOne = false;
         for (const ObjectId id : database.ids(RecordKind::Layer)) {
             if (!fitsPattern(toWide(database.look<Layer>(id)->name), pattern))
                 continue;
+            fitsOne = true;
             Writing<Layer> layer(database, id);
             if (layer)
                 change(*layer, id == currentLayer(database));
         }
+        if (!fitsOne)
+            askAgain(scope, L"There is no layer " + inQuotes(pattern) + L".");
     }
 }
 
@@ -59,7 +65,8 @@ struct LayerOption {
 };
 
 void setCurrent(const CommandScope& scope, std::wstring_view name) {
-    scope.editor.variables().write(L"CLAYER", toUtf8(name), VariableWriter::Program);
+    if (!scope.editor.variables().write(L"CLAYER", toUtf8(name), VariableWriter::Program))
+        askAgain(scope, L"The layer " + inQuotes(name) + L" can't be made current.");
 }
 
 constexpr LayerOption kOptions[] = {
@@ -76,32 +83,29 @@ constexpr LayerOption kOptions[] = {
      }},
     {L"ON", L"Name list of layer(s) to turn on:",
      [](const CommandScope& scope, std::wstring_view names) {
-         changeLayers(scope.document.data(), names, [](Layer& layer, bool) { layer.on = true; });
+         changeLayers(scope, names, [](Layer& layer, bool) { layer.on = true; });
      }},
     {L"OFF", L"Name list of layer(s) to turn off:",
      [](const CommandScope& scope, std::wstring_view names) {
-         changeLayers(scope.document.data(), names, [](Layer& layer, bool) { layer.on = false; });
+         changeLayers(scope, names, [](Layer& layer, bool) { layer.on = false; });
      }},
     {L"Freeze", L"Name list of layer(s) to freeze:",
      [](const CommandScope& scope, std::wstring_view names) {
          // The layer that the user works on can't be frozen.
-         changeLayers(scope.document.data(), names,
+         changeLayers(scope, names,
                       [](Layer& layer, bool isCurrent) { layer.frozen |= !isCurrent; });
      }},
     {L"Thaw", L"Name list of layer(s) to thaw:",
      [](const CommandScope& scope, std::wstring_view names) {
-         changeLayers(scope.document.data(), names,
-                      [](Layer& layer, bool) { layer.frozen = false; });
+         changeLayers(scope, names, [](Layer& layer, bool) { layer.frozen = false; });
      }},
     {L"LOck", L"Name list of layer(s) to lock:",
      [](const CommandScope& scope, std::wstring_view names) {
-         changeLayers(scope.document.data(), names,
-                      [](Layer& layer, bool) { layer.locked = true; });
+         changeLayers(scope, names, [](Layer& layer, bool) { layer.locked = true; });
      }},
     {L"Unlock", L"Name list of layer(s) to unlock:",
      [](const CommandScope& scope, std::wstring_view names) {
-         changeLayers(scope.document.data(), names,
-                      [](Layer& layer, bool) { layer.locked = false; });
+         changeLayers(scope, names, [](Layer& layer, bool) { layer.locked = false; });
      }},
 };
 
@@ -120,7 +124,9 @@ public:
         const auto* option = std::find_if(
             std::begin(kOptions), std::end(kOptions),
             [answer](const LayerOption& known) { return choosesOption(answer, known.name); });
-        m_option = option == std::end(kOptions) ? nullptr : option;
+        if (option == std::end(kOptions))
+            return askAgain(scope, inQuotes(answer) + L" is no option.");
+        m_option = option;
         return CommandState::Waiting;
     }
 

@@ -2,6 +2,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/current.h"
@@ -20,6 +21,8 @@ using drawing::ObjectId;
 using drawing::RecordKind;
 using drawing::Viewport;
 
+constexpr const wchar_t* kNoLayout = L"No layout is on show: that needs paper space.";
+
 CommandState write(const CommandScope& scope, const wchar_t* variable, int value) {
     return scope.editor.variables().write(variable, value, VariableWriter::Program)
                ? CommandState::Ended
@@ -36,7 +39,7 @@ class PaperSpaceCommand final : public Command {
 public:
     CommandState start(const CommandScope& scope) override {
         if (drawing::activeLayout(scope.document.data()).isNull())
-            return CommandState::Failed;
+            return failBecause(scope, kNoLayout);
         return write(scope, L"CVPORT", Viewport::kPaperNumber);
     }
 };
@@ -48,13 +51,13 @@ public:
         const Database& database = scope.document.data();
         const ObjectId layout = drawing::activeLayout(database);
         if (layout.isNull())
-            return CommandState::Failed;
+            return failBecause(scope, kNoLayout);
         for (const ObjectId id : drawing::viewportsOf(database, layout)) {
             const auto* viewport = database.look<Viewport>(id);
             if (!viewport->isPaper() && viewport->on)
                 return write(scope, L"CVPORT", viewport->number);
         }
-        return CommandState::Failed;
+        return failBecause(scope, L"No viewport of this layout is switched on.");
     }
 };
 
@@ -69,7 +72,8 @@ public:
         if (m_setting)
             return show(scope, answer);
         m_setting = choosesOption(answer, L"Set");
-        return CommandState::Waiting;
+        return m_setting ? CommandState::Waiting
+                         : askAgain(scope, inQuotes(answer) + L" is no option.");
     }
 
     std::wstring prompt() const override {
@@ -85,7 +89,7 @@ private:
         Database& database = scope.document.data();
         const ObjectId layout = database.find(RecordKind::Layout, toUtf8(name));
         if (layout.isNull())
-            return CommandState::Waiting;
+            return askAgain(scope, L"There is no layout " + inQuotes(name) + L".");
         drawing::Writing<Current>(database, database.first(RecordKind::Current))->layout = layout;
         return write(scope, L"TILEMODE", 0);
     }

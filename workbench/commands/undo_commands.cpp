@@ -1,6 +1,7 @@
 #include "workbench/commands/undo_commands.h"
 
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/editor/document.h"
 
@@ -39,7 +40,8 @@ public:
     CommandState feed(const CommandScope& scope, std::wstring_view answer) override {
         const std::optional<double> steps = answer.empty() ? 1.0 : parseNumber(answer);
         if (!steps || *steps < 1)
-            return CommandState::Waiting;
+            return askAgain(scope,
+                            inQuotes(answer) + L" is no number of operations: enter 1 or more.");
         Status status = Status::Ok;
         for (double done = 0; done < *steps && status == Status::Ok; ++done)
             status = scope.document.data().undoLog().undo();

@@ -2,6 +2,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/editor/editor.h"
 #include "workbench/editor/system_variables.h"
 
@@ -34,6 +35,16 @@ std::optional<Value> parseValue(VariableType type, std::wstring_view text) {
     return number ? std::optional<Value>(*number) : std::nullopt;
 }
 
+/// What a value must be, as the end of a sentence.
+std::wstring wantedValue(const VariableDefinition& variable) {
+    if (variable.type == VariableType::String)
+        return L".";
+    if (!variable.range)
+        return L": enter a number.";
+    return L": enter a number from " + showValue(Value(variable.range->least)) + L" to " +
+           showValue(Value(variable.range->most)) + L".";
+}
+
 }  // namespace
 
 CommandState SetVariableCommand::start(const CommandScope& scope) {
@@ -48,20 +59,24 @@ CommandState SetVariableCommand::feed(const CommandScope& scope, std::wstring_vi
     const std::optional<Value> value = parseValue(m_variable->type, answer);
     const bool written =
         value && scope.editor.variables().write(*m_variable, *value, VariableWriter::Program);
-    return written ? CommandState::Ended : CommandState::Waiting;
+    return written ? CommandState::Ended
+                   : askAgain(scope, inQuotes(answer) + L" is no value of " + m_variable->name +
+                                         wantedValue(*m_variable));
 }
 
 CommandState SetVariableCommand::choose(const CommandScope& scope, std::wstring_view name) {
     if (name.empty())
         return CommandState::Ended;
     m_variable = findVariable(name);
-    return m_variable == nullptr ? CommandState::Waiting : askForValue(scope);
+    if (m_variable == nullptr)
+        return askAgain(scope, L"There is no variable " + inQuotes(name) + L".");
+    return askForValue(scope);
 }
 
 CommandState SetVariableCommand::askForValue(const CommandScope& scope) {
     const Value present = scope.editor.variables().read(*m_variable);
     if (present.isNil())
-        return CommandState::Failed;
+        return failBecause(scope, std::wstring(m_variable->name) + L" has no value now.");
     m_present = showValue(present);
     // A variable that only the host writes is shown, not asked for.
     return m_variable->readOnly ? CommandState::Ended : CommandState::Waiting;

@@ -2,6 +2,7 @@
 
 #include "workbench/base/text.h"
 #include "workbench/commands/answers.h"
+#include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
 #include "workbench/core/answers.h"
 #include "workbench/drawing/lookup.h"
@@ -26,8 +27,21 @@ using drawing::View;
 using drawing::Viewport;
 using drawing::Writing;
 
-CommandState outcomeOf(bool done) {
-    return done ? CommandState::Ended : CommandState::Failed;
+/// The outcome of a change of the active viewport.
+CommandState outcomeOf(const CommandScope& scope, bool done) {
+    if (done)
+        return CommandState::Ended;
+    const bool hasPort = !drawing::activeViewport(scope.document.data()).isNull();
+    return failBecause(scope, hasPort ? L"The viewport is locked." : L"There is no viewport.");
+}
+
+/// The outcome of what was done with the view of a name.
+CommandState outcomeOf(const CommandScope& scope, std::wstring_view view, bool done) {
+    if (!done && view.empty())
+        return failBecause(scope, L"A view has a name.");
+    if (!done && scope.document.data().find(RecordKind::View, toUtf8(view)).isNull())
+        return failBecause(scope, L"There is no view " + inQuotes(view) + L".");
+    return outcomeOf(scope, done);
 }
 
 /// Changes the active viewport; false without one and in a locked one.
@@ -123,7 +137,7 @@ public:
     CommandState feed(const CommandScope& scope, std::wstring_view answer) override {
         Database& database = scope.document.data();
         if (m_option != nullptr)
-            return outcomeOf(m_option->apply(database, answer));
+            return outcomeOf(scope, answer, m_option->apply(database, answer));
         if (answer.empty() || answer == L"?")
             return CommandState::Ended;
         const auto isChosen = [answer](const auto& row) { return choosesOption(answer, row.name); };
@@ -135,8 +149,8 @@ public:
         }
         const auto* const preset = std::find_if(std::begin(kPresets), std::end(kPresets), isChosen);
         if (preset == std::end(kPresets))
-            return CommandState::Waiting;
-        return outcomeOf(turn(database, preset->preset));
+            return askAgain(scope, inQuotes(answer) + L" is no option.");
+        return outcomeOf(scope, turn(database, preset->preset));
     }
 
     std::wstring prompt() const override {
@@ -164,7 +178,8 @@ public:
         const Value* const name = answer ? answer->member("name") : nullptr;
         if (name == nullptr || !name->isString())
             return CommandState::Cancelled;
-        return outcomeOf(m_apply(scope.document.data(), toWide(name->asString())));
+        const std::wstring view = toWide(name->asString());
+        return outcomeOf(scope, view, m_apply(scope.document.data(), view));
     }
 
 private:

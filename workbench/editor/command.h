@@ -32,6 +32,8 @@ public:
     virtual CommandState feed(const CommandScope& scope, std::wstring_view answer);
     /// What it asks for; empty if it asks for nothing.
     virtual std::wstring prompt() const { return {}; }
+    /// Whether the present prompt asks for a point.
+    virtual bool asksForPoint() const { return false; }
     /// Whether a blank belongs to the present answer instead of ending it.
     virtual bool takesBlanks() const { return false; }
     /// Lets go of what it holds, since it is ended from outside; called at most once, while it waits.

@@ -197,6 +197,10 @@ std::wstring CommandProcessor::prompt() const {
     return m_running.empty() ? std::wstring() : m_running.back().command->prompt();
 }
 
+bool CommandProcessor::asksForPoint() const {
+    return isWaiting() && m_running.back().command->asksForPoint();
+}
+
 bool CommandProcessor::consume(CommandText& text, bool takeRest) {
     bool good = true;
     while (!text.isEmpty() && !m_abandoned) {

@@ -63,6 +63,8 @@ public:
     std::wstring activeNames() const;
     /// What the innermost command asks for; empty for nothing.
     std::wstring prompt() const;
+    /// Whether it is a point that the innermost command asks for.
+    bool asksForPoint() const;
 
 private:
     struct Run {

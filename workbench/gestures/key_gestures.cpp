@@ -29,6 +29,7 @@ constexpr NamedKey kKeys[] = {
 };
 
 void typeCharacter(Toolkit& toolkit, wchar_t character) {
+    toolkit.balloons().dismiss();
     toolkit.windows().input(nullptr, kCharMessage, static_cast<WPARAM>(character), 0);
 }
 
@@ -57,6 +58,7 @@ void pressKey(Toolkit& toolkit, std::string_view name, HWND window) {
                      [name](const NamedKey& each) { return name == each.name; });
     if (key == std::end(kKeys))
         throw GestureError("there is no key \"" + std::string(name) + "\"");
+    toolkit.balloons().dismiss();
     toolkit.windows().input(window, key->message, key->key, 0);
 }
 

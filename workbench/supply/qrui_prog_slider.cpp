@@ -74,6 +74,7 @@ void CQrUiProgSliderCtrl::SetControlStyle(UINT style) {
 
 void CQrUiProgSliderCtrl::ShowToolTip() {
     const HostCall call("CQrUiProgSliderCtrl::ShowToolTip");
-    if (const SliderWidget* const slider = widgetOf(*this))
+    const SliderWidget* const slider = widgetOf(*this);
+    if (slider != nullptr && (slider->isDragging() || toolkit().mouse().over() == m_hWnd))
         toolkit().toolTips().show(m_hWnd, slider->tip());
 }

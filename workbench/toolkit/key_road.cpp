@@ -12,23 +12,21 @@
 
 namespace workbench {
 
-namespace {
-
-void moveToNextField(Toolkit& toolkit) {
+bool goToNextField(Toolkit& toolkit, HWND from, bool backwards) {
     WindowSystem& windows = toolkit.windows();
-    const HWND next = nextField(windows, windows.focus(), windows.keys().isHeld(VK_SHIFT));
+    const HWND next = nextField(windows, from, backwards);
     if (next == nullptr || !takeFocus(toolkit, next))
-        return;
+        return false;
     Window& window = *windows.find(next);
     if (auto* const edit = dynamic_cast<EditWidget*>(window.widget.get()); edit != nullptr)
         edit->selectAll(window);
+    return true;
 }
-
-}  // namespace
 
 void passKeyOn(Toolkit& toolkit, WPARAM key, LPARAM details) {
     if (key == kKeyTab) {
-        moveToNextField(toolkit);
+        const WindowSystem& windows = toolkit.windows();
+        goToNextField(toolkit, windows.focus(), toolkit.windows().keys().isHeld(VK_SHIFT));
         return;
     }
     toolkit.windows().send(toolkit.frame().commandLine().m_hWnd, WM_KEYDOWN, key, details);

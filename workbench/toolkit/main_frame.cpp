@@ -242,7 +242,8 @@ void MainFrame::stand(CQrUiPaletteSet& set) {
         FloatingFrame& floating = *m_floating.at(&set);
         const HWND frame = floating.frame().m_hWnd;
         const HWND dockBar = floating.dockBar().m_hWnd;
-        m_windows.place(frame, place.rect, SWP_NOZORDER | SWP_NOACTIVATE);
+        m_windows.place(frame, FloatingFrame::reachable(place.rect, m_room),
+                        SWP_NOZORDER | SWP_NOACTIVATE);
         const CRect inside = m_windows.clientRect(dockBar);
         m_windows.place(handle, inside, SWP_NOZORDER | SWP_NOACTIVATE);
         m_windows.show(frame, shown);
@@ -271,7 +272,7 @@ HWND MainFrame::homeOf(CQrUiPaletteSet& set) {
         return place.edge == Edge::Left ? m_leftDock.m_hWnd : m_rightDock.m_hWnd;
     std::unique_ptr<FloatingFrame>& floating = m_floating[&set];
     if (!floating)
-        floating = std::make_unique<FloatingFrame>(m_windows, place.rect);
+        floating = std::make_unique<FloatingFrame>(m_windows, place.rect, m_room);
     return floating->dockBar().m_hWnd;
 }
 

@@ -43,6 +43,9 @@ public:
     /// The frame that a set is docked in or floats in; null before it was placed.
     CFrameWnd* frameOf(const CQrUiPaletteSet& set);
 
+    /// The part of the screen that small frames stand in from now on; empty: no limit.
+    void setRoom(const CRect& room) { m_room = room; }
+
     /// Where a set stands now, the user's sizing of its small frame included.
     BarPlace placeOf(const CQrUiPaletteSet& set);
     /// Takes a set in that has got its window. It is docked nowhere yet.
@@ -91,6 +94,7 @@ private:
     CWnd m_commandLine;
     CDockBar m_leftDock;
     CDockBar m_rightDock;
+    CRect m_room;                          // for small frames; empty: no limit
     std::vector<CQrUiPaletteSet*> m_bars;  // not owned
     std::map<const CQrUiPaletteSet*, std::unique_ptr<FloatingFrame>> m_floating;
     std::vector<std::unique_ptr<FloatingFrame>> m_orphans;  // their set has gone

@@ -33,7 +33,7 @@ bool Mouse::move(HWND window, CPoint point, WPARAM held) {
 
 bool Mouse::press(HWND window, CPoint point) {
     noteOver(window, point);
-    m_toolkit.toolTips().hide();
+    hideTips();
     giveFocusBackOnPress(m_toolkit, window);
     return send(window, kLeftButtonDown, kLeftButtonHeld | heldKeys(), point);
 }
@@ -50,7 +50,7 @@ bool Mouse::doubleClick(HWND window, CPoint point) {
 
 bool Mouse::contextMenu(HWND window, CPoint point) {
     noteOver(window, point);
-    m_toolkit.toolTips().hide();
+    hideTips();
     return send(window, kContextMenuMessage, 0, point);
 }
 
@@ -67,6 +67,11 @@ void Mouse::leave() {
     send(left, kMouseLeave, 0, {});
     if (set != nullptr)
         giveFocusBackOnLeave(m_toolkit, set->m_hWnd);
+}
+
+void Mouse::hideTips() {
+    m_toolkit.toolTips().hide();
+    m_toolkit.balloons().dismiss();
 }
 
 WPARAM Mouse::heldKeys() const {

@@ -32,11 +32,14 @@ public:
 
     /// Has a window hold the mouse; null lets it go.
     void capture(HWND window) { m_captured = window; }
+    /// The window that it is over; null for none of ours.
+    HWND over() const { return m_over; }
     /// Where it was last over a window, in that window's client area.
     CPoint point() const { return m_point; }
     HWND captured() const { return m_captured; }
 
 private:
+    void hideTips();
     /// As the wParam of a mouse message tells them.
     WPARAM heldKeys() const;
     bool send(HWND window, UINT message, WPARAM wParam, CPoint point);

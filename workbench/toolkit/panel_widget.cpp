@@ -3,9 +3,12 @@
 #include "workbench/base/turn.h"
 #include "workbench/toolkit/context_menu.h"
 #include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/panel_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
+
+#include <utility>
 
 namespace workbench {
 
@@ -91,12 +94,16 @@ bool PanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPa
         m_titlePressed = isOnTitle(point) && !isOnImage(point);
         return true;
     case kLeftButtonUp:
-        if (m_titlePressed && isOnTitle(point) && !isOnImage(point))
+        if (std::exchange(m_titlePressed, false) && isOnTitle(point) && !isOnImage(point))
             collapse(window, !stateOf(window).collapsed);
         return true;
     case kLeftButtonDoubleClick:
         if (isOnImage(point))
             panelOf(window).OnActivatePanel();
+        return true;
+    case WM_KEYDOWN:
+        if (!key(window, wParam))
+            passKeyOn(m_toolkit, wParam, lParam);
         return true;
     case kContextMenuMessage:
         openContextMenu(window);
@@ -106,6 +113,23 @@ bool PanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPa
         return true;
     case WM_QRUI_THEME_CHANGED:
         changeTheme(window, wParam, lParam);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// False for a key that means nothing on a title.
+bool PanelWidget::key(Window& window, WPARAM key) {
+    switch (key) {
+    case VK_RETURN:
+        collapse(window, !stateOf(window).collapsed);
+        return true;
+    case kKeyLeft:
+        collapse(window, true);
+        return true;
+    case kKeyRight:
+        collapse(window, false);
         return true;
     default:
         return false;

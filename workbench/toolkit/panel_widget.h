@@ -11,7 +11,8 @@ class WindowSystem;
 struct PanelState;
 
 /// A panel: a title bar with an image, below it the tool panels. A click on the title rolls the
-/// panel up or down, a double click on the image opens what the panel is tied to.
+/// panel up or down, a double click on the image opens what the panel is tied to. With the keyboard
+/// on its title, Enter rolls it up or down, Left up and Right down.
 class PanelWidget final : public Widget {
 public:
     static constexpr int kTitleHeight = 20;     ///< Pixels.
@@ -27,11 +28,13 @@ public:
     // Widget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                 LRESULT& answer) override;
+    bool takesTab() const override { return true; }
     std::string describe(const Window& window) const override;
 
 private:
     WindowSystem& windows() const;
     PanelState& stateOf(const Window& window) const;
+    bool key(Window& window, WPARAM key);
     void openContextMenu(Window& window);
     void changeTheme(const Window& window, WPARAM wParam, LPARAM lParam);
 

@@ -5,6 +5,7 @@
 #include "workbench/toolkit/flyout_menu.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -41,6 +42,22 @@ CQrUiToolPanelItem* itemAt(const CQrUiToolPanel& panel, CPoint point) {
     return nullptr;
 }
 
+bool isTool(const CQrUiToolPanel& panel, int index) {
+    if (index < 0 || index >= panel.GetToolPanelItemCount())
+        return false;
+    const CQrUiToolPanelItem& item = *panel.GetToolPanelItem(index);
+    const int type = item.GetType();
+    return (type == kItemButton || type == kItemFlyout) && (item.GetState() & kItemHidden) == 0;
+}
+
+/// The nearest tool from an index on, in steps; -1 for none.
+int toolFrom(const CQrUiToolPanel& panel, int index, int step) {
+    const int count = panel.GetToolPanelItemCount();
+    while (index >= 0 && index < count && !isTool(panel, index))
+        index += step;
+    return isTool(panel, index) ? index : -1;
+}
+
 }  // namespace
 
 WindowSystem& ToolPanelWidget::windows() const {
@@ -72,6 +89,7 @@ void ToolPanelWidget::layout(Window& window) {
     if (!askControls(m_toolkit, panel))
         return;
     const RowLayout places = rows(panel, window.rect.Width());
+    m_hasTools = standsIn<PanelWidget>(windows(), window) && toolFrom(panel, 0, 1) >= 0;
     for (std::size_t index = 0; index < places.items.size(); ++index) {
         // Placing a control may run its code, which may change the panel or end it.
         if (windows().find(handle) == nullptr)
@@ -97,6 +115,10 @@ bool ToolPanelWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM
         return true;
     case kLeftButtonUp:
         release(window, static_cast<UINT>(wParam), unpackPoint(lParam));
+        return true;
+    case WM_KEYDOWN:
+        if (!key(window, wParam))
+            passKeyOn(m_toolkit, wParam, lParam);
         return true;
     case kContextMenuMessage:
     case kMouseWheel:
@@ -179,6 +201,65 @@ void ToolPanelWidget::click(const Window& window, CQrUiToolPanelItem& item, CPoi
     if (onArrow && !openFlyout(m_toolkit, item))
         return;
     windows().send(window.parent, WM_QRUI_ITEM_CLICKED, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+int ToolPanelWidget::marked(const Window& window) const {
+    if (!m_hasTools || windows().focus() != window.handle)
+        return -1;
+    const CQrUiToolPanel& panel = panelOf(window);
+    return isTool(panel, m_marked) ? m_marked : toolFrom(panel, 0, 1);
+}
+
+/// Marks the next tool in steps, beginning with the one beside the marked tool.
+void ToolPanelWidget::mark(const Window& window, int step) {
+    const int next = toolFrom(panelOf(window), marked(window) + step, step);
+    if (next >= 0)
+        m_marked = next;
+    windows().invalidate(window.handle);
+}
+
+/// False for a key that means nothing here.
+bool ToolPanelWidget::key(Window& window, WPARAM key) {
+    const int index = marked(window);
+    if (index < 0)
+        return false;
+    const CQrUiToolPanel& panel = panelOf(window);
+    switch (key) {
+    case kKeyLeft:
+    case kKeyUp:
+        mark(window, -1);
+        return true;
+    case kKeyDown:
+        if (panel.GetToolPanelItem(index)->GetType() == kItemFlyout)
+            clickMarked(window, true);
+        else
+            mark(window, 1);
+        return true;
+    case kKeyRight:
+        mark(window, 1);
+        return true;
+    case kKeyHome:
+        m_marked = toolFrom(panel, 0, 1);
+        windows().invalidate(window.handle);
+        return true;
+    case kKeyEnd:
+        m_marked = toolFrom(panel, panel.GetToolPanelItemCount() - 1, -1);
+        windows().invalidate(window.handle);
+        return true;
+    case VK_RETURN:
+        clickMarked(window, false);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// As by the mouse: on the arrow of a flyout, or on the tool itself.
+void ToolPanelWidget::clickMarked(Window& window, bool onArrow) {
+    const CRect& place = panelOf(window).GetToolPanelItem(marked(window))->m_record->rect;
+    const CPoint point{onArrow ? place.right - 1 : place.left + 1, place.top + 1};
+    press(window, point);
+    release(window, 0, point);
 }
 
 /// Hands the change on to the controls and lays out anew, since fonts and hidden items may differ.

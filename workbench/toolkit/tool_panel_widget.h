@@ -12,6 +12,9 @@ class WindowSystem;
 
 /// A tool panel: lays its items out in rows and turns the mouse's gestures on them into clicks. One
 /// that stands in a row of another tool panel is a custom control.
+///
+/// With the keyboard, one of its tools is marked: arrow keys, Home and End mark another one, Enter
+/// clicks it, and Down opens the menu of a flyout.
 class ToolPanelWidget final : public ControlWidget {
 public:
     ToolPanelWidget(Toolkit& toolkit, UINT toolkitStyle)
@@ -21,10 +24,14 @@ public:
     /// Places the items and the windows of controls in rows of the window's width. A panel's own
     /// tool panel takes the height of its rows.
     void layout(Window& window);
+    /// The index of the tool that Enter would click; -1 if the panel has none, and while it hasn't the
+    /// keyboard.
+    int marked(const Window& window) const;
 
     // ControlWidget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                 LRESULT& answer) override;
+    bool takesTab() const override { return m_hasTools; }
     std::string describe(const Window& window) const override;
     int naturalHeight(const Window& window, int width) const override;
     std::wstring tipAt(const Window& window, CPoint point) const override;
@@ -39,6 +46,9 @@ private:
     void release(Window& window, UINT flags, CPoint point);
     void clickIcon(const Window& window, UINT flags, CPoint point);
     void click(const Window& window, CQrUiToolPanelItem& item, CPoint point);
+    bool key(Window& window, WPARAM key);
+    void mark(const Window& window, int step);
+    void clickMarked(Window& window, bool onArrow);
     void changeTheme(Window& window, WPARAM wParam, LPARAM lParam);
 
     Toolkit& m_toolkit;
@@ -46,6 +56,8 @@ private:
     const CQrUiToolPanelItem* m_pressed = nullptr;  // only compared: the item may have ended
     HWND m_focusBefore = nullptr;                   // when the button went down
     bool m_isPressed = false;
+    bool m_hasTools = false;  // a panel's own tool panel with something to click
+    int m_marked = 0;         // index of an item; not a tool's after a change of the items
 };
 
 }  // namespace workbench

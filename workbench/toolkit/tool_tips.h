@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/toolkit/rest_timer.h"
 #include "workbench/toolkit/text_notes.h"
 #include "workbench/windows/window_system.h"
 
@@ -16,7 +17,6 @@ public:
     ToolTips(WindowSystem& windows, const TextNotes& notes);
     ToolTips(const ToolTips&) = delete;
     ToolTips& operator=(const ToolTips&) = delete;
-    ~ToolTips();
 
     /// The mouse moved over a part of a window that has a text; an empty one has no tooltip. The
     /// wait begins anew if window or text differ from before.
@@ -33,12 +33,11 @@ public:
     void setPresenter(Presenter presenter) { m_presenter = std::move(presenter); }
 
 private:
-    class RestWidget;
     void showNow();
 
     WindowSystem& m_windows;
     const TextNotes& m_notes;
-    CWnd m_clock;           // a hidden window that bears the timer
+    RestTimer m_rest;
     HWND m_over = nullptr;  // null: over nothing with a text
     std::wstring m_text;
     std::wstring m_shown;

@@ -52,6 +52,7 @@ void Toolkit::idleUpdate() {
     const std::vector<CQrUiPaletteSet*>& bars = m_frame.bars();
     for (std::size_t index = 0; index < bars.size(); ++index)
         m_windows.send(bars[index]->m_hWnd, WM_IDLEUPDATECMDUI, 0, 0);
+    m_balloons.review();
 }
 
 }  // namespace workbench

@@ -64,7 +64,8 @@ public:
     /// that all of it changed, then the palette sets that have it. Nothing if it has the shade.
     void setShade(Shade shade);
 
-    /// One idle tick: the palette sets bring their commands up to date.
+    /// One idle tick: the palette sets bring their commands up to date, and a balloon over what has
+    /// gone goes too.
     void idleUpdate();
 
     /// The number of items that have not ended.

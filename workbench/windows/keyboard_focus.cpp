@@ -25,6 +25,8 @@ bool KeyboardFocus::moveTo(HWND window) {
         m_reported = window;
         report(window, EN_SETFOCUS);
     }
+    if (m_onMoved)
+        m_onMoved();
     return m_window == window;
 }
 

@@ -7,6 +7,8 @@
 #include <hostapi/window.h>
 
 #include <cstdint>
+#include <functional>
+#include <utility>
 
 namespace workbench {
 
@@ -27,6 +29,8 @@ public:
     /// old window first. False, and nothing happens, for a window that is stale, dying, not on
     /// screen or disabled.
     bool moveTo(HWND window);
+    /// Told whenever the focus has moved and the parents know. Null ends it.
+    void setOnMoved(std::function<void()> told) { m_onMoved = std::move(told); }
     /// Takes the focus from a window and all below it.
     void leaveWithin(HWND root);
     /// A window was disabled, and it and all below it lose the focus. The parent of a field is told
@@ -43,6 +47,7 @@ private:
     MessageDispatcher& m_messages;
     HWND m_window = nullptr;
     HWND m_reported = nullptr;  // whose parent got EN_SETFOCUS and not yet EN_KILLFOCUS
+    std::function<void()> m_onMoved;
     std::uint64_t m_moves = 0;  // tells a handler's own move of the focus
 };
 

@@ -17,6 +17,7 @@
 #include <hostapi/window.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -56,6 +57,7 @@ public:
     void advance(std::int64_t milliseconds) { m_timers.advance(milliseconds); }
     HWND focus() const { return m_focus.window(); }
     bool setFocus(HWND window) { return m_focus.moveTo(window); }
+    void setOnFocusMoved(std::function<void()> told) { m_focus.setOnMoved(std::move(told)); }
     void show(HWND window, bool visible) { m_state.show(window, visible); }
     void place(HWND window, CRect rect, UINT flags = 0) { m_state.place(window, rect, flags); }
     void setName(HWND window, std::string name) { m_state.setName(window, std::move(name)); }

@@ -24,6 +24,6 @@ public:
     void SetControlStyle(UINT style);
     /// The text shown while the mouse rests over the slider.
     void SetToolTipText(const VxString& text);
-    /// Shows that text now, during a gesture.
+    /// Shows that text now if the mouse is over the slider or drags it.
     void ShowToolTip();
 };

@@ -1,6 +1,7 @@
 #include "workbench/toolkit/balloon_tips.h"
 
 #include "tests/workbench/toolkit/toolkit_fixture.h"
+#include "workbench/gestures/key_gestures.h"
 
 namespace workbench {
 namespace {
@@ -41,6 +42,62 @@ TEST_F(BalloonTipsTest, ASecondBalloonTakesThePlaceOfTheFirst) {
     EXPECT_EQ(changes[2].field("field"), Value("balloon"));
     EXPECT_EQ(changes[2].field("old"), Value("two"));
     EXPECT_EQ(changes[2].field("new"), Value(""));
+}
+
+TEST_F(BalloonTipsTest, ThereIsOneAtATime) {
+    QrUiShowBalloonTip(m_toolPanel, &m_edit, L"one", 0);
+    QrUiShowBalloonTip(&m_edit, &m_edit, L"two", 0);
+    EXPECT_EQ(toolkit().balloons().textOf(m_toolPanel->m_hWnd), L"");
+    EXPECT_EQ(toolkit().balloons().textOf(m_edit.m_hWnd), L"two");
+    QrUiHideBalloonTip(m_toolPanel);
+    EXPECT_TRUE(toolkit().balloons().isShown());
+}
+
+TEST_F(BalloonTipsTest, ItGoesAfterAWhile) {
+    QrUiShowBalloonTip(m_toolPanel, &m_edit, L"one", 0);
+    windows().advance(9'999);
+    EXPECT_TRUE(toolkit().balloons().isShown());
+    windows().advance(1);
+    EXPECT_FALSE(toolkit().balloons().isShown());
+    QrUiShowBalloonTip(m_toolPanel, &m_edit, L"two", 0);
+    windows().advance(6'000);
+    QrUiShowBalloonTip(m_toolPanel, &m_edit, L"three", 0);
+    windows().advance(6'000);
+    EXPECT_EQ(toolkit().balloons().textOf(m_toolPanel->m_hWnd), L"three");
+}
+
+TEST_F(BalloonTipsTest, ItGoesWithTheNextKeyOrClick) {
+    const auto isGoneAfter = [this](auto gesture) {
+        QrUiShowBalloonTip(m_toolPanel, &m_edit, L"one", 0);
+        gesture();
+        return !toolkit().balloons().isShown();
+    };
+    EXPECT_TRUE(isGoneAfter([this] { gestures::typeText(toolkit(), L"1"); }));
+    EXPECT_TRUE(isGoneAfter([this] { gestures::pressKey(toolkit(), "left"); }));
+    EXPECT_TRUE(isGoneAfter([this] { toolkit().mouse().press(m_toolPanel->m_hWnd, {1, 1}); }));
+    EXPECT_TRUE(isGoneAfter([this] {
+        toolkit().mouse().contextMenu(m_toolPanel->m_hWnd, {1, 1});
+    }));
+    EXPECT_FALSE(isGoneAfter([this] { toolkit().mouse().move(m_toolPanel->m_hWnd, {1, 1}); }));
+}
+
+TEST_F(BalloonTipsTest, ItGoesWithTheKeyboardButNotWhenItsFieldGetsIt) {
+    const HWND view = toolkit().frame().drawingView().m_hWnd;
+    windows().setFocus(view);
+    QrUiShowBalloonTip(m_toolPanel, &m_edit, L"one", 0);
+    windows().setFocus(m_edit.m_hWnd);
+    EXPECT_TRUE(toolkit().balloons().isShown());
+    windows().setFocus(view);
+    EXPECT_FALSE(toolkit().balloons().isShown());
+}
+
+TEST_F(BalloonTipsTest, ItGoesAtTheNextIdleTickIfItsFieldIsNoLongerOnShow) {
+    QrUiShowBalloonTip(m_toolPanel, &m_edit, L"one", 0);
+    toolkit().idleUpdate();
+    EXPECT_TRUE(toolkit().balloons().isShown());
+    m_toolPanel->ShowWindow(0);
+    toolkit().idleUpdate();
+    EXPECT_FALSE(toolkit().balloons().isShown());
 }
 
 TEST_F(BalloonTipsTest, WithoutAnOwnersWindowThereIsNone) {

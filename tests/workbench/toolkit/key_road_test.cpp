@@ -24,6 +24,8 @@ TEST_F(KeyRoadTest, TabGoesFromFieldToFieldAndRound) {
     EXPECT_EQ(windows().focus(), m_second.m_hWnd);
     gestures::pressKey(toolkit(), "tab");
     gestures::pressKey(toolkit(), "tab");
+    EXPECT_EQ(windows().focus(), m_panel.m_hWnd) << "the title";
+    gestures::pressKey(toolkit(), "tab");
     EXPECT_EQ(windows().focus(), m_first.m_hWnd);
 }
 
@@ -31,7 +33,7 @@ TEST_F(KeyRoadTest, TabPassesOverDisabledAndHiddenFields) {
     m_second.EnableWindow(0);
     EXPECT_EQ(nextField(windows(), m_first.m_hWnd), m_third.m_hWnd);
     m_third.ShowWindow(SW_HIDE);
-    EXPECT_EQ(nextField(windows(), m_first.m_hWnd), nullptr);
+    EXPECT_EQ(nextField(windows(), m_first.m_hWnd), m_panel.m_hWnd);
 }
 
 TEST_F(KeyRoadTest, TabSelectsTheWholeText) {
@@ -46,6 +48,8 @@ TEST_F(KeyRoadTest, WithShiftHeldTabGoesBack) {
     gestures::focusField(toolkit(), m_first.m_hWnd);
     gestures::holdKey(toolkit(), "shift", true);
     gestures::pressKey(toolkit(), "tab");
+    EXPECT_EQ(windows().focus(), m_panel.m_hWnd);
+    gestures::pressKey(toolkit(), "tab");
     EXPECT_EQ(windows().focus(), m_third.m_hWnd);
     gestures::pressKey(toolkit(), "tab");
     gestures::holdKey(toolkit(), "shift", false);
@@ -59,7 +63,15 @@ TEST_F(KeyRoadTest, TabStopsAtSlidersAndListsToo) {
     combo.Create(WS_CHILD | WS_VISIBLE, {0, 0, 60, 100}, m_toolPanel, 9);
     EXPECT_EQ(nextField(windows(), m_third.m_hWnd), slider.m_hWnd);
     EXPECT_EQ(nextField(windows(), slider.m_hWnd), combo.m_hWnd);
-    EXPECT_EQ(nextField(windows(), combo.m_hWnd), m_first.m_hWnd);
+    EXPECT_EQ(nextField(windows(), combo.m_hWnd), m_panel.m_hWnd);
+}
+
+TEST_F(KeyRoadTest, TabStopsAtARowOfToolsButNotAtOneWithoutAny) {
+    EXPECT_EQ(nextField(windows(), m_panel.m_hWnd), m_first.m_hWnd);
+    addItem(kItemButton, L"ID_A");
+    m_panelSet.UpdateLayout();
+    EXPECT_EQ(nextField(windows(), m_panel.m_hWnd), m_toolPanel->m_hWnd);
+    EXPECT_EQ(nextField(windows(), m_toolPanel->m_hWnd), m_first.m_hWnd);
 }
 
 TEST_F(KeyRoadTest, OutsideASetThereIsNoNextField) {

@@ -2,6 +2,7 @@
 
 #include "tests/workbench/toolkit/toolkit_fixture.h"
 #include "workbench/gestures/item_gestures.h"
+#include "workbench/gestures/key_gestures.h"
 #include "workbench/gestures/menu_gestures.h"
 #include "workbench/gestures/mouse_gestures.h"
 
@@ -136,6 +137,18 @@ TEST_F(PanelWidgetTest, APanelThatGoesAsItIsRolledUpTellsNobody) {
     };
     gestures::clickTitle(toolkit(), m_panel);
     EXPECT_EQ(m_panel.m_hWnd, nullptr);
+}
+
+TEST_F(PanelWidgetTest, KeysOnTheTitleRollThePanelUpAndDown) {
+    const auto isCollapsed = [this] { return toolkit().panels().of(&m_panel).collapsed; };
+    ASSERT_TRUE(windows().setFocus(m_panel.m_hWnd));
+    gestures::pressKey(toolkit(), "enter");
+    EXPECT_TRUE(isCollapsed());
+    gestures::pressKey(toolkit(), "right");
+    EXPECT_FALSE(isCollapsed());
+    gestures::pressKey(toolkit(), "left");
+    EXPECT_TRUE(isCollapsed());
+    EXPECT_EQ(windows().focus(), m_panel.m_hWnd);
 }
 
 }  // namespace

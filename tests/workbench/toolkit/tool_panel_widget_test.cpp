@@ -2,6 +2,7 @@
 
 #include "tests/workbench/toolkit/toolkit_fixture.h"
 #include "workbench/gestures/item_gestures.h"
+#include "workbench/gestures/key_gestures.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/input_messages.h"
 
@@ -168,6 +169,45 @@ TEST_F(ToolPanelWidgetTest, AControlThatEndsItsPanelDuringItsClickIsSafe) {
     control.onClick = [this] { m_set->DestroyWindow(); };
     clickItem(toolkit(), *control.GetToolPanelItem(0));
     EXPECT_EQ(m_toolPanel->m_hWnd, nullptr);
+}
+
+TEST_F(ToolPanelWidgetTest, ArrowKeysMarkToolsAndEnterClicksThem) {
+    addItem(kItemButton, L"ID_A");
+    addItem(kItemSeparator, L"");
+    CQrUiToolPanelItem& last = addItem(kItemButton, L"ID_B");
+    m_panelSet.UpdateLayout();
+    const Window& window = *windows().find(m_toolPanel->m_hWnd);
+    const auto& widget = static_cast<const ToolPanelWidget&>(*window.widget);
+    EXPECT_EQ(widget.marked(window), -1);
+    ASSERT_TRUE(windows().setFocus(m_toolPanel->m_hWnd));
+    EXPECT_EQ(widget.marked(window), 0);
+    gestures::pressKey(toolkit(), "left");
+    EXPECT_EQ(widget.marked(window), 0) << "there is none before it";
+    gestures::pressKey(toolkit(), "right");
+    EXPECT_EQ(widget.marked(window), 2) << "a separator is no tool";
+    gestures::pressKey(toolkit(), "right");
+    EXPECT_EQ(widget.marked(window), 2);
+    gestures::pressKey(toolkit(), "home");
+    EXPECT_EQ(widget.marked(window), 0);
+    gestures::pressKey(toolkit(), "end");
+    EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED), IsEmpty());
+    gestures::pressKey(toolkit(), "enter");
+    EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED),
+                ElementsAre(Received{WM_QRUI_ITEM_CLICKED, 0, itemOf(last)}));
+    EXPECT_EQ(windows().focus(), frame().drawingView().m_hWnd) << "as behind a click";
+}
+
+TEST_F(ToolPanelWidgetTest, DownOpensTheMenuOfTheMarkedFlyout) {
+    CQrUiToolPanelItem& flyout = addItem(kItemFlyout, L"ID_F");
+    CQrUiToolPanelItem& first = addTool(flyout, kItemButton, L"ID_A");
+    CQrUiToolPanelItem& second = addTool(flyout, kItemButton, L"ID_B");
+    first.SetName(L"A");
+    second.SetName(L"B");
+    m_panelSet.UpdateLayout();
+    m_workbench.answers().queue("menu", "B");
+    windows().setFocus(m_toolPanel->m_hWnd);
+    gestures::pressKey(toolkit(), "down");
+    EXPECT_THAT(m_panel.of(WM_QRUI_ITEM_CLICKED), SizeIs(1));
 }
 
 }  // namespace

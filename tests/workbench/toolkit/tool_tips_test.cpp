@@ -2,6 +2,7 @@
 
 #include "tests/workbench/toolkit/toolkit_fixture.h"
 #include "workbench/gestures/mouse_gestures.h"
+#include "workbench/gestures/slider_gestures.h"
 
 namespace workbench {
 namespace {
@@ -52,6 +53,30 @@ TEST_F(ToolTipsTest, APressOrLeavingHidesIt) {
     toolkit().mouse().press(m_slider.m_hWnd, {5, 5});
     windows().advance(500);
     EXPECT_EQ(toolkit().toolTips().shown(), L"");
+}
+
+TEST_F(ToolTipsTest, ASliderShowsItsTextAtOnceOnlyUnderTheMouse) {
+    gestures::hoverAt(toolkit(), m_toolPanel->m_hWnd, {5, 5});
+    m_slider.SetToolTipText(L"Lens 50");
+    m_slider.ShowToolTip();
+    EXPECT_EQ(toolkit().toolTips().shown(), L"");
+    windows().advance(500);
+    EXPECT_EQ(toolkit().toolTips().shown(), L"Line") << "the wait of the tool's own goes on";
+    gestures::hoverAt(toolkit(), m_slider.m_hWnd, {5, 5});
+    m_slider.ShowToolTip();
+    EXPECT_EQ(toolkit().toolTips().shown(), L"Lens 50");
+    gestures::leave(toolkit());
+    m_slider.ShowToolTip();
+    EXPECT_EQ(toolkit().toolTips().shown(), L"");
+}
+
+TEST_F(ToolTipsTest, ADraggedSliderShowsItsTextWhereverTheMouseIs) {
+    gestures::dragSlider(toolkit(), m_slider.m_hWnd, {40});
+    toolkit().mouse().move(m_toolPanel->m_hWnd, {5, 5});
+    m_slider.SetToolTipText(L"Lens 40");
+    m_slider.ShowToolTip();
+    EXPECT_EQ(toolkit().toolTips().shown(), L"Lens 40");
+    gestures::releaseSlider(toolkit(), m_slider.m_hWnd);
 }
 
 TEST_F(ToolTipsTest, AWindowThatEndedMeanwhileShowsNone) {

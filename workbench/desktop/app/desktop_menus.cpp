@@ -1,7 +1,10 @@
 #include "workbench/desktop/app/desktop_menus.h"
 
+#include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/app/main_window.h"
+#include "workbench/desktop/drawing_view/drawing_view.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/window_mirror.h"
 #include "workbench/editor/editor.h"
@@ -14,10 +17,10 @@
 #include <hostapi/vxdashboard.h>
 
 #include <QDockWidget>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QLocale>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <functional>
 
 namespace workbench::desktop {
@@ -54,25 +57,78 @@ DesktopMenus::DesktopMenus(MainWindow& window, QDockWidget& journal)
     : m_window(window),
       m_workbench(window.workbench()) {
     QMenuBar& bar = *window.menuBar();
+    addFileActions(window.fileActions());
     addListMenu(bar, QStringLiteral("&Document"), [this](QMenu& menu) { fillDocuments(menu); });
+    addEditMenu(bar);
+    m_fit = make(QStringLiteral("&Fit the drawing"), Qt::CTRL | Qt::Key_0, [this] {
+        if (DrawingView* view = m_window.documentTabs().view())
+            view->fit();
+    });
     addListMenu(bar, QStringLiteral("&Workspace"), [this](QMenu& menu) { fillWorkspaces(menu); });
     addListMenu(bar, QStringLiteral("&Profile"), [this](QMenu& menu) { fillProfiles(menu); });
     addListMenu(bar, QStringLiteral("&View"),
                 [this, &journal](QMenu& menu) { fillView(menu, journal); });
     addListMenu(bar, QStringLiteral("&Language"), [this](QMenu& menu) { fillLanguages(menu); });
+    addHelpMenu(bar);
+}
+
+QAction* DesktopMenus::make(const QString& text, const QKeySequence& shortcut,
+                            const std::function<void()>& chosen) {
+    auto* const action = new QAction(text, &m_window);
+    action->setShortcut(shortcut);
+    QObject::connect(action, &QAction::triggered, &m_window, chosen);
+    m_window.addAction(action);
+    return action;
+}
+
+void DesktopMenus::addFileActions(FileActions& files) {
+    m_fileActions = {
+        make(QStringLiteral("&New"), QKeySequence::New, [&files] { files.create(); }),
+        make(QStringLiteral("&Open..."), QKeySequence::Open, [&files] { files.open(); }),
+        make(QStringLiteral("&Save"), QKeySequence::Save, [&files] { files.save(); }),
+        make(QStringLiteral("Save &as..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+             [&files] { files.saveAs(); }),
+        make(QStringLiteral("&Close"), QKeySequence::Close,
+             [this, &files] {
+                 if (Document* document = m_workbench.editor().documents().active())
+                     files.close(*document);
+             }),
+        make(QStringLiteral("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { m_window.close(); }),
+    };
+}
+
+void DesktopMenus::addEditMenu(QMenuBar& bar) {
+    QMenu* const menu = bar.addMenu(QStringLiteral("&Edit"));
+    menu->addAction(make(QStringLiteral("&Undo"), QKeySequence::Undo, [this] {
+        m_window.stage().pump.act([this] { m_workbench.editor().undo(); });
+    }));
+    menu->addAction(make(QStringLiteral("&Redo"), Qt::CTRL | Qt::Key_Y, [this] {
+        m_window.stage().pump.act([this] { m_workbench.editor().redo(); });
+    }));
+}
+
+void DesktopMenus::addHelpMenu(QMenuBar& bar) {
+    QMenu* const menu = bar.addMenu(QStringLiteral("&Help"));
+    menu->addAction(make(QStringLiteral("The &dashboard"), QKeySequence::HelpContents,
+                         [this] { m_window.showHelp(); }));
+    menu->addAction(make(QStringLiteral("&About the workbench"), {}, [this] { about(); }));
+}
+
+void DesktopMenus::about() {
+    QMessageBox::about(
+        &m_window, QStringLiteral("About the workbench"),
+        QStringLiteral(
+            "The workbench is a stand-in for a drafting program: it loads the dashboard, "
+            "so that anyone can see, try and test it."));
 }
 
 void DesktopMenus::fillDocuments(QMenu& menu) {
-    addAction(menu, QStringLiteral("&New"), [this] { newDocument(); });
-    addAction(menu, QStringLiteral("&Open..."), [this] { openDocument(); });
+    for (QAction* action : m_fileActions)
+        menu.addAction(action);
     DocumentList& documents = m_workbench.editor().documents();
     Document* const active = documents.active();
     if (active == nullptr)
         return;
-    addAction(menu, QStringLiteral("&Close"), [this, active] {
-        m_window.stage().pump.act(
-            [this, active] { m_workbench.editor().documents().close(*active); });
-    });
     menu.addSeparator();
     for (Document* document : documents.all()) {
         addChoice(menu, toQt(document->name()), document == active, [this, document] {
@@ -80,25 +136,6 @@ void DesktopMenus::fillDocuments(QMenu& menu) {
                 [this, document] { m_workbench.editor().documents().activate(*document); });
         });
     }
-}
-
-void DesktopMenus::newDocument() {
-    m_window.stage().pump.act([this] {
-        DocumentList& documents = m_workbench.editor().documents();
-        int number = 1;
-        while (documents.find(L"Drawing" + std::to_wstring(number)) != nullptr)
-            ++number;
-        documents.create(L"Drawing" + std::to_wstring(number));
-    });
-}
-
-void DesktopMenus::openDocument() {
-    const QString file = QFileDialog::getOpenFileName(&m_window, QStringLiteral("Open a drawing"),
-                                                      {}, QStringLiteral("Drawings (*.json)"));
-    if (file.isEmpty())
-        return;
-    m_window.stage().pump.act(
-        [this, &file] { m_workbench.editor().documents().open(file.toStdString()); });
 }
 
 void DesktopMenus::fillWorkspaces(QMenu& menu) {
@@ -140,6 +177,7 @@ void DesktopMenus::fillView(QMenu& menu, QDockWidget& journal) {
     menu.addAction(journal.toggleViewAction());
     addAction(menu, QStringLiteral("&Reset the layout"),
               [this] { m_window.stage().pump.act([this] { resetLayout(m_workbench); }); });
+    menu.addAction(m_fit);
     menu.addSeparator();
     fillThemes(*menu.addMenu(QStringLiteral("&Theme")));
     fillIconSizes(*menu.addMenu(QStringLiteral("&Size of the tools")));

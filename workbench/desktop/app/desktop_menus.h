@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
 #include <QMenu>
+#include <functional>
 
 class QDockWidget;
+class QMenuBar;
 
 namespace workbench {
 class Workbench;
@@ -10,10 +14,11 @@ class Workbench;
 
 namespace workbench::desktop {
 
+class FileActions;
 class MainWindow;
 
-/// The menus of the window: documents, workspaces, profiles, the look, the language. Lists are made
-/// when their menu opens.
+/// The menus of the window: documents, undo, workspaces, profiles, the look, the language, help. Lists
+/// are made when their menu opens; what has a shortcut lives with the window.
 class DesktopMenus {
 public:
     DesktopMenus(MainWindow& window, QDockWidget& journal);
@@ -28,12 +33,18 @@ private:
     void fillThemes(QMenu& menu);
     void fillIconSizes(QMenu& menu);
     void fillLanguages(QMenu& menu);
-    void newDocument();
-    void openDocument();
+    void addFileActions(FileActions& files);
+    void addEditMenu(QMenuBar& bar);
+    void addHelpMenu(QMenuBar& bar);
+    QAction* make(const QString& text, const QKeySequence& shortcut,
+                  const std::function<void()>& chosen);
     void newProfile();
+    void about();
 
     MainWindow& m_window;
     Workbench& m_workbench;
+    QList<QAction*> m_fileActions;  // belong to the window
+    QAction* m_fit = nullptr;       // likewise
 };
 
 }  // namespace workbench::desktop

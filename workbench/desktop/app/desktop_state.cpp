@@ -16,12 +16,17 @@ namespace {
 
 constexpr QLatin1String kShade("theme");
 constexpr QLatin1String kRolledUp("rolledUpPanels");
+constexpr QLatin1String kLastFolder("lastFolder");
 
 QString fileIn(const std::filesystem::path& folder) {
     return toQt(std::string_view((folder / "desktop.json").string()));
 }
 
 }  // namespace
+
+bool DesktopState::exists(const std::filesystem::path& folder) {
+    return QFile::exists(fileIn(folder));
+}
 
 DesktopState DesktopState::read(const std::filesystem::path& folder, QString& complaint) {
     DesktopState state;
@@ -45,6 +50,7 @@ DesktopState DesktopState::read(const std::filesystem::path& folder, QString& co
     }
     for (const QJsonValue& id : members[kRolledUp].toArray())
         state.rolledUp.push_back(toHost(id.toString()));
+    state.lastFolder = members[kLastFolder].toString().toStdString();
     return state;
 }
 
@@ -53,6 +59,8 @@ void DesktopState::write(const std::filesystem::path& folder) const {
     for (const std::wstring& id : rolledUp)
         ids.append(toQt(id));
     QJsonObject members{{kRolledUp, ids}};
+    if (!lastFolder.empty())
+        members.insert(kLastFolder, toQt(std::string_view(lastFolder.string())));
     if (shade)
         members.insert(kShade, QLatin1String(nameOf(*shade)));
     QSaveFile file(fileIn(folder));

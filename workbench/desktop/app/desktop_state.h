@@ -14,7 +14,10 @@ namespace workbench::desktop {
 struct DesktopState {
     std::optional<Shade> shade;          ///< Nothing: not known.
     std::vector<std::wstring> rolledUp;  ///< IDs of panels.
+    std::filesystem::path lastFolder;    ///< Of drawings; empty: none.
 
+    /// Whether the window was ever closed before: then its file is there.
+    static bool exists(const std::filesystem::path& folder);
     /// Reads the file of a folder; a missing one is a fresh state. What can't be taken is left out,
     /// and `complaint` says what and where.
     static DesktopState read(const std::filesystem::path& folder, QString& complaint);

@@ -3,10 +3,37 @@
 #include "workbench/desktop/drawing_view/drawing_view.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
+#include "workbench/navigation/navigation_tool.h"
+
+#include <QPainter>
 
 namespace workbench::desktop {
+
+namespace {
+
+/// What a drag does while the navigation tool runs in a mode.
+DragMode dragModeOf(int mode) {
+    switch (mode) {
+    case NavigationTool::kPan:
+        return DragMode::Pan;
+    case NavigationTool::kZoom:
+    case NavigationTool::kDistance:
+        return DragMode::Zoom;
+    case NavigationTool::kSwivel:
+        return DragMode::Swivel;
+    case NavigationTool::kWalk:
+        return DragMode::Walk;
+    case NavigationTool::kFly:
+        return DragMode::Fly;
+    default:
+        return DragMode::Orbit;
+    }
+}
+
+}  // namespace
 
 DocumentTabs::DocumentTabs(Stage& stage) : m_stage(stage) {
     setDocumentMode(true);
@@ -22,6 +49,23 @@ DrawingView& DocumentTabs::viewAt(int index) const {
     return *static_cast<DrawingView*>(widget(index));
 }
 
+DrawingView* DocumentTabs::view() const {
+    return count() == 0 ? nullptr : &viewAt(currentIndex());
+}
+
+void DocumentTabs::paintEvent(QPaintEvent* event) {
+    QTabWidget::paintEvent(event);
+    if (count() > 0)
+        return;
+    QPainter painter(this);
+    painter.fillRect(rect(), m_stage.look->drawing);
+    painter.setPen(m_stage.look->text);
+    painter.drawText(
+        rect(), Qt::AlignCenter | Qt::TextWordWrap,
+        QStringLiteral("No drawing is open.\n\nDocument \u203a New begins one (Ctrl+N), "
+                       "Document \u203a Open... takes one from a file (Ctrl+O)."));
+}
+
 int DocumentTabs::indexOf(const Document* document) const {
     for (int index = 0; index < count(); ++index) {
         if (viewAt(index).document() == document)
@@ -32,8 +76,6 @@ int DocumentTabs::indexOf(const Document* document) const {
 
 void DocumentTabs::refresh() {
     const DocumentList& documents = m_stage.workbench.editor().documents();
-    const auto fading =
-        static_cast<int>(m_stage.workbench.editor().read(L"LAYLOCKFADECTL").asInteger());
     m_refreshing = true;
     for (int index = count() - 1; index >= 0; --index) {
         if (viewAt(index).document() == nullptr)
@@ -41,12 +83,32 @@ void DocumentTabs::refresh() {
     }
     for (Document* document : documents.all()) {
         if (indexOf(document) < 0)
-            addTab(new DrawingView(m_stage.pump, *document, *m_stage.look), toQt(document->name()));
+            add(*document);
     }
     for (int index = 0; index < count(); ++index)
-        viewAt(index).setFading(fading);
+        refreshView(viewAt(index));
     setCurrentIndex(indexOf(documents.active()));
     m_refreshing = false;
+}
+
+void DocumentTabs::refreshView(DrawingView& view) const {
+    Workbench& workbench = m_stage.workbench;
+    view.setFading(static_cast<int>(workbench.editor().read(L"LAYLOCKFADECTL").asInteger()));
+    view.setDragMode(dragModeOf(workbench.navigation().mode()));
+    view.setPointing(view.document()->processor().asksForPoint());
+}
+
+void DocumentTabs::add(Document& document) {
+    auto* const view = new DrawingView(m_stage.pump, document, *m_stage.look);
+    view->setOnPressed([this](QPointF point) {
+        if (m_onPressed)
+            m_onPressed(point);
+    });
+    view->setOnPointed([this](const drawing::Vec3& point) {
+        if (m_onPointed)
+            m_onPointed(point);
+    });
+    addTab(view, toQt(document.name()));
 }
 
 void DocumentTabs::setLook(const Look& look) {
@@ -63,8 +125,8 @@ void DocumentTabs::activate(int index) {
 }
 
 void DocumentTabs::close(int index) {
-    m_stage.pump.act(
-        [this, index] { m_stage.workbench.editor().documents().close(*viewAt(index).document()); });
+    if (m_onClosing)
+        m_onClosing(*viewAt(index).document());
 }
 
 }  // namespace workbench::desktop

@@ -1,19 +1,25 @@
 #include "workbench/desktop/app/main_window.h"
 
 #include "workbench/base/input_error.h"
+#include "workbench/base/number_text.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/dock_splitter.h"
 #include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
+#include "workbench/desktop/app/space_tabs.h"
+#include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/questions.h"
 #include "workbench/desktop/mirror/window_mirror.h"
+#include "workbench/desktop/panes/command_echo.h"
 #include "workbench/desktop/panes/command_line.h"
+#include "workbench/desktop/panes/help_page.h"
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
 #include "workbench/desktop/panes/status_fields.h"
@@ -22,6 +28,7 @@
 #include "workbench/editor/variables/variable_definition.h"
 #include "workbench/host/workbench.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -31,9 +38,13 @@
 #include <QDockWidget>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QToolTip>
+#include <QVBoxLayout>
+#include <utility>
 
 namespace workbench::desktop {
 
@@ -41,6 +52,10 @@ namespace {
 
 constexpr int kTellMs = 8000;
 constexpr int kSearchWidth = 320;  // pixels
+constexpr int kDecimalsOfAPoint = 4;
+constexpr const char* kFirstHint =
+    "In the drawing, drag with the left button to orbit and with the middle one to pan; "
+    "the wheel zooms. Help is in the menu, or F1.";
 
 /// The names that can be typed at the command line.
 QStringList namesToType(Workbench& workbench) {
@@ -64,6 +79,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
       m_home(new FrameHome(this)),
       m_splitter(new DockSplitter(m_stage, *m_home)),
       m_tabs(new DocumentTabs(m_stage)),
+      m_spaces(new SpaceTabs(m_stage)),
       m_commandLine(new CommandLine),
       m_status(new StatusFields),
       m_journal(new JournalPane(workbench.journal())),
@@ -74,7 +90,11 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     m_mirror = std::make_unique<WindowMirror>(m_stage, *m_home);
     m_questions = std::make_unique<Questions>(m_stage, *this);
     m_home->attach(m_stage);
+    keepOnScreen();
     buildPanes();
+    m_files = std::make_unique<FileActions>(*this);
+    m_tabs->setOnClosing([this](Document& document) { m_files->close(document); });
+    m_help = std::make_unique<HelpPage>(m_workbench.journal(), *this);
     m_menus = std::make_unique<DesktopMenus>(*this, *m_journalDock);
     setShade(shade);
     m_pump.setOnFailure([this](const QString& text) { tell(text); });
@@ -89,11 +109,26 @@ MainWindow::~MainWindow() {
     m_pump.setOnFailure(nullptr);
 }
 
+/// Small frames stand on the screens that there are.
+void MainWindow::keepOnScreen() {
+    const auto follow = [this](const QRect& all) {
+        m_stage.toolkit.frame().setRoom({all.left(), all.top(), all.right() + 1, all.bottom() + 1});
+    };
+    follow(screen()->availableVirtualGeometry());
+    connect(screen(), &QScreen::virtualGeometryChanged, this, follow);
+}
+
 void MainWindow::buildPanes() {
     MainFrame& frame = m_stage.toolkit.frame();
-    m_mirror->fill(frame.drawingView().m_hWnd, *m_tabs);
+    auto* const drawing = new QWidget;
+    auto* const column = new QVBoxLayout(drawing);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(m_tabs);
+    column->addWidget(m_spaces);
+    m_mirror->fill(frame.drawingView().m_hWnd, *drawing);
     m_mirror->fill(frame.commandLine().m_hWnd, *m_commandLine);
-    m_mirror->setOnKeyboardToDrawing([this] { m_commandLine->input().setFocus(); });
+    m_mirror->setOnKeyboardToDrawing([this] { leaveToCommandLine(); });
     m_stage.typed = [this](const QString& text) { m_commandLine->begin(text); };
     m_stage.whyDisabled = [this] {
         return m_workbench.editor().documents().active() == nullptr
@@ -103,6 +138,11 @@ void MainWindow::buildPanes() {
     m_commandLine->setOnEnter(
         [this](const QString& text) { runCommand(text + QLatin1Char('\n')); });
     m_commandLine->setOnCancel([this] { runCommand(QStringLiteral("\x1b")); });
+    m_echo = std::make_unique<CommandEcho>(
+        m_workbench.journal(), [this](const QString& line) { m_commandLine->echo(line); });
+    m_commandLine->setOnTab([this](bool backwards) { return enterDashboard(backwards); });
+    m_tabs->setOnPointed([this](const drawing::Vec3& point) { answerPoint(point); });
+    m_tabs->setOnPressed([this](QPointF point) { pressDrawing(point); });
     m_commandLine->setNames([this] { return namesToType(m_workbench); });
     m_journal->setOnFailure([this](const QString& text) { tell(text); });
     m_search->setOnChosen([this](const SearchHit& hit) { reveal(m_stage, *m_mirror, hit); });
@@ -116,6 +156,61 @@ void MainWindow::buildPanes() {
     m_search->setMaximumWidth(kSearchWidth);
     bar->addWidget(m_search);
     statusBar()->addPermanentWidget(m_status);
+    addShortcuts();
+}
+
+void MainWindow::addShortcuts() {
+    connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { switchPane(); });
+    connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, this, [this] {
+        m_search->setFocus(Qt::ShortcutFocusReason);
+        m_search->selectAll();
+    });
+}
+
+/// Brings the keyboard to the first, or the last, part of a dashboard on show. False if there is none.
+bool MainWindow::enterDashboard(bool backwards) {
+    bool entered = false;
+    m_pump.act([&] {
+        MainFrame& frame = m_stage.toolkit.frame();
+        const std::vector<CQrUiPaletteSet*> bars = frame.bars();
+        for (CQrUiPaletteSet* set : bars) {
+            if (entered || !m_stage.windows.isOnScreen(set->m_hWnd))
+                continue;
+            if (m_stage.toolkit.paletteSets().of(set).place.anchored)
+                frame.rollOut(*set, true);
+            entered = goToNextField(m_stage.toolkit, set->m_hWnd, backwards);
+        }
+    });
+    return entered;
+}
+
+void MainWindow::switchPane() {
+    if (paletteSetAbove(m_stage.windows, m_stage.windows.focus()) != nullptr)
+        m_commandLine->input().setFocus();
+    else
+        enterDashboard(false);
+}
+
+/// The host's drawing view has been clicked; what is typed from now on is for the command line.
+void MainWindow::pressDrawing(QPointF point) {
+    const HWND view = m_stage.toolkit.frame().drawingView().m_hWnd;
+    const CPoint place = toHost(point.toPoint());
+    m_pump.act([this, view, place] {
+        if (m_stage.toolkit.mouse().press(view, place))
+            m_stage.toolkit.mouse().release(view, place);
+    });
+    if (m_stage.windows.focus() == view)
+        m_commandLine->input().setFocus();
+}
+
+/// As if it had been typed.
+void MainWindow::answerPoint(const drawing::Vec3& point) {
+    const auto number = [](double value) { return toQt(fixedText(value, kDecimalsOfAPoint)); };
+    const QString answer = number(point.x) + QLatin1Char(',') + number(point.y);
+    const Document* const document = m_workbench.editor().documents().active();
+    if (document != nullptr)
+        m_commandLine->echo(toQt(document->processor().prompt()) + QLatin1Char(' ') + answer);
+    runCommand(answer + QLatin1Char('\n'));
 }
 
 void MainWindow::runCommand(const QString& text) {
@@ -131,14 +226,25 @@ void MainWindow::onRest() {
         showShade(m_stage.toolkit.shade());
     m_splitter->follow();
     m_tabs->refresh();
+    m_spaces->refresh();
+    m_files->files().follow();
     m_status->refresh(m_workbench);
     const Document* const document = m_workbench.editor().documents().active();
+    if (document != std::exchange(m_front, document))
+        m_stage.toolkit.balloons().dismiss();
     m_commandLine->setPrompt(document == nullptr ? QString()
                                                  : toQt(document->processor().prompt()));
     m_journal->takeOver();
     // Nobody asks for the records of a session by hand: they would only pile up.
     if (!m_pump.isHeld())
         m_workbench.journal().take();
+}
+
+/// The keyboard has left the dashboard, unless for another pane.
+void MainWindow::leaveToCommandLine() {
+    const QWidget* const now = QApplication::focusWidget();
+    if (now == nullptr || dynamic_cast<const MirrorWidget*>(now) != nullptr)
+        m_commandLine->input().setFocus();
 }
 
 /// A pane that takes the keyboard takes it from the dashboard, as the drawing would.
@@ -167,6 +273,10 @@ void MainWindow::showShade(Shade shade) {
 void MainWindow::setLocale(const std::string& locale) {
     m_workbench.setLocale(locale);
     m_pump.act([] {});
+}
+
+void MainWindow::showHelp() {
+    m_help->open();
 }
 
 void MainWindow::tell(const QString& text) {
@@ -206,15 +316,26 @@ void MainWindow::recall() {
         tell(complaint);
     if (state.shade)
         setShade(*state.shade);
+    m_files->files().setLastFolder(state.lastFolder);
+    if (!DesktopState::exists(m_workbench.profiles().folder()))
+        m_commandLine->echo(QString::fromLatin1(kFirstHint));
     m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
 }
 
 void MainWindow::remember() {
     m_workbench.profiles().save();
-    DesktopState{m_shade, collapsedPanels(m_stage.toolkit)}.write(m_workbench.profiles().folder());
+    DesktopState{m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()}.write(
+        m_workbench.profiles().folder());
 }
 
+/// The host begins to quit, and stays if its user wants to keep a change.
 void MainWindow::closeEvent(QCloseEvent* event) {
+    m_pump.act([this] { m_workbench.editor().quitBegin(); });
+    if (!m_files->mayLeaveAll()) {
+        m_pump.act([this] { m_workbench.editor().quitAbort(); });
+        event->ignore();
+        return;
+    }
     m_pump.act([this] { remember(); });
     QMainWindow::closeEvent(event);
 }

@@ -3,6 +3,7 @@
 #include "workbench/desktop/look/look.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/desktop/pump/pump.h"
+#include "workbench/drawing/database/geometry.h"
 
 #include <QMainWindow>
 #include <filesystem>
@@ -10,16 +11,24 @@
 
 class QDockWidget;
 
+namespace workbench {
+class Document;
+}
+
 namespace workbench::desktop {
 
+class CommandEcho;
 class CommandLine;
 class DesktopMenus;
 class DockSplitter;
 class DocumentTabs;
+class FileActions;
 class FrameHome;
+class HelpPage;
 class JournalPane;
 class Questions;
 class SearchBox;
+class SpaceTabs;
 class StatusFields;
 class WindowMirror;
 
@@ -38,6 +47,8 @@ public:
     CommandLine& commandLine() { return *m_commandLine; }
     SearchBox& searchBox() { return *m_search; }
     DocumentTabs& documentTabs() { return *m_tabs; }
+    SpaceTabs& spaceTabs() { return *m_spaces; }
+    FileActions& fileActions() { return *m_files; }
 
     Shade shade() const { return m_shade; }
     /// Changes all colours, those of the dashboard too, which is told.
@@ -50,6 +61,8 @@ public:
     /// Takes over what was remembered of an earlier run, and remembers how things stand now.
     void recall();
     void remember();
+    /// Opens the page about the dashboard.
+    void showHelp();
     /// Says something in the status bar.
     void tell(const QString& text);
 
@@ -57,11 +70,18 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void keepOnScreen();
     void buildPanes();
     void showShade(Shade shade);
     void onRest();
     void runCommand(const QString& text);
     void leaveDashboard(const QWidget* now);
+    void leaveToCommandLine();
+    bool enterDashboard(bool backwards);
+    void switchPane();
+    void addShortcuts();
+    void pressDrawing(QPointF point);
+    void answerPoint(const drawing::Vec3& point);
     QRect dashboardPlace();
 
     Workbench& m_workbench;
@@ -71,14 +91,19 @@ private:
     FrameHome* m_home;
     DockSplitter* m_splitter;
     DocumentTabs* m_tabs;
+    SpaceTabs* m_spaces;
     CommandLine* m_commandLine;
     StatusFields* m_status;
     JournalPane* m_journal;
     SearchBox* m_search;
     QDockWidget* m_journalDock;
+    const Document* m_front = nullptr;  // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
+    std::unique_ptr<FileActions> m_files;
     std::unique_ptr<DesktopMenus> m_menus;
+    std::unique_ptr<CommandEcho> m_echo;
+    std::unique_ptr<HelpPage> m_help;
 };
 
 }  // namespace workbench::desktop

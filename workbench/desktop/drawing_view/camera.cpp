@@ -1,6 +1,7 @@
 #include "workbench/desktop/drawing_view/camera.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace workbench::desktop {
 
@@ -41,6 +42,21 @@ QPointF Camera::place(const Vec3& point) const {
     if (m_perspective)
         scale *= m_distance / dot(way, m_axes.forward);
     return m_middle + QPointF(dot(way, m_axes.right) * scale, -dot(way, m_axes.up) * scale);
+}
+
+std::optional<Vec3> Camera::pointOnGround(QPointF place) const {
+    const QPointF off = (place - m_middle) / m_scale;
+    const Vec3 aside = scaled(m_axes.right, off.x()) + scaled(m_axes.up, -off.y());
+    const Vec3 ahead = scaled(m_axes.forward, m_distance);
+    const Vec3 from = m_perspective ? m_eye : m_eye + aside;
+    const Vec3 way = m_perspective ? ahead + aside : ahead;
+    if (std::abs(way.z) < kParallel * m_distance)
+        return {};
+    const double share = -from.z / way.z;
+    if (m_perspective && share <= 0.0)
+        return {};
+    const Vec3 met = from + scaled(way, share);
+    return Vec3{met.x, met.y, 0.0};
 }
 
 Vec3 Camera::wayToEye(const Vec3& point) const {

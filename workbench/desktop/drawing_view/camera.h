@@ -5,6 +5,7 @@
 
 #include <QPointF>
 #include <QSizeF>
+#include <optional>
 #include <vector>
 
 namespace workbench::desktop {
@@ -27,6 +28,9 @@ public:
 
     /// Where a point stands in the picture. In perspective it must lie before the eye.
     QPointF place(const Vec3& point) const;
+    /// The point of the ground, where z is 0, that stands at a place of the picture; nothing where the
+    /// sight meets none.
+    std::optional<Vec3> pointOnGround(QPointF place) const;
     /// The distance of a point from the eye along the sight.
     double depthOf(const Vec3& point) const { return dot(point - m_eye, m_axes.forward); }
     /// The part of a polygon that lies before the eye; all of it in a parallel view.

@@ -3,6 +3,7 @@
 #include "workbench/desktop/drawing_view/camera.h"
 #include "workbench/desktop/drawing_view/scene_painter.h"
 #include "workbench/desktop/drawing_view/sheet.h"
+#include "workbench/desktop/drawing_view/view_fit.h"
 #include "workbench/desktop/drawing_view/view_motion.h"
 #include "workbench/desktop/pump/pump.h"
 #include "workbench/drawing/lookup.h"
@@ -23,6 +24,7 @@ using drawing::ViewParameters;
 using drawing::Viewport;
 
 constexpr int kWheelNotch = 120;
+constexpr double kPixelsOfANotch = 20.0;  // of a drag that zooms
 
 /// The viewport that the mouse moves: the current one, unless it is locked or the sheet of a
 /// layout. Null if there is none.
@@ -188,7 +190,13 @@ void DrawingView::write(ObjectId port, const ViewParameters& view) {
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* event) {
+    if (m_onPressed)
+        m_onPressed(event->position());
     const bool isMiddle = event->button() == Qt::MiddleButton;
+    if (m_isPointing && event->button() == Qt::LeftButton) {
+        point(event->position());
+        return;
+    }
     if ((event->button() != Qt::LeftButton && !isMiddle) || m_document == nullptr || m_drag)
         return;
     const ObjectId port = movablePort(m_document->data());
@@ -196,7 +204,46 @@ void DrawingView::mousePressEvent(QMouseEvent* event) {
         return;
     const ViewParameters view = shownIn(port);
     const bool pans = isMiddle || event->modifiers().testFlag(Qt::ShiftModifier);
-    m_drag = Drag{port, event->button(), pans, event->position(), view, view};
+    m_drag =
+        Drag{port, event->button(), pans ? DragMode::Pan : m_mode, event->position(), view, view};
+}
+
+void DrawingView::setPointing(bool pointing) {
+    if (pointing == m_isPointing)
+        return;
+    m_isPointing = pointing;
+    setCursor(pointing ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
+void DrawingView::point(QPointF place) {
+    const ObjectId port =
+        m_document == nullptr ? ObjectId() : drawing::activeViewport(m_document->data());
+    if (port.isNull() || !m_onPointed)
+        return;
+    const QRect picture = placeOf(port);
+    if (!picture.contains(place.toPoint()))
+        return;
+    const Camera camera(shownIn(port), picture.size());
+    if (const std::optional<Vec3> met = camera.pointOnGround(place - picture.topLeft()))
+        m_onPointed(*met);
+}
+
+/// What a drag makes of the view from its beginning.
+ViewParameters DrawingView::dragged(const Drag& drag, QPointF way, QSizeF picture) {
+    switch (drag.mode) {
+    case DragMode::Pan:
+        return panned(drag.before, way, picture);
+    case DragMode::Zoom:
+        return zoomed(drag.before, -way.y() / kPixelsOfANotch);
+    case DragMode::Swivel:
+        return swivelled(drag.before, way, picture);
+    case DragMode::Walk:
+    case DragMode::Fly:
+        return walked(drag.before, way, picture, drag.mode == DragMode::Walk);
+    case DragMode::Orbit:
+        break;
+    }
+    return orbited(drag.before, way, picture);
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
@@ -204,8 +251,9 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event) {
         return;
     const QPointF way = event->position() - m_drag->from;
     const QSizeF picture = placeOf(m_drag->port).size();
-    m_drag->now =
-        m_drag->pans ? panned(m_drag->before, way, picture) : orbited(m_drag->before, way, picture);
+    const ViewParameters next = dragged(*m_drag, way, picture);
+    if (m_drag->mode != DragMode::Zoom || isInReason(m_drag->port, next))
+        m_drag->now = next;
     update();
 }
 
@@ -225,8 +273,21 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
     if (notches == 0 || m_document == nullptr || m_drag)
         return;
     const ObjectId port = movablePort(m_document->data());
+    if (port.isNull())
+        return;
+    const ViewParameters next = zoomed(shownIn(port), notches);
+    if (isInReason(port, next))
+        write(port, next);
+}
+
+void DrawingView::fit() {
+    const ObjectId port = m_document == nullptr ? ObjectId() : movablePort(m_document->data());
     if (!port.isNull())
-        write(port, zoomed(shownIn(port), notches));
+        write(port, fitted(shownIn(port), ballAround(sceneIn(port)), placeOf(port).size()));
+}
+
+bool DrawingView::isInReason(ObjectId port, const ViewParameters& view) {
+    return isZoomInReason(shownIn(port), view, ballAround(sceneIn(port)));
 }
 
 }  // namespace workbench::desktop

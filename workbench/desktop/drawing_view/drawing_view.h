@@ -2,13 +2,16 @@
 
 #include "workbench/desktop/drawing_view/scene.h"
 #include "workbench/desktop/look/look.h"
+#include "workbench/drawing/database/geometry.h"
 #include "workbench/drawing/database/object_id.h"
 #include "workbench/drawing/database/reactors.h"
 #include "workbench/drawing/records/view_parameters.h"
 
 #include <QWidget>
+#include <functional>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace workbench {
 class Document;
@@ -18,8 +21,11 @@ namespace workbench::desktop {
 
 class Pump;
 
-/// The drawing of a document as its current viewport shows it. A drag orbits, with shift or the
-/// middle button it pans, the wheel zooms; each gesture is one view of the viewport's history. A
+/// What a drag with the left button does with the view.
+enum class DragMode { Orbit, Pan, Zoom, Swivel, Walk, Fly };
+
+/// The drawing of a document as its current viewport shows it. A drag orbits, or does what the running
+/// tool says; with shift or the middle button it pans, the wheel zooms; each gesture is one view of the viewport's history. A
 /// locked viewport and the sheet of a layout stay as they are, and a drag ends when somebody else
 /// moves the view meanwhile.
 class DrawingView final : public QWidget, private drawing::DatabaseReactor {
@@ -31,6 +37,17 @@ public:
 
     /// Whose drawing it is; null once the document has been closed.
     Document* document() const { return m_document; }
+    /// Told of each press of a button at a point, before anything comes of it.
+    void setOnPressed(std::function<void(QPointF)> told) { m_onPressed = std::move(told); }
+    /// Shows the whole drawing, from where it is seen now.
+    void fit();
+    /// What a drag with the left button does from now on.
+    void setDragMode(DragMode mode) { m_mode = mode; }
+    /// While points are asked for, a click tells one instead of beginning a drag.
+    void setPointing(bool pointing);
+    void setOnPointed(std::function<void(const drawing::Vec3&)> told) {
+        m_onPointed = std::move(told);
+    }
     /// LAYLOCKFADECTL has changed, or the colours have.
     void setFading(int percent);
     void setLook(const Look& look);
@@ -46,7 +63,7 @@ private:
     struct Drag {
         drawing::ObjectId port;
         Qt::MouseButton button;
-        bool pans;
+        DragMode mode;
         QPointF from;
         drawing::ViewParameters before;
         drawing::ViewParameters now;
@@ -59,12 +76,15 @@ private:
     void databaseGoodbye(const drawing::Database& database) override;
 
     void changed();
+    static drawing::ViewParameters dragged(const Drag& drag, QPointF way, QSizeF picture);
     bool isDragStill() const;
     /// What a viewport shows, or would at the end of the drag.
     drawing::ViewParameters shownIn(drawing::ObjectId port) const;
     void write(drawing::ObjectId port, const drawing::ViewParameters& view);
     const Scene& sceneIn(drawing::ObjectId port);
     QRect placeOf(drawing::ObjectId port) const;
+    void point(QPointF place);
+    bool isInReason(drawing::ObjectId port, const drawing::ViewParameters& view);
     void paintModel(QPainter& painter, drawing::ObjectId port);
     void paintSheet(QPainter& painter, drawing::ObjectId layout);
 
@@ -75,6 +95,10 @@ private:
     std::map<drawing::ObjectId, Scene> m_scenes;  // by viewport; none: to be made anew
     std::optional<Drag> m_drag;
     int m_wheelRest = 0;
+    DragMode m_mode = DragMode::Orbit;
+    bool m_isPointing = false;
+    std::function<void(QPointF)> m_onPressed;
+    std::function<void(const drawing::Vec3&)> m_onPointed;
 };
 
 }  // namespace workbench::desktop

@@ -72,7 +72,7 @@ ViewParameters panned(const ViewParameters& view, QPointF pixels, QSizeF picture
     return shownOr(moved, view);
 }
 
-ViewParameters zoomed(const ViewParameters& view, int notches) {
+ViewParameters zoomed(const ViewParameters& view, double notches) {
     const double factor = std::pow(kZoomOfANotch, notches);
     ViewParameters closer = view;
     closer.width = view.width * factor;
@@ -85,6 +85,42 @@ ViewParameters zoomed(const ViewParameters& view, int notches) {
     if (view.perspective)
         closer.eye = view.target + scaled(view.eye - view.target, factor);
     return shownOr(closer, view);
+}
+
+ViewParameters swivelled(const ViewParameters& view, QPointF pixels, QSizeF picture) {
+    const Vec3 sight = view.target - view.eye;
+    const double distance = lengthOf(sight);
+    if (pixels.isNull() || picture.isEmpty() || distance == 0.0)
+        return view;
+    const Camera camera(view, picture);
+    // The angle under which one pixel is seen.
+    const double step = std::atan(1.0 / (camera.scale() * distance));
+    const double azimuth = std::atan2(sight.y, sight.x) + pixels.x() * step;
+    const double elevation =
+        std::clamp(std::atan2(sight.z, std::hypot(sight.x, sight.y)) + pixels.y() * step,
+                   -kSteepest, kSteepest);
+    ViewParameters moved = view;
+    moved.target = view.eye + Vec3{distance * std::cos(elevation) * std::cos(azimuth),
+                                   distance * std::cos(elevation) * std::sin(azimuth),
+                                   distance * std::sin(elevation)};
+    moved.up = {0.0, 0.0, 1.0};
+    moved.up = axesOf(moved).up;
+    return shownOr(moved, view);
+}
+
+ViewParameters walked(const ViewParameters& view, QPointF pixels, QSizeF picture, bool onFoot) {
+    if (picture.isEmpty())
+        return view;
+    ViewParameters moved = swivelled(view, {-pixels.x(), 0.0}, picture);
+    Vec3 ahead = moved.target - moved.eye;
+    const double distance = lengthOf(ahead);
+    if (onFoot)
+        ahead.z = 0.0;
+    // A drag over the whole height goes as far as the target was.
+    const Vec3 way = scaled(unit(ahead), -pixels.y() / picture.height() * distance);
+    moved.eye = moved.eye + way;
+    moved.target = moved.target + way;
+    return shownOr(moved, view);
 }
 
 }  // namespace workbench::desktop

@@ -29,6 +29,15 @@ void paintArrowRight(QPainter& painter, QPointF middle, double size, const QColo
                   colour);
 }
 
+void paintKeyboardFrame(QPainter& painter, const QRect& around, const QColor& colour) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(around.adjusted(1, 1, -1, -1));
+    painter.restore();
+}
+
 void paintCross(QPainter& painter, QPointF middle, double size, const QColor& colour) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

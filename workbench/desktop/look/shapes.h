@@ -19,6 +19,8 @@ inline CPoint toHost(const QPoint& point) {
 void paintArrowDown(QPainter& painter, QPointF middle, double size, const QColor& colour);
 /// The same, pointing to the right.
 void paintArrowRight(QPainter& painter, QPointF middle, double size, const QColor& colour);
+/// A frame around what the keyboard would use.
+void paintKeyboardFrame(QPainter& painter, const QRect& around, const QColor& colour);
 /// A small cross, around a middle.
 void paintCross(QPainter& painter, QPointF middle, double size, const QColor& colour);
 

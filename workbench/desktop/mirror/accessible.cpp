@@ -54,6 +54,7 @@ public:
         return kind == QAccessible::Value ? value() : QAccessibleWidget::text(kind);
     }
     QAccessible::State state() const override;
+    QAccessibleInterface* focusChild() const override;
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && slider() != nullptr)
             return static_cast<QAccessibleValueInterface*>(this);
@@ -89,6 +90,14 @@ QString AccessibleWindow::value() const {
     return widgetOf<EditWidget>(mirror()) == nullptr ? QString() : toQt(window->text);
 }
 
+QAccessibleInterface* AccessibleWindow::focusChild() const {
+    for (ItemWidget* item : mirror().items()) {
+        if (mirror().hasFocus() && item->isMarked())
+            return QAccessible::queryAccessibleInterface(item);
+    }
+    return nullptr;
+}
+
 QAccessible::State AccessibleWindow::state() const {
     QAccessible::State state = QAccessibleWidget::state();
     const Window* const window = mirror().host();
@@ -97,7 +106,8 @@ QAccessible::State AccessibleWindow::state() const {
     const WindowSystem& windows = mirror().stage().windows;
     state.disabled = !windows.takesInput(window->handle);
     state.focusable = window->widget != nullptr && window->widget->takesTab();
-    state.focused = windows.focus() == window->handle;
+    // Of a row of tools the marked tool has it.
+    state.focused = mirror().hasFocus() && focusChild() == nullptr;
     state.editable = widgetOf<EditWidget>(mirror()) != nullptr;
     if (const auto* combo = widgetOf<ComboWidget>(mirror())) {
         state.expandable = true;
@@ -144,6 +154,8 @@ public:
         state.disabled =
             (bits & kItemDisabled) != 0 || !item().stage().windows.takesInput(item().toolPanel());
         state.checked = (bits & kItemChecked) != 0;
+        state.focusable = actionNames().size() > 0;
+        state.focused = item().isMarked() && item().parentWidget()->hasFocus();
         return state;
     }
     QStringList actionNames() const override {

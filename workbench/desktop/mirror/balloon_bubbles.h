@@ -2,7 +2,7 @@
 
 #include <hostapi/types.h>
 
-#include <QHash>
+#include <QObject>
 #include <QPointer>
 
 class QLabel;
@@ -12,25 +12,33 @@ namespace workbench::desktop {
 class MirrorWidget;
 struct Stage;
 
-/// The balloons on show, one an owner, below the parts that they point at.
-class BalloonBubbles {
+/// The balloon on show, below the part that it points at. A click on it only ends it; one elsewhere,
+/// or a key, ends it and does what it does.
+class BalloonBubbles final : public QObject {
 public:
-    explicit BalloonBubbles(Stage& stage) : m_stage(stage) {}
-    BalloonBubbles(const BalloonBubbles&) = delete;
-    BalloonBubbles& operator=(const BalloonBubbles&) = delete;
-    ~BalloonBubbles();
+    explicit BalloonBubbles(Stage& stage);
+    ~BalloonBubbles() override;
 
     /// A window has changed: shows, renews or ends the balloon that it owns. `target` is the widget
     /// that the balloon points at, null for none.
     void update(HWND owner, MirrorWidget* target);
+    /// Stands below its part again, which may have moved; out of sight where the part is.
+    void follow();
     /// Takes the colours anew.
     void restyle();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void show(const QString& text);
+    void end();
     void dress(QLabel& bubble) const;
 
     Stage& m_stage;
-    QHash<HWND, QPointer<QLabel>> m_bubbles;  // by owner; they belong to the windows they stand in
+    HWND m_owner = nullptr;  // null: none is on show
+    QPointer<MirrorWidget> m_target;
+    QPointer<QLabel> m_bubble;  // belongs to the window it stands in
 };
 
 }  // namespace workbench::desktop

@@ -53,7 +53,12 @@ void BarMirror::mouseMoveEvent(QMouseEvent* event) {
     if (way.manhattanLength() < QApplication::startDragDistance())
         return;
     m_pressed.reset();
-    floatUnder(event->globalPosition().toPoint());
+    const QPoint point = event->globalPosition().toPoint();
+    const CQrUiPaletteSet& set = setOf(*host());
+    floatUnder(point);
+    const CFrameWnd* const frame = stage().toolkit.frame().frameOf(set);
+    if (set.IsFloating() != 0 && frame != nullptr && stage().holdFloating)
+        stage().holdFloating(frame->m_hWnd, point);
 }
 
 void BarMirror::mouseReleaseEvent(QMouseEvent* event) {

@@ -9,6 +9,7 @@
 
 #include <QCloseEvent>
 #include <QMouseEvent>
+#include <utility>
 
 namespace workbench::desktop {
 
@@ -49,9 +50,17 @@ void FloatingMirror::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void FloatingMirror::mouseReleaseEvent(QMouseEvent* event) {
-    if (m_hold == Hold::Caption)
+    const Hold held = std::exchange(m_hold, Hold::None);
+    if (mouseGrabber() == this)
+        releaseMouse();
+    if (held == Hold::Caption)
         dockIfAtEdge(event->globalPosition().toPoint());
-    m_hold = Hold::None;
+}
+
+void FloatingMirror::hold(QPoint screenPoint) {
+    m_hold = Hold::Caption;
+    m_last = screenPoint;
+    grabMouse();
 }
 
 void FloatingMirror::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -64,6 +73,9 @@ void FloatingMirror::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void FloatingMirror::closeEvent(QCloseEvent* event) {
+    // Behind a host's window that has been closed it keeps nothing open.
+    if (parentWidget() == nullptr || !parentWidget()->window()->isVisible())
+        return;
     event->ignore();
     stage().pump.act([this] {
         if (CQrUiPaletteSet* set = shownSet())

@@ -14,6 +14,10 @@ class FloatingMirror final : public MirrorWidget {
 public:
     FloatingMirror(Stage& stage, HWND window, QWidget* owner);
 
+    /// Follows the mouse, which is at a point of the screen with its button down elsewhere, until the
+    /// button is let go.
+    void hold(QPoint screenPoint);
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -7,6 +7,7 @@
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/row_layout.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/tool_panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -78,6 +79,13 @@ void ItemWidget::refresh() {
     update();
 }
 
+bool ItemWidget::isMarked() const {
+    const Window* const window = m_stage.windows.find(m_toolPanel);
+    const auto* widget =
+        window == nullptr ? nullptr : dynamic_cast<const ToolPanelWidget*>(window->widget.get());
+    return widget != nullptr && widget->marked(*window) == m_index;
+}
+
 void ItemWidget::setHovered(bool hovered) {
     if (hovered == m_hovered)
         return;
@@ -120,6 +128,9 @@ void ItemWidget::paintEvent(QPaintEvent* /*event*/) {
                  {(width() - arrow - size) / 2, (height() - size) / 2, size, size});
     if (arrow > 0)
         paintArrowDown(painter, {width() - arrow / 2.0, height() / 2.0}, 3, m_stage.look->text);
+    painter.setOpacity(1.0);
+    if (isMarked())
+        paintKeyboardFrame(painter, rect(), m_stage.look->accent);
 }
 
 }  // namespace workbench::desktop

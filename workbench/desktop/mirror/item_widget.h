@@ -21,6 +21,8 @@ public:
     CQrUiToolPanelItem* item() const;
     /// Takes place, texts and state from the item.
     void refresh();
+    /// Whether the keyboard marks it: Enter clicks it then.
+    bool isMarked() const;
     /// Whether the mouse is over it.
     void setHovered(bool hovered);
     Stage& stage() const { return m_stage; }

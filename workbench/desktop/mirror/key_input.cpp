@@ -4,7 +4,11 @@
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/gestures/key_gestures.h"
 #include "workbench/toolkit/edit_widget.h"
+#include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/panel_widget.h"
+#include "workbench/toolkit/tool_panel_widget.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <QClipboard>
@@ -66,6 +70,35 @@ bool useClipboard(Stage& stage, const QKeyEvent& event) {
     return true;
 }
 
+const char* nameOf(const QKeyEvent& event) {
+    const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                   [&](const KeyRow& each) { return each.key == event.key(); });
+    return row == std::end(kKeys) ? nullptr : row->name;
+}
+
+/// Whether the space bar is to click what has the keyboard: a tool, or a title.
+bool isButton(const Stage& stage) {
+    const Window* const window = stage.windows.find(stage.windows.focus());
+    return window != nullptr && (dynamic_cast<ToolPanelWidget*>(window->widget.get()) != nullptr ||
+                                 dynamic_cast<PanelWidget*>(window->widget.get()) != nullptr);
+}
+
+/// Brings the keyboard back to the drawing behind a key that ends an entry.
+void giveKeyboardBack(Stage& stage, HWND before) {
+    if (stage.windows.focus() == before && !stage.toolkit.balloons().isShown())
+        giveFocusBack(stage.toolkit, before, before);
+}
+
+void pressNamed(Stage& stage, const QKeyEvent& event, const char* name) {
+    const HWND before = stage.windows.focus();
+    const bool wasButton = isButton(stage);
+    gestures::pressKey(stage.toolkit, name);
+    const bool isEnter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+    // A title keeps the keyboard, to roll its panel down again.
+    if (event.key() == Qt::Key_Escape || (isEnter && !wasButton))
+        giveKeyboardBack(stage, before);
+}
+
 void type(Stage& stage, const QKeyEvent& event) {
     if (event.matches(QKeySequence::SelectAll)) {
         stage.windows.input(nullptr, kCharMessage, kCharSelectAll, 0);
@@ -84,13 +117,27 @@ void type(Stage& stage, const QKeyEvent& event) {
 void pressKey(Stage& stage, const QKeyEvent& event) {
     holdModifiers(stage, event.modifiers());
     stage.pump.act([&] {
-        const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys),
-                                       [&](const KeyRow& each) { return each.key == event.key(); });
-        if (row != std::end(kKeys))
-            gestures::pressKey(stage.toolkit, row->name);
+        const char* const name =
+            event.key() == Qt::Key_Space && isButton(stage) ? "enter" : nameOf(event);
+        if (name != nullptr)
+            pressNamed(stage, event, name);
         else if (!useClipboard(stage, event))
             type(stage, event);
     });
+}
+
+bool isOwnKey(Stage& stage, const QKeyEvent& event) {
+    constexpr Qt::KeyboardModifiers kCommands =
+        Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((event.modifiers() & kCommands) == 0)
+        return nameOf(event) != nullptr || !event.text().isEmpty();
+    // A field's own, whether it does something with them or not.
+    constexpr QKeySequence::StandardKey kOfFields[] = {QKeySequence::Copy,  QKeySequence::Cut,
+                                                       QKeySequence::Paste, QKeySequence::SelectAll,
+                                                       QKeySequence::Undo,  QKeySequence::Redo};
+    return editWithKeyboard(stage) != nullptr &&
+           std::any_of(std::begin(kOfFields), std::end(kOfFields),
+                       [&event](QKeySequence::StandardKey key) { return event.matches(key); });
 }
 
 void holdModifiers(Stage& stage, Qt::KeyboardModifiers modifiers) {

@@ -12,7 +12,9 @@
 #include "workbench/windows/background_painter.h"
 #include "workbench/windows/window_system.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
+#include <QCursor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -38,6 +40,11 @@ QColor inLook(const Look& look, COLORREF colour) {
         return look.field;
     return {static_cast<int>(colour & 0xff), static_cast<int>(colour >> 8 & 0xff),
             static_cast<int>(colour >> 16 & 0xff)};
+}
+
+bool isOverAMirror() {
+    const QWidget* const over = QApplication::widgetAt(QCursor::pos());
+    return dynamic_cast<const MirrorWidget*>(over) != nullptr;
 }
 
 }  // namespace
@@ -171,6 +178,12 @@ void MirrorWidget::wheelEvent(QWheelEvent* event) {
 void MirrorWidget::leaveEvent(QEvent* event) {
     hoverItem({-1, -1});
     QWidget::leaveEvent(event);
+    // A menu or a box of the host's takes the mouse only for a while.
+    const bool isAsking = QApplication::activePopupWidget() != nullptr ||
+                          QApplication::activeModalWidget() != nullptr;
+    if (isAsking || m_stage.toolkit.mouse().captured() != nullptr || isOverAMirror())
+        return;
+    m_stage.pump.act([this] { m_stage.toolkit.mouse().leave(); });
 }
 
 void MirrorWidget::hoverItem(QPoint point) {
@@ -195,7 +208,8 @@ bool MirrorWidget::focusNextPrevChild(bool /*next*/) {
 
 bool MirrorWidget::event(QEvent* event) {
     // Keys of edit fields are no shortcuts of the window.
-    if (event->type() == QEvent::ShortcutOverride) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        isOwnKey(m_stage, *static_cast<QKeyEvent*>(event))) {
         event->accept();
         return true;
     }

@@ -49,6 +49,7 @@ std::optional<UINT> chooseFromMenu(const Stage& stage, const std::vector<MenuLin
 }
 
 constexpr UINT kBoxKinds = 0xf;  // the bits of a box's type that tell its buttons
+constexpr UINT kIconShift = 4;   // behind them as many tell its icon
 
 QMessageBox::StandardButtons buttonsOf(UINT type) {
     constexpr QMessageBox::StandardButtons kButtons[] = {
@@ -62,11 +63,19 @@ QMessageBox::StandardButtons buttonsOf(UINT type) {
     return kind < std::size(kButtons) ? kButtons[kind] : QMessageBox::Ok;
 }
 
+/// The icon that a box's type asks for.
+QMessageBox::Icon iconOf(UINT type) {
+    constexpr QMessageBox::Icon kIcons[] = {QMessageBox::NoIcon, QMessageBox::Critical,
+                                            QMessageBox::Question, QMessageBox::Warning,
+                                            QMessageBox::Information};
+    const UINT kind = type >> kIconShift & kBoxKinds;
+    return kind < std::size(kIcons) ? kIcons[kind] : QMessageBox::NoIcon;
+}
+
 int askBox(const Stage& stage, QWidget& owner, const std::wstring& text, UINT type) {
     if (stage.pump.isHeld())
         return MessageBoxes::kOk;
-    QMessageBox box(QMessageBox::Information, owner.windowTitle(), toQt(text), buttonsOf(type),
-                    &owner);
+    QMessageBox box(iconOf(type), owner.windowTitle(), toQt(text), buttonsOf(type), &owner);
     switch (box.exec()) {
     case QMessageBox::Yes:
         return MessageBoxes::kYes;

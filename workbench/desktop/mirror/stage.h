@@ -31,6 +31,9 @@ struct Stage {
 
     /// Where the user last pressed a button, on the screen: menus open there.
     QPoint pressedAt;
+    /// Has the small frame of a bar that was just torn off follow the mouse, which is on the screen at
+    /// a point, until its button is let go.
+    std::function<void(HWND frame, QPoint screenPoint)> holdFloating;
     /// Takes a text that was typed where nothing takes texts.
     std::function<void(const QString&)> typed;
     /// Why a disabled part can't be used, as far as the host can tell; empty otherwise.

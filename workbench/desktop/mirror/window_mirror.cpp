@@ -26,12 +26,14 @@ WindowMirror::WindowMirror(Stage& stage, QWidget& home)
     m_soon.setSingleShot(true);
     QObject::connect(&m_soon, &QTimer::timeout, [this] { sync(); });
     m_stage.windows.changes().setObserver([this](HWND window) { note(window); });
+    m_stage.holdFloating = [this](HWND frame, QPoint point) { holdFloating(frame, point); };
     for (const HWND top : m_stage.windows.topWindows())
         showTree(top);
 }
 
 WindowMirror::~WindowMirror() {
     m_stage.windows.changes().setObserver(nullptr);
+    m_stage.holdFloating = nullptr;
     for (const QPointer<MirrorWidget>& mirror : std::as_const(m_mirrors))
         delete mirror.data();
 }
@@ -50,7 +52,10 @@ void WindowMirror::fill(HWND window, QWidget& content) {
 }
 
 void WindowMirror::note(HWND window) {
-    m_changed.insert(window);
+    if (!m_isChanged.contains(window)) {
+        m_isChanged.insert(window);
+        m_changed.push_back(window);
+    }
     if (!m_soon.isActive())
         m_soon.start(0);
 }
@@ -58,8 +63,9 @@ void WindowMirror::note(HWND window) {
 void WindowMirror::sync() {
     m_soon.stop();
     // Asking a window for its background may change others.
-    while (!m_changed.isEmpty()) {
-        const QSet<HWND> changed = std::exchange(m_changed, {});
+    while (!m_changed.empty()) {
+        m_isChanged.clear();
+        const std::vector<HWND> changed = std::exchange(m_changed, {});
         for (const HWND window : changed)
             update(window);
         for (const HWND window : changed) {
@@ -68,6 +74,7 @@ void WindowMirror::sync() {
         }
     }
     followKeyboard();
+    m_balloons->follow();
 }
 
 void WindowMirror::redrawAll() {
@@ -111,12 +118,15 @@ MirrorWidget* WindowMirror::showTree(HWND window) {
     if (shown == nullptr || !shown->hasVisibleStyle())
         return nullptr;
     MirrorWidget* mirror = widgetOf(window);
-    const bool appears = mirror == nullptr || mirror->isHidden();
+    bool appears = mirror == nullptr || mirror->isHidden();
     if (mirror == nullptr)
         mirror = make(window);
     QWidget* const parent = parentFor(window);
-    if (mirror->parentWidget() != parent && !mirror->isWindow())
+    if (mirror->parentWidget() != parent && !mirror->isWindow()) {
+        // That hides it.
         mirror->setParent(parent);
+        appears = true;
+    }
     mirror->refresh();
     if (appears) {
         const std::vector<HWND> children = shown->children;
@@ -162,6 +172,12 @@ void WindowMirror::followKeyboard() {
     if (!mirror->window()->isActiveWindow())
         mirror->window()->activateWindow();
     mirror->setFocus();
+}
+
+void WindowMirror::holdFloating(HWND frame, QPoint screenPoint) {
+    sync();
+    if (auto* const floating = dynamic_cast<FloatingMirror*>(widgetOf(frame)))
+        floating->hold(screenPoint);
 }
 
 void WindowMirror::scrollIntoView(HWND window) {

@@ -3,11 +3,13 @@
 #include <hostapi/types.h>
 
 #include <QHash>
+#include <QPoint>
 #include <QPointer>
 #include <QSet>
 #include <QTimer>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class QWidget;
 
@@ -50,11 +52,13 @@ private:
     MirrorWidget* make(HWND window);
     QWidget* parentFor(HWND window) const;
     void followKeyboard();
+    void holdFloating(HWND frame, QPoint screenPoint);
 
     Stage& m_stage;
     QWidget& m_home;
     QHash<HWND, QPointer<MirrorWidget>> m_mirrors;
-    QSet<HWND> m_changed;
+    std::vector<HWND> m_changed;  // in the order of the first change
+    QSet<HWND> m_isChanged;       // the same, to look up
     QTimer m_soon;
     HWND m_keyboard = nullptr;  // where it was at the last sync
     std::function<void()> m_toDrawing;

@@ -92,6 +92,8 @@ void paintPanel(QPainter& painter, Stage& stage, Window& window) {
         paintArrowRight(painter, arrow, 4, stage.look->dimText);
     else
         paintArrowDown(painter, arrow, 4, stage.look->dimText);
+    if (stage.windows.focus() == window.handle)
+        paintKeyboardFrame(painter, title, stage.look->accent);
 }
 
 void paintLink(QPainter& painter, const Stage& stage, const Window& window) {

@@ -98,6 +98,9 @@ bool CommandLine::handleKey(const QKeyEvent& event) {
             return false;
         recall(event.key() == Qt::Key_Up ? -1 : 1);
         return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return !isListOpen && m_onTab && m_onTab(event.key() == Qt::Key_Backtab);
     default:
         return false;
     }

@@ -25,6 +25,8 @@ public:
     void setOnEnter(std::function<void(const QString&)> entered) { m_onEnter = std::move(entered); }
     /// Told that Escape was pressed.
     void setOnCancel(std::function<void()> cancelled) { m_onCancel = std::move(cancelled); }
+    /// Takes Tab, or with shift held Tab backwards; false leaves the key to the window.
+    void setOnTab(std::function<bool(bool backwards)> taken) { m_onTab = std::move(taken); }
     /// Gives the names of commands and variables, asked for whenever a word is begun.
     void setNames(std::function<QStringList()> names) { m_names = std::move(names); }
 
@@ -58,6 +60,7 @@ private:
     bool m_isOffering = false;  // the names were asked for since the line was empty
     std::function<void(const QString&)> m_onEnter;
     std::function<void()> m_onCancel;
+    std::function<bool(bool)> m_onTab;
     std::function<QStringList()> m_names;
 };
 

@@ -24,9 +24,12 @@ protected:
 };
 
 TEST_F(DesktopStateTest, IsReadAsItWasWritten) {
-    DesktopState{Shade::Dark, {L"Layers", L"J\u00e4ger"}}.write(m_folder);
+    EXPECT_FALSE(DesktopState::exists(m_folder));
+    DesktopState{Shade::Dark, {L"Layers", L"J\u00e4ger"}, "/some/where"}.write(m_folder);
+    EXPECT_TRUE(DesktopState::exists(m_folder));
     const DesktopState state = read();
     EXPECT_EQ(state.shade, Shade::Dark);
+    EXPECT_EQ(state.lastFolder, "/some/where");
     EXPECT_EQ(state.rolledUp, (std::vector<std::wstring>{L"Layers", L"J\u00e4ger"}));
     EXPECT_TRUE(m_complaint.isEmpty());
 }

@@ -5,13 +5,19 @@
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
 #include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/host_actions.h"
+#include "workbench/desktop/app/space_tabs.h"
 #include "workbench/desktop/drawing_view/drawing_view.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/window_mirror.h"
 #include "workbench/desktop/panes/command_line.h"
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
+#include "workbench/drawing/lookup.h"
+#include "workbench/drawing/path_access.h"
+#include "workbench/drawing/records/viewport.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
@@ -26,8 +32,12 @@
 
 #include <QAccessible>
 #include <QDockWidget>
+#include <QFile>
 #include <QImage>
+#include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -108,6 +118,30 @@ TEST_F(MainWindowTest, LinesOfTheCommandLineAreRun) {
     EXPECT_EQ(editor().read(L"CMDACTIVE"), Value(0));
 }
 
+TEST_F(MainWindowTest, AnUnknownCommandAndABadValueAreAnsweredInOneLineEach) {
+    const auto* log = m_window.commandLine().findChild<QPlainTextEdit*>();
+    enter("NOSUCH");
+    EXPECT_TRUE(log->toPlainText().endsWith(
+        QLatin1String("Unknown command \"NOSUCH\": the workbench has none of that name.")));
+    enter("LUPREC");
+    enter("many");
+    EXPECT_TRUE(log->toPlainText().endsWith(
+        QLatin1String("\"many\" is no value of LUPREC: enter a number from 0 to 8.")));
+}
+
+TEST_F(MainWindowTest, AClickInTheDrawingAnswersAPointPrompt) {
+    enter("LINE");
+    DrawingView& view = m_window.documentTabs().viewAt(0);
+    click(view, {300, 400});
+    const Document& document = *editor().documents().active();
+    EXPECT_EQ(document.processor().prompt(), L"Specify next point:");
+    const std::size_t before = document.data().ids(drawing::RecordKind::Entity).size();
+    click(view, {350, 380});
+    EXPECT_EQ(document.data().ids(drawing::RecordKind::Entity).size(), before + 1);
+    enter("");
+    EXPECT_FALSE(document.processor().isActive());
+}
+
 TEST_F(MainWindowTest, EachDocumentHasATab) {
     m_window.stage().pump.act([this] { editor().documents().create(L"Plan"); });
     DocumentTabs& tabs = m_window.documentTabs();
@@ -127,6 +161,40 @@ TEST_F(MainWindowTest, AFieldLosesTheKeyboardToAPane) {
     EXPECT_EQ(windows().focus(), edit()->handle());
     Q_EMIT qApp->focusChanged(edit(), &m_window.searchBox());
     EXPECT_EQ(windows().focus(), m_workbench.toolkit().frame().drawingView().m_hWnd);
+}
+
+TEST_F(MainWindowTest, AClickInTheDrawingBringsTheKeyboardToTheCommandLine) {
+    click(*edit());
+    rest();
+    EXPECT_EQ(m_window.focusWidget(), edit());
+    click(m_window.documentTabs().viewAt(0), {300, 200});
+    rest();
+    EXPECT_EQ(windows().focus(), m_workbench.toolkit().frame().drawingView().m_hWnd);
+    EXPECT_EQ(m_window.focusWidget(), &m_window.commandLine().input());
+}
+
+TEST_F(MainWindowTest, TabGoesFromTheCommandLineToTheDashboard) {
+    pressKey(m_window.commandLine().input(), Qt::Key_Tab);
+    rest();
+    const HWND first = windows().focus();
+    ASSERT_NE(paletteSetAbove(windows(), first), nullptr);
+    EXPECT_EQ(m_window.focusWidget(), m_window.mirror().widgetOf(first));
+    m_window.commandLine().input().setFocus();
+    m_window.stage().pump.act(
+        [this] { windows().setFocus(m_workbench.toolkit().frame().drawingView().m_hWnd); });
+    pressKey(m_window.commandLine().input(), Qt::Key_Backtab, {}, Qt::ShiftModifier);
+    rest();
+    ASSERT_NE(paletteSetAbove(windows(), windows().focus()), nullptr);
+    EXPECT_NE(windows().focus(), first);
+}
+
+TEST_F(MainWindowTest, ABalloonGoesWithTheDocument) {
+    m_window.stage().pump.act([this] {
+        m_workbench.toolkit().balloons().show(edit()->host()->parent, edit()->handle(), L"No.");
+    });
+    EXPECT_TRUE(m_workbench.toolkit().balloons().isShown());
+    m_window.stage().pump.act([this] { editor().documents().create(L"Plan"); });
+    EXPECT_FALSE(m_workbench.toolkit().balloons().isShown());
 }
 
 TEST_F(MainWindowTest, ThemesAreSwitchedWhileItRuns) {
@@ -175,6 +243,101 @@ TEST_F(MainWindowTest, MenusListAndSwitchWorkspacesProfilesAndDocuments) {
     EXPECT_EQ(editor().documents().active()->name(), L"house.json");
     line(menu("&Document"), QStringLiteral("&Close")).trigger();
     EXPECT_EQ(editor().documents().active()->name(), L"Drawing1");
+}
+
+TEST_F(MainWindowTest, AChangedDocumentIsOnlyClosedWhenItsUserAgrees) {
+    QStringList questions;
+    QMessageBox::StandardButton answer = QMessageBox::Cancel;
+    m_window.fileActions().setAsker([&](const QString& question) {
+        questions.append(question);
+        return answer;
+    });
+    Document& house = *editor().documents().active();
+    m_window.stage().pump.act([&] { drawing::setByPath(house.data(), "layers.Roof.on", false); });
+    line(menu("&Document"), QStringLiteral("&Close")).trigger();
+    EXPECT_EQ(questions, QStringList{QStringLiteral("house.json has changed. Save it?")});
+    EXPECT_EQ(editor().documents().count(), 1);
+    EXPECT_FALSE(m_window.close());
+    EXPECT_TRUE(m_window.isVisible());
+    line(menu("&Edit"), QStringLiteral("&Undo")).trigger();
+    line(menu("&Document"), QStringLiteral("&Close")).trigger();
+    EXPECT_EQ(questions.size(), 2) << "nothing to lose any more";
+    EXPECT_EQ(editor().documents().count(), 0);
+}
+
+TEST_F(MainWindowTest, ADrawingIsSavedUnderANameAndOpenedFromThere) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("mine"));
+    QStringList starts;
+    m_window.fileActions().setChooser([&](bool saving, const QString& startsAt) {
+        starts.append(startsAt);
+        return saving ? file : file + QStringLiteral(".json");
+    });
+    enter("LUPREC");
+    enter("7");
+    line(menu("&Document"), QStringLiteral("Save &as...")).trigger();
+    EXPECT_TRUE(QFile::exists(file + QStringLiteral(".json"))) << "the ending is added";
+    line(menu("&Document"), QStringLiteral("&Close")).trigger();
+    line(menu("&Document"), QStringLiteral("&Open...")).trigger();
+    EXPECT_EQ(starts.back(), folder.path());
+    ASSERT_NE(editor().documents().active(), nullptr);
+    EXPECT_EQ(editor().documents().active()->name(), L"mine.json");
+}
+
+TEST_F(MainWindowTest, TheMenusShowTheirShortcuts) {
+    const auto shortcutOf = [this](const char* title, const char* text) {
+        return line(menu(title), QString::fromLatin1(text)).shortcut().toString();
+    };
+    EXPECT_EQ(shortcutOf("&Document", "&New"), QStringLiteral("Ctrl+N"));
+    EXPECT_EQ(shortcutOf("&Document", "&Open..."), QStringLiteral("Ctrl+O"));
+    EXPECT_EQ(shortcutOf("&Document", "&Save"), QStringLiteral("Ctrl+S"));
+    EXPECT_EQ(shortcutOf("&Document", "&Quit"), QStringLiteral("Ctrl+Q"));
+    EXPECT_EQ(shortcutOf("&Edit", "&Undo"), QStringLiteral("Ctrl+Z"));
+    EXPECT_EQ(shortcutOf("&Help", "The &dashboard"), QStringLiteral("F1"));
+}
+
+TEST_F(MainWindowTest, TheTabsBelowTheDrawingGoToItsLayouts) {
+    SpaceTabs& spaces = m_window.spaceTabs();
+    ASSERT_GT(spaces.count(), 1);
+    EXPECT_EQ(spaces.tabText(0), QStringLiteral("Model"));
+    EXPECT_EQ(spaces.currentIndex(), 0);
+    spaces.setCurrentIndex(1);
+    EXPECT_EQ(editor().read(L"TILEMODE"), Value(0));
+    EXPECT_EQ(spaces.currentIndex(), 1);
+    enter("MODEL");
+    EXPECT_EQ(spaces.currentIndex(), 0);
+    EXPECT_EQ(editor().read(L"TILEMODE"), Value(1));
+}
+
+TEST_F(MainWindowTest, AWindowWithoutADrawingSaysHowToGetOne) {
+    const QColor plain = lookOf(Shade::Light).drawing;
+    line(menu("&Document"), QStringLiteral("&Close")).trigger();
+    EXPECT_EQ(m_window.documentTabs().count(), 0);
+    const QImage image = m_window.documentTabs().grab().toImage();
+    EXPECT_EQ(image.pixelColor(5, 5), plain);
+    int inked = 0;
+    for (int x = 0; x < image.width(); ++x)
+        inked += image.pixelColor(x, image.height() / 2) != plain ? 1 : 0;
+    for (int y = 0; y < image.height(); ++y)
+        inked += image.pixelColor(image.width() / 2, y) != plain ? 1 : 0;
+    EXPECT_GT(inked, 0);
+}
+
+TEST_F(MainWindowTest, TheDrawingIsFittedIntoItsView) {
+    const drawing::Database& data = editor().documents().active()->data();
+    const auto width = [&data] {
+        return data.look<drawing::Viewport>(drawing::activeViewport(data))->view.width;
+    };
+    DrawingView& view = m_window.documentTabs().viewAt(0);
+    const double before = width();
+    turnWheel(view, -10);
+    EXPECT_GT(width(), before);
+    line(menu("&View"), QStringLiteral("&Fit the drawing")).trigger();
+    const double fit = width();
+    EXPECT_LT(fit, before * 3);
+    turnWheel(view, -10);
+    line(menu("&View"), QStringLiteral("&Fit the drawing")).trigger();
+    EXPECT_NEAR(width() / fit, 1.0, 0.2);
 }
 
 TEST_F(MainWindowTest, TheViewMenuHidesShowsAndResetsTheDashboard) {

@@ -87,5 +87,34 @@ TEST(CameraTest, TheWayToTheEyeIsTheSameForAllPointsOnlyInAParallelView) {
     EXPECT_EQ(Camera(fromSouth(true), kPicture).distance(), 10.0);
 }
 
+TEST(CameraTest, APlaceOfThePictureIsAPointOfTheGround) {
+    for (const bool perspective : {false, true}) {
+        drawing::ViewParameters view;
+        view.eye = {10, -20, 15};
+        view.target = {1, 2, 3};
+        view.up = {0, 0, 1};
+        view.width = 40;
+        view.height = 20;
+        view.perspective = perspective;
+        const Camera camera(view, {400, 200});
+        const std::optional<Vec3> met = camera.pointOnGround({120, 150});
+        ASSERT_TRUE(met.has_value());
+        EXPECT_EQ(met->z, 0.0);
+        EXPECT_NEAR(camera.place(*met).x(), 120, 1e-9);
+        EXPECT_NEAR(camera.place(*met).y(), 150, 1e-9);
+    }
+}
+
+TEST(CameraTest, AboveTheHorizonThereIsNoGround) {
+    drawing::ViewParameters view;
+    view.eye = {0, 0, 5};
+    view.target = {10, 0, 5};
+    view.up = {0, 0, 1};
+    view.perspective = true;
+    const Camera camera(view, {400, 200});
+    EXPECT_FALSE(camera.pointOnGround({200, 50}).has_value());
+    EXPECT_TRUE(camera.pointOnGround({200, 150}).has_value());
+}
+
 }  // namespace
 }  // namespace workbench::desktop

@@ -238,5 +238,38 @@ TEST_F(DrawingViewTest, OutlivesItsDocument) {
     drag({10, 10});
 }
 
+TEST_F(DrawingViewTest, ADragDoesWhatTheRunningToolSays) {
+    const drawing::ViewParameters before = port().view;
+    m_view.setDragMode(DragMode::Pan);
+    drag({40, 0});
+    EXPECT_NE(port().view.target, before.target);
+    EXPECT_NEAR(drawing::distance(port().view.eye, port().view.target),
+                drawing::distance(before.eye, before.target), 1e-6);
+    m_view.setDragMode(DragMode::Zoom);
+    const drawing::ViewParameters panned = port().view;
+    drag({0, -60});
+    EXPECT_LT(port().view.width, panned.width);
+    m_view.setDragMode(DragMode::Swivel);
+    const drawing::ViewParameters zoomed = port().view;
+    drag({40, 0});
+    EXPECT_EQ(port().view.eye, zoomed.eye);
+    EXPECT_NE(port().view.target, zoomed.target);
+}
+
+TEST_F(DrawingViewTest, WhilePointsAreAskedForAClickTellsOneAndMovesNothing) {
+    std::vector<drawing::Vec3> points;
+    m_view.setOnPointed([&points](const drawing::Vec3& point) { points.push_back(point); });
+    m_view.setPointing(true);
+    const drawing::ViewParameters before = port().view;
+    drag({40, 0});
+    ASSERT_EQ(points.size(), 1U);
+    EXPECT_EQ(points[0].z, 0.0);
+    EXPECT_EQ(port().view, before);
+    m_view.setPointing(false);
+    drag({40, 0});
+    EXPECT_EQ(points.size(), 1U);
+    EXPECT_NE(port().view, before);
+}
+
 }  // namespace
 }  // namespace workbench::desktop

@@ -147,5 +147,33 @@ TEST(ViewMotionTest, FarFromTheOriginEyeAndTargetStayApart) {
     EXPECT_NE(wide.eye, wide.target);
 }
 
+TEST(ViewMotionTest, ASwivelTurnsTheSightAndLeavesTheCameraWhereItIs) {
+    const ViewParameters before = slanting();
+    const ViewParameters after = swivelled(before, {20, 0}, kPicture);
+    EXPECT_EQ(after.eye, before.eye);
+    EXPECT_NEAR(drawing::distance(after.eye, after.target),
+                drawing::distance(before.eye, before.target), 1e-9);
+    const double was = Camera(before, kPicture).place(before.target).x();
+    EXPECT_GT(Camera(after, kPicture).place(before.target).x(), was) << "it follows the mouse";
+    EXPECT_NEAR(axesOf(after).right.z, 0.0, 1e-9);
+}
+
+TEST(ViewMotionTest, AWalkGoesForwardAtItsHeightAndAFlightWhereItLooks) {
+    const ViewParameters before = slanting();
+    const ViewParameters onFoot = walked(before, {0, -50}, kPicture, true);
+    EXPECT_NEAR(onFoot.eye.z, before.eye.z, 1e-12);
+    EXPECT_GT(onFoot.eye.y, before.eye.y) << "towards what it looks at";
+    EXPECT_LT(onFoot.eye.x, before.eye.x);
+    const ViewParameters inTheAir = walked(before, {0, -50}, kPicture, false);
+    EXPECT_LT(inTheAir.eye.z, before.eye.z) << "it looks down";
+    EXPECT_NEAR(lengthOf((inTheAir.eye - inTheAir.target) - (before.eye - before.target)), 0, 1e-9);
+}
+
+TEST(ViewMotionTest, AWalkTurnsToTheSideOfTheDrag) {
+    const ViewParameters before = slanting();
+    const ViewParameters after = walked(before, {30, 0}, kPicture, true);
+    EXPECT_LT(Camera(after, kPicture).place(before.target).x(), 200) << "it went to the left";
+}
+
 }  // namespace
 }  // namespace workbench::desktop

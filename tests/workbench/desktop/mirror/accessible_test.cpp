@@ -71,6 +71,26 @@ TEST_F(AccessibleTest, ButtonsTellTheirStateAndCanBePressed) {
     EXPECT_EQ(sent(), std::vector<std::string>{"_perspective\n0\n"});
 }
 
+TEST_F(AccessibleTest, ExactlyOneObjectHasTheKeyboard) {
+    ItemWidget* tool = item(L"ID_Parallel_Projection");
+    m_top.activateWindow();
+    QApplication::processEvents();
+    for (const HWND place : {window(kFade, "edit"), window(kFade, "slider"), tool->toolPanel(),
+                             findPanels(windows(), L"Layers").at(0)->m_hWnd}) {
+        windows().setFocus(place);
+        rest();
+        std::vector<QAccessibleInterface*> all;
+        collect(of(&m_top), all);
+        std::vector<QAccessibleInterface*> focused;
+        for (QAccessibleInterface* node : all) {
+            if (node->state().focused)
+                focused.push_back(node);
+        }
+        ASSERT_EQ(focused.size(), 1U) << windows().find(place)->className;
+        EXPECT_EQ(focused.front()->role() == QAccessible::Button, place == tool->toolPanel());
+    }
+}
+
 TEST_F(AccessibleTest, DisabledPartsSaySo) {
     editor().set(L"PERSPECTIVE", 0);
     rest();

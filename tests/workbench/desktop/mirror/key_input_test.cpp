@@ -53,6 +53,43 @@ TEST_F(KeyInputTest, TabCommitsTheFieldAndGoesToTheNext) {
     EXPECT_EQ(edit()->host()->text, L"30");
 }
 
+TEST_F(KeyInputTest, EscapeGivesTheKeyboardBackToTheDrawing) {
+    replace("12.5");
+    pressKey(*edit(), Qt::Key_Escape);
+    EXPECT_EQ(windows().focus(), m_stage.toolkit.frame().drawingView().m_hWnd);
+    EXPECT_EQ(edit()->host()->text, L"24.000");
+}
+
+TEST_F(KeyInputTest, ShortcutsOfTheProgramPassByButThoseOfFieldsDont) {
+    const auto isOwn = [this](int key, Qt::KeyboardModifiers held, const char* text) {
+        return isOwnKey(m_stage,
+                        QKeyEvent(QEvent::ShortcutOverride, key, held, QString::fromLatin1(text)));
+    };
+    EXPECT_TRUE(isOwn(Qt::Key_5, Qt::NoModifier, "5"));
+    EXPECT_TRUE(isOwn(Qt::Key_Tab, Qt::NoModifier, "\t"));
+    EXPECT_TRUE(isOwn(Qt::Key_V, Qt::ControlModifier, "\x16"));
+    EXPECT_FALSE(isOwn(Qt::Key_F6, Qt::NoModifier, ""));
+    EXPECT_FALSE(isOwn(Qt::Key_F, Qt::ControlModifier, "\x06"));
+    windows().setFocus(window(kFade, "slider"));
+    EXPECT_FALSE(isOwn(Qt::Key_V, Qt::ControlModifier, "\x16"));
+}
+
+TEST_F(KeyInputTest, TheSpaceBarClicksTheMarkedToolAndRollsAPanelUp) {
+    ItemWidget* tool = item(L"ID_Perspective_Projection");
+    windows().setFocus(tool->toolPanel());
+    while (!tool->isMarked())
+        pressKey(*widget(tool->toolPanel()), Qt::Key_Right);
+    pressKey(*widget(tool->toolPanel()), Qt::Key_Space, QStringLiteral(" "));
+    EXPECT_EQ(sent(), std::vector<std::string>{"_perspective\n1\n"});
+    const HWND layers = findPanels(windows(), L"Layers").at(0)->m_hWnd;
+    windows().setFocus(layers);
+    pressKey(*widget(layers), Qt::Key_Space, QStringLiteral(" "));
+    EXPECT_FALSE(windows().isOnScreen(window(kFade, "slider")));
+    EXPECT_EQ(windows().focus(), layers);
+    pressKey(*widget(layers), Qt::Key_Escape);
+    EXPECT_EQ(windows().focus(), m_stage.toolkit.frame().drawingView().m_hWnd);
+}
+
 TEST_F(KeyInputTest, WhatNoFieldTakesGoesToTheCommandLine) {
     QString typed;
     m_stage.typed = [&typed](const QString& text) { typed += text; };

@@ -3,6 +3,7 @@
 #include "tests/workbench/desktop/mirror/mirror_fixture.h"
 
 #include <QAbstractButton>
+#include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
 #include <QTimer>
@@ -42,6 +43,7 @@ protected:
         onceThereIs<QMessageBox>(&QApplication::activeModalWidget,
                                  [this, button](QMessageBox& box) {
                                      m_boxText = box.text();
+                                     m_boxIcon = box.icon();
                                      box.button(button)->click();
                                  });
     }
@@ -49,6 +51,7 @@ protected:
     Questions m_questions{m_stage, m_top};
     QStringList m_lines;
     QString m_boxText;
+    QMessageBox::Icon m_boxIcon = QMessageBox::NoIcon;
 };
 
 TEST_F(QuestionsTest, APanelsContextMenuOpensAndItsChoiceIsTaken) {
@@ -75,7 +78,11 @@ TEST_F(QuestionsTest, AMessageBoxIsAsked) {
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 4, ""), MessageBoxes::kNo);
     EXPECT_EQ(m_boxText, QStringLiteral("Really?"));
     answerBox(QMessageBox::Ok);
-    EXPECT_EQ(m_stage.toolkit.boxes().show(L"So it is.", 0, ""), MessageBoxes::kOk);
+    EXPECT_EQ(m_stage.toolkit.boxes().show(L"So it is.", 0x40, ""), MessageBoxes::kOk);
+    EXPECT_EQ(m_boxIcon, QMessageBox::Information);
+    answerBox(QMessageBox::Ok);
+    m_stage.toolkit.boxes().show(L"Mind it.", 0x30, "");
+    EXPECT_EQ(m_boxIcon, QMessageBox::Warning);
 }
 
 TEST_F(QuestionsTest, WhileAScriptHasTheHostNobodyIsAsked) {
@@ -89,6 +96,17 @@ TEST_F(QuestionsTest, WhileAScriptHasTheHostNobodyIsAsked) {
 TEST_F(QuestionsTest, AQueuedAnswerComesFirst) {
     m_workbench.answers().queue("box", "cancel");
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 1, ""), MessageBoxes::kCancel);
+}
+
+TEST_F(QuestionsTest, NoTooltipComesOnceTheMouseHasLeft) {
+    ItemWidget* line = item(L"ID_Parallel_Projection");
+    hover(*line->parentWidget(), line->geometry().center());
+    QCursor::setPos(m_top.mapToGlobal(QPoint(-40, -40)));
+    QEvent leaving(QEvent::Leave);
+    QApplication::sendEvent(line->parentWidget(), &leaving);
+    windows().advance(600);
+    EXPECT_EQ(m_stage.toolkit.toolTips().shown(), L"");
+    EXPECT_EQ(m_stage.toolkit.mouse().over(), nullptr);
 }
 
 TEST_F(QuestionsTest, TooltipsComeWhenTheMouseRestsAndTellWhyAToolIsDisabled) {

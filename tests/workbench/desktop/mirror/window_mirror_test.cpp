@@ -1,12 +1,14 @@
 #include "workbench/desktop/mirror/window_mirror.h"
 
 #include "tests/workbench/desktop/mirror/mirror_fixture.h"
+#include "workbench/desktop/app/host_actions.h"
 #include "workbench/toolkit/palette_set_widget.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/slider_widget.h"
 
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 
 namespace workbench::desktop {
 
@@ -79,6 +81,8 @@ TEST_F(MirrorTest, TypedNumberIsTakenWithEnterAndGivenUpWithEscape) {
     EXPECT_EQ(edit->host()->text, L"35");
     pressKey(*edit, Qt::Key_Return);
     EXPECT_EQ(editor().read(L"LAYLOCKFADECTL").asInteger(), 35);
+    EXPECT_EQ(windows().focus(), m_stage.toolkit.frame().drawingView().m_hWnd);
+    click(*edit);
     pressKey(*edit, Qt::Key_A, QStringLiteral("\x01"), Qt::ControlModifier);
     typeText(*edit, QStringLiteral("80"));
     pressKey(*edit, Qt::Key_Escape);
@@ -160,10 +164,44 @@ TEST_F(MirrorTest, RefusedEntryHasItsBalloonBesideTheField) {
     ASSERT_NE(bubble, nullptr);
     EXPECT_TRUE(bubble->isVisible());
     EXPECT_TRUE(bubble->text().startsWith(QLatin1String("Enter a step size")));
+    EXPECT_EQ(windows().focus(), edit->handle()) << "to be corrected";
     pressKey(*edit, Qt::Key_Escape);
     click(*widget(kFade, "edit"));
     rest();
     EXPECT_EQ(m_top.findChild<QLabel*>(), nullptr);
+}
+
+TEST_F(MirrorTest, AClickOnABalloonEndsItAndReachesNothingBelow) {
+    MirrorWidget* edit = widget("3DNavStepSizeSliderControl", "edit");
+    m_stage.toolkit.balloons().show(window("3DNavStepSizeSliderControl"), edit->handle(), L"No.");
+    rest();
+    auto* bubble = m_top.findChild<QLabel*>();
+    ASSERT_NE(bubble, nullptr);
+    EXPECT_FALSE(bubble->testAttribute(Qt::WA_TransparentForMouseEvents));
+    const QPointer<QLabel> watched = bubble;
+    press(*bubble, {5, 5});
+    EXPECT_FALSE(m_stage.toolkit.balloons().isShown());
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(watched.data(), nullptr);
+    EXPECT_TRUE(sent().empty());
+}
+
+TEST_F(MirrorTest, ABalloonFollowsItsFieldAndGoesWithAKeyElsewhere) {
+    m_home.resize(1100, 400);
+    rest();
+    MirrorWidget* edit = widget(kFade, "edit");
+    m_stage.toolkit.balloons().show(window(kFade), edit->handle(), L"No.");
+    rest();
+    const QPointer<QLabel> bubble = m_top.findChild<QLabel*>();
+    ASSERT_NE(bubble, nullptr);
+    const int before = bubble->y();
+    turnWheel(*edit, -1);
+    rest();
+    EXPECT_LT(bubble->y(), before);
+    QWidget pane(&m_top);
+    pressKey(pane, Qt::Key_A, QStringLiteral("a"));
+    rest();
+    EXPECT_EQ(bubble.data(), nullptr);
 }
 
 TEST_F(MirrorTest, ClickOnATitleRollsThePanelUp) {
@@ -179,11 +217,18 @@ TEST_F(MirrorTest, DraggedOffItsGripTheDashboardFloatsAndDocksAgainByADoubleClic
     MirrorWidget* bar = widget(set.m_hWnd);
     press(*bar, {20, 5});
     moveHeld(*bar, {-200, 60});
-    release(*bar, {-200, 60});
-    rest();
     EXPECT_TRUE(set.IsFloating());
     MirrorWidget* frame = widget(m_stage.toolkit.frame().frameOf(set)->m_hWnd);
     ASSERT_NE(frame, nullptr);
+    EXPECT_EQ(QWidget::mouseGrabber(), frame);
+    const QPoint torn = frame->pos();
+    moveHeld(*frame, frame->mapFromGlobal(m_top.mapToGlobal(QPoint(600, 300))));
+    m_mirror.sync();
+    EXPECT_NE(frame->pos(), torn) << "it follows the mouse that tore it off";
+    release(*frame, frame->mapFromGlobal(m_top.mapToGlobal(QPoint(600, 300))));
+    rest();
+    EXPECT_EQ(QWidget::mouseGrabber(), nullptr);
+    EXPECT_TRUE(set.IsFloating());
     EXPECT_TRUE(frame->isWindow());
     EXPECT_TRUE(frame->isVisible());
     EXPECT_TRUE(frame->isAncestorOf(widget(kFade, "slider")));
@@ -197,6 +242,56 @@ TEST_F(MirrorTest, DraggedOffItsGripTheDashboardFloatsAndDocksAgainByADoubleClic
     rest();
     EXPECT_FALSE(set.IsFloating());
     EXPECT_TRUE(m_top.isAncestorOf(widget(kFade, "slider")));
+}
+
+/// Places of the dashboard, one after the other.
+class DockingTest : public MirrorTest {
+protected:
+    CQrUiPaletteSet& set() { return *m_stage.toolkit.frame().bars().front(); }
+    MainFrame& frame() { return m_stage.toolkit.frame(); }
+    /// Each window on screen has a widget on show in that of its parent, at its place.
+    void expectNothingEmpty(WindowMirror& mirror, const char* when) {
+        mirror.sync();
+        std::vector<HWND> all = windows().descendants(set().m_hWnd);
+        all.push_back(set().m_hWnd);
+        for (const HWND each : all) {
+            if (!windows().isOnScreen(each))
+                continue;
+            const MirrorWidget* const shown = mirror.widgetOf(each);
+            ASSERT_NE(shown, nullptr) << when;
+            const Window& window = *windows().find(each);
+            EXPECT_TRUE(shown->isVisible()) << when << ": " << window.className;
+            EXPECT_EQ(shown->parentWidget(), mirror.widgetOf(window.parent)) << when;
+            EXPECT_EQ(shown->width(), window.rect.Width()) << when;
+        }
+    }
+};
+
+TEST_F(DockingTest, InFiftyWindowsNoChangeOfPlaceLeavesAnEmptyStrip) {
+    for (int start = 0; start < 50 && !HasFailure(); ++start) {
+        QWidget top;
+        top.resize(1000, 700);
+        FrameHome home(&top);
+        home.resize(top.size());
+        home.attach(m_stage);
+        top.show();
+        WindowMirror mirror(m_stage, home);
+        expectNothingEmpty(mirror, "at first");
+        frame().floatAt(set(), {300, 100, 540, 500});
+        expectNothingEmpty(mirror, "floating");
+        frame().dock(set(), Edge::Right);
+        expectNothingEmpty(mirror, "docked at the right again");
+        frame().dock(set(), Edge::Left);
+        expectNothingEmpty(mirror, "docked at the left");
+        resetLayout(m_workbench);
+        rest();
+        expectNothingEmpty(mirror, "reset from the left");
+        frame().floatAt(set(), {300, 100, 540, 500});
+        expectNothingEmpty(mirror, "floating again");
+        resetLayout(m_workbench);
+        rest();
+        expectNothingEmpty(mirror, "reset while it floats");
+    }
 }
 
 TEST_F(MirrorTest, LetGoAtAnEdgeOfTheHostsWindowTheDashboardDocksThere) {

@@ -3,6 +3,8 @@
 #include "workbench/desktop/look/fonts.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/window_mirror.h"
+#include "workbench/desktop/panes/command_line.h"
+#include "workbench/desktop/panes/search_box.h"
 #include "workbench/editor/editor.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
@@ -15,9 +17,11 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLineEdit>
 #include <QMenu>
 #include <QProcess>
 #include <QTimer>
+#include <QToolTip>
 #include <clocale>
 
 namespace workbench::desktop {
@@ -94,6 +98,43 @@ TEST_F(ScreenTest, ItsFieldTakesWhatIsTyped) {
     EXPECT_EQ(fading(), 35);
 }
 
+TEST_F(ScreenTest, FSixAndControlFBringTheKeyboardToDashboardAndSearch) {
+    m_window.commandLine().input().setFocus();
+    hands({QStringLiteral("key"), QStringLiteral("F6")});
+    EXPECT_NE(dynamic_cast<MirrorWidget*>(QApplication::focusWidget()), nullptr);
+    hands({QStringLiteral("key"), QStringLiteral("F6")});
+    EXPECT_EQ(QApplication::focusWidget(), &m_window.commandLine().input());
+    hands({QStringLiteral("key"), QStringLiteral("Tab")});
+    EXPECT_NE(dynamic_cast<MirrorWidget*>(QApplication::focusWidget()), nullptr);
+    hands({QStringLiteral("key"), QStringLiteral("ctrl+f")});
+    EXPECT_EQ(QApplication::focusWidget(), &m_window.searchBox());
+}
+
+TEST_F(ScreenTest, WhatIsTypedBehindAClickInTheDrawingIsACommand) {
+    MirrorWidget* edit = part("edit");
+    clickAt(edit->mapToGlobal(edit->rect().center()));
+    EXPECT_TRUE(edit->hasFocus());
+    clickAt({500, 500});
+    hands({QStringLiteral("type"), QStringLiteral("laylockfadectl")});
+    EXPECT_EQ(m_window.commandLine().input().text(), QStringLiteral("laylockfadectl"));
+    EXPECT_EQ(fading(), 50);
+}
+
+TEST_F(ScreenTest, NoToolShowsTheLensSlidersTooltip) {
+    m_workbench.editor().set(L"PERSPECTIVE", 1);
+    const CQrUiToolPanelItem& tool =
+        *findItems(m_workbench.windows(), L"ID_Parallel_Projection").at(0);
+    const MirrorWidget* panel = m_window.mirror().widgetOf(toolPanelOf(tool)->m_hWnd);
+    CRect place;
+    tool.GetRect(place, 1);
+    moveTo(panel->mapToGlobal(QPoint(place.left + 4, place.top + 4)));
+    pause(900);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("Parallel projection"));
+    moveTo({500, 500});
+    pause(900);
+    EXPECT_EQ(m_workbench.toolkit().toolTips().shown(), L"");
+}
+
 TEST_F(ScreenTest, APanelsContextMenuOpens) {
     MirrorWidget* panel =
         m_window.mirror().widgetOf(findPanels(m_workbench.windows(), L"Layers").at(0)->m_hWnd);
@@ -124,9 +165,14 @@ TEST_F(ScreenTest, TheDashboardIsDraggedOffAndFloats) {
     hands({QStringLiteral("mousedown"), QStringLiteral("1")});
     moveTo({700, 300});
     moveTo({600, 320});
+    const QWidget* frame =
+        m_window.mirror().widgetOf(m_workbench.toolkit().frame().frameOf(set)->m_hWnd);
+    const QPoint torn = frame->pos();
+    moveTo({500, 370});
     hands({QStringLiteral("mouseup"), QStringLiteral("1")});
     pause(200);
     EXPECT_TRUE(set.IsFloating());
+    EXPECT_EQ(frame->pos(), torn + QPoint(-100, 50)) << "it follows the mouse";
 }
 
 }  // namespace
