@@ -38,7 +38,7 @@ Document::Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::D
                                                               drawing::activeViewport(data()))
                                                           editor.viewChanged();
                                                   })),
-      m_openObjects(m_drawing->db),
+      m_openObjects(m_drawing->db, [this] { return m_locks.isForWriting(); }),
       m_processor(std::make_unique<CommandProcessor>(editor, *this)) {}
 
 Document::~Document() = default;
