@@ -43,6 +43,21 @@ Document::Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::D
 
 Document::~Document() = default;
 
+void Document::beginGesture(drawing::UndoLog::Gesture gesture) {
+    data().undoLog().beginGesture(gesture);
+    m_viewHistory->beginGesture(gesture);
+}
+
+void Document::endGesture() {
+    data().undoLog().endGesture();
+    m_viewHistory->endGesture();
+}
+
+void Document::interruptGesture() {
+    data().undoLog().interruptGesture();
+    m_viewHistory->interruptGesture();
+}
+
 VxDbDatabase* Document::database() const {
     HostCall call("VxApDocument::database");
     VxDbDatabase* database = call.failed() ? nullptr : m_hostDatabase.get();
