@@ -7,6 +7,7 @@
 #include "workbench/navigation/navigation_tool.h"
 #include "workbench/palettes/tool_palettes.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/toolbar/toolbar_controls.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -49,6 +50,7 @@ void Workbench::makeUnits() {
     m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
     m_navigation = std::make_unique<NavigationTool>(*m_editor, *m_modules, m_journal);
+    m_toolbarControls = std::make_unique<ToolbarControls>(*m_toolkit, *m_editor, *m_menu);
 }
 
 /// Unloads what is still loaded while all units live, then ends them in the opposite order of their
@@ -56,6 +58,7 @@ void Workbench::makeUnits() {
 void Workbench::endUnits() {
     if (m_modules != nullptr)
         m_modules->unloadAll();
+    m_toolbarControls.reset();
     m_navigation.reset();
     m_toolPalettes.reset();
     m_menu.reset();
