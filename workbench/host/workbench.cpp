@@ -2,6 +2,7 @@
 
 #include "workbench/commands/host_commands.h"
 #include "workbench/editor/editor.h"
+#include "workbench/host/connections.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/navigation/navigation_tool.h"
@@ -51,6 +52,7 @@ void Workbench::makeUnits() {
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
     m_navigation = std::make_unique<NavigationTool>(*m_editor, *m_modules, m_journal);
     m_toolbarControls = std::make_unique<ToolbarControls>(*m_toolkit, *m_editor, *m_menu);
+    connectUnits(*this);
 }
 
 /// Unloads what is still loaded while all units live, then ends them in the opposite order of their
@@ -58,6 +60,8 @@ void Workbench::makeUnits() {
 void Workbench::endUnits() {
     if (m_modules != nullptr)
         m_modules->unloadAll();
+    if (m_toolkit != nullptr)
+        disconnectUnits(*m_toolkit);
     m_toolbarControls.reset();
     m_navigation.reset();
     m_toolPalettes.reset();

@@ -3,6 +3,7 @@
 #include "workbench/toolkit/click_focus_widget.h"
 #include "workbench/toolkit/dock_layout.h"
 #include "workbench/toolkit/reparent.h"
+#include "workbench/toolkit/typing_widget.h"
 
 #include <algorithm>
 
@@ -38,11 +39,11 @@ MainFrame::MainFrame(WindowSystem& windows, SetStates& sets, ToolRegistry& tools
     : m_windows(windows),
       m_sets(sets),
       m_tools(tools) {
-    makeWindow(m_frame, "CFrameWnd", "", 0);
-    makeWindow(m_drawingView, "DrawingView", "DrawingView", 0);
-    makeWindow(m_commandLine, "CommandLine", "CommandLine", 0);
-    makeWindow(m_leftDock, "CDockBar", "", kLeftDockBar);
-    makeWindow(m_rightDock, "CDockBar", "", kRightDockBar);
+    makePlainWindow(m_frame, "CFrameWnd", 0);
+    makeTypingWindow(m_drawingView, "DrawingView");
+    makeTypingWindow(m_commandLine, "CommandLine");
+    makePlainWindow(m_leftDock, "CDockBar", kLeftDockBar);
+    makePlainWindow(m_rightDock, "CDockBar", kRightDockBar);
     layout();
     m_windows.setFocus(m_drawingView.m_hWnd);
 }
@@ -52,7 +53,18 @@ MainFrame::~MainFrame() {
     m_windows.life().abandonAll();
 }
 
-void MainFrame::makeWindow(CWnd& object, const char* className, const char* name, UINT id) {
+void MainFrame::makePlainWindow(CWnd& object, const char* className, UINT id) {
+    makeWindow(object, className, id, std::make_unique<ClickFocusWidget>(m_windows));
+}
+
+/// The window's class is its name too.
+void MainFrame::makeTypingWindow(CWnd& object, const char* className) {
+    makeWindow(object, className, 0, std::make_unique<TypingWidget>(m_windows, m_onTyped));
+    m_windows.setName(object.m_hWnd, className);
+}
+
+void MainFrame::makeWindow(CWnd& object, const char* className, UINT id,
+                           std::unique_ptr<Widget> widget) {
     WindowCreation creation;
     creation.className = className;
     creation.style = WS_VISIBLE;
@@ -61,10 +73,8 @@ void MainFrame::makeWindow(CWnd& object, const char* className, const char* name
     creation.id = static_cast<int>(id);
     if (creation.parent != nullptr)
         creation.style |= WS_CHILD;
-    creation.widget = std::make_unique<ClickFocusWidget>(m_windows);
+    creation.widget = std::move(widget);
     m_windows.create(object, std::move(creation));
-    if (*name != '\0')
-        m_windows.setName(object.m_hWnd, name);
 }
 
 CFrameWnd* MainFrame::frameOf(const CQrUiPaletteSet& set) {
@@ -91,6 +101,7 @@ void MainFrame::add(CQrUiPaletteSet& set) {
 
 void MainFrame::forget(CQrUiPaletteSet& set) {
     std::erase(m_bars, &set);
+    tellShown(set, false);
     const auto floating = m_floating.find(&set);
     if (floating == m_floating.end())
         return;
@@ -170,6 +181,14 @@ void MainFrame::show(CQrUiPaletteSet& set, bool shown, bool delay) {
     m_windows.show(window, shown);
     if (!delay)
         layout();
+    // Shown or hidden, its controls may have ended it.
+    if (m_windows.find(window) != nullptr)
+        tellShown(set, shown);
+}
+
+void MainFrame::tellShown(const CQrUiPaletteSet& set, bool shown) const {
+    if (m_onShown)
+        m_onShown(set, shown);
 }
 
 void MainFrame::close(CQrUiPaletteSet& set) {
