@@ -3,6 +3,7 @@
 #include "workbench/commands/host_commands.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/connections.h"
+#include "workbench/host/customization_command.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/navigation/navigation_tool.h"
@@ -49,6 +50,7 @@ void Workbench::makeUnits() {
     m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
     addHostCommands(m_editor->commands());
     m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());
+    addCustomizationCommand(m_editor->commands(), m_menu->customization());
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
     m_navigation = std::make_unique<NavigationTool>(*m_editor, *m_modules, m_journal);
     m_toolbarControls = std::make_unique<ToolbarControls>(*m_toolkit, *m_editor, *m_menu);
