@@ -9,6 +9,7 @@
 #include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/document.h"
+#include "workbench/toolkit/mouse.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -225,8 +226,17 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
     if (notches == 0 || m_document == nullptr || m_drag)
         return;
     const ObjectId port = movablePort(m_document->data());
-    if (!port.isNull())
-        write(port, zoomed(shownIn(port), notches));
+    if (port.isNull())
+        return;
+    // A run of the wheel is one step of undo.
+    using Gesture = drawing::UndoLog::Gesture;
+    const bool continues = event->timestamp() <= m_turnedUntil;
+    m_turnedUntil = event->timestamp() + Mouse::kWheelRest;
+    Document* const turned = m_document;
+    turned->beginGesture(continues ? Gesture::Continue : Gesture::New);
+    write(port, zoomed(shownIn(port), notches));
+    if (m_document == turned)
+        turned->endGesture();
 }
 
 }  // namespace workbench::desktop
