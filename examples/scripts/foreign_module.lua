@@ -24,6 +24,12 @@ assert(wb.var("LTSCALE") == 2.5)
 wb.type("LTSCALE\n4\n")
 assert(scale:slider() == 40)
 
+-- It listens to the dashboard: panels that are built anew have it count anew.
+wb.notify(1)
+wb.notify(2)
+count:click()
+assert(count:state().name == "1 click")
+
 -- Without the module its control is left out, its button is there but dead, and the rest stands.
 wb.notify(1)
 wb.hide("VxExampleTools.qlx")

@@ -42,7 +42,7 @@ class OtherModeTest : public DocLockTest, public testing::WithParamInterface<int
 
 TEST_P(OtherModeTest, DoesNotStandForALockForWriting) {
     workbench::DocumentLocks& locks = bench().editor().documents().current()->locks();
-    ASSERT_TRUE(locks.lock(GetParam()));
+    ASSERT_TRUE(locks.lock(GetParam(), this));
     forget();
     {
         const VxDaDocLock lock;

@@ -1,9 +1,13 @@
 #include "controls/variable_access.h"
 
+#include "controls/doc_lock.h"
+#include "core/host_objects.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/heap_use.h"
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
+
+#include <hostapi/zorq/documents.h>
 
 namespace {
 
@@ -25,6 +29,13 @@ TEST_F(VariableAccessTest, StrictReadTakesEachTypeOfNumber) {
     EXPECT_EQ(readVariableStrict(L"STEPSIZE"), 7) << "a real is truncated toward zero";
     set(L"STEPSIZE", -7.9);
     EXPECT_EQ(readVariableStrict(L"STEPSIZE"), -7) << "from below too";
+}
+
+TEST_F(VariableAccessTest, StrictReadTakesALong) {
+    workbench::Workbench::current().editor().documents().create(L"A");
+    EXPECT_EQ(readVariableStrict(L"UNDOSTEPS"), 0);
+    set(L"LUNITS", 4);
+    EXPECT_EQ(readVariableStrict(L"UNDOSTEPS"), 1);
 }
 
 TEST_F(VariableAccessTest, StrictReadOfARealBeyondAWholeNumberIsMinusOne) {
@@ -77,6 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Reads, TextMemoryTest,
                                          [](const wchar_t* name) { readVariableStrict(name); }));
 
 TEST_F(VariableAccessTest, WriteGoesThrough) {
+    const VxAxDocLock lock(workingDatabase(), kLockForWrite);
     writeVariableShort(L"LAYLOCKFADECTL", 12);
     EXPECT_EQ(readVariableStrict(L"LAYLOCKFADECTL"), 12);
     writeVariableReal(L"STEPSIZE", 0.25);

@@ -156,13 +156,12 @@ TEST_P(NavigationFunctionTest, CallsTheFunction) {
     clickTool();
     Calls effects;
     for (const workbench::JournalRecord& record : takeJournal()) {
-        if (record.kind == "navigation")
+        if (!record.field("animation").isNil())
             effects.push_back(record.field("animation").asString());
         else if (record.kind == "dialog")
             effects.push_back(record.field("name").asString());
     }
-    ASSERT_FALSE(effects.empty());
-    EXPECT_EQ(effects.back(), GetParam().effect);
+    EXPECT_NE(std::find(effects.begin(), effects.end(), GetParam().effect), effects.end());
     type(L"\x1b");
 }
 

@@ -38,6 +38,8 @@ OpenObjects::~OpenObjects() {
 drawing::Status OpenObjects::open(drawing::ObjectId id, drawing::OpenMode mode,
                                   VxDbObject*& object) {
     object = nullptr;
+    if (mode == drawing::OpenMode::Write && !m_mayWrite())
+        return drawing::Status::NotLocked;
     drawing::DbObject* opened = nullptr;
     const drawing::Status status =
         m_database.open(id, mode, drawing::ErasedObjects::Refuse, opened);

@@ -5,7 +5,9 @@
 #include <hostapi/vxdb18/database.h>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace workbench {
@@ -14,7 +16,10 @@ namespace workbench {
 /// class for its kind, from `open` to its `close`.
 class OpenObjects {
 public:
-    explicit OpenObjects(drawing::Database& database) : m_database(database) {}
+    /// `mayWrite` tells whether the document is locked for writing now.
+    OpenObjects(drawing::Database& database, std::function<bool()> mayWrite)
+        : m_database(database),
+          m_mayWrite(std::move(mayWrite)) {}
     OpenObjects(const OpenObjects&) = delete;
     OpenObjects& operator=(const OpenObjects&) = delete;
     /// Closes what modules left open.
@@ -32,6 +37,7 @@ private:
     std::unique_ptr<VxDbObject> wrap(drawing::DbObject& object);
 
     drawing::Database& m_database;
+    std::function<bool()> m_mayWrite;
     struct Entry {
         std::unique_ptr<VxDbObject> adapter;
         drawing::DbObject* object;  // not owned

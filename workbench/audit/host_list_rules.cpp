@@ -13,17 +13,14 @@ namespace {
 void compareHostList(const ShownControl& control, const HostState& host, AuditReport& report) {
     const ComboWidget* const list = control.list();
     const ToolbarControl* const row = findToolbarControl(static_cast<unsigned>(control.listId()));
-    if (list == nullptr || row == nullptr || row->entries == nullptr || row->current == nullptr)
+    if (list == nullptr || row == nullptr || row->current == nullptr)
         return;
     Workbench& workbench = host.workbench();
-    const ToolbarScope scope{workbench.editor(), workbench.menu()};
-    const std::vector<std::wstring> entries = row->entries(scope);
-    const int current = row->current(scope, entries);
+    const std::wstring current = row->current({workbench.editor(), workbench.menu()});
     const QRUI_COMBO_CTRL_ITEM* const selected = list->entry(list->selected());
-    const std::string shown = selected == nullptr ? std::string() : toUtf8(selected->text);
-    report.compare(
-        "selected", std::optional(shown),
-        current < 0 ? std::string() : toUtf8(entries[static_cast<std::size_t>(current)]));
+    const std::wstring shown = selected == nullptr ? std::wstring() : std::wstring(selected->text);
+    if (!equalNoCase(shown, current))
+        report.compare("selected", std::optional(toUtf8(shown)), toUtf8(current));
 }
 
 }  // namespace

@@ -19,7 +19,6 @@ constexpr DialogRow kDialogs[] = {
     {L"3DWALKSETTINGS", "Walk and Fly Settings", CommandTraits::Transparent},
     {L"ADJUSTEXPOSURE", "Adjust Rendered Exposure"},
     {L"CAMERA", "Camera Preview"},
-    {L"CUI", "Customize User Interface"},
     {L"DISTANTLIGHT", "Lights"},
     {L"GEOLOCATION", "Geographic Location"},
     {L"HELP", "Help", CommandTraits::Transparent},

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <vector>
 
 namespace workbench {
 
@@ -106,6 +107,15 @@ bool deleteView(Database& database, std::wstring_view name) {
     return view && view.erase() == drawing::Status::Ok;
 }
 
+/// Says which views have names.
+void listViews(const CommandScope& scope) {
+    const Database& database = scope.document.data();
+    const std::vector<ObjectId> views = database.ids(RecordKind::View);
+    scope.editor.print(scope.document, views.empty() ? L"No view has a name." : L"Named views:");
+    for (const ObjectId id : views)
+        scope.editor.print(scope.document, toWide(database.look<View>(id)->name));
+}
+
 struct PresetOption {
     const wchar_t* name;  // its capitals must be entered
     PresetView preset;
@@ -138,6 +148,8 @@ public:
         Database& database = scope.document.data();
         if (m_option != nullptr)
             return outcomeOf(scope, answer, m_option->apply(database, answer));
+        if (answer == L"?")
+            listViews(scope);
         if (answer.empty() || answer == L"?")
             return CommandState::Ended;
         const auto isChosen = [answer](const auto& row) { return choosesOption(answer, row.name); };

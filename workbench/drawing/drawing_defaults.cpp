@@ -100,6 +100,20 @@ void addNamed(Database& database, const char* name) {
     database.add(std::move(data));
 }
 
+/// Adds a viewport that leaves a margin of the first layout's sheet.
+void addViewportOnSheet(Database& database) {
+    constexpr double kMargin = 10.0;  // millimetres
+    const ObjectId layout = database.first(RecordKind::Layout);
+    const auto* const paper = database.look<Layout>(layout);
+    if (paper == nullptr)
+        return;
+    Viewport viewport;
+    viewport.layout = layout;
+    viewport.lowerLeft = {kMargin, kMargin, 0.0};
+    viewport.upperRight = {paper->paperWidth - kMargin, paper->paperHeight - kMargin, 0.0};
+    database.add(viewport);
+}
+
 void addMissingSheets(Database& database) {
     for (const ObjectId layout : database.ids(RecordKind::Layout)) {
         if (findViewport(database, layout, Viewport::kPaperNumber).isNull()) {
@@ -153,6 +167,7 @@ void addDefaults(Database& database, RecordKind kind) {
         break;
     case RecordKind::Viewport:
         database.add(Viewport());
+        addViewportOnSheet(database);
         break;
     case RecordKind::LayerFilters:
         database.add(LayerFilters());

@@ -175,6 +175,11 @@ void CommandProcessor::abandon() {
     cancelWaiting();
 }
 
+bool CommandProcessor::isAtWork() const {
+    return std::any_of(m_running.begin(), m_running.end(),
+                       [](const Run& run) { return !run.waiting; });
+}
+
 int CommandProcessor::activity() const {
     if (m_running.empty())
         return 0;
@@ -250,7 +255,7 @@ bool CommandProcessor::start(std::shared_ptr<const CommandDefinition> definition
     m_running.push_back({definition, definition->make(), transparent, false});
     if (definition->undoable) {
         m_document.data().undoLog().beginGroup(toUtf8(definition->globalName));
-        m_document.locks().lock(DocumentLocks::kAutoWrite);
+        m_document.locks().lock(DocumentLocks::kAutoWrite, m_running[run].command.get());
     }
     noteEvent(definition->globalName, "started");
     return work(run, [this, &definition](Command& command) {
@@ -298,7 +303,7 @@ void CommandProcessor::end(std::size_t run, CommandState outcome) {
     const std::wstring& name = ending.definition->globalName;
     m_editor.variables().announceOutsideChanges();
     if (ending.definition->undoable) {
-        m_document.locks().unlock();
+        m_document.locks().unlock(ending.command.get());
         m_document.data().undoLog().endGroup();
     }
     const Outcome told = outcomeOf(outcome);

@@ -57,6 +57,9 @@ public:
     // Questions.
 
     bool isActive() const { return !m_running.empty(); }
+    /// Whether a command is at work now, and not only waiting for an answer: the question comes from
+    /// inside of it.
+    bool isAtWork() const;
     /// What CMDACTIVE tells: 0 for none, bit 1 for a command, bit 2 for a transparent one in it.
     int activity() const;
     /// What CMDNAMES tells: the names from the outermost in, with "'" between.

@@ -20,6 +20,7 @@ struct CommandDefinition {
     std::wstring localName;
     bool transparent = false;  ///< may run inside another command
     bool undoable = true;      ///< its changes are one step of undo
+    bool usesPickSet = false;  ///< may work on the selection that was made before it
     Make make;
 };
 

@@ -38,10 +38,25 @@ Document::Document(Editor& editor, std::wstring name, std::unique_ptr<drawing::D
                                                               drawing::activeViewport(data()))
                                                           editor.viewChanged();
                                                   })),
-      m_openObjects(m_drawing->db),
+      m_openObjects(m_drawing->db, [this] { return m_locks.isForWriting(); }),
       m_processor(std::make_unique<CommandProcessor>(editor, *this)) {}
 
 Document::~Document() = default;
+
+void Document::beginGesture(drawing::UndoLog::Gesture gesture) {
+    data().undoLog().beginGesture(gesture);
+    m_viewHistory->beginGesture(gesture);
+}
+
+void Document::endGesture() {
+    data().undoLog().endGesture();
+    m_viewHistory->endGesture();
+}
+
+void Document::interruptGesture() {
+    data().undoLog().interruptGesture();
+    m_viewHistory->interruptGesture();
+}
 
 VxDbDatabase* Document::database() const {
     HostCall call("VxApDocument::database");

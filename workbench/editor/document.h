@@ -44,6 +44,11 @@ public:
     ViewHistory& viewHistory() { return *m_viewHistory; }
     OpenObjects& openObjects() { return m_openObjects; }
 
+    /// A gesture is one step of undo and of the viewports' histories; see there.
+    void beginGesture(drawing::UndoLog::Gesture gesture = drawing::UndoLog::Gesture::New);
+    void endGesture();
+    void interruptGesture();
+
     /// The values of the variables that live with the document, as far as they were written.
     VariableValues& variables() { return m_variables; }
     const VariableValues& variables() const { return m_variables; }

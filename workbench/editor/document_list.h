@@ -58,6 +58,10 @@ public:
     /// The count that modules see: a document that is going still counts while its end is told.
     int count() const { return static_cast<int>(m_documents.size()) + m_going; }
 
+    /// The host's own units hear of the documents as modules do. The reactor is not owned.
+    void watch(VxApDocManagerReactor& reactor) { m_reactors.add(&reactor); }
+    void unwatch(VxApDocManagerReactor& reactor) { m_reactors.remove(&reactor); }
+
     // VxApDocManager:
     int documentCount() const override;
     VxApDocument* curDocument() const override;

@@ -1,29 +1,36 @@
 #include "workbench/editor/document_locks.h"
 
 #include <algorithm>
-#include <functional>
 #include <iterator>
-#include <numeric>
 
 namespace workbench {
 
-bool DocumentLocks::lock(int mode) {
-    static constexpr int kLocks[] = {kAutoWrite, kWrite, kProtectedWrite, kExclusiveWrite, kRead};
-    if (std::find(std::begin(kLocks), std::end(kLocks), mode) == std::end(kLocks))
+bool DocumentLocks::lock(int mode, const void* owner) {
+    static constexpr int kModes[] = {kAutoWrite, kWrite, kProtectedWrite, kExclusiveWrite, kRead};
+    if (std::find(std::begin(kModes), std::end(kModes), mode) == std::end(kModes))
         return false;
-    m_modes.push_back(mode);
+    m_locks.push_back({mode, owner});
     return true;
 }
 
-bool DocumentLocks::unlock() {
-    if (m_modes.empty())
+bool DocumentLocks::unlock(const void* owner) {
+    const auto last = std::find_if(m_locks.rbegin(), m_locks.rend(),
+                                   [owner](const Lock& lock) { return lock.owner == owner; });
+    if (last == m_locks.rend())
         return false;
-    m_modes.pop_back();
+    m_locks.erase(std::next(last).base());
     return true;
 }
 
 int DocumentLocks::mode() const {
-    return std::accumulate(m_modes.begin(), m_modes.end(), 0, std::bit_or<>());
+    int bits = 0;
+    for (const Lock& lock : m_locks)
+        bits |= lock.mode;
+    return bits;
+}
+
+bool DocumentLocks::isForWriting() const {
+    return (mode() & (kAutoWrite | kWrite | kProtectedWrite | kExclusiveWrite)) != 0;
 }
 
 }  // namespace workbench

@@ -1,6 +1,9 @@
 #include "workbench/editor/editor.h"
 
+#include "workbench/base/text.h"
 #include "workbench/editor/command_processor.h"
+
+#include <utility>
 
 namespace workbench {
 
@@ -23,7 +26,32 @@ void Editor::pump() {
     m_variables.announceOutsideChanges();
 }
 
+/// A document that is made while a gesture lasts has no part in it.
+void Editor::beginGesture(drawing::UndoLog::Gesture gesture) {
+    endGesture();
+    m_inGesture = m_documents.all();
+    for (Document* document : m_inGesture)
+        document->beginGesture(gesture);
+}
+
+void Editor::endGesture() {
+    for (Document* document : std::exchange(m_inGesture, {})) {
+        if (m_documents.find(document) != nullptr)
+            document->endGesture();
+    }
+}
+
+void Editor::interruptGesture() {
+    for (Document* document : m_documents.all())
+        document->interruptGesture();
+}
+
+void Editor::print(const Document& document, std::wstring_view text) {
+    m_journal.add("output", {{"text", toUtf8(text)}, {"document", toUtf8(document.name())}});
+}
+
 bool Editor::type(std::wstring_view text) {
+    interruptGesture();
     Document* document = m_documents.current();
     if (document != nullptr)
         document->processor().type(text);
@@ -55,6 +83,7 @@ bool Editor::redo() {
 }
 
 bool Editor::runNow(std::wstring_view text) {
+    interruptGesture();
     Document* document = m_documents.current();
     if (document != nullptr)
         document->processor().runNow(text);

@@ -10,6 +10,7 @@
 #include "workbench/editor/system_variables.h"
 
 #include <string_view>
+#include <vector>
 
 namespace workbench {
 
@@ -37,6 +38,11 @@ public:
     /// Runs the command text that waits in all documents, and tells of variables that were changed
     /// from outside. To be called whenever the host would come round to its command loop.
     void pump();
+    /// A gesture of the user's hand begins: what it writes, in whatever document, is one step of undo.
+    void beginGesture(drawing::UndoLog::Gesture gesture);
+    void endGesture();
+    /// Shows a text above the command line of a document: a record of the journal.
+    void print(const Document& document, std::wstring_view text);
     /// Types at the command line of the current document. False without a document.
     bool type(std::wstring_view text);
     /// Starts a command that waits for input, under any name. False without a document.
@@ -57,6 +63,7 @@ public:
 
 private:
     bool runNow(std::wstring_view text);
+    void interruptGesture();
 
     Journal& m_journal;
     Answers& m_answers;
@@ -66,6 +73,7 @@ private:
     SystemVariables m_variables{*this};
     DocumentList m_documents{*this};
     EditorObjects m_objects;
+    std::vector<Document*> m_inGesture;  // in the order of their making; not owned, may have gone
 };
 
 }  // namespace workbench

@@ -35,6 +35,7 @@ CommandDefinition defineModuleCommand(const wchar_t* group, const wchar_t* globa
     definition.globalName = globalName;
     definition.localName = localName;
     definition.transparent = (flags & kCommandTransparent) != 0;
+    definition.usesPickSet = (flags & kCommandUsePickSet) != 0;
     definition.make = [function] { return std::make_unique<ModuleCommand>(function); };
     return definition;
 }

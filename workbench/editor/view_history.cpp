@@ -2,6 +2,8 @@
 
 #include "workbench/drawing/records/view.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace workbench {
@@ -28,20 +30,57 @@ std::size_t ViewHistory::depth(ObjectId viewport) const {
 }
 
 bool ViewHistory::stepBack(ObjectId viewport) {
-    if (depth(viewport) == 0)
+    const std::size_t count = depth(viewport);
+    return count > 0 && goBack(viewport, count - 1);
+}
+
+bool ViewHistory::stepBackByZoom(ObjectId viewport) {
+    const auto found = m_histories.find(viewport);
+    if (found == m_histories.end())
         return false;
-    const Shown last = m_histories[viewport].earlier.back();
+    const drawing::ViewParameters& now = found->second.shown.view;
+    const std::vector<Shown>& earlier = found->second.earlier;
+    const auto last = std::find_if(earlier.rbegin(), earlier.rend(), [&now](const Shown& shown) {
+        return shown.view.width != now.width || shown.view.height != now.height ||
+               shown.view.lens != now.lens;
+    });
+    return last != earlier.rend() &&
+           goBack(viewport, static_cast<std::size_t>(std::next(last).base() - earlier.begin()));
+}
+
+/// Gives the view at a place of the stack back; it and those above it go.
+bool ViewHistory::goBack(ObjectId viewport, std::size_t place) {
+    const auto* const present = m_database.look<Viewport>(viewport);
+    if (present == nullptr || present->locked)
+        return false;
+    std::vector<Shown>& earlier = m_histories[viewport].earlier;
+    const Shown last = earlier[place];
     {
         drawing::Writing<Viewport> writing(m_database, viewport);
         if (!writing)
             return false;
         writing->view = last.view;
         writing->appliedView.id = isStill(last) ? last.named : ObjectId();
-        m_histories[viewport].earlier.pop_back();
+        earlier.resize(place);
         m_steppingBack = true;
     }
     m_steppingBack = false;
     return true;
+}
+
+void ViewHistory::beginGesture(drawing::UndoLog::Gesture gesture) {
+    if (m_gestures++ == 0 && gesture == drawing::UndoLog::Gesture::New)
+        interruptGesture();
+}
+
+void ViewHistory::endGesture() {
+    if (m_gestures > 0)
+        --m_gestures;
+}
+
+void ViewHistory::interruptGesture() {
+    for (auto& [viewport, history] : m_histories)
+        history.inGesture = false;
 }
 
 void ViewHistory::tell(ObjectId viewport) {
@@ -63,14 +102,22 @@ void ViewHistory::objectModified(const drawing::DbObject& object) {
     const Shown before = std::exchange(history.shown, shownIn(*viewport));
     if (before.view == viewport->view)
         return;
-    if (!m_steppingBack && !(m_quiet && history.untold)) {
+    if (isKept(history)) {
         history.earlier.push_back(before);
         if (history.earlier.size() > kMostViews)
             history.earlier.erase(history.earlier.begin());
     }
+    history.inGesture = m_gestures > 0 && !m_steppingBack;
     history.untold = true;
     if (!m_quiet)
         tell(object.id());
+}
+
+/// Whether a view that is being replaced goes on its viewport's stack.
+bool ViewHistory::isKept(const History& history) const {
+    const bool isStepOfGesture = m_gestures > 0 && history.inGesture;
+    const bool isStepOfQuiet = m_quiet && history.untold;
+    return !m_steppingBack && !isStepOfGesture && !isStepOfQuiet;
 }
 
 ViewHistory::Shown ViewHistory::shownIn(const Viewport& viewport) {

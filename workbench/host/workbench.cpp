@@ -3,11 +3,14 @@
 #include "workbench/commands/host_commands.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/bar_memory.h"
+#include "workbench/host/connections.h"
+#include "workbench/host/customization_command.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/menu/menu_host.h"
 #include "workbench/navigation/navigation_tool.h"
 #include "workbench/palettes/tool_palettes.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/toolbar/toolbar_controls.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -49,8 +52,11 @@ void Workbench::makeUnits() {
     m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
     addHostCommands(m_editor->commands());
     m_menu = std::make_unique<MenuHost>(m_options.panelFile, m_modules->libraries());
+    addCustomizationCommand(m_editor->commands(), m_menu->customization());
     m_toolPalettes = std::make_unique<ToolPalettes>(*m_menu, *m_windows);
     m_navigation = std::make_unique<NavigationTool>(*m_editor, *m_modules, m_journal);
+    m_toolbarControls = std::make_unique<ToolbarControls>(*m_toolkit, *m_editor, *m_menu);
+    connectUnits(*this);
 }
 
 /// Unloads what is still loaded while all units live, then ends them in the opposite order of their
@@ -58,6 +64,9 @@ void Workbench::makeUnits() {
 void Workbench::endUnits() {
     if (m_modules != nullptr)
         m_modules->unloadAll();
+    if (m_toolkit != nullptr)
+        disconnectUnits(*m_toolkit);
+    m_toolbarControls.reset();
     m_navigation.reset();
     m_toolPalettes.reset();
     m_menu.reset();

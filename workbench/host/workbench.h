@@ -21,8 +21,12 @@ class ModuleLoader;
 class NavigationTool;
 class ProfileStore;
 class Toolkit;
+class ToolbarControls;
 class ToolPalettes;
 class WindowSystem;
+
+/// The file name of the dashboard's module.
+inline constexpr const wchar_t* kDashboardModule = L"VxDashboard.qlx";
 
 /// What a workbench is started with.
 struct WorkbenchOptions {
@@ -78,6 +82,7 @@ public:
     MenuHost& menu() { return *m_menu; }
     ToolPalettes& toolPalettes() { return *m_toolPalettes; }
     NavigationTool& navigation() { return *m_navigation; }
+    ToolbarControls& toolbarControls() { return *m_toolbarControls; }
 
 private:
     [[noreturn]] static void complainOfNone();
@@ -103,6 +108,7 @@ private:
     std::unique_ptr<MenuHost> m_menu;
     std::unique_ptr<ToolPalettes> m_toolPalettes;
     std::unique_ptr<NavigationTool> m_navigation;
+    std::unique_ptr<ToolbarControls> m_toolbarControls;
 };
 
 }  // namespace workbench

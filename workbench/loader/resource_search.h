@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace workbench {
@@ -26,13 +27,17 @@ public:
     void detach(AFX_EXTENSION_MODULE& record);
     std::size_t attachedCount() const { return m_chain.size(); }
 
-    /// A string of the current library by its number; nothing if it has none.
+    /// A string by its number: of the current library, or else of the attached ones, the one that was
+    /// attached last first. Of an attached one that is where its record says its resources are, or, if
+    /// it says nothing, the library itself. Nothing if none of them has it.
     std::optional<std::wstring> string(UINT number);
 
     /// The strings that were handed out.
     const StringTrace& trace() const { return m_trace; }
 
 private:
+    std::optional<std::string_view> find(UINT number);
+
     LibraryTable& m_libraries;
     HINSTANCE m_current = nullptr;
     std::vector<const AFX_EXTENSION_MODULE*> m_chain;  // not owned

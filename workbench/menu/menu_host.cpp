@@ -27,6 +27,13 @@ void MenuHost::reload() {
     freeResourceModules();
 }
 
+bool MenuHost::switchWorkspace(std::string_view name) {
+    const bool known = m_menu->workspaces.switchTo(name);
+    if (known && m_onWorkspace)
+        m_onWorkspace();
+    return known;
+}
+
 std::wstring MenuHost::labelOf(const VxToolPanelItemData* record) const {
     const MenuItem* const item = m_menu->records.itemOf(record);
     return item == nullptr ? std::wstring() : toWide(item->name);

@@ -9,10 +9,12 @@
 #include <hostapi/zorq/menu_data.h>
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace workbench {
 
@@ -39,7 +41,9 @@ public:
     std::wstring labelOf(const VxToolPanelItemData* record) const;
 
     /// Makes a workspace current and asks the panels to follow. False for an unknown name.
-    bool switchWorkspace(std::string_view name) { return m_menu->workspaces.switchTo(name); }
+    bool switchWorkspace(std::string_view name);
+    /// Is told of each switch of the workspace; empty: nobody is.
+    void setOnWorkspace(std::function<void()> switched) { m_onWorkspace = std::move(switched); }
 
     /// The resource module of a menu group, loaded at the first question. Null if the group is
     /// unknown or names none, or while it cannot be found.
@@ -61,6 +65,7 @@ private:
     std::unique_ptr<Menu> m_menu;
     std::map<std::string, HINSTANCE, std::less<>> m_resourceModules;  // by file, counted once each
     CustomizationDialog m_customization;
+    std::function<void()> m_onWorkspace;
 };
 
 }  // namespace workbench

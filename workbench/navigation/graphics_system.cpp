@@ -7,6 +7,8 @@
 #include "workbench/editor/document_list.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
 
 namespace workbench {
 
@@ -29,6 +31,42 @@ bool isShownFlat(const Document& document, const Viewport& viewport) {
     const auto* style = document.data().look<VisualStyle>(viewport.visualStyle);
     return style == nullptr || style->flat;
 }
+
+/// Gives a viewport the view back that it had when this was made.
+class RecordedView final : public drawing::UndoRecord {
+public:
+    RecordedView(drawing::Database& database, drawing::ObjectId viewport)
+        : m_database(database),
+          m_viewport(viewport),
+          m_other(shown()) {}
+
+    void exchange() override {
+        const Shown present = shown();
+        if (present == m_other)
+            return;
+        drawing::Writing<Viewport> writing(m_database, m_viewport);
+        if (!writing)
+            return;
+        writing->view = m_other.view;
+        writing->appliedView = m_other.applied;
+        m_other = present;
+    }
+
+private:
+    struct Shown {
+        drawing::ViewParameters view;
+        drawing::Ref<drawing::RecordKind::View> applied;
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+    Shown shown() const {
+        const auto& viewport = *m_database.look<Viewport>(m_viewport);
+        return {viewport.view, viewport.appliedView};
+    }
+
+    drawing::Database& m_database;  // owns the log, which owns this
+    drawing::ObjectId m_viewport;
+    Shown m_other;
+};
 
 }  // namespace
 
@@ -146,7 +184,12 @@ bool GraphicsSystem::setLens(int viewportNumber, double lens) {
 }
 
 void GraphicsSystem::beginUndoStep(int viewportNumber) {
-    m_undoStep = UndoStep{findViewport(viewportNumber)};
+    const drawing::ObjectId viewport = findViewport(viewportNumber);
+    m_undoStep.reset();
+    if (lookAt(m_documents, viewport) == nullptr)
+        return;
+    drawing::Database& database = m_documents.findBySerial(viewport.database())->data();
+    m_undoStep = UndoStep{viewport, std::make_unique<RecordedView>(database, viewport)};
 }
 
 const drawing::ViewParameters* GraphicsSystem::viewOf(drawing::ObjectId viewport) const {
@@ -165,9 +208,12 @@ bool GraphicsSystem::changeView(drawing::ObjectId viewport, const drawing::ViewP
     drawing::UndoLog& log = database.undoLog();
     const std::size_t groupBefore = log.lastGroup();
     {
+        const drawing::UndoGroup group(log, std::string());
         drawing::Writing<Viewport> writing(database, viewport);
         if (!writing)
             return false;
+        if (isOfUndoStep(viewport) && m_undoStep->recorded != nullptr)
+            log.add(std::move(m_undoStep->recorded));
         writing->view = view;
         writing->appliedView = {};
         document.viewHistory().setQuiet(true);
@@ -177,10 +223,14 @@ bool GraphicsSystem::changeView(drawing::ObjectId viewport, const drawing::ViewP
     return true;
 }
 
+bool GraphicsSystem::isOfUndoStep(drawing::ObjectId viewport) const {
+    return m_undoStep && m_undoStep->viewport == viewport;
+}
+
 void GraphicsSystem::joinUndoStep(drawing::ObjectId viewport, drawing::UndoLog& log,
                                   std::size_t groupBefore) {
     // Without a group of its own the change belongs to the command that is running.
-    if (!m_undoStep || m_undoStep->viewport != viewport || log.lastGroup() == groupBefore)
+    if (!isOfUndoStep(viewport) || log.lastGroup() == groupBefore)
         return;
     if (m_undoStep->group != 0 && m_undoStep->group == groupBefore)
         log.joinLastTwo();

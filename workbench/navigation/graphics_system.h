@@ -87,8 +87,8 @@ public:
     std::optional<double> lens(int viewportNumber) const;
     /// Sets it; nobody is told. False without such a viewport and for a lens that isn't above 0.
     bool setLens(int viewportNumber, double lens);
-    /// What is changed of a viewport's view from now on, up to the next call, is taken back by one
-    /// undo, unless something else is changed in between.
+    /// Records a viewport's view: what is changed of it from now on, up to the next call, is taken back
+    /// by one undo, which gives the recorded view back, unless something else is changed in between.
     void beginUndoStep(int viewportNumber);
 
     /// What a viewport shows; null for none.
@@ -109,10 +109,12 @@ private:
     /// The changes of one view that one undo takes back.
     struct UndoStep {
         drawing::ObjectId viewport;
+        std::unique_ptr<drawing::UndoRecord> recorded;  // null once the log has it
         std::size_t group = 0;  // of the drawing's undo log; 0: nothing has changed yet
     };
 
     drawing::ObjectId findViewport(int number) const;
+    bool isOfUndoStep(drawing::ObjectId viewport) const;
     void joinUndoStep(drawing::ObjectId viewport, drawing::UndoLog& log, std::size_t groupBefore);
     TemporaryView* findTemporary(const VxGsView* view) const;
     const ParameterView* findOwn(const VxGsView* view) const;

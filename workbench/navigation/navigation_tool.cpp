@@ -7,6 +7,8 @@
 #include "workbench/loader/module_loader.h"
 #include "workbench/navigation/navigation_commands.h"
 
+#include <utility>
+
 namespace workbench {
 
 namespace {
@@ -53,6 +55,9 @@ bool NavigationTool::start(int mode) {
     // The host's module of the tools comes with the first of them; without it the tool runs bare.
     m_modules.loadModule(L"VxVmTools.qlx");
     m_tool.emplace(mode);
+    m_started = m_editor.documents().current();
+    if (m_started != nullptr)
+        m_started->beginGesture();
     noteMode();
     return true;
 }
@@ -61,6 +66,12 @@ void NavigationTool::stop() {
     if (!isRunning())
         return;
     m_tool.reset();
+    if (m_editor.documents().find(m_started) != nullptr)
+        m_started->endGesture();
+    m_started = nullptr;
+    m_recorded.clear();
+    if (m_animation != AnimationState::None)
+        setAnimation(AnimationState::None);
     noteMode();
 }
 
@@ -92,11 +103,19 @@ std::optional<drawing::ViewParameters> NavigationTool::shown() const {
 
 void NavigationTool::show(const drawing::ViewParameters& view, drawing::ObjectId named) {
     drawing::Database& database = m_editor.documents().current()->data();
-    drawing::Writing<Viewport> writing(database, drawing::activeViewport(database));
-    if (!writing)
+    const drawing::ObjectId viewport = drawing::activeViewport(database);
+    const auto* const present = database.look<Viewport>(viewport);
+    if (present == nullptr || present->locked)
         return;
-    writing->view = view;
-    writing->appliedView.id = named;
+    {
+        drawing::Writing<Viewport> writing(database, viewport);
+        if (!writing)
+            return;
+        writing->view = view;
+        writing->appliedView.id = named;
+    }
+    if (m_animation == AnimationState::Recording)
+        m_recorded.push_back(view);
 }
 
 void NavigationTool::setLens(double lens) {
@@ -151,8 +170,12 @@ void NavigationTool::aim(const drawing::Vec3& eye, const drawing::Vec3& target) 
 }
 
 void NavigationTool::recordAnimation() {
-    if (isRunning())
-        setAnimation(AnimationState::Recording);
+    const std::optional<drawing::ViewParameters> view = shown();
+    if (!isRunning())
+        return;
+    if (m_recorded.empty() && view)
+        m_recorded.push_back(*view);
+    setAnimation(AnimationState::Recording);
 }
 
 void NavigationTool::pauseRecording() {
@@ -161,8 +184,17 @@ void NavigationTool::pauseRecording() {
 }
 
 void NavigationTool::playAnimation() {
-    if (m_animation != AnimationState::None)
-        setAnimation(AnimationState::Playing);
+    if (m_animation == AnimationState::None || m_animation == AnimationState::Playing)
+        return;
+    setAnimation(AnimationState::Playing);
+    // Who hears of the views may stop the tool, which ends the play.
+    const std::vector<drawing::ViewParameters> views = m_recorded;
+    for (const drawing::ViewParameters& view : views) {
+        if (m_animation == AnimationState::Playing && shown())
+            show(view);
+    }
+    if (m_animation == AnimationState::Playing)
+        setAnimation(AnimationState::Paused);
 }
 
 void NavigationTool::saveAnimation() {
@@ -179,6 +211,10 @@ void NavigationTool::showAnimationSettings() {
 void NavigationTool::setAnimation(AnimationState state) {
     m_animation = state;
     m_journal.add("navigation", {{"animation", nameOf(state)}});
+}
+
+void NavigationTool::noteFunction(const char* name, Value::List arguments) {
+    m_journal.add("navigation", {{"function", name}, {"args", std::move(arguments)}});
 }
 
 void NavigationTool::showDialog(const char* name) {

@@ -5,10 +5,13 @@
 #include "workbench/navigation/graphics_system.h"
 #include "workbench/navigation/tool.h"
 
+#include <cstddef>
 #include <optional>
+#include <vector>
 
 namespace workbench {
 
+class Document;
 class Editor;
 class ModuleLoader;
 
@@ -48,7 +51,8 @@ public:
     /// What kind of navigation runs: 0 none, 1 orbiting and its like, 2 walking or flying.
     int activity() const;
 
-    /// Starts the tool. False if it runs already.
+    /// Starts the tool. False if it runs already. What it does to a view up to its stop is one step of
+    /// the viewport's history.
     bool start(int mode);
     void stop();
     /// Changes the mode of the running tool, or its view's projection; nothing while none runs.
@@ -56,7 +60,8 @@ public:
     /// Shows the settings of walking and flying.
     void showWalkSettings();
 
-    // What the running tool does with the current viewport's view; the host is told of the change.
+    // What the running tool does with the current viewport's view, unless that is locked; the host is
+    // told of the change.
 
     /// Millimetres; nothing for a lens that isn't above 0.
     void setLens(double lens);
@@ -68,15 +73,23 @@ public:
     void moveTarget(const drawing::Vec3& target);
 
     AnimationState animation() const { return m_animation; }
-    /// Starts recording, or goes on with it.
+    /// Starts recording, or goes on with it; nothing while no tool runs. The views that the tool shows
+    /// meanwhile are recorded, until it stops: then all of them are forgotten.
     void recordAnimation();
     /// Pauses the recording; nothing while none is under way.
     void pauseRecording();
-    /// Plays what was recorded; nothing if nothing was.
+    /// Shows the recorded views one after the other, to the last one, and is paused then. Nothing if
+    /// nothing was recorded.
     void playAnimation();
     /// Asks where what was recorded is to be saved; nothing if nothing was.
     void saveAnimation();
     void showAnimationSettings();
+
+    /// How many views are recorded.
+    std::size_t recordedViews() const { return m_recorded.size(); }
+
+    /// Notes in the journal that a module had one of the tool's functions called.
+    void noteFunction(const char* name, Value::List arguments = {});
 
     GraphicsSystem& graphics() { return m_graphics; }
 
@@ -95,7 +108,10 @@ private:
     Journal& m_journal;
     GraphicsSystem m_graphics;
     std::optional<CTool> m_tool;  // nothing: none runs
+    Document* m_started =
+        nullptr;  // the document it was started in, which may have gone; null: none
     AnimationState m_animation = AnimationState::None;
+    std::vector<drawing::ViewParameters> m_recorded;  // in the order in which they were shown
 };
 
 }  // namespace workbench

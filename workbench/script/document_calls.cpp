@@ -1,6 +1,7 @@
 #include "workbench/base/text.h"
 #include "workbench/base/turn.h"
 #include "workbench/drawing/path_access.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/script/calls.h"
 #include "workbench/script/lua_values.h"
@@ -61,8 +62,14 @@ int activate(Session& session, Arguments& arguments) {
     return 0;
 }
 
+/// A command at work stands on its document; one that only waits is cancelled.
 int close(Session& session, Arguments& arguments) {
-    editor(session).documents().close(documentNamed(session, arguments.text(1)));
+    const std::string name = arguments.text(1);
+    Document& document = documentNamed(session, name);
+    if (document.processor().isAtWork())
+        throw ScriptError("the document \"" + name + "\" can't be closed while its command " +
+                          toUtf8(document.processor().activeNames()) + " is at work");
+    editor(session).documents().close(document);
     session.settle();
     return 0;
 }

@@ -1,4 +1,5 @@
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/script/calls.h"
 #include "workbench/script/exported_calls.h"
@@ -33,6 +34,8 @@ int load(Session& session, Arguments& arguments) {
 }
 
 int unload(Session& session, Arguments& arguments) {
+    if (Turn::isUnderWay())
+        throw ScriptError("the module can't be unloaded from inside one of its calls");
     return finish(session, arguments, session.workbench().modules().unloadModule(kDashboardModule));
 }
 

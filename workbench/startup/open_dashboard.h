@@ -6,9 +6,6 @@
 
 namespace workbench {
 
-/// The file name of the dashboard's module.
-inline constexpr const wchar_t* kDashboardModule = L"VxDashboard.qlx";
-
 /// Runs what is posted and typed until nothing is left.
 void letHostRun(Workbench& workbench);
 /// Loads the dashboard's module. Throws `InputError` if it can't be loaded.

@@ -48,7 +48,7 @@ Zorq::ErrorStatus DocumentList::lockDocument(VxApDocument* document, int mode,
     Document* locked = find(document);
     if (locked == nullptr)
         return call.returns(kNoDocument);
-    return call.returns(locked->locks().lock(mode) ? Zorq::eOk : kInvalidInput);
+    return call.returns(locked->locks().lock(mode, this) ? Zorq::eOk : kInvalidInput);
 }
 
 Zorq::ErrorStatus DocumentList::unlockDocument(VxApDocument* document) {
@@ -58,7 +58,7 @@ Zorq::ErrorStatus DocumentList::unlockDocument(VxApDocument* document) {
     Document* locked = find(document);
     if (locked == nullptr)
         return call.returns(kNoDocument);
-    return call.returns(locked->locks().unlock() ? Zorq::eOk : kNoLock);
+    return call.returns(locked->locks().unlock(this) ? Zorq::eOk : kNoLock);
 }
 
 Zorq::ErrorStatus DocumentList::sendToCommandLine(VxApDocument* document, const wchar_t* text,
@@ -87,7 +87,7 @@ VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {database, mode});
     workbench::Document* document =
         workbench::Workbench::current().editor().documents().find(database);
-    if (!call.failed() && document != nullptr && document->locks().lock(mode))
+    if (!call.failed() && document != nullptr && document->locks().lock(mode, this))
         m_document = document;
 }
 
@@ -96,5 +96,5 @@ VxAxDocLock::~VxAxDocLock() {
     workbench::Document* document =
         workbench::Workbench::current().editor().documents().find(m_document);
     if (document != nullptr)
-        document->locks().unlock();
+        document->locks().unlock(this);
 }

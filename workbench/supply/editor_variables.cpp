@@ -25,6 +25,15 @@ std::optional<workbench::Faults::Fault> takeFaultOf(const char* call,
     return faults.take(std::string(call) + ":" + workbench::toUtf8(variable.name));
 }
 
+/// Whether a write of a variable would change the current drawing, for which nobody has locked it.
+bool needsLock(const VariableDefinition& variable) {
+    using enum workbench::VariableHome;
+    const workbench::Document* const document = Workbench::current().editor().documents().current();
+    const bool isInDrawing =
+        variable.home == Drawing || variable.home == Record || variable.home == Viewport;
+    return isInDrawing && document != nullptr && !document->locks().isForWriting();
+}
+
 }  // namespace
 
 int vxedGetVar(const wchar_t* name, VxResultBuffer* result) {
@@ -53,6 +62,10 @@ int vxedSetVar(const wchar_t* name, const VxResultBuffer* value) {
     if (call.failed() || fault) {
         variables.failToWrite(*variable);
         return call.returns(fault ? fault->status.value_or(kRtError) : call.status(kRtError));
+    }
+    if (needsLock(*variable)) {
+        variables.failToWrite(*variable);
+        return call.returns(kRtError);
     }
     const bool stored = variables.write(*variable, written, workbench::VariableWriter::Program);
     return call.returns(stored ? kRtNorm : kRtError);

@@ -21,9 +21,11 @@ workbench::GraphicsSystem& graphics() {
     return Workbench::current().navigation().graphics();
 }
 
-void stepBack() {
-    if (workbench::Document* document = currentDocument())
-        document->viewHistory().stepBack(workbench::drawing::activeViewport(document->data()));
+/// Steps the active viewport back; nothing in a drawing that isn't locked for writing.
+void stepBack(bool (workbench::ViewHistory::*step)(workbench::drawing::ObjectId)) {
+    workbench::Document* const document = currentDocument();
+    if (document != nullptr && document->locks().isForWriting())
+        (document->viewHistory().*step)(workbench::drawing::activeViewport(document->data()));
 }
 
 /// The viewport in which the user works; null for none.
@@ -153,11 +155,11 @@ bool vxInternalIsCurVPZoomUndoAvailable() {
 void vxInternalZoomPrevious() {
     HostCall call("vxInternalZoomPrevious");
     if (!call.failed())
-        stepBack();
+        stepBack(&workbench::ViewHistory::stepBack);
 }
 
 void vxInternalZoomBack() {
     HostCall call("vxInternalZoomBack");
     if (!call.failed())
-        stepBack();
+        stepBack(&workbench::ViewHistory::stepBackByZoom);
 }

@@ -48,6 +48,12 @@ std::optional<workbench::PngPicture> iconPicture(HINSTANCE library, UINT number)
     return std::nullopt;
 }
 
+/// Whether a fault was asked for one resource only, as "LoadString:1203".
+bool takesFaultOf(const char* call, UINT number) {
+    workbench::Faults& faults = Workbench::current().faults();
+    return faults.isAnyPending() && faults.take(std::string(call) + ":" + std::to_string(number));
+}
+
 }  // namespace
 
 HINSTANCE LoadLibrary(const wchar_t* fileName) {
@@ -105,7 +111,7 @@ void AfxSetResourceHandle(HINSTANCE library) {
 
 BOOL LoadString(UINT number, VxString& text) {
     HostCall call("LoadString", {number});
-    if (call.failed())
+    if (call.failed() || takesFaultOf("LoadString", number))
         return call.returns<BOOL>(0);
     std::optional<std::wstring> found = loader().resources().string(number);
     if (!found)

@@ -1,24 +1,15 @@
 #include "workbench/core/host_call.h"
-#include "workbench/supply/qrui_window.h"
-#include "workbench/toolbar/toolbar_window.h"
+#include "workbench/host/workbench.h"
+#include "workbench/toolbar/toolbar_controls.h"
 
 #include <hostapi/qrui18/toolbar_control.h>
-
-namespace {
-
-workbench::ToolbarScope scope() {
-    workbench::Workbench& workbench = workbench::Workbench::current();
-    return {workbench.editor(), workbench.menu()};
-}
-
-}  // namespace
 
 CWnd* getVxToolbarControl(CWnd* parent, const CRect& rect, UINT id) {
     workbench::HostCall call("getVxToolbarControl", {static_cast<const void*>(parent), rect.left,
                                                      rect.top, rect.right, rect.bottom, id});
-    CWnd* control = call.failed() ? nullptr
-                                  : workbench::makeToolbarWindow(workbench::supply::toolkit(),
-                                                                 scope(), parent, rect, id);
+    CWnd* control = call.failed()
+                        ? nullptr
+                        : workbench::Workbench::current().toolbarControls().make(parent, rect, id);
     return call.returns(control);
 }
 
@@ -30,7 +21,7 @@ int HandleToolbarComboMessage(UINT id, UINT notification, WPARAM wParam, LPARAM 
         return call.returns(call.status(0));
     }
     // A command of no control of the host is taken too: nobody else waits for it.
-    workbench::handleToolbarNotice(workbench::supply::windows(), scope(),
-                                   reinterpret_cast<HWND>(lParam), id, notification);
+    workbench::Workbench::current().toolbarControls().handle(reinterpret_cast<HWND>(lParam), id,
+                                                             notification);
     return call.returns(1);
 }

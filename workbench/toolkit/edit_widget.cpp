@@ -28,6 +28,22 @@ void EditWidget::selectAll(Window& window) {
     m_toolkit.windows().invalidate(window.handle);
 }
 
+/// From one place to another, both counted from 0, -1 the end; from -1 nothing is selected.
+void EditWidget::select(Window& window, int first, int last) {
+    constexpr int kEnd = -1;
+    const std::size_t end = editor(window).text().size();
+    const auto placeOf = [end](int place) {
+        return place < 0 ? end : static_cast<std::size_t>(place);
+    };
+    if (first == kEnd) {
+        m_editor.moveTo(m_editor.caret(), false);
+    } else {
+        m_editor.moveTo(placeOf(first), false);
+        m_editor.moveTo(placeOf(last), true);
+    }
+    m_toolkit.windows().invalidate(window.handle);
+}
+
 bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                         LRESULT& /*answer*/) {
     switch (message) {
@@ -38,8 +54,7 @@ bool EditWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPar
         selectAll(window);
         return true;
     case EM_SETSEL:
-        // The one selection that is asked for is that of all.
-        selectAll(window);
+        select(window, static_cast<int>(wParam), static_cast<int>(lParam));
         return true;
     case EM_SCROLLCARET:
         return true;

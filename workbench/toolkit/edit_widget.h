@@ -37,6 +37,7 @@ public:
     int naturalHeight(const Window& window, int width) const override;
 
 private:
+    void select(Window& window, int first, int last);
     void press(Window& window, CPoint point);
     void character(Window& window, wchar_t character);
     bool key(Window& window, WPARAM key);

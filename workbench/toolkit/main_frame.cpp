@@ -4,6 +4,7 @@
 #include "workbench/toolkit/dock_layout.h"
 #include "workbench/toolkit/reparent.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/toolkit/typing_widget.h"
 
 #include <algorithm>
 
@@ -45,11 +46,11 @@ MainFrame::MainFrame(Toolkit& toolkit)
       m_windows(toolkit.windows()),
       m_sets(toolkit.paletteSets()),
       m_tools(toolkit.tools()) {
-    makeWindow(m_frame, "CFrameWnd", "", 0);
-    makeWindow(m_drawingView, "DrawingView", "DrawingView", 0);
-    makeWindow(m_commandLine, "CommandLine", "CommandLine", 0);
-    makeWindow(m_leftDock, "CDockBar", "", kLeftDockBar);
-    makeWindow(m_rightDock, "CDockBar", "", kRightDockBar);
+    makePlainWindow(m_frame, "CFrameWnd", 0);
+    makeTypingWindow(m_drawingView, "DrawingView");
+    makeTypingWindow(m_commandLine, "CommandLine");
+    makePlainWindow(m_leftDock, "CDockBar", kLeftDockBar);
+    makePlainWindow(m_rightDock, "CDockBar", kRightDockBar);
     layout();
     m_windows.setFocus(m_drawingView.m_hWnd);
 }
@@ -59,7 +60,18 @@ MainFrame::~MainFrame() {
     m_windows.life().abandonAll();
 }
 
-void MainFrame::makeWindow(CWnd& object, const char* className, const char* name, UINT id) {
+void MainFrame::makePlainWindow(CWnd& object, const char* className, UINT id) {
+    makeWindow(object, className, id, std::make_unique<ClickFocusWidget>(m_toolkit));
+}
+
+/// The window's class is its name too.
+void MainFrame::makeTypingWindow(CWnd& object, const char* className) {
+    makeWindow(object, className, 0, std::make_unique<TypingWidget>(m_toolkit, m_onTyped));
+    m_windows.setName(object.m_hWnd, className);
+}
+
+void MainFrame::makeWindow(CWnd& object, const char* className, UINT id,
+                           std::unique_ptr<Widget> widget) {
     WindowCreation creation;
     creation.className = className;
     creation.style = WS_VISIBLE;
@@ -68,10 +80,8 @@ void MainFrame::makeWindow(CWnd& object, const char* className, const char* name
     creation.id = static_cast<int>(id);
     if (creation.parent != nullptr)
         creation.style |= WS_CHILD;
-    creation.widget = std::make_unique<ClickFocusWidget>(m_toolkit);
+    creation.widget = std::move(widget);
     m_windows.create(object, std::move(creation));
-    if (*name != '\0')
-        m_windows.setName(object.m_hWnd, name);
 }
 
 CFrameWnd* MainFrame::frameOf(const CQrUiPaletteSet& set) {
@@ -98,6 +108,7 @@ void MainFrame::add(CQrUiPaletteSet& set) {
 
 void MainFrame::forget(CQrUiPaletteSet& set) {
     std::erase(m_bars, &set);
+    tellShown(set, false);
     const auto floating = m_floating.find(&set);
     if (floating == m_floating.end())
         return;
@@ -189,6 +200,14 @@ void MainFrame::show(CQrUiPaletteSet& set, bool shown, bool delay) {
     m_windows.show(window, shown);
     if (!delay)
         layout();
+    // Shown or hidden, its controls may have ended it.
+    if (m_windows.find(window) != nullptr)
+        tellShown(set, shown);
+}
+
+void MainFrame::tellShown(const CQrUiPaletteSet& set, bool shown) const {
+    if (m_onShown)
+        m_onShown(set, shown);
 }
 
 void MainFrame::close(CQrUiPaletteSet& set) {

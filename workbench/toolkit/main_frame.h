@@ -5,14 +5,17 @@
 #include "workbench/toolkit/object_states.h"
 #include "workbench/toolkit/state_table.h"
 #include "workbench/toolkit/tool_registry.h"
+#include "workbench/toolkit/typing_widget.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18/palette_set.h>
 #include <hostapi/window/frame.h>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace workbench {
@@ -38,6 +41,11 @@ public:
     CFrameWnd& frame() { return m_frame; }
     CWnd& drawingView() { return m_drawingView; }
     CWnd& commandLine() { return m_commandLine; }
+    /// Is told what is typed where typing goes to the command line; empty: it is lost.
+    void setOnTyped(TypingWidget::Typed typed) { m_onTyped = std::move(typed); }
+    /// Is told of each palette set that is shown, hidden or ended, also if it was so before.
+    using Shown = std::function<void(const CQrUiPaletteSet& set, bool shown)>;
+    void setOnShown(Shown shown) { m_onShown = std::move(shown); }
     /// The palette sets with a window, in order of creation.
     const std::vector<CQrUiPaletteSet*>& bars() const { return m_bars; }
     /// The frame that a set is docked in or floats in; null before it was placed.
@@ -78,7 +86,10 @@ public:
     void layout();
 
 private:
-    void makeWindow(CWnd& object, const char* className, const char* name, UINT id);
+    void makePlainWindow(CWnd& object, const char* className, UINT id);
+    void makeTypingWindow(CWnd& object, const char* className);
+    void makeWindow(CWnd& object, const char* className, UINT id, std::unique_ptr<Widget> widget);
+    void tellShown(const CQrUiPaletteSet& set, bool shown) const;
     bool isEdgeAllowed(const CQrUiPaletteSet& set, Edge edge) const;
     void stand(CQrUiPaletteSet& set);
     void showPalettes(CQrUiPaletteSet& set);
@@ -89,6 +100,8 @@ private:
     WindowSystem& m_windows;
     SetStates& m_sets;
     ToolRegistry& m_tools;
+    TypingWidget::Typed m_onTyped;  // empty: what is typed is lost
+    Shown m_onShown;                // empty: nobody is told
     CFrameWnd m_frame;
     CWnd m_drawingView;
     CWnd m_commandLine;

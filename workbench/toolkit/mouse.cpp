@@ -7,6 +7,7 @@
 #include "workbench/toolkit/toolkit.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace workbench {
 
@@ -34,12 +35,40 @@ bool Mouse::move(HWND window, CPoint point, WPARAM held) {
 bool Mouse::press(HWND window, CPoint point) {
     noteOver(window, point);
     hideTips();
+    m_turnedOver = nullptr;
+    beginGesture(Begin::New);
     giveFocusBackOnPress(m_toolkit, window);
-    return send(window, kLeftButtonDown, kLeftButtonHeld | heldKeys(), point);
+    const bool taken = send(window, kLeftButtonDown, kLeftButtonHeld | heldKeys(), point);
+    if (!taken)
+        endGesture();
+    return taken;
 }
 
 bool Mouse::release(HWND window, CPoint point) {
-    return send(window, kLeftButtonUp, heldKeys(), point);
+    const bool taken = send(window, kLeftButtonUp, heldKeys(), point);
+    endGesture();
+    return taken;
+}
+
+void Mouse::beginGesture(Begin begin) {
+    // A press whose release went elsewhere is over.
+    endGesture();
+    m_inGesture = true;
+    if (m_gestureEvents.began)
+        m_gestureEvents.began(begin);
+}
+
+void Mouse::endGesture() {
+    if (std::exchange(m_inGesture, false) && m_gestureEvents.ended)
+        m_gestureEvents.ended();
+}
+
+Mouse::Begin Mouse::turnOver(HWND window) {
+    const std::int64_t now = m_windows.timers().now();
+    const bool continues = window == m_turnedOver && now <= m_turnedUntil;
+    m_turnedOver = window;
+    m_turnedUntil = now + kWheelRest;
+    return continues ? Begin::Continue : Begin::New;
 }
 
 bool Mouse::doubleClick(HWND window, CPoint point) {
@@ -56,7 +85,13 @@ bool Mouse::contextMenu(HWND window, CPoint point) {
 
 bool Mouse::wheel(HWND window, CPoint point, int notches) {
     const auto turn = static_cast<UINT>(notches * kWheelStep) & 0xffffU;
-    return send(window, kMouseWheel, MAKELONG(0, turn), point);
+    const bool isGesture = !m_inGesture;
+    if (isGesture)
+        beginGesture(turnOver(window));
+    const bool taken = send(window, kMouseWheel, MAKELONG(0, turn), point);
+    if (isGesture)
+        endGesture();
+    return taken;
 }
 
 void Mouse::leave() {

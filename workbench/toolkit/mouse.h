@@ -4,6 +4,10 @@
 
 #include <hostapi/window.h>
 
+#include <cstdint>
+#include <functional>
+#include <utility>
+
 namespace workbench {
 
 class Toolkit;
@@ -12,8 +16,20 @@ class Toolkit;
 /// get none. While a window holds the mouse all moves and releases go to it.
 class Mouse {
 public:
+    /// How a gesture begins: as one of its own, or as another turn of the same wheel.
+    enum class Begin { New, Continue };
+    /// Told of each gesture: from press to release, or a turn of the wheel.
+    struct GestureEvents {
+        std::function<void(Begin)> began;
+        std::function<void()> ended;
+    };
+    /// A turn continues the one before on the same window if it comes no later, in milliseconds.
+    static constexpr std::int64_t kWheelRest = 500;
+
     /// A part of the toolkit, of which it asks only later.
     explicit Mouse(Toolkit& toolkit);
+
+    void setGestureEvents(GestureEvents events) { m_gestureEvents = std::move(events); }
 
     /// The deepest window on screen at a client point of a window, the window itself if there is
     /// none deeper. `point` is changed to that window's client coordinates.
@@ -44,12 +60,20 @@ private:
     WPARAM heldKeys() const;
     bool send(HWND window, UINT message, WPARAM wParam, CPoint point);
     void noteOver(HWND window, CPoint point);
+    void beginGesture(Begin begin);
+    void endGesture();
+    /// Notes a turn of the wheel over a window.
+    Begin turnOver(HWND window);
 
     Toolkit& m_toolkit;
     WindowSystem& m_windows;
     HWND m_over = nullptr;      // null: over none of ours
     CPoint m_point;             // in its client area
     HWND m_captured = nullptr;  // null: no window holds the mouse
+    GestureEvents m_gestureEvents;
+    bool m_inGesture = false;
+    HWND m_turnedOver = nullptr;     // null: something else was done since the wheel was turned
+    std::int64_t m_turnedUntil = 0;  // when that run of the wheel is over
 };
 
 }  // namespace workbench

@@ -33,6 +33,7 @@ public:
     /// Stops all timers of a window that is gone.
     void windowEnded(HWND window);
 
+    std::int64_t now() const { return m_clock.now(); }
     /// When the next timer fires, on the clock; nothing while none runs.
     std::optional<std::int64_t> nextDue() const;
     /// Advances the clock by milliseconds; posted messages and timers run at their times, in order.

@@ -16,7 +16,7 @@ public:
     void SetSliderLineSize(int positions);
     /// Adds a tick mark.
     void SetSliderTick(int position);
-    /// Moves the thumb; a position outside the range goes to its nearer end.
+    /// Moves the thumb; told a position outside the range, it stands at the nearer end.
     void SetSliderPos(int position);
     int GetSliderPos() const;
     /// The bits of how the slider looks.

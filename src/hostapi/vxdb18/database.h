@@ -106,5 +106,6 @@ public:
     virtual Zorq::ErrorStatus getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) = 0;
 };
 
-/// Opens an object. On status 0 the object is handed out, to be closed by the caller.
+/// Opens an object. On status 0 the object is handed out, to be closed by the caller. It can't be
+/// opened for writing while its document is not locked for that (`VxApDocManager::lockDocument`).
 Zorq::ErrorStatus vxdbOpenObject(VxDbObject*& object, VxDbObjectId id, VxDbOpenMode mode);

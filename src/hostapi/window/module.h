@@ -17,12 +17,13 @@ DWORD GetLastError();
 /// Sets the thread's last error.
 void SetLastError(DWORD error);
 
-/// The library that `LoadString` takes its strings from.
+/// The library that `LoadString` looks through first.
 HINSTANCE AfxGetResourceHandle();
-/// Sets the library that `LoadString` takes its strings from.
+/// Sets the library that `LoadString` looks through first.
 void AfxSetResourceHandle(HINSTANCE library);
-/// A string of the current resource library by its number. Returns 0, and leaves `text` alone, if
-/// the library has none of that number.
+/// A string by its number: of the current resource library, or else of the libraries in the search
+/// chain, the one that was attached last first. Returns 0, and leaves `text` alone, if none of them has
+/// one of that number.
 BOOL LoadString(UINT number, VxString& text);
 /// An icon of a library by its number at its natural size, owned by the caller; null if it has
 /// none.

@@ -71,11 +71,15 @@ public:
     virtual void addReactor(VxApDocManagerReactor* reactor) = 0;
     virtual void removeReactor(VxApDocManagerReactor* reactor) = 0;
     /// Locks a document in a mode (4 is write) for a command of these names; prompts the user on a
-    /// conflict if `prompt`. 0 on success.
+    /// conflict if `prompt`. 0 on success. A module that writes to a drawing outside of a command needs
+    /// a lock for writing: without one no system variable of the drawing can be set, no object be opened
+    /// for writing and no view be stepped back. The view of a viewport is the graphics system's,
+    /// and needs none.
     virtual Zorq::ErrorStatus lockDocument(VxApDocument* document, int mode,
                                            const wchar_t* globalCommand,
                                            const wchar_t* localCommand, bool prompt) = 0;
-    /// Ends the last lock of a document. 0 on success.
+    /// Ends the last lock that `lockDocument` has taken of a document; those of `VxAxDocLock` and of
+    /// running commands stay. 0 on success.
     virtual Zorq::ErrorStatus unlockDocument(VxApDocument* document) = 0;
     /// Queues text for a document's command line; the cancel characters (3) end what runs when the
     /// processor comes to them. `activate` brings the document to the front, `wrapUpInactive` ends

@@ -25,7 +25,8 @@ struct VxResultBuffer {
 /// string is handed over to the caller, who frees it with `std::free`.
 int vxedGetVar(const wchar_t* name, VxResultBuffer* result);
 /// Writes a system variable of the present document or of the program. Returns 5100 on success;
-/// an unknown, read-only or out-of-range variable keeps its value.
+/// an unknown, read-only or out-of-range variable keeps its value, and so does one of a drawing that
+/// isn't locked for writing (`VxApDocManager::lockDocument`).
 int vxedSetVar(const wchar_t* name, const VxResultBuffer* value);
 /// A new, zeroed result buffer of a type.
 VxResultBuffer* vxutNewRb(int type);

@@ -73,7 +73,9 @@ BOOL vxgsSetViewParameters(int viewportNumber, VxGsView* view, bool regenerate, 
 BOOL vxgsGetLensLength(int viewportNumber, double& lens);
 /// Sets it. Returns 0 on failure.
 BOOL vxgsSetLensLength(int viewportNumber, double lens);
-/// Records a viewport's present view, so that its next change can be undone.
+/// Records a viewport's present view, so that its next change can be undone: one undo gives it back. What
+/// a user changes between the press and the release of a mouse button, or in one run of the wheel, is one
+/// step of undo and one of the view history anyway, however often it is recorded.
 void vxgsWriteViewToUndoController(int viewportNumber);
 /// Tells the host and its reactors that the view of the current viewport changed.
 void vxedSendViewChanged();
@@ -89,7 +91,10 @@ public:
 VxDbObjectId vxInternalGetCurVPAppliedView();
 /// Whether the current viewport has an earlier view to go back to.
 bool vxInternalIsCurVPZoomUndoAvailable();
-/// Gives the current viewport its previous view back.
+/// Gives the current viewport its previous view back, whatever has changed it; nothing if it is locked,
+/// or the document is not locked for writing.
 void vxInternalZoomPrevious();
-/// Steps the current viewport back by one zoom.
+/// Steps the current viewport back by one zoom: gives it the last view with another lens or another
+/// size of its field back, and so takes back what moved the view since. Nothing where there is none, and
+/// as above.
 void vxInternalZoomBack();

@@ -91,7 +91,32 @@ bool change(VxResultBuffer& value) {
     }
 }
 
+/// Locks the current document for writing, as a module must that writes outside of a command. Not by
+/// the host's calls, which are attacked themselves.
+class WriteLock {
+public:
+    WriteLock() : m_document(documents().current()) {
+        if (m_document != nullptr)
+            m_document->locks().lock(workbench::DocumentLocks::kWrite, this);
+    }
+    ~WriteLock() {
+        // The document may have been closed by whoever heard of the write.
+        if (documents().find(m_document) != nullptr)
+            m_document->locks().unlock(this);
+    }
+    WriteLock(const WriteLock&) = delete;
+    WriteLock& operator=(const WriteLock&) = delete;
+
+private:
+    static workbench::DocumentList& documents() {
+        return workbench::Workbench::current().editor().documents();
+    }
+
+    workbench::Document* m_document;  // not owned; null: none was open
+};
+
 void write(const wchar_t* name) {
+    const WriteLock lock;
     VxResultBuffer* const value = vxutNewRb(0);
     if (vxedGetVar(name, value) == kRtNorm) {
         change(*value);

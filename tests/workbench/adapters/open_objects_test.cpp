@@ -40,7 +40,7 @@ TEST_F(OpenObjectsTest, AnOpeningIsCountedUntilItIsClosed) {
 TEST_F(OpenObjectsTest, WhatWasLeftOpenIsClosedAtTheEnd) {
     const drawing::ObjectId layer = data().find(drawing::RecordKind::Layer, "0");
     {
-        OpenObjects objects(data());
+        OpenObjects objects(data(), [] { return true; });
         VxDbObject* object = nullptr;
         ASSERT_EQ(objects.open(layer, drawing::OpenMode::Read, object), drawing::Status::Ok);
         EXPECT_TRUE(data().peek(layer)->isOpenForRead());
@@ -53,6 +53,19 @@ TEST_F(OpenObjectsTest, AFaultInCloseStillEndsTheOpening) {
     m_bench.faults().fail("VxDbObject::close", 9);
     EXPECT_EQ(sun->close(), 9);
     EXPECT_EQ(m_document.openObjects().count(), 0U);
+}
+
+TEST_F(OpenObjectsTest, NothingIsOpenedForWritingWhileTheDocumentIsNotLockedForIt) {
+    const drawing::ObjectId layer = data().find(drawing::RecordKind::Layer, "0");
+    bool mayWrite = false;
+    OpenObjects objects(data(), [&mayWrite] { return mayWrite; });
+    VxDbObject* object = nullptr;
+    EXPECT_EQ(objects.open(layer, drawing::OpenMode::Write, object), drawing::Status::NotLocked);
+    EXPECT_EQ(object, nullptr);
+    EXPECT_FALSE(data().peek(layer)->isOpenForWrite());
+    mayWrite = true;
+    EXPECT_EQ(objects.open(layer, drawing::OpenMode::Write, object), drawing::Status::Ok);
+    EXPECT_EQ(object->close(), Zorq::eOk);
 }
 
 }  // namespace workbench

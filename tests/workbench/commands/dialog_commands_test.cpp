@@ -6,11 +6,10 @@ namespace workbench {
 
 TEST_F(EditorTest, ADialogCommandNamesItsDialogInTheJournalAndEnds) {
     newDocument();
-    EXPECT_TRUE(run(L"_.CUI "));
+    EXPECT_TRUE(run(L"_.HELP "));
     EXPECT_TRUE(run(L"layer\n"));
-    EXPECT_EQ(fields("dialog", "name"),
-              (Lines{"Customize User Interface", "Layer Properties Manager"}));
-    EXPECT_EQ(events(), (Lines{"started CUI", "ended CUI", "started LAYER", "ended LAYER"}));
+    EXPECT_EQ(fields("dialog", "name"), (Lines{"Help", "Layer Properties Manager"}));
+    EXPECT_EQ(events(), (Lines{"started HELP", "ended HELP", "started LAYER", "ended LAYER"}));
 }
 
 }  // namespace workbench

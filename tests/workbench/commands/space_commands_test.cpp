@@ -1,6 +1,7 @@
 #include "workbench/commands/space_commands.h"
 
 #include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/viewport.h"
 
 namespace workbench {
@@ -14,6 +15,13 @@ protected:
         viewport.number = number;
         viewport.on = on;
         m_document.data().add(viewport);
+    }
+
+    void switchOffFirstViewport() {
+        drawing::Database& data = m_document.data();
+        const drawing::ObjectId layout = data.first(drawing::RecordKind::Layout);
+        drawing::Writing<drawing::Viewport>(data, drawing::findViewport(data, layout, 2))->on =
+            false;
     }
 
     Document& m_document;
@@ -40,7 +48,7 @@ TEST_F(SpaceCommandsTest, AnUnknownLayoutIsAskedForAgain) {
 }
 
 TEST_F(SpaceCommandsTest, MspaceWorksThroughTheFirstViewportThatIsOn) {
-    addLayoutViewport(2, false);
+    switchOffFirstViewport();
     addLayoutViewport(3, true);
     editor().set(L"TILEMODE", 0);
     EXPECT_TRUE(run(L"_mspace\n"));
@@ -53,6 +61,7 @@ TEST_F(SpaceCommandsTest, WithoutALayoutOnShowOrAViewportOnItTheyFail) {
     EXPECT_FALSE(run(L"_mspace\n"));
     EXPECT_FALSE(run(L"_pspace\n"));
     editor().set(L"TILEMODE", 0);
+    switchOffFirstViewport();
     EXPECT_FALSE(run(L"_mspace\n"));
 }
 

@@ -79,5 +79,15 @@ TEST_F(ViewCommandsTest, UnansweredDialogIsCancelled) {
     EXPECT_EQ(db("views.count"), Value(0));
 }
 
+TEST_F(ViewCommandsTest, AQuestionMarkListsTheViews) {
+    EXPECT_TRUE(run(L"_-view ? "));
+    EXPECT_EQ(fields("output", "text"), Lines{"No view has a name."});
+    run(L"_-view _save South east corner\n");
+    run(L"_-view _save Attic\n");
+    m_bench.journal().take();
+    EXPECT_TRUE(run(L"_-view ? "));
+    EXPECT_EQ(fields("output", "text"), (Lines{"Named views:", "South east corner", "Attic"}));
+}
+
 }  // namespace
 }  // namespace workbench

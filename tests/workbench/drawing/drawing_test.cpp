@@ -18,7 +18,7 @@ TEST(NewDrawing, HasWhatEveryDrawingNeeds) {
               Value(Value::List{"2D Wireframe", "Wireframe", "Hidden", "Realistic", "Conceptual"}));
     EXPECT_EQ(getByPath(db, "visualstyle.name"), Value("2D Wireframe"));
     EXPECT_EQ(getByPath(db, "viewports"), Value(Value::List{2}));
-    EXPECT_EQ(getByPath(db, "layouts.Layout1.viewports"), Value(Value::List{1}));
+    EXPECT_EQ(getByPath(db, "layouts.Layout1.viewports"), Value(Value::List{1, 2}));
     EXPECT_EQ(getByPath(db, "sun.on"), Value(false));
     EXPECT_EQ(getByPath(db, "render.active.name"), Value("Medium"));
     EXPECT_EQ(getByPath(db, "geo"), Value());

@@ -31,7 +31,7 @@ TEST_F(DrawingLookupTest, InALayoutItsOwnCurrentViewportIsActive) {
     set("viewports.3", Value::Table{{"locked", true}});
     set("layouts.Layout1.currentViewport", 3);
     EXPECT_EQ(activeViewport(m_db), findViewport(m_db, layout, 3));
-    EXPECT_EQ(viewportsOf(m_db, layout).size(), 2U);
+    EXPECT_EQ(viewportsOf(m_db, layout).size(), 3U);
 }
 
 TEST_F(DrawingLookupTest, ErasedSunShinesNoMore) {

@@ -193,7 +193,7 @@ TEST_F(DocumentListTest, ALockOfADocumentThatWasClosedMeanwhileEndsHarmlessly) {
     const Turn turn;
     Document& closed = newDocument(L"A");
     Document& other = newDocument(L"B");
-    other.locks().lock(DocumentLocks::kWrite);
+    other.locks().lock(DocumentLocks::kWrite, this);
     {
         const VxAxDocLock lock(closed.database(), DocumentLocks::kAutoWrite);
         documents().close(closed);

@@ -16,7 +16,7 @@ TEST_F(DocumentTest, GivesModulesOneDatabaseForItsLife) {
 TEST_F(DocumentTest, TellsItsLocks) {
     Document& document = newDocument();
     EXPECT_EQ(document.lockMode(), 0);
-    document.locks().lock(DocumentLocks::kWrite);
+    document.locks().lock(DocumentLocks::kWrite, this);
     EXPECT_EQ(document.lockMode(), kDocLockWrite);
 }
 
@@ -25,7 +25,7 @@ TEST_F(DocumentTest, FaultsReachItsOperations) {
     m_bench.faults().fail("VxApDocument::database");
     m_bench.faults().fail("VxApDocument::inputManager");
     m_bench.faults().fail("VxApDocument::lockMode");
-    document.locks().lock(DocumentLocks::kWrite);
+    document.locks().lock(DocumentLocks::kWrite, this);
     EXPECT_EQ(document.database(), nullptr);
     EXPECT_EQ(document.inputManager(), nullptr);
     EXPECT_EQ(document.lockMode(), 0);

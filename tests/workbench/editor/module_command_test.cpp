@@ -23,6 +23,11 @@ TEST_F(EditorTest, AModulesFunctionIsItsCommandsWholeRun) {
     EXPECT_EQ(s_runs, 1);
 }
 
+TEST(ModuleCommandTest, ItsFlagSaysWhetherItUsesThePickSet) {
+    EXPECT_TRUE(defineModuleCommand(L"G", L"A", L"B", kCommandUsePickSet, countRun).usesPickSet);
+    EXPECT_FALSE(defineModuleCommand(L"G", L"A", L"B", kCommandTransparent, countRun).usesPickSet);
+}
+
 TEST(ModuleCommandTest, ItsFlagSaysWhetherItIsTransparent) {
     EXPECT_TRUE(
         defineModuleCommand(L"G", L"A", L"B", kCommandTransparent | kCommandUsePickSet, countRun)

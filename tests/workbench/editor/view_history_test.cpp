@@ -144,4 +144,72 @@ TEST_F(ViewHistoryTest, AViewportThatIsAddedHasAHistoryToo) {
     EXPECT_EQ(data().look<Viewport>(id)->view.width, 3);
 }
 
+TEST_F(ViewHistoryTest, ALockedViewportIsNotSteppedBack) {
+    setWidth(10);
+    Writing<Viewport>(data(), port())->locked = true;
+    EXPECT_FALSE(m_history.stepBack(port()));
+    EXPECT_FALSE(m_history.stepBackByZoom(port()));
+    EXPECT_EQ(width(), 10);
+    EXPECT_EQ(m_history.depth(port()), 1U);
+}
+
+TEST_F(ViewHistoryTest, AStepByZoomTakesBackWhatMovedTheViewSince) {
+    const double first = width();
+    setWidth(10);
+    Writing<Viewport>(data(), port())->view.eye = {1, 1, 1};
+    Writing<Viewport>(data(), port())->view.eye = {2, 2, 2};
+    EXPECT_EQ(m_history.depth(port()), 3U);
+    EXPECT_TRUE(m_history.stepBackByZoom(port()));
+    EXPECT_EQ(width(), first);
+    EXPECT_EQ(data().look<Viewport>(port())->view, drawing::ViewParameters());
+    EXPECT_EQ(m_history.depth(port()), 0U);
+}
+
+TEST_F(ViewHistoryTest, WithoutAZoomThereIsNoStepByZoom) {
+    EXPECT_FALSE(m_history.stepBackByZoom(port()));
+    EXPECT_FALSE(m_history.stepBackByZoom({}));
+    Writing<Viewport>(data(), port())->view.eye = {1, 1, 1};
+    EXPECT_FALSE(m_history.stepBackByZoom(port()));
+    EXPECT_EQ(m_history.depth(port()), 1U);
+}
+
+TEST_F(ViewHistoryTest, AGestureIsOneStepHoweverOftenItChangesTheView) {
+    const double first = width();
+    m_history.beginGesture(drawing::UndoLog::Gesture::New);
+    setWidth(10);
+    setWidth(20);
+    m_history.endGesture();
+    setWidth(30);
+    EXPECT_EQ(m_changes, 3);
+    EXPECT_EQ(m_history.depth(port()), 2U);
+    m_history.stepBack(port());
+    EXPECT_EQ(width(), 20);
+    m_history.stepBack(port());
+    EXPECT_EQ(width(), first);
+}
+
+TEST_F(ViewHistoryTest, AGestureThatContinuesAddsNoStepUnlessTheViewChangedSince) {
+    const auto turn = [this](double width) {
+        m_history.beginGesture(drawing::UndoLog::Gesture::Continue);
+        setWidth(width);
+        m_history.endGesture();
+    };
+    turn(10);
+    turn(20);
+    EXPECT_EQ(m_history.depth(port()), 1U);
+    setWidth(30);
+    turn(40);
+    turn(50);
+    EXPECT_EQ(m_history.depth(port()), 3U);
+}
+
+TEST_F(ViewHistoryTest, AnInterruptedGestureGoesOnWithAStepOfItsOwn) {
+    m_history.beginGesture(drawing::UndoLog::Gesture::New);
+    setWidth(10);
+    m_history.interruptGesture();
+    setWidth(20);
+    setWidth(30);
+    EXPECT_EQ(m_history.depth(port()), 2U);
+}
+
 }  // namespace workbench

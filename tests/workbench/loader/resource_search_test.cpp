@@ -61,4 +61,43 @@ TEST_F(ResourceSearchTest, ALibraryIsAttachedOnce) {
     EXPECT_EQ(modules().resources().attachedCount(), 0U);
 }
 
+TEST_F(ResourceSearchTest, AStringThatTheCurrentLibraryLacksIsSearchedInTheAttachedOnes) {
+    const HINSTANCE other = LoadLibrary(L"VxTp.qlx");
+    ASSERT_NE(other, nullptr);
+    VxString text;
+    AFX_EXTENSION_MODULE record;
+    AfxInitExtensionModule(record, library);
+    AfxSetResourceHandle(other);
+    EXPECT_NE(LoadString(203, text), 0);
+    EXPECT_FALSE(text.empty());
+    EXPECT_EQ(modules().strings().resourceNumberOf(text), 203);
+
+    AfxTermExtensionModule(record);
+    EXPECT_EQ(LoadString(203, text), 0);
+    FreeLibrary(other);
+}
+
+TEST_F(ResourceSearchTest, TheRecordSaysWhereTheResourcesOfALibraryAre) {
+    const HINSTANCE other = LoadLibrary(L"VxTp.qlx");
+    VxString text;
+    AFX_EXTENSION_MODULE record;
+    AfxSetResourceHandle(library);
+    AfxInitExtensionModule(record, other);
+    AfxSetResourceHandle(nullptr);
+    EXPECT_NE(LoadString(203, text), 0);
+    AfxTermExtensionModule(record);
+    FreeLibrary(other);
+}
+
+TEST_F(ResourceSearchTest, AFaultCanNameAString) {
+    AfxSetResourceHandle(library);
+    faults().fail("LoadString:203");
+    VxString text = L"before";
+    EXPECT_EQ(LoadString(203, text), 0);
+    EXPECT_EQ(text, L"before");
+    EXPECT_NE(LoadString(204, text), 0);
+    faults().unfail("LoadString:203");
+    EXPECT_NE(LoadString(203, text), 0);
+}
+
 }  // namespace workbench

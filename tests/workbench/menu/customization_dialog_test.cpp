@@ -26,4 +26,11 @@ TEST_F(CustomizationDialogTest, AToldFailureKeepsTheSelection) {
     EXPECT_EQ(dialog.selection(), (PanelKey{"Layers", "ZORQ"}));
 }
 
+TEST_F(CustomizationDialogTest, TheDialogThatOpensTakesTheSelection) {
+    dialog.selectPanel(L"ZORQ", L"Layers");
+    EXPECT_EQ(dialog.takeSelection(), (PanelKey{"Layers", "ZORQ"}));
+    EXPECT_FALSE(dialog.takeSelection());
+    EXPECT_FALSE(dialog.selection());
+}
+
 }  // namespace workbench

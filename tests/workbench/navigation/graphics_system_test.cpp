@@ -265,4 +265,36 @@ TEST_F(GraphicsSystemTest, EachCallOfAViewIsInTheJournal) {
                                              "VxGsView::update", "VxGsClassFactory::deleteView"}));
 }
 
+TEST_F(GraphicsSystemTest, TheRecordedViewComesBackWithItsName) {
+    newDocument();
+    drawing::View named;
+    named.name = "Pond";
+    named.view.lens = 35;
+    const drawing::ObjectId id = data().add(named).id;
+    {
+        drawing::Writing<drawing::Viewport> writing(data(), tile());
+        writing->view = named.view;
+        writing->appliedView.id = id;
+    }
+    graphics().beginUndoStep(kTile);
+    drawing::Writing<drawing::Viewport>(data(), tile())->view.width = 7;
+    graphics().setLens(kTile, 10);
+    EXPECT_TRUE(viewport().appliedView.id.isNull());
+    data().undoLog().undo();
+    EXPECT_EQ(shown(), named.view);
+    EXPECT_EQ(viewport().appliedView.id, id);
+    data().undoLog().redo();
+    EXPECT_EQ(shown().lens, 10);
+    EXPECT_EQ(shown().width, 7);
+    data().undoLog().undo();
+    EXPECT_EQ(shown(), named.view);
+}
+
+TEST_F(GraphicsSystemTest, ARecordWithoutAChangeIsNoStep) {
+    newDocument();
+    graphics().beginUndoStep(kTile);
+    graphics().beginUndoStep(99);
+    EXPECT_FALSE(data().undoLog().canUndo());
+}
+
 }  // namespace workbench

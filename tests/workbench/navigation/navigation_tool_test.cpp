@@ -2,6 +2,7 @@
 
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 
@@ -134,7 +135,7 @@ TEST_F(NavigationToolTest, WithoutADocumentOrAViewportNoViewMoves) {
     };
     moveAll();
     newDocument();
-    editor().set(L"CVPORT", 99);
+    drawing::setByPath(editor().documents().current()->data(), "current.modelViewport", 99);
     events();
     moveAll();
     EXPECT_TRUE(events().empty());
@@ -150,10 +151,86 @@ TEST_F(NavigationToolTest, AnAnimationIsRecordedPausedAndPlayed) {
     EXPECT_EQ(tool().animation(), AnimationState::Recording);
     tool().pauseRecording();
     EXPECT_EQ(tool().animation(), AnimationState::Paused);
+    m_bench.journal().take();
     tool().playAnimation();
-    EXPECT_EQ(tool().animation(), AnimationState::Playing);
+    EXPECT_EQ(fields("navigation", "animation"), (Lines{"playing", "paused"}));
+    EXPECT_EQ(tool().animation(), AnimationState::Paused);
+    tool().recordAnimation();
+    EXPECT_EQ(tool().animation(), AnimationState::Recording);
+}
+
+TEST_F(NavigationToolTest, APlayShowsTheRecordedViewsToTheLast) {
+    newDocument();
+    lookDown();
+    tool().start(NavigationTool::kWalk);
+    tool().recordAnimation();
+    tool().moveCamera({0, 0, 20});
     tool().pauseRecording();
-    EXPECT_EQ(tool().animation(), AnimationState::Playing);
+    tool().moveCamera({0, 0, 30});
+    tool().recordAnimation();
+    tool().moveCamera({0, 0, 40});
+    EXPECT_EQ(tool().recordedViews(), 3U);
+    tool().moveCamera({0, 0, 5});
+    std::vector<double> heights;
+    log().on("view changed", [this, &heights] { heights.push_back(shown().eye.z); });
+    tool().playAnimation();
+    EXPECT_EQ(heights, (std::vector<double>{10, 20, 40, 5}));
+    EXPECT_EQ(tool().recordedViews(), 4U);
+}
+
+TEST_F(NavigationToolTest, AStopEmptiesTheRecordingAndEndsAPlay) {
+    newDocument();
+    lookDown();
+    tool().start(NavigationTool::kWalk);
+    tool().recordAnimation();
+    tool().moveCamera({0, 0, 20});
+    tool().moveCamera({0, 0, 30});
+    m_bench.journal().take();
+    log().on("view changed", [this] { tool().stop(); });
+    tool().playAnimation();
+    EXPECT_EQ(shown().eye.z, 10);
+    EXPECT_EQ(tool().recordedViews(), 0U);
+    EXPECT_EQ(tool().animation(), AnimationState::None);
+    EXPECT_EQ(fields("navigation", "animation"), (Lines{"playing", "none"}));
+}
+
+TEST_F(NavigationToolTest, ALockedViewportStaysAsItIs) {
+    newDocument();
+    lookDown();
+    drawing::Writing<drawing::Viewport>(data(), drawing::activeViewport(data()))->locked = true;
+    tool().start(NavigationTool::kPan);
+    events();
+    tool().setLens(20);
+    tool().restorePreset(drawing::PresetView::Left);
+    tool().moveCamera({1, 1, 1});
+    EXPECT_EQ(shown().eye, (drawing::Vec3{0, 0, 10}));
+    EXPECT_EQ(shown().lens, 50);
+    EXPECT_TRUE(events().empty());
+}
+
+TEST_F(NavigationToolTest, AnOrbitIsOneStepOfUndoAndOfTheViewHistory) {
+    Document& document = newDocument();
+    lookDown();
+    const std::size_t before = document.viewHistory().depth(drawing::activeViewport(data()));
+    const std::size_t steps = data().undoLog().undoCount();
+    tool().start(NavigationTool::kFreeOrbit);
+    tool().moveCamera({0, 0, 20});
+    tool().moveCamera({0, 0, 30});
+    tool().stop();
+    EXPECT_EQ(document.viewHistory().depth(drawing::activeViewport(data())), before + 1);
+    EXPECT_EQ(data().undoLog().undoCount(), steps + 1);
+    editor().undo();
+    EXPECT_EQ(shown().eye.z, 10);
+}
+
+TEST_F(NavigationToolTest, ADocumentThatGoesDuringAnOrbitDisturbsNobody) {
+    Document& first = newDocument(L"A");
+    newDocument(L"B");
+    editor().documents().activate(first);
+    tool().start(NavigationTool::kFreeOrbit);
+    editor().documents().close(first);
+    tool().stop();
+    EXPECT_FALSE(tool().isRunning());
 }
 
 TEST_F(NavigationToolTest, SavingEndsTheRecordingAndAsksForAPlace) {

@@ -101,6 +101,28 @@ TEST_F(DocumentCallsTest, ChangesAreUndoneAndRedone) {
         "wb.redo() assert(wb.db('layers.Roof.frozen') == true)");
 }
 
+TEST_F(DocumentCallsTest, ADocumentIsNotClosedFromInsideItsCommand) {
+    run(R"(
+        wb.env("ENABLEDASHBOARD", "1") wb.load() wb.new("A") wb.new("B")
+        local complaint, other
+        wb.export("VxDaAddOrRemoveReactor", {
+            panelsLoaded = function()
+                complaint = select(2, pcall(wb.close, "B"))
+                other = pcall(wb.close, "A")
+            end,
+        }, 1)
+        wb.type("DASHBOARDOLD\n")
+        assert(complaint:find('the document "B" can\'t be closed while its command DASHBOARDOLD is at work', 1, true), complaint)
+        assert(other, "no command runs there")
+        wb.close("B")
+    )");
+}
+
+TEST_F(DocumentCallsTest, ADocumentWhoseCommandOnlyWaitsIsClosed) {
+    run("wb.new('A') wb.begin('MOVE') wb.close('A') "
+        "assert(wb.journal('command')[2].event == 'cancelled')");
+}
+
 }  // namespace
 
 }  // namespace workbench::script

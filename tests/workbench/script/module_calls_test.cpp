@@ -36,6 +36,24 @@ TEST_F(ModuleCallsTest, CodesAreHandedToTheModule) {
               "wb.notify: the dashboard module is not loaded");
 }
 
+TEST_F(ModuleCallsTest, TheModuleIsNotUnloadedFromInsideOneOfItsCalls) {
+    run(R"(
+        wb.env("ENABLEDASHBOARD", "1") wb.load() wb.new("A")
+        local complaint
+        wb.export("VxDaAddOrRemoveReactor", {
+            visibilityChanged = function() complaint = select(2, pcall(wb.unload)) end,
+            panelsUnloaded = function() complaint = select(2, pcall(wb.unload)) end,
+        }, 1)
+        wb.type("DASHBOARDOLD\n")
+        assert(complaint:find("the module can't be unloaded from inside one of its calls", 1, true))
+        assert(wb.panel("Layers"))
+        complaint = nil
+        wb.notify(1)
+        assert(complaint)
+        assert(wb.unload())
+    )");
+}
+
 }  // namespace
 
 }  // namespace workbench::script

@@ -129,8 +129,8 @@ TEST_F(SessionCallsTest, ShiftIsHeldDuringTheClicksToCome) {
                 if record.name:find("^vxInternalZoom") then return record.name end
             end
         end
-        wb.set("PERSPECTIVE", 1)
-        wb.set("PERSPECTIVE", 0)
+        wb.db("viewports.current.width", 7)
+        wb.db("viewports.current.width", 9)
         views:open()
         views:close()
         wb.hold("shift", true)

@@ -3,6 +3,7 @@
 #include "workbench/drawing/records/sun.h"
 
 #include <hostapi/vxdb18/database.h>
+#include <hostapi/zorq/documents.h>
 
 namespace workbench {
 
@@ -32,6 +33,7 @@ TEST_F(DatabaseFunctionsTest, ObjectsAreOpenedForReadByManyAndForWriteByOne) {
     EXPECT_NE(vxdbOpenObject(other, id, VxDbOpenMode::kForWrite), Zorq::eOk);
     EXPECT_EQ(other, nullptr);
     reader->close();
+    const VxAxDocLock lock(document.database(), 1);
     EXPECT_EQ(vxdbOpenObject(other, id, VxDbOpenMode::kForWrite), Zorq::eOk);
     EXPECT_EQ(other->close(), Zorq::eOk);
     EXPECT_EQ(document.openObjects().count(), 0U);
@@ -48,6 +50,21 @@ TEST_F(DatabaseFunctionsTest, WhatCannotBeOpenedIsNull) {
     drawing::Writing<drawing::Sun>(document.data(), sun).erase();
     EXPECT_NE(vxdbOpenObject(object, toHostId(sun), VxDbOpenMode::kForRead), Zorq::eOk);
     EXPECT_EQ(object, nullptr);
+}
+
+TEST_F(DatabaseFunctionsTest, WithoutALockAnObjectIsOpenedForReadingOnly) {
+    Document& document = newDocument();
+    const VxDbObjectId id = toHostId(document.data().add(drawing::Sun()).id);
+    VxDbObject* object = nullptr;
+    EXPECT_EQ(vxdbOpenObject(object, id, VxDbOpenMode::kForWrite),
+              toHostStatus(drawing::Status::NotLocked));
+    EXPECT_EQ(object, nullptr);
+    EXPECT_EQ(vxdbOpenObject(object, id, VxDbOpenMode::kForRead), Zorq::eOk);
+    object->close();
+    VxDbViewTable* table = nullptr;
+    EXPECT_EQ(document.database()->getSymbolTable(table, VxDbOpenMode::kForWrite),
+              toHostStatus(drawing::Status::NotLocked));
+    EXPECT_EQ(table, nullptr);
 }
 
 }  // namespace workbench

@@ -1,4 +1,5 @@
 #include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/editor/statuses.h"
 
 #include <hostapi/zorq/documents.h>
 
@@ -80,6 +81,23 @@ TEST_F(DocumentFunctionsTest, FaultsHideDocumentsAndReactors) {
     manager.addReactor(&deaf);
     editor().documents().close(document);
     EXPECT_EQ(deaf.take(), Lines{});
+}
+
+TEST_F(DocumentFunctionsTest, EachRoadEndsItsOwnLock) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    {
+        const VxAxDocLock scope(document.database(), DocumentLocks::kAutoWrite);
+        EXPECT_EQ(manager.unlockDocument(&document), kNoLock);
+        manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false);
+    }
+    EXPECT_EQ(document.locks().mode(), kDocLockWrite);
+    editor().beginCommand(L"wait");
+    EXPECT_EQ(manager.unlockDocument(&document), Zorq::eOk);
+    EXPECT_EQ(document.locks().mode(), DocumentLocks::kAutoWrite);
+    EXPECT_EQ(manager.unlockDocument(&document), kNoLock);
+    editor().finishCommand(CommandState::Ended);
+    EXPECT_EQ(document.locks().mode(), 0);
 }
 
 }  // namespace workbench

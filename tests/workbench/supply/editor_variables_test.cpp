@@ -1,5 +1,6 @@
 #include "tests/workbench/editor/editor_fixture.h"
 
+#include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/variables.h>
 
 #include <cstdlib>
@@ -79,6 +80,53 @@ TEST_F(VariableFunctionsTest, NewBuffersAreZeroedAndReleasedWithTheirStrings) {
     EXPECT_EQ(vxutRelRb(nullptr), 5100);
     m_bench.faults().fail("vxutNewRb");
     EXPECT_EQ(vxutNewRb(kRtShort), nullptr);
+}
+
+TEST_F(VariableFunctionsTest, AVariableOfTheDrawingIsWrittenUnderALockOnly) {
+    Document& document = newDocument();
+    events();
+    EXPECT_EQ(setShort(L"LUNITS", 4), kRtError);
+    EXPECT_EQ(setShort(L"TILEMODE", 0), kRtError);
+    EXPECT_EQ(setShort(L"PERSPECTIVE", 1), kRtError);
+    EXPECT_EQ(events(),
+              (Lines{"will change LUNITS", "unchanged LUNITS", "will change TILEMODE",
+                     "unchanged TILEMODE", "will change PERSPECTIVE", "unchanged PERSPECTIVE"}));
+    {
+        const VxAxDocLock reading(document.database(), DocumentLocks::kRead);
+        EXPECT_EQ(setShort(L"LUNITS", 4), kRtError);
+    }
+    EXPECT_EQ(read(L"LUNITS"), Value(2));
+    const VxAxDocLock lock(document.database(), DocumentLocks::kAutoWrite);
+    EXPECT_EQ(setShort(L"LUNITS", 4), kRtNorm);
+    EXPECT_EQ(read(L"LUNITS"), Value(4));
+}
+
+TEST_F(VariableFunctionsTest, TheLockMustBeThatOfTheCurrentDocument) {
+    Document& first = newDocument(L"A");
+    newDocument(L"B");
+    const VxAxDocLock lock(first.database(), DocumentLocks::kAutoWrite);
+    EXPECT_EQ(setShort(L"LUNITS", 4), kRtError);
+}
+
+TEST_F(VariableFunctionsTest, ARunningCommandHasLockedItsDocument) {
+    newDocument();
+    editor().beginCommand(L"wait");
+    EXPECT_EQ(setShort(L"LUNITS", 4), kRtNorm);
+}
+
+TEST_F(VariableFunctionsTest, WhatBelongsToTheUserOrNoDrawingNeedsNoLock) {
+    EXPECT_EQ(setShort(L"LUNITS", 4), kRtNorm);
+    newDocument();
+    EXPECT_EQ(setShort(L"LAYLOCKFADECTL", 30), kRtNorm);
+}
+
+TEST_F(VariableFunctionsTest, AVariableOfTypeLongIsReadAsLong) {
+    newDocument();
+    write(L"LUNITS", 4);
+    VxResultBuffer buffer;
+    EXPECT_EQ(vxedGetVar(L"UNDOSTEPS", &buffer), kRtNorm);
+    EXPECT_EQ(buffer.type, kRtLong);
+    EXPECT_EQ(buffer.value.longInt, 1);
 }
 
 }  // namespace workbench

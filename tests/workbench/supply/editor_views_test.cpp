@@ -5,6 +5,7 @@
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/navigation/navigation_tool.h"
 
+#include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/views.h>
 
 namespace workbench {
@@ -165,6 +166,7 @@ TEST_F(ViewFunctionsTest, ZoomsGoBackThroughTheEarlierViews) {
     vxgsSetLensLength(kTile, 24);
     write(L"PERSPECTIVE", 1);
     EXPECT_TRUE(vxInternalIsCurVPZoomUndoAvailable());
+    const VxAxDocLock lock(editor().documents().current()->database(), 1);
     vxInternalZoomPrevious();
     EXPECT_FALSE(shown().view.perspective);
     EXPECT_EQ(shown().view.lens, 24);
@@ -180,6 +182,7 @@ TEST_F(ViewFunctionsTest, ANamedViewIsAppliedAgainAfterAStepBack) {
     const VxDbObjectId view = restoreNamed();
     vxgsSetLensLength(kTile, 24);
     EXPECT_TRUE(vxInternalGetCurVPAppliedView().isNull());
+    const VxAxDocLock lock(editor().documents().current()->database(), 1);
     vxInternalZoomPrevious();
     EXPECT_EQ(vxInternalGetCurVPAppliedView(), view);
     m_bench.faults().fail("vxInternalGetCurVPAppliedView");
@@ -208,6 +211,35 @@ TEST_F(ViewFunctionsTest, FaultsGiveNothingAndChangeNothing) {
     vxInternalZoomBack();
     EXPECT_TRUE(shown().view.perspective);
     EXPECT_EQ(shown().view.lens, 50);
+}
+
+TEST_F(ViewFunctionsTest, PreviousTakesTheLastChangeBackAndBackTheLastZoom) {
+    newDocument();
+    const VxAxDocLock lock(editor().documents().current()->database(), 1);
+    const auto moveAround = [this] {
+        vxgsSetLensLength(kTile, 24);
+        write(L"PERSPECTIVE", 1);
+    };
+    moveAround();
+    vxInternalZoomPrevious();
+    EXPECT_FALSE(shown().view.perspective);
+    EXPECT_EQ(shown().view.lens, 24);
+    write(L"PERSPECTIVE", 1);
+    vxInternalZoomBack();
+    EXPECT_FALSE(shown().view.perspective);
+    EXPECT_EQ(shown().view.lens, 50);
+    write(L"PERSPECTIVE", 1);
+    vxInternalZoomBack();
+    EXPECT_TRUE(shown().view.perspective);
+}
+
+TEST_F(ViewFunctionsTest, WithoutALockNoViewIsSteppedBack) {
+    newDocument();
+    vxgsSetLensLength(kTile, 24);
+    vxInternalZoomPrevious();
+    vxInternalZoomBack();
+    EXPECT_EQ(shown().view.lens, 24);
+    EXPECT_TRUE(vxInternalIsCurVPZoomUndoAvailable());
 }
 
 }  // namespace workbench

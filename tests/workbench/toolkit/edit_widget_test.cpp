@@ -101,5 +101,30 @@ TEST_F(EditWidgetTest, CreationCanBeToldToFail) {
     EXPECT_NE(other.Create(WS_CHILD, {}, m_toolPanel, 1, 0), 0);
 }
 
+TEST_F(EditWidgetTest, ASelectionIsFromOnePlaceToAnother) {
+    const auto replacedBy = [this](int first, int last) {
+        m_edit.SetWindowText(L"12345");
+        focusField(toolkit(), m_edit.m_hWnd);
+        m_edit.SendMessage(EM_SETSEL, static_cast<WPARAM>(first), last);
+        typeText(toolkit(), L"x");
+        return m_edit.GetWindowText();
+    };
+    EXPECT_EQ(replacedBy(0, -1), L"x");
+    EXPECT_EQ(replacedBy(1, 3), L"1x45");
+    EXPECT_EQ(replacedBy(3, 1), L"1x45");
+    EXPECT_EQ(replacedBy(2, 2), L"12x345");
+    EXPECT_EQ(replacedBy(3, -1), L"123x");
+    EXPECT_EQ(replacedBy(4, 99), L"1234x");
+}
+
+TEST_F(EditWidgetTest, ASelectionFromTheEndIsNone) {
+    m_edit.SetWindowText(L"12345");
+    focusField(toolkit(), m_edit.m_hWnd);
+    m_edit.SendMessage(EM_SETSEL, 1, 3);
+    m_edit.SendMessage(EM_SETSEL, static_cast<WPARAM>(-1), 0);
+    typeText(toolkit(), L"x");
+    EXPECT_EQ(m_edit.GetWindowText(), L"123x45");
+}
+
 }  // namespace
 }  // namespace workbench

@@ -3,6 +3,10 @@
 #include "tests/workbench/toolkit/toolkit_fixture.h"
 #include "workbench/toolkit/input_messages.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace workbench {
 namespace {
 
@@ -94,6 +98,59 @@ TEST_F(MouseTest, MovingOutOfTheSetLeavesIt) {
     mouse().move(m_inner.m_hWnd, {1, 1});
     mouse().move(frame().drawingView().m_hWnd, {1, 1});
     EXPECT_EQ(m_inner.of(kMouseLeave).size(), 1U);
+}
+
+class GestureEventsTest : public MouseTest {
+protected:
+    GestureEventsTest() {
+        mouse().setGestureEvents({[this](Mouse::Begin begin) {
+                                      m_events.emplace_back(
+                                          begin == Mouse::Begin::New ? "begins" : "continues");
+                                  },
+                                  [this] { m_events.emplace_back("ends"); }});
+    }
+    std::vector<std::string> takeEvents() { return std::exchange(m_events, {}); }
+
+    std::vector<std::string> m_events;
+};
+
+TEST_F(GestureEventsTest, AGestureLastsFromPressToRelease) {
+    mouse().press(m_inner.m_hWnd, {1, 1});
+    mouse().move(m_inner.m_hWnd, {2, 1}, kLeftButtonHeld);
+    EXPECT_THAT(takeEvents(), ElementsAre("begins"));
+    mouse().release(m_inner.m_hWnd, {2, 1});
+    EXPECT_THAT(takeEvents(), ElementsAre("ends"));
+    mouse().release(m_inner.m_hWnd, {2, 1});
+    EXPECT_TRUE(takeEvents().empty());
+}
+
+TEST_F(GestureEventsTest, APressThatNobodyTakesIsOverAtOnceAndALostOneWithTheNext) {
+    mouse().press(nullptr, {1, 1});
+    EXPECT_THAT(takeEvents(), ElementsAre("begins", "ends"));
+    mouse().press(m_inner.m_hWnd, {1, 1});
+    mouse().press(m_inner.m_hWnd, {1, 1});
+    EXPECT_THAT(takeEvents(), ElementsAre("begins", "ends", "begins"));
+}
+
+TEST_F(GestureEventsTest, TurnsOfTheWheelAreOneRunUntilItRests) {
+    mouse().wheel(m_inner.m_hWnd, {1, 1}, 1);
+    windows().advance(Mouse::kWheelRest);
+    mouse().wheel(m_inner.m_hWnd, {1, 1}, -1);
+    EXPECT_THAT(takeEvents(), ElementsAre("begins", "ends", "continues", "ends"));
+    windows().advance(Mouse::kWheelRest + 1);
+    mouse().wheel(m_inner.m_hWnd, {1, 1}, 1);
+    EXPECT_THAT(takeEvents(), ElementsAre("begins", "ends"));
+    mouse().wheel(m_toolPanel->m_hWnd, {1, 1}, 1);
+    EXPECT_THAT(takeEvents(), ElementsAre("begins", "ends"));
+}
+
+TEST_F(GestureEventsTest, AClickEndsARunOfTheWheelAndAWheelInADragIsPartOfIt) {
+    mouse().wheel(m_inner.m_hWnd, {1, 1}, 1);
+    mouse().press(m_inner.m_hWnd, {1, 1});
+    mouse().wheel(m_inner.m_hWnd, {1, 1}, 1);
+    mouse().release(m_inner.m_hWnd, {1, 1});
+    mouse().wheel(m_inner.m_hWnd, {1, 1}, 1);
+    EXPECT_THAT(takeEvents(), ElementsAre("begins", "ends", "begins", "ends", "begins", "ends"));
 }
 
 }  // namespace

@@ -156,5 +156,20 @@ TEST_F(SliderWidgetTest, CreationFailsWithoutAParentOrWhenToldTo) {
     EXPECT_EQ(other.GetSliderPos(), 0);
 }
 
+TEST_F(SliderWidgetTest, OutsideItsRangeItStandsAtTheNearerEndAndTheCallIsNotedAsMade) {
+    m_slider.SetSliderRange(10, 20);
+    journal().take();
+    m_slider.SetSliderPos(25);
+    EXPECT_EQ(m_slider.GetSliderPos(), 20);
+    m_slider.SetSliderPos(-3);
+    EXPECT_EQ(m_slider.GetSliderPos(), 10);
+    std::vector<Value> told;
+    for (const JournalRecord& record : journal().take("call")) {
+        if (record.field("name") == Value("CQrUiProgSliderCtrl::SetSliderPos"))
+            told.push_back(record.field("args"));
+    }
+    EXPECT_EQ(told, (std::vector<Value>{Value::List{25}, Value::List{-3}}));
+}
+
 }  // namespace
 }  // namespace workbench

@@ -10,6 +10,7 @@
 #include "workbench/drawing/records/layout.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/document.h"
+#include "workbench/toolkit/mouse.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -276,8 +277,17 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
     if (port.isNull())
         return;
     const ViewParameters next = zoomed(shownIn(port), notches);
-    if (isInReason(port, next))
-        write(port, next);
+    if (!isInReason(port, next))
+        return;
+    // A run of the wheel is one step of undo.
+    using Gesture = drawing::UndoLog::Gesture;
+    const bool continues = event->timestamp() <= m_turnedUntil;
+    m_turnedUntil = event->timestamp() + Mouse::kWheelRest;
+    Document* const turned = m_document;
+    turned->beginGesture(continues ? Gesture::Continue : Gesture::New);
+    write(port, next);
+    if (m_document == turned)
+        turned->endGesture();
 }
 
 void DrawingView::fit() {

@@ -94,6 +94,8 @@ private:
     int m_fading = 50;
     std::map<drawing::ObjectId, Scene> m_scenes;  // by viewport; none: to be made anew
     std::optional<Drag> m_drag;
+    quint64 m_turnedUntil =
+        0;  // when the run of the wheel is over, milliseconds of the events' clock
     int m_wheelRest = 0;
     DragMode m_mode = DragMode::Orbit;
     bool m_isPointing = false;

@@ -36,6 +36,8 @@ const char* statusName(Status status) {
         return "nothingToRedo";
     case Status::GroupIsOpen:
         return "groupIsOpen";
+    case Status::NotLocked:
+        return "notLocked";
     }
     return "unknown";
 }

@@ -21,6 +21,7 @@ enum class Status {
     NothingToUndo,
     NothingToRedo,
     GroupIsOpen,  ///< undo or redo in the middle of a command's group
+    NotLocked,    ///< the document would have to be locked for writing
 };
 
 /// The name of a status, for messages and journals.

@@ -27,8 +27,29 @@ void UndoLog::endGroup() {
     if (!m_open.records.empty()) {
         m_open.number = ++m_groups;
         m_done.push_back(std::move(m_open));
+        joinGesture();
     }
     m_open = Group{};
+}
+
+void UndoLog::beginGesture(Gesture gesture) {
+    if (m_gestures++ == 0 && gesture == Gesture::New)
+        m_gestureGroup = 0;
+}
+
+void UndoLog::endGesture() {
+    if (m_gestures > 0)
+        --m_gestures;
+}
+
+/// The last group becomes part of the gesture that is under way.
+void UndoLog::joinGesture() {
+    if (m_gestures == 0)
+        return;
+    const std::size_t count = m_done.size();
+    if (m_gestureGroup != 0 && count > 1 && m_done[count - 2].number == m_gestureGroup)
+        joinLastTwo();
+    m_gestureGroup = lastGroup();
 }
 
 void UndoLog::add(std::unique_ptr<UndoRecord> record) {
@@ -47,6 +68,7 @@ Status UndoLog::undo() {
     if (m_done.empty()) {
         return Status::NothingToUndo;
     }
+    interruptGesture();
     Group group = std::move(m_done.back());
     m_done.pop_back();
     m_running = Running::Undo;
@@ -65,6 +87,7 @@ Status UndoLog::redo() {
     if (m_undone.empty()) {
         return Status::NothingToRedo;
     }
+    interruptGesture();
     Group group = std::move(m_undone.back());
     m_undone.pop_back();
     m_running = Running::Redo;

@@ -30,6 +30,15 @@ public:
     /// Closes the group that was opened last. A group without changes leaves no trace.
     void endGroup();
 
+    /// The groups that are closed from now on, up to `endGesture`, become one: a drag writes often and
+    /// is one step. Gestures nest: only the outermost counts. `Continue` adds to the group of the
+    /// gesture before unless another one was closed, taken back or brought again since.
+    enum class Gesture { New, Continue };
+    void beginGesture(Gesture gesture = Gesture::New);
+    void endGesture();
+    /// What follows is a step of its own, also in the middle of a gesture.
+    void interruptGesture() { m_gestureGroup = 0; }
+
     bool isGroupOpen() const { return m_depth > 0; }
 
     /// Takes a change that has just been made; whatever could have been redone is forgotten.
@@ -43,6 +52,8 @@ public:
     /// Makes the changes of the group that was taken back last again, in their order.
     Status redo();
 
+    /// How many groups `undo` could take back one after the other.
+    std::size_t undoCount() const { return m_done.size(); }
     bool canUndo() const { return !m_done.empty(); }
     bool canRedo() const { return !m_undone.empty(); }
 
@@ -74,11 +85,15 @@ private:
         std::size_t number = 0;  // given when the group is closed
     };
 
+    void joinGesture();
+
     std::vector<Group> m_done;
     std::vector<Group> m_undone;
     Group m_open;  // the group being filled while m_depth > 0
     std::size_t m_depth = 0;
-    std::size_t m_groups = 0;  // that were ever closed
+    std::size_t m_groups = 0;        // that were ever closed
+    int m_gestures = 0;              // nested ones that are under way
+    std::size_t m_gestureGroup = 0;  // number of the present or last gesture's; 0: it has none
     Running m_running = Running::None;
 };
 

@@ -8,6 +8,11 @@ void addObjectVariables(VariableTable& table) {
                                   {.name = L"CECOLOR", .type = String, .initial = "ByLayer"},
                                   {.name = L"CELTYPE", .type = String, .initial = "ByLayer"},
                                   {.name = L"CELWEIGHT", .type = String, .initial = "ByLayer"},
+                                  {.name = L"CPLOTSTYLE", .type = String, .initial = "ByLayer"},
+                                  {.name = L"CUCS", .type = String, .initial = "World"},
+                                  {.name = L"CDIMSTYLE", .type = String, .initial = "Standard"},
+                                  {.name = L"CTABLESTYLE", .type = String, .initial = "Standard"},
+                                  {.name = L"CLEADERSTYLE", .type = String, .initial = "Standard"},
                               });
 }
 

@@ -1,6 +1,8 @@
 #include "workbench/base/text.h"
 #include "workbench/editor/variables/variable_definition.h"
 
+#include <cstdint>
+
 namespace workbench {
 
 namespace {
@@ -19,6 +21,12 @@ Value readDrawingName(const VariableScope& scope) {
 
 Value readProfileName(const VariableScope& scope) {
     return scope.session.profileName();
+}
+
+Value readUndoSteps(const VariableScope& scope) {
+    return scope.database == nullptr
+               ? Value()
+               : Value(static_cast<std::int64_t>(scope.database->undoLog().undoCount()));
 }
 
 }  // namespace
@@ -45,6 +53,12 @@ void addSessionVariables(VariableTable& table) {
              .home = Computed,
              .readOnly = true,
              .get = readDrawingName},
+            // How many steps can be taken back.
+            {.name = L"UNDOSTEPS",
+             .type = Long,
+             .home = Computed,
+             .readOnly = true,
+             .get = readUndoSteps},
             {.name = L"CleanScreenState", .home = Session, .range = {{0, 1}}, .readOnly = true},
             {.name = L"DASHBOARDSTATE", .home = Session, .range = {{0, 1}}, .readOnly = true},
         });

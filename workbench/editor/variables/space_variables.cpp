@@ -1,6 +1,7 @@
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/layout.h"
+#include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/variables/drawing_access.h"
 
 namespace workbench {
@@ -40,8 +41,19 @@ Value readViewport(const VariableScope& scope) {
                               [](const Layout& layout) { return layout.currentViewport; });
 }
 
+/// The sheet of a layout is always there to work on.
+bool hasViewport(const VariableScope& scope, int number) {
+    if (scope.database == nullptr)
+        return false;
+    const ObjectId layout = drawing::activeLayout(*scope.database);
+    return !drawing::findViewport(*scope.database, layout, number).isNull() ||
+           (!layout.isNull() && number == drawing::Viewport::kPaperNumber);
+}
+
 bool writeViewport(const VariableScope& scope, const Value& value) {
     const int number = static_cast<int>(value.asInteger());
+    if (!hasViewport(scope, number))
+        return false;
     if (isInTiles(scope))
         return writeRecord<Current>(scope, currentRecord,
                                     [number](Current& current) { current.modelViewport = number; });

@@ -1,4 +1,5 @@
 #include "workbench/modules/VxExampleTools.qlx/click_counter.h"
+#include "workbench/modules/VxExampleTools.qlx/dashboard_link.h"
 #include "workbench/modules/VxExampleTools.qlx/scale_control.h"
 
 #include <hostapi/export.h>
@@ -11,17 +12,21 @@
 
 /// The example of a host module with a control and a tool of its own on the dashboard's panels. The
 /// menu data names the module in the item's "module"; the dashboard loads it when it builds the
-/// panel, and finds the two functions below by their names.
+/// panel, and finds the two functions below by their names. The module for its part listens to the
+/// dashboard, and has it make one of the dashboard's own controls on the module's behalf.
 
 namespace {
 
 constexpr std::wstring_view kScaleControl = L"ExampleScaleControl";
+constexpr std::wstring_view kFadeControl = L"ExampleFadeControl";
+constexpr const wchar_t* kFadeControlOfDashboard = L"LayerLockTransparencySliderControl";
 constexpr std::wstring_view kCountButton = L"ID_ExampleCount";
 
 /// What the module keeps between calls; made by the load message, gone with the unload message.
 struct ExampleTools {
     std::vector<std::unique_ptr<ScaleControl>> controls;
     ClickCounter counter;
+    DashboardLink dashboard{counter};
 };
 
 std::unique_ptr<ExampleTools> s_tools;
@@ -72,9 +77,11 @@ VXDA_EXPORT int vxrxEntryPoint(int message, void* appPacket) {
 /// A new control of this module in a parent window, null for a name that isn't its own.
 VXDA_EXPORT HWND VxDaGetCustomControl(const wchar_t* name, HWND parent) {
     CWnd* const parentWindow = CWnd::FromHandle(parent);
-    if (s_tools == nullptr || name == nullptr || name != kScaleControl || parentWindow == nullptr)
+    if (s_tools == nullptr || name == nullptr || parentWindow == nullptr)
         return nullptr;
-    return makeScaleControl(*parentWindow);
+    if (name == kFadeControl)
+        return DashboardLink::makeControl(kFadeControlOfDashboard, parent);
+    return name == kScaleControl ? makeScaleControl(*parentWindow) : nullptr;
 }
 
 /// A click on an item that names this module.

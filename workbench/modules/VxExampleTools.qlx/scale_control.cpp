@@ -2,6 +2,8 @@
 
 #include <hostapi/qrui18/messages.h>
 #include <hostapi/qrui18/tool_panel_item.h>
+#include <hostapi/vxdb18/host_services.h>
+#include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/variables.h>
 
 #include <algorithm>
@@ -19,6 +21,7 @@ constexpr UINT kSliderId = 1;
 constexpr UINT kToolkitStyle = 2;
 constexpr int kLowest = 1;
 constexpr int kHighest = 100;
+constexpr int kLockForWrite = 1;
 constexpr int kOne = 10;  // the position that stands for a scale of 1
 
 double scaleAt(int position) {
@@ -30,7 +33,12 @@ int positionOf(double scale) {
     return static_cast<int>(std::clamp<double>(nearest, kLowest, kHighest));
 }
 
+/// A slider moves outside of any command, so the drawing has to be locked for the write.
 void writeScale(double scale) {
+    const VxDbHostApplicationServices* const services = vxdbHostApplicationServices();
+    if (services == nullptr)
+        return;
+    const VxAxDocLock lock(services->workingDatabase(), kLockForWrite);
     VxResultBuffer value;
     value.type = kRtReal;
     value.value.real = scale;

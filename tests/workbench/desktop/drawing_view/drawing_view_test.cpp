@@ -133,6 +133,14 @@ TEST_F(DrawingViewTest, TheWheelZooms) {
     EXPECT_GT(port().view.width, before);
 }
 
+TEST_F(DrawingViewTest, ARunOfTheWheelIsOneStepOfUndo) {
+    const drawing::ViewParameters before = port().view;
+    turnWheel(m_view, 1);
+    turnWheel(m_view, 1);
+    m_workbench.editor().undo();
+    EXPECT_EQ(port().view, before);
+}
+
 TEST_F(DrawingViewTest, AMovedViewIsNoNamedOneAnyMore) {
     EXPECT_FALSE(port().appliedView.id.isNull());
     turnWheel(m_view, 1);

@@ -13,6 +13,7 @@ TEST(Status, NamesAreThoseOfTheValues) {
     EXPECT_STREQ(statusName(Status::Ok), "ok");
     EXPECT_STREQ(statusName(Status::WasOpenForWrite), "wasOpenForWrite");
     EXPECT_STREQ(statusName(Status::GroupIsOpen), "groupIsOpen");
+    EXPECT_STREQ(statusName(Status::NotLocked), "notLocked");
     EXPECT_STREQ(statusName(static_cast<Status>(-1)), "unknown");
 }
 

@@ -105,6 +105,58 @@ TEST_F(UndoLogTest, JoinedGroupsAreTakenBackAsOneUnderTheEarlierNumber) {
     EXPECT_EQ(m_value, 3);
 }
 
+TEST_F(UndoLogTest, GroupsOfAGestureAreOne) {
+    write(1);
+    m_log.beginGesture();
+    write(2);
+    write(3);
+    m_log.endGesture();
+    write(4);
+    EXPECT_EQ(m_log.undoCount(), 3U);
+    m_log.undo();
+    EXPECT_EQ(m_value, 3);
+    m_log.undo();
+    EXPECT_EQ(m_value, 1);
+    m_log.redo();
+    EXPECT_EQ(m_value, 3);
+}
+
+TEST_F(UndoLogTest, OnlyTheOutermostGestureCounts) {
+    m_log.beginGesture();
+    write(1);
+    m_log.beginGesture();
+    write(2);
+    m_log.endGesture();
+    write(3);
+    m_log.endGesture();
+    m_log.endGesture();
+    EXPECT_EQ(m_log.undoCount(), 1U);
+    m_log.beginGesture();
+    write(4);
+    m_log.endGesture();
+    EXPECT_EQ(m_log.undoCount(), 2U);
+}
+
+TEST_F(UndoLogTest, AGestureContinuesTheOneBeforeUnlessSomethingCameBetween) {
+    const auto turn = [this](int value) {
+        m_log.beginGesture(UndoLog::Gesture::Continue);
+        write(value);
+        m_log.endGesture();
+    };
+    turn(1);
+    turn(2);
+    EXPECT_EQ(m_log.undoCount(), 1U);
+    write(3);
+    turn(4);
+    EXPECT_EQ(m_log.undoCount(), 3U);
+    m_log.undo();
+    turn(5);
+    EXPECT_EQ(m_log.undoCount(), 3U);
+    m_log.interruptGesture();
+    turn(6);
+    EXPECT_EQ(m_log.undoCount(), 4U);
+}
+
 TEST_F(UndoLogTest, InTheMiddleOfAGroupNothingIsUndone) {
     write(1);
     const UndoGroup group(m_log, "LINE");

@@ -1,5 +1,6 @@
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 
@@ -27,7 +28,7 @@ TEST_F(EditorTest, AnotherProjectionIsNoLongerTheNamedView) {
 
 TEST_F(EditorTest, WithoutAnActiveViewportPerspectiveIsNil) {
     newDocument();
-    editor().set(L"CVPORT", 99);
+    drawing::setByPath(editor().documents().current()->data(), "current.modelViewport", 99);
     EXPECT_TRUE(read(L"PERSPECTIVE").isNil());
     EXPECT_FALSE(editor().set(L"PERSPECTIVE", 1));
 }

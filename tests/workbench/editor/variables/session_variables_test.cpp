@@ -29,4 +29,16 @@ TEST_F(EditorTest, CleanScreenAndDashboardStateStartAtZero) {
     EXPECT_EQ(read(L"DASHBOARDSTATE"), Value(1));
 }
 
+TEST_F(EditorTest, UndoStepsCountsWhatCanBeTakenBack) {
+    EXPECT_TRUE(read(L"UNDOSTEPS").isNil());
+    newDocument();
+    EXPECT_EQ(read(L"UNDOSTEPS"), Value(0));
+    write(L"LUNITS", 4);
+    write(L"LUPREC", 2);
+    EXPECT_EQ(read(L"UNDOSTEPS"), Value(2));
+    editor().undo();
+    EXPECT_EQ(read(L"UNDOSTEPS"), Value(1));
+    EXPECT_FALSE(write(L"UNDOSTEPS", 7));
+}
+
 }  // namespace workbench

@@ -41,4 +41,18 @@ TEST_F(EditorTest, ARecordThatIsOpenElsewhereRefusesTheVariable) {
     EXPECT_TRUE(write(L"TILEMODE", 0));
 }
 
+TEST_F(EditorTest, ANumberWithoutAViewportIsRefused) {
+    newDocument();
+    EXPECT_FALSE(write(L"CVPORT", 99));
+    EXPECT_FALSE(editor().set(L"CVPORT", 1));
+    EXPECT_EQ(read(L"CVPORT"), Value(2));
+    write(L"TILEMODE", 0);
+    EXPECT_TRUE(write(L"CVPORT", 2));
+    EXPECT_TRUE(write(L"CVPORT", 1));
+    events();
+    EXPECT_FALSE(write(L"CVPORT", 99));
+    EXPECT_EQ(read(L"CVPORT"), Value(1));
+    EXPECT_EQ(events(), (Lines{"will change CVPORT", "unchanged CVPORT"}));
+}
+
 }  // namespace workbench

@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace workbench {
@@ -129,8 +130,32 @@ TEST_F(NavigationModuleTest, RecordingGoesFromIdleToPaused) {
     call("navRecordAnimation");
     EXPECT_EQ(isActive(), 2);
     call("navPlayAnimation");
+    EXPECT_EQ(isActive(), 1);
+    navigation().stop();
     EXPECT_EQ(isActive(), 0);
-    EXPECT_EQ(navigation().animation(), AnimationState::Playing);
+}
+
+TEST_F(NavigationModuleTest, EachFunctionLeavesARecord) {
+    CTool* tool = navigation().tool();
+    bench.journal().take();
+    switchMode(tool, NavigationTool::kWalk);
+    setLens(tool, 24);
+    point("navUpdateCameraPosition", tool, {10, 0, 0});
+    restorePreset(tool, 99);
+    call("navPauseRecording");
+    isActive();
+    std::vector<std::pair<std::string, Value>> called;
+    for (const JournalRecord& record : bench.journal().take("navigation")) {
+        if (!record.field("function").isNil())
+            called.emplace_back(record.field("function").asString(), record.field("args"));
+    }
+    EXPECT_EQ(called, (std::vector<std::pair<std::string, Value>>{
+                          {"navSwitchNavMode", Value::List{17}},
+                          {"navUpdateLensLength", Value::List{24.0}},
+                          {"navUpdateCameraPosition", Value::List{10.0, 0.0, 0.0}},
+                          {"navRestorePresetView", Value::List{99}},
+                          {"navPauseRecording", Value::List{}},
+                          {"navIsActive", Value::List{}}}));
 }
 
 TEST_F(NavigationModuleTest, DialogsOpen) {
