@@ -6,6 +6,7 @@
 #include "workbench/drawing/database/geometry.h"
 
 #include <QMainWindow>
+#include <QPixmap>
 #include <filesystem>
 #include <memory>
 
@@ -19,6 +20,7 @@ namespace workbench::desktop {
 
 class CommandEcho;
 class CommandLine;
+class DesktopCommands;
 class DesktopMenus;
 class DockSplitter;
 class DocumentTabs;
@@ -61,6 +63,8 @@ public:
     /// Takes over what was remembered of an earlier run, and remembers how things stand now.
     void recall();
     void remember();
+    /// Remembers the look at once, as it may be the last thing that its user does.
+    void rememberLook();
     /// Opens the page about the dashboard.
     void showHelp();
     /// Says something in the status bar.
@@ -83,6 +87,9 @@ private:
     void pressDrawing(QPointF point);
     void answerPoint(const drawing::Vec3& point);
     QRect dashboardPlace();
+    int hiddenHeight() const;
+    void layOutNow();
+    QPixmap pictureOf(bool wholeWindow);
 
     Workbench& m_workbench;
     Pump m_pump;
@@ -102,6 +109,7 @@ private:
     std::unique_ptr<Questions> m_questions;
     std::unique_ptr<FileActions> m_files;
     std::unique_ptr<DesktopMenus> m_menus;
+    std::unique_ptr<DesktopCommands> m_commands;
     std::unique_ptr<CommandEcho> m_echo;
     std::unique_ptr<HelpPage> m_help;
 };

@@ -4,6 +4,7 @@
 #include "tests/workbench/host/test_options.h"
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
+#include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/host_actions.h"
@@ -19,6 +20,7 @@
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/shade.h"
@@ -230,6 +232,19 @@ TEST_F(MainWindowTest, ASearchShowsAndMarksWhatItFound) {
     EXPECT_TRUE(windows().isOnScreen(layers));
 }
 
+TEST_F(MainWindowTest, AToolThatWasFoundIsRunByEnter) {
+    editor().set(L"PERSPECTIVE", 1);
+    rest();
+    typeText(m_window.searchBox(), QStringLiteral("parallel projection"));
+    ASSERT_FALSE(m_window.searchBox().hits().empty());
+    pressKey(m_window.searchBox(), Qt::Key_Return);
+    rest();
+    auto* const row = dynamic_cast<MirrorWidget*>(m_window.focusWidget());
+    ASSERT_NE(row, nullptr);
+    pressKey(*row, Qt::Key_Return);
+    EXPECT_EQ(editor().read(L"PERSPECTIVE"), Value(0));
+}
+
 TEST_F(MainWindowTest, MenusListAndSwitchWorkspacesProfilesAndDocuments) {
     QMenu& workspaces = menu("&Workspace");
     EXPECT_TRUE(line(workspaces, QStringLiteral("3D Modeling")).isChecked());
@@ -263,6 +278,32 @@ TEST_F(MainWindowTest, AChangedDocumentIsOnlyClosedWhenItsUserAgrees) {
     line(menu("&Document"), QStringLiteral("&Close")).trigger();
     EXPECT_EQ(questions.size(), 2) << "nothing to lose any more";
     EXPECT_EQ(editor().documents().count(), 0);
+}
+
+TEST_F(MainWindowTest, DocumentsAreMadeAndClosedByCommandsToo) {
+    enter("NEW");
+    QApplication::processEvents();
+    EXPECT_EQ(editor().documents().active()->name(), L"Drawing1");
+    enter("CLOSE");
+    QApplication::processEvents();
+    EXPECT_EQ(editor().documents().active()->name(), L"house.json");
+}
+
+TEST_F(MainWindowTest, AWorkspaceShowsTheSamePanelsWhenItComesBack) {
+    const auto shown = [this] {
+        std::vector<std::wstring> ids;
+        for (const CQrUiPanel* panel : allPanels(windows())) {
+            if (windows().isOnScreen(panel->m_hWnd))
+                ids.push_back(panel->GetID());
+        }
+        return ids;
+    };
+    m_window.stage().pump.act([this] { showPanelsOfWorkspace(m_workbench); });
+    const std::vector<std::wstring> before = shown();
+    line(menu("&Workspace"), QStringLiteral("Drafting")).trigger();
+    EXPECT_NE(shown(), before);
+    line(menu("&Workspace"), QStringLiteral("3D Modeling")).trigger();
+    EXPECT_EQ(shown(), before);
 }
 
 TEST_F(MainWindowTest, ADrawingIsSavedUnderANameAndOpenedFromThere) {
@@ -407,6 +448,17 @@ TEST_F(MainWindowTest, PicturesShowTheDashboardOrTheWholeWindow) {
     EXPECT_THROW(m_window.takePicture(file, false), InputError);
 }
 
+TEST_F(MainWindowTest, APictureHoldsTheWholeDashboardThoughTheWindowIsLow) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("a.png"));
+    m_window.takePicture(file.toStdString(), false);
+    const int whole = QImage(file).height();
+    m_window.resize(1000, 400);
+    m_window.takePicture(file.toStdString(), false);
+    EXPECT_EQ(QImage(file).height(), whole);
+    EXPECT_EQ(m_window.height(), 400);
+}
+
 TEST_F(MainWindowTest, AFloatingDashboardIsPicturedToo) {
     const QTemporaryDir folder;
     const std::string file = folder.filePath(QStringLiteral("a.png")).toStdString();
@@ -463,6 +515,14 @@ TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
     EXPECT_EQ(m_window.shade(), Shade::Dark);
     EXPECT_EQ(collapsedPanels(m_workbench.toolkit()),
               (std::vector<std::wstring>{L"Layers", L"Light"}));
+}
+
+TEST_F(MainWindowTest, AThemeThatWasChosenIsRememberedAtOnce) {
+    QMenu& view = menu("&View");
+    line(*line(view, QStringLiteral("&Theme")).menu(), QStringLiteral("dark")).trigger();
+    QString complaint;
+    EXPECT_EQ(DesktopState::read(m_workbench.profiles().folder(), complaint).shade, Shade::Dark);
+    m_window.setShade(Shade::Light);
 }
 
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {
