@@ -355,6 +355,7 @@ void MainWindow::recall() {
     if (!DesktopState::exists(m_workbench.profiles().folder()))
         m_commandLine->echo(QString::fromLatin1(kFirstHint));
     m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
+    m_recalled = stateNow();
 }
 
 void MainWindow::remember() {
@@ -362,9 +363,17 @@ void MainWindow::remember() {
     rememberLook();
 }
 
+DesktopState MainWindow::stateNow() {
+    return {m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()};
+}
+
+/// A file that can't be read stays as it is until there is something to write.
 void MainWindow::rememberLook() {
-    DesktopState{m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()}.write(
-        m_workbench.profiles().folder());
+    const std::filesystem::path& folder = m_workbench.profiles().folder();
+    const DesktopState now = stateNow();
+    if (now != m_recalled || !DesktopState::exists(folder))
+        now.write(folder);
+    m_recalled = now;
 }
 
 /// The host begins to quit, and stays if its user wants to keep a change.

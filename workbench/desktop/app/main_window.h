@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/look/look.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/desktop/pump/pump.h"
@@ -89,6 +90,7 @@ private:
     QRect dashboardPlace();
     int hiddenHeight() const;
     void layOutNow();
+    DesktopState stateNow();
     QPixmap pictureOf(bool wholeWindow);
 
     Workbench& m_workbench;
@@ -104,6 +106,7 @@ private:
     JournalPane* m_journal;
     SearchBox* m_search;
     QDockWidget* m_journalDock;
+    DesktopState m_recalled;            // nothing is written over it before something differs
     const Document* m_front = nullptr;  // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;

@@ -517,6 +517,29 @@ TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
               (std::vector<std::wstring>{L"Layers", L"Light"}));
 }
 
+TEST_F(MainWindowTest, AStateThatCannotBeReadIsOnlyOverwrittenOnceSomethingChanges) {
+    const QString file =
+        QString::fromStdString((m_workbench.profiles().folder() / "desktop.json").string());
+    const QByteArray half = R"({"theme": "da)";
+    const auto content = [&file] {
+        QFile reading(file);
+        return reading.open(QIODevice::ReadOnly) ? reading.readAll() : QByteArray();
+    };
+    QFile writing(file);
+    ASSERT_TRUE(writing.open(QIODevice::WriteOnly));
+    writing.write(half);
+    writing.close();
+    m_window.recall();
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().startsWith(file));
+    EXPECT_EQ(m_window.shade(), Shade::Light);
+    m_window.rememberLook();
+    EXPECT_EQ(content(), half);
+    m_window.setShade(Shade::Dark);
+    m_window.rememberLook();
+    EXPECT_TRUE(content().contains("dark"));
+    m_window.setShade(Shade::Light);
+}
+
 TEST_F(MainWindowTest, AThemeThatWasChosenIsRememberedAtOnce) {
     QMenu& view = menu("&View");
     line(*line(view, QStringLiteral("&Theme")).menu(), QStringLiteral("dark")).trigger();

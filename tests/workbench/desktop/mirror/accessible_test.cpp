@@ -65,6 +65,9 @@ TEST_F(AccessibleTest, FieldsAndListsTellTheirTexts) {
     QAccessibleInterface& combo = of(widget(kViews, "combo"));
     EXPECT_EQ(combo.role(), QAccessible::ComboBox);
     EXPECT_EQ(combo.text(QAccessible::Value), QStringLiteral("Garden"));
+    EXPECT_EQ(combo.text(QAccessible::Name), QStringLiteral("Views"));
+    EXPECT_EQ(of(widget(kFade, "slider")).text(QAccessible::Name),
+              QStringLiteral("Locked layer fading"));
 }
 
 TEST_F(AccessibleTest, ButtonsTellTheirStateAndCanBePressed) {
@@ -97,6 +100,19 @@ TEST_F(AccessibleTest, ExactlyOneObjectHasTheKeyboard) {
         ASSERT_EQ(focused.size(), 1U) << windows().find(place)->className;
         EXPECT_EQ(focused.front()->role() == QAccessible::Button, place == tool->toolPanel());
     }
+}
+
+TEST_F(AccessibleTest, TheHostsListsHaveNamesThatPeopleKnow) {
+    std::vector<QAccessibleInterface*> all;
+    collect(of(widget(m_stage.toolkit.frame().bars().front()->m_hWnd)), all);
+    QStringList names;
+    for (QAccessibleInterface* node : all) {
+        if (node->role() == QAccessible::ComboBox)
+            names.append(node->text(QAccessible::Name));
+    }
+    EXPECT_TRUE(names.contains(QLatin1String("Layer")));
+    for (const QString& name : names)
+        EXPECT_FALSE(name.contains(QLatin1String("Control"))) << name.toStdString();
 }
 
 TEST_F(AccessibleTest, FlyoutsSayThatTheyOpen) {
