@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPointer>
-#include <QScrollBar>
 
 namespace workbench::desktop {
 
@@ -120,32 +119,6 @@ TEST_F(MirrorTest, WheelTurnsOnlyTheControlWithTheKeyboardAndScrollsOtherwise) {
     windows().setFocus(slider->handle());
     turnWheel(*slider, 1);
     EXPECT_NE(shown->position(), before);
-}
-
-TEST_F(MirrorTest, WhereThePanelsGoOnABarTellsAndScrollsThem) {
-    auto* const bar = m_top.findChild<QScrollBar*>();
-    ASSERT_NE(bar, nullptr);
-    EXPECT_FALSE(bar->isVisible()) << "all panels are on show";
-    m_home.resize(1100, 400);
-    rest();
-    EXPECT_TRUE(bar->isVisible());
-    const int top = windows().screenRect(window(kFade, "slider")).top;
-    bar->setValue(50);
-    rest();
-    EXPECT_EQ(windows().screenRect(window(kFade, "slider")).top, top - 50);
-    turnWheel(*widget(kFade, "edit"), 1);
-    rest();
-    EXPECT_EQ(bar->value(), 0);
-}
-
-TEST_F(MirrorTest, TheWheelScrollsOverAFieldThatHasTheKeyboardToo) {
-    m_home.resize(1100, 400);
-    MirrorWidget* edit = widget(kFade, "edit");
-    click(*edit);
-    rest();
-    const int top = windows().screenRect(edit->handle()).top;
-    turnWheel(*edit, -1);
-    EXPECT_LT(windows().screenRect(edit->handle()).top, top);
 }
 
 TEST_F(MirrorTest, ClickOnAToolSendsItsCommand) {
