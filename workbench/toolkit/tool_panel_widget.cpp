@@ -210,6 +210,11 @@ int ToolPanelWidget::marked(const Window& window) const {
     return isTool(panel, m_marked) ? m_marked : toolFrom(panel, 0, 1);
 }
 
+void ToolPanelWidget::markTool(const Window& window, int index) {
+    m_marked = index;
+    windows().invalidate(window.handle);
+}
+
 /// Marks the next tool in steps, beginning with the one beside the marked tool.
 void ToolPanelWidget::mark(const Window& window, int step) {
     const int next = toolFrom(panelOf(window), marked(window) + step, step);

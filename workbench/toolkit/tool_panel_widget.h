@@ -27,6 +27,8 @@ public:
     /// The index of the tool that Enter would click; -1 if the panel has none, and while it hasn't the
     /// keyboard.
     int marked(const Window& window) const;
+    /// Marks a tool by its index; it shows once the panel has the keyboard.
+    void markTool(const Window& window, int index);
 
     // ControlWidget:
     bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,

@@ -2,11 +2,14 @@
 
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/desktop_options.h"
+#include "workbench/desktop/app/desktop_state.h"
+#include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/host_actions.h"
 #include "workbench/desktop/app/main_window.h"
 #include "workbench/desktop/app/qt_complaints.h"
 #include "workbench/desktop/look/fonts.h"
 #include "workbench/desktop/mirror/accessible.h"
+#include "workbench/editor/editor.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/script/script_engine.h"
 #include "workbench/startup/journal_file.h"
@@ -54,10 +57,11 @@ void dressApplication() {
 /// Opens the drawing with the dashboard, as a user finds it.
 void openFirst(Workbench& workbench, const DesktopOptions& options) {
     openDashboard(workbench, options.drawing);
-    if (!options.workspace.empty()) {
+    if (!options.workspace.empty())
         switchWorkspace(workbench, options.workspace);
-        letHostRun(workbench);
-    }
+    else if (!DesktopState::exists(workbench.profiles().folder()))
+        showPanelsOfWorkspace(workbench);
+    letHostRun(workbench);
 }
 
 int runScript(Workbench& workbench, const DesktopOptions& options) {
@@ -85,6 +89,8 @@ int runWindow(const DesktopOptions& options) {
     else
         code = runScript(workbench, options);
     window.stage().pump.resume();
+    if (Document* first = workbench.editor().documents().active(); first && options.script.empty())
+        window.fileActions().files().setFile(*first, options.drawing);
     if (!options.endsByItself())
         window.recall();
     if (!options.snapshot.empty())

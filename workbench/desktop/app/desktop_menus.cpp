@@ -88,11 +88,7 @@ void DesktopMenus::addFileActions(FileActions& files) {
         make(QStringLiteral("&Save"), QKeySequence::Save, [&files] { files.save(); }),
         make(QStringLiteral("Save &as..."), Qt::CTRL | Qt::SHIFT | Qt::Key_S,
              [&files] { files.saveAs(); }),
-        make(QStringLiteral("&Close"), QKeySequence::Close,
-             [this, &files] {
-                 if (Document* document = m_workbench.editor().documents().active())
-                     files.close(*document);
-             }),
+        make(QStringLiteral("&Close"), QKeySequence::Close, [&files] { files.closeActive(); }),
         make(QStringLiteral("&Quit"), Qt::CTRL | Qt::Key_Q, [this] { m_window.close(); }),
     };
 }
@@ -167,8 +163,11 @@ void DesktopMenus::newProfile() {
     const QString name = QInputDialog::getText(&m_window, QStringLiteral("New profile"),
                                                QStringLiteral("Name of the profile:"));
     if (!name.isEmpty())
-        m_window.stage().pump.act(
-            [this, &name] { m_workbench.profiles().switchTo(name.toStdString()); });
+        m_window.stage().pump.act([this, &name] {
+            m_workbench.profiles().switchTo(name.toStdString());
+            // Only profiles with a file are there again when another one is current.
+            m_workbench.profiles().save();
+        });
 }
 
 void DesktopMenus::fillView(QMenu& menu, QDockWidget& journal) {
@@ -186,7 +185,10 @@ void DesktopMenus::fillView(QMenu& menu, QDockWidget& journal) {
 void DesktopMenus::fillThemes(QMenu& menu) {
     for (const Shade shade : {Shade::Light, Shade::Dark}) {
         addChoice(menu, QString::fromLatin1(nameOf(shade)), m_window.shade() == shade,
-                  [this, shade] { m_window.setShade(shade); });
+                  [this, shade] {
+                      m_window.setShade(shade);
+                      m_window.rememberLook();
+                  });
     }
 }
 

@@ -21,6 +21,7 @@ struct DesktopState {
     /// Reads the file of a folder; a missing one is a fresh state. What can't be taken is left out,
     /// and `complaint` says what and where.
     static DesktopState read(const std::filesystem::path& folder, QString& complaint);
+    friend bool operator==(const DesktopState&, const DesktopState&) = default;
     /// Writes the file. Throws `InputError` if it can't be written.
     void write(const std::filesystem::path& folder) const;
 };

@@ -113,6 +113,11 @@ bool FileActions::close(Document& document) {
     return true;
 }
 
+void FileActions::closeActive() {
+    if (Document* const document = active())
+        close(*document);
+}
+
 bool FileActions::mayLeaveAll() {
     for (Document* document : m_window.workbench().editor().documents().all()) {
         if (!mayLeave(*document))

@@ -26,6 +26,8 @@ public:
     bool saveAs();
     /// Closes a document. False, and it stays, if its user changed their mind.
     bool close(Document& document);
+    /// Closes the document in front, if there is one.
+    void closeActive();
     /// Asks for each changed document what is to become of it. False if the user changed their mind.
     bool mayLeaveAll();
 

@@ -55,6 +55,13 @@ void switchWorkspace(Workbench& workbench, const std::string& name) {
         show(&panels);
 }
 
+void showPanelsOfWorkspace(Workbench& workbench) {
+    // By value: the switch changes what is current.
+    const std::string current = workbench.menu().workspaces().current();
+    if (!current.empty())
+        switchWorkspace(workbench, current);
+}
+
 std::vector<std::string> workspaceNames(Workbench& workbench) {
     std::vector<std::string> names;
     for (const Workspace& workspace : workbench.menu().workspaces().all())

@@ -12,6 +12,9 @@ namespace workbench::desktop {
 /// Makes a workspace current and hands its panels to the dashboard, as the host does. Throws
 /// `InputError` for an unknown name.
 void switchWorkspace(Workbench& workbench, const std::string& name);
+/// Shows the panels of the current workspace, as at a host's first start; later the profile tells
+/// which panels are on show.
+void showPanelsOfWorkspace(Workbench& workbench);
 /// The names of all workspaces.
 std::vector<std::string> workspaceNames(Workbench& workbench);
 /// The names of the profiles that there are files of, and the current one, in order.

@@ -3,6 +3,7 @@
 #include "workbench/base/input_error.h"
 #include "workbench/base/number_text.h"
 #include "workbench/desktop/app/collapsed_panels.h"
+#include "workbench/desktop/app/desktop_commands.h"
 #include "workbench/desktop/app/desktop_menus.h"
 #include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/dock_splitter.h"
@@ -12,6 +13,7 @@
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
 #include "workbench/desktop/app/space_tabs.h"
+#include "workbench/desktop/app/why_disabled.h"
 #include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
@@ -30,6 +32,7 @@
 #include "workbench/profiles/profile_store.h"
 #include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/panel_set_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -44,6 +47,7 @@
 #include <QToolBar>
 #include <QToolTip>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 namespace workbench::desktop {
@@ -96,6 +100,7 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     m_tabs->setOnClosing([this](Document& document) { m_files->close(document); });
     m_help = std::make_unique<HelpPage>(m_workbench.journal(), *this);
     m_menus = std::make_unique<DesktopMenus>(*this, *m_journalDock);
+    m_commands = std::make_unique<DesktopCommands>(*this);
     setShade(shade);
     m_pump.setOnFailure([this](const QString& text) { tell(text); });
     m_pump.setOnRest([this] { onRest(); });
@@ -130,11 +135,7 @@ void MainWindow::buildPanes() {
     m_mirror->fill(frame.commandLine().m_hWnd, *m_commandLine);
     m_mirror->setOnKeyboardToDrawing([this] { leaveToCommandLine(); });
     m_stage.typed = [this](const QString& text) { m_commandLine->begin(text); };
-    m_stage.whyDisabled = [this] {
-        return m_workbench.editor().documents().active() == nullptr
-                   ? QStringLiteral("No drawing is open.")
-                   : QString();
-    };
+    m_stage.whyDisabled = [this](HWND window) { return whyDisabled(m_workbench, window); };
     m_commandLine->setOnEnter(
         [this](const QString& text) { runCommand(text + QLatin1Char('\n')); });
     m_commandLine->setOnCancel([this] { runCommand(QStringLiteral("\x1b")); });
@@ -144,6 +145,7 @@ void MainWindow::buildPanes() {
     m_tabs->setOnPointed([this](const drawing::Vec3& point) { answerPoint(point); });
     m_tabs->setOnPressed([this](QPointF point) { pressDrawing(point); });
     m_commandLine->setNames([this] { return namesToType(m_workbench); });
+    m_journal->setIsIdle([this] { return m_pump.isIdling(); });
     m_journal->setOnFailure([this](const QString& text) { tell(text); });
     m_search->setOnChosen([this](const SearchHit& hit) { reveal(m_stage, *m_mirror, hit); });
     m_search->setOnLeft([this] { m_commandLine->input().setFocus(); });
@@ -292,21 +294,54 @@ QRect MainWindow::dashboardPlace() {
     return {};
 }
 
-void MainWindow::takePicture(const std::filesystem::path& file, bool wholeWindow) {
+/// How far the panels of a docked dashboard go on below what is on show, in pixels.
+int MainWindow::hiddenHeight() const {
+    const WindowSystem& windows = m_stage.windows;
+    int hidden = 0;
+    for (const HWND each : windows.descendants(m_stage.toolkit.frame().frame().m_hWnd)) {
+        const Window& window = *windows.find(each);
+        if (dynamic_cast<const PanelSetWidget*>(window.widget.get()) == nullptr ||
+            !windows.isOnScreen(each))
+            continue;
+        const int content = m_stage.toolkit.panelSets()
+                                .of(static_cast<const CQrUiPanelSet*>(window.object))
+                                .contentHeight;
+        hidden = std::max(hidden, content - windows.find(window.parent)->rect.Height());
+    }
+    return hidden;
+}
+
+void MainWindow::layOutNow() {
+    QApplication::processEvents();
     m_mirror->sync();
     onRest();
     QApplication::processEvents();
-    QPixmap picture;
-    if (const QRect place = dashboardPlace(); wholeWindow)
-        picture = grab();
-    else if (!place.isEmpty())
-        picture = grab(place);
-    else if (QWidget* floating = floatingDashboard(m_stage, *m_mirror))
-        picture = floating->grab();
-    else
+}
+
+/// The window is as high as the whole dashboard while that is pictured.
+void MainWindow::takePicture(const std::filesystem::path& file, bool wholeWindow) {
+    layOutNow();
+    const QSize before = size();
+    if (const int hidden = hiddenHeight(); hidden > 0 && !wholeWindow) {
+        resize(before + QSize(0, hidden));
+        layOutNow();
+    }
+    const QPixmap picture = pictureOf(wholeWindow);
+    resize(before);
+    if (picture.isNull())
         throw InputError(file.string(), "there is no dashboard on show to take a picture of");
     if (!picture.save(toQt(std::string_view(file.string())), "PNG"))
         throw InputError(file.string(), "no picture can be written there");
+}
+
+/// Null if the dashboard is to be pictured and isn't on show.
+QPixmap MainWindow::pictureOf(bool wholeWindow) {
+    if (wholeWindow)
+        return grab();
+    if (const QRect place = dashboardPlace(); !place.isEmpty())
+        return grab(place);
+    QWidget* const floating = floatingDashboard(m_stage, *m_mirror);
+    return floating == nullptr ? QPixmap() : floating->grab();
 }
 
 void MainWindow::recall() {
@@ -320,12 +355,25 @@ void MainWindow::recall() {
     if (!DesktopState::exists(m_workbench.profiles().folder()))
         m_commandLine->echo(QString::fromLatin1(kFirstHint));
     m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
+    m_recalled = stateNow();
 }
 
 void MainWindow::remember() {
     m_workbench.profiles().save();
-    DesktopState{m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()}.write(
-        m_workbench.profiles().folder());
+    rememberLook();
+}
+
+DesktopState MainWindow::stateNow() {
+    return {m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()};
+}
+
+/// A file that can't be read stays as it is until there is something to write.
+void MainWindow::rememberLook() {
+    const std::filesystem::path& folder = m_workbench.profiles().folder();
+    const DesktopState now = stateNow();
+    if (now != m_recalled || !DesktopState::exists(folder))
+        now.write(folder);
+    m_recalled = now;
 }
 
 /// The host begins to quit, and stays if its user wants to keep a change.

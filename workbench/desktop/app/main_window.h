@@ -1,11 +1,13 @@
 #pragma once
 
+#include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/look/look.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/desktop/pump/pump.h"
 #include "workbench/drawing/database/geometry.h"
 
 #include <QMainWindow>
+#include <QPixmap>
 #include <filesystem>
 #include <memory>
 
@@ -19,6 +21,7 @@ namespace workbench::desktop {
 
 class CommandEcho;
 class CommandLine;
+class DesktopCommands;
 class DesktopMenus;
 class DockSplitter;
 class DocumentTabs;
@@ -61,6 +64,8 @@ public:
     /// Takes over what was remembered of an earlier run, and remembers how things stand now.
     void recall();
     void remember();
+    /// Remembers the look at once, as it may be the last thing that its user does.
+    void rememberLook();
     /// Opens the page about the dashboard.
     void showHelp();
     /// Says something in the status bar.
@@ -83,6 +88,10 @@ private:
     void pressDrawing(QPointF point);
     void answerPoint(const drawing::Vec3& point);
     QRect dashboardPlace();
+    int hiddenHeight() const;
+    void layOutNow();
+    DesktopState stateNow();
+    QPixmap pictureOf(bool wholeWindow);
 
     Workbench& m_workbench;
     Pump m_pump;
@@ -97,11 +106,13 @@ private:
     JournalPane* m_journal;
     SearchBox* m_search;
     QDockWidget* m_journalDock;
+    DesktopState m_recalled;            // nothing is written over it before something differs
     const Document* m_front = nullptr;  // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
     std::unique_ptr<FileActions> m_files;
     std::unique_ptr<DesktopMenus> m_menus;
+    std::unique_ptr<DesktopCommands> m_commands;
     std::unique_ptr<CommandEcho> m_echo;
     std::unique_ptr<HelpPage> m_help;
 };

@@ -17,6 +17,12 @@ QPalette paletteOf(const Look& look) {
     colours.setColor(QPalette::ToolTipBase, look.balloon);
     colours.setColor(QPalette::ToolTipText, look.balloonText);
     colours.setColor(QPalette::Link, look.link);
+    // The lines that styles draw between parts.
+    colours.setColor(QPalette::Light, look.title);
+    colours.setColor(QPalette::Midlight, look.title);
+    colours.setColor(QPalette::Mid, look.line);
+    colours.setColor(QPalette::Dark, look.line);
+    colours.setColor(QPalette::Shadow, look.frame);
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         colours.setColor(QPalette::Disabled, role, look.dimText);

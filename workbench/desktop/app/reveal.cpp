@@ -8,9 +8,11 @@
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/menu_gestures.h"
 #include "workbench/host/workbench.h"
+#include "workbench/toolkit/key_road.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
+#include "workbench/toolkit/tool_panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -52,6 +54,23 @@ const CQrUiToolPanelItem* itemOf(const Stage& stage, const SearchHit& hit) {
     return panel == nullptr ? nullptr : panel->GetToolPanelItem(0);
 }
 
+/// Brings the keyboard to the tool, so that Enter runs it, or to the first part of the control.
+void bringKeyboard(Stage& stage, const SearchHit& hit, const CQrUiToolPanelItem& item) {
+    const CQrUiToolPanel* const panel = toolPanelOf(item);
+    Window* const window = panel == nullptr ? nullptr : stage.windows.find(panel->m_hWnd);
+    if (window == nullptr)
+        return;
+    if (hit.item.empty()) {
+        goToNextField(stage.windows, window->handle, false);
+        return;
+    }
+    int index = 0;
+    while (index < panel->GetToolPanelItemCount() && panel->GetToolPanelItem(index) != &item)
+        ++index;
+    static_cast<ToolPanelWidget&>(*window->widget).markTool(*window, index);
+    stage.windows.setFocus(window->handle);
+}
+
 void mark(const WindowMirror& mirror, const CQrUiToolPanelItem& item) {
     const CQrUiToolPanel* const panel = toolPanelOf(item);
     const MirrorWidget* const widget = panel == nullptr ? nullptr : mirror.widgetOf(panel->m_hWnd);
@@ -75,7 +94,10 @@ void reveal(Stage& stage, WindowMirror& mirror, const SearchHit& hit) {
     if (item == nullptr)
         return;
     const CQrUiToolPanel* const panel = toolPanelOf(*item);
-    stage.pump.act([&] { mirror.scrollIntoView(panel->m_hWnd); });
+    stage.pump.act([&] {
+        mirror.scrollIntoView(panel->m_hWnd);
+        bringKeyboard(stage, hit, *item);
+    });
     mirror.sync();
     mark(mirror, *item);
 }

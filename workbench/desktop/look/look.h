@@ -14,6 +14,8 @@ struct Look {
     QColor text;          ///< on all of these
     QColor dimText;       ///< of what is disabled
     QColor line;          ///< borders and separators
+    QColor edge;          ///< around fields and thumbs
+    QColor thumb;         ///< of sliders
     QColor field;         ///< behind a text that can be edited
     QColor fieldText;     ///< in a field
     QColor accent;        ///< focus, checked tools, the filled part of a slider

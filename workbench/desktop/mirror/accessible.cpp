@@ -19,6 +19,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <algorithm>
 
 namespace workbench::desktop {
 
@@ -46,7 +47,9 @@ QAccessible::Role roleOf(const MirrorWidget& mirror) {
 }
 
 /// A mirrored window.
-class AccessibleWindow final : public QAccessibleWidget, public QAccessibleValueInterface {
+class AccessibleWindow final : public QAccessibleWidget,
+                               public QAccessibleValueInterface,
+                               public QAccessibleTextInterface {
 public:
     explicit AccessibleWindow(MirrorWidget& mirror) : QAccessibleWidget(&mirror, roleOf(mirror)) {}
 
@@ -58,6 +61,8 @@ public:
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && slider() != nullptr)
             return static_cast<QAccessibleValueInterface*>(this);
+        if (type == QAccessible::TextInterface && edit() != nullptr)
+            return static_cast<QAccessibleTextInterface*>(this);
         return QAccessibleWidget::interface_cast(type);
     }
 
@@ -73,11 +78,57 @@ public:
         });
     }
 
+    // QAccessibleTextInterface, for edit fields:
+    QString text(int from, int to) const override { return value().mid(from, to - from); }
+    int characterCount() const override { return static_cast<int>(value().size()); }
+    int cursorPosition() const override;
+    void setCursorPosition(int /*position*/) override {}
+    int selectionCount() const override;
+    void selection(int index, int* from, int* to) const override;
+    void addSelection(int /*from*/, int /*to*/) override {}
+    void removeSelection(int /*index*/) override {}
+    void setSelection(int /*index*/, int /*from*/, int /*to*/) override {}
+    void scrollToSubstring(int /*from*/, int /*to*/) override {}
+    QRect characterRect(int place) const override;
+    int offsetAtPoint(const QPoint& point) const override;
+    QString attributes(int place, int* from, int* to) const override {
+        *from = *to = place;
+        return {};
+    }
+
 private:
+    EditWidget* edit() const { return widgetOf<EditWidget>(mirror()); }
+    const LineEditor& line() const { return edit()->editor(*mirror().host()); }
     MirrorWidget& mirror() const { return *static_cast<MirrorWidget*>(widget()); }
     SliderWidget* slider() const { return widgetOf<SliderWidget>(mirror()); }
     QString value() const;
 };
+
+int AccessibleWindow::cursorPosition() const {
+    return static_cast<int>(line().caret());
+}
+
+int AccessibleWindow::selectionCount() const {
+    return line().caret() == line().anchor() ? 0 : 1;
+}
+
+void AccessibleWindow::selection(int /*index*/, int* from, int* to) const {
+    *from = static_cast<int>(std::min(line().caret(), line().anchor()));
+    *to = static_cast<int>(std::max(line().caret(), line().anchor()));
+}
+
+QRect AccessibleWindow::characterRect(int place) const {
+    const auto scrolled = static_cast<int>(edit()->scrolled(*mirror().host()));
+    const int left = EditWidget::kTextMargin + (place - scrolled) * EditWidget::kCharacterWidth;
+    return {mirror().mapToGlobal(QPoint(left, 0)),
+            QSize(EditWidget::kCharacterWidth, mirror().height())};
+}
+
+int AccessibleWindow::offsetAtPoint(const QPoint& point) const {
+    const auto scrolled = static_cast<int>(edit()->scrolled(*mirror().host()));
+    const int along = mirror().mapFromGlobal(point).x() - EditWidget::kTextMargin;
+    return std::clamp(along / EditWidget::kCharacterWidth + scrolled, 0, characterCount());
+}
 
 QString AccessibleWindow::value() const {
     const Window* const window = mirror().host();
@@ -154,6 +205,8 @@ public:
         state.disabled =
             (bits & kItemDisabled) != 0 || !item().stage().windows.takesInput(item().toolPanel());
         state.checked = (bits & kItemChecked) != 0;
+        state.hasPopup = role() == QAccessible::ButtonMenu;
+        state.expandable = state.hasPopup;
         state.focusable = actionNames().size() > 0;
         state.focused = item().isMarked() && item().parentWidget()->hasFocus();
         return state;

@@ -29,7 +29,7 @@ QRect areaOf(const Window& window) {
 /// The border of a part that takes the keyboard.
 void paintBorder(QPainter& painter, const Stage& stage, const Window& window) {
     const bool hasKeyboard = stage.windows.focus() == window.handle;
-    painter.setPen(hasKeyboard ? stage.look->accent : stage.look->line);
+    painter.setPen(hasKeyboard ? stage.look->accent : stage.look->edge);
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(areaOf(window).adjusted(0, 0, -1, -1));
 }
@@ -58,8 +58,8 @@ void paintSlider(QPainter& painter, Stage& stage, const Window& window,
     paintTicks(painter, stage, slider, scale, height);
     const bool hasKeyboard = stage.windows.focus() == window.handle;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(hasKeyboard ? stage.look->accent : stage.look->line, hasKeyboard ? 2 : 1));
-    painter.setBrush(enabled ? stage.look->field : stage.look->frame);
+    painter.setPen(QPen(hasKeyboard ? stage.look->accent : stage.look->edge, hasKeyboard ? 2 : 1));
+    painter.setBrush(enabled ? stage.look->thumb : stage.look->frame);
     const QRectF thumb(middle - SliderScale::kThumbWidth / 2.0 + 0.5, 0.5,
                        SliderScale::kThumbWidth - 1, height - 4);
     painter.drawRoundedRect(thumb, 2.5, 2.5);

@@ -7,7 +7,10 @@
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/desktop/mirror/window_names.h"
 #include "workbench/desktop/mirror/window_painter.h"
+#include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/input_messages.h"
+#include "workbench/toolkit/lookup.h"
+#include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/background_painter.h"
 #include "workbench/windows/window_system.h"
@@ -157,7 +160,7 @@ void MirrorWidget::contextMenuEvent(QContextMenuEvent* event) {
     m_stage.pump.act([this, point] { m_stage.toolkit.mouse().contextMenu(m_handle, point); });
 }
 
-/// The wheel turns what has the keyboard; over everything else it scrolls the panels, so that no
+/// The wheel turns a slider or a list that has the keyboard; over everything else it scrolls the panels, so that no
 /// value changes by scrolling past it.
 void MirrorWidget::wheelEvent(QWheelEvent* event) {
     m_wheelRest += event->angleDelta().y();
@@ -168,8 +171,11 @@ void MirrorWidget::wheelEvent(QWheelEvent* event) {
     if (notches == 0 || window == nullptr)
         return;
     const bool hasKeyboard = m_stage.windows.focus() == m_handle;
-    const bool isControl = window->widget != nullptr && window->widget->takesTab();
-    const HWND turned = isControl && !hasKeyboard ? window->parent : m_handle;
+    const bool isTurned =
+        hasKeyboard && (dynamic_cast<SliderWidget*>(window->widget.get()) != nullptr ||
+                        dynamic_cast<ComboWidget*>(window->widget.get()) != nullptr);
+    const CQrUiPanel* const panel = panelAbove(m_stage.windows, m_handle);
+    const HWND turned = isTurned || panel == nullptr ? m_handle : panel->m_hWnd;
     const CPoint point = toHost(event->position().toPoint());
     m_stage.pump.act(
         [this, turned, point, notches] { m_stage.toolkit.mouse().wheel(turned, point, notches); });

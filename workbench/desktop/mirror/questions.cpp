@@ -111,7 +111,7 @@ void showTip(const Stage& stage, HWND window, const std::wstring& text) {
         return;
     }
     QString shown = toQt(text);
-    const QString reason = stage.whyDisabled ? stage.whyDisabled() : QString();
+    const QString reason = stage.whyDisabled ? stage.whyDisabled(window) : QString();
     if (!reason.isEmpty() && isDisabledAt(stage, window))
         shown += QLatin1Char('\n') + reason;
     QToolTip::showText(QCursor::pos(), shown);

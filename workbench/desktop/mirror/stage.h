@@ -36,8 +36,8 @@ struct Stage {
     std::function<void(HWND frame, QPoint screenPoint)> holdFloating;
     /// Takes a text that was typed where nothing takes texts.
     std::function<void(const QString&)> typed;
-    /// Why a disabled part can't be used, as far as the host can tell; empty otherwise.
-    std::function<QString()> whyDisabled;
+    /// Why a disabled part can't be used, as far as the host's state tells; empty otherwise.
+    std::function<QString(HWND window)> whyDisabled;
 };
 
 }  // namespace workbench::desktop

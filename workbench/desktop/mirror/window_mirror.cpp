@@ -6,6 +6,7 @@
 #include "workbench/desktop/mirror/bar_parts.h"
 #include "workbench/desktop/mirror/floating_mirror.h"
 #include "workbench/desktop/mirror/list_overlay.h"
+#include "workbench/desktop/mirror/panel_set_mirror.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/palette_set_widget.h"
@@ -75,6 +76,9 @@ void WindowMirror::sync() {
     }
     followKeyboard();
     m_balloons->follow();
+    std::erase_if(m_panelSets, [](const auto& each) { return each == nullptr; });
+    for (const QPointer<PanelSetMirror>& each : m_panelSets)
+        each->follow();
 }
 
 void WindowMirror::redrawAll() {
@@ -150,6 +154,8 @@ MirrorWidget* WindowMirror::make(HWND window) {
         mirror = new FloatingMirror(m_stage, window, parent);
     else if (dynamic_cast<PaletteSetWidget*>(shown.widget.get()) != nullptr)
         mirror = new BarMirror(m_stage, window, parent);
+    else if (dynamic_cast<PanelSetWidget*>(shown.widget.get()) != nullptr)
+        mirror = m_panelSets.emplace_back(new PanelSetMirror(m_stage, window, parent)).data();
     else
         mirror = new MirrorWidget(m_stage, window, parent);
     m_mirrors.insert(window, mirror);

@@ -18,6 +18,7 @@ namespace workbench::desktop {
 class BalloonBubbles;
 class ListOverlay;
 class MirrorWidget;
+class PanelSetMirror;
 struct Stage;
 
 /// The workbench's window tree as widgets, one a window that is on show. It learns of changes by
@@ -57,6 +58,7 @@ private:
     Stage& m_stage;
     QWidget& m_home;
     QHash<HWND, QPointer<MirrorWidget>> m_mirrors;
+    std::vector<QPointer<PanelSetMirror>> m_panelSets;
     std::vector<HWND> m_changed;  // in the order of the first change
     QSet<HWND> m_isChanged;       // the same, to look up
     QTimer m_soon;

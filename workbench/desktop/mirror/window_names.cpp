@@ -1,6 +1,7 @@
 #include "workbench/desktop/mirror/window_names.h"
 
 #include "workbench/desktop/look/text.h"
+#include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/lookup.h"
@@ -41,6 +42,40 @@ QString nameOfItem(const Toolkit& toolkit, const Window& window) {
     return {};
 }
 
+/// A tooltip is a name up to its first line, colon or bracket; behind that it
+/// tells values and advice.
+QString headOf(const QString& tip) {
+    const QString line = tip.section(QLatin1Char('\n'), 0, 0);
+    return line.section(QLatin1Char(':'), 0, 0).section(QLatin1String(" ("), 0, 0).trimmed();
+}
+
+/// Lists that the host or a module names for programs only.
+constexpr ClassRow kLists[] = {
+    {"3DNavViewComboCtrl", "Views"},
+};
+
+/// A name for programs in words: "LayerControl" is "Layer", "LineWeightControl" "Line weight".
+QString inWords(QString name) {
+    for (const QLatin1String end : {QLatin1String("Control"), QLatin1String("Ctrl")}) {
+        if (name.endsWith(end) && name.size() > end.size())
+            name.chop(end.size());
+    }
+    QString words;
+    for (const QChar letter : name) {
+        const bool begins = !words.isEmpty() && letter.isUpper() && words.back().isLower();
+        words += begins ? QLatin1Char(' ') + QString(letter.toLower()) : QString(letter);
+    }
+    return words;
+}
+
+QString nameOfList(const std::string& control) {
+    for (const ClassRow& row : kLists) {
+        if (control == row.className)
+            return QString::fromLatin1(row.name);
+    }
+    return inWords(toQt(std::string_view(control)));
+}
+
 /// The custom control that a window is, or stands in: what it is called as a whole.
 QString nameOfControl(const Toolkit& toolkit, const Window& window) {
     const WindowSystem& windows = toolkit.windows();
@@ -51,15 +86,11 @@ QString nameOfControl(const Toolkit& toolkit, const Window& window) {
         if (parent == nullptr || parent->className != "CQrUiToolPanel")
             return {};
         const QString item = nameOfItem(toolkit, *above);
-        return item.isEmpty() ? toQt(above->name) : item;
+        // The head of a list is another tool, such as a step back.
+        const bool isList = dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr;
+        return item.isEmpty() || isList ? nameOfList(above->name) : headOf(item);
     }
     return {};
-}
-
-/// A tooltip is a name up to its first line or colon; behind that it tells values.
-QString headOf(const QString& tip) {
-    const QString line = tip.section(QLatin1Char('\n'), 0, 0);
-    return line.section(QLatin1Char(':'), 0, 0).trimmed();
 }
 
 QString nameOfClass(const Window& window) {

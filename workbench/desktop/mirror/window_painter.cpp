@@ -26,12 +26,17 @@ void fill(QPainter& painter, const Window& window, const QColor& colour) {
     painter.fillRect(0, 0, window.rect.Width(), window.rect.Height(), colour);
 }
 
+/// With an ellipsis where there is not room for all of the text.
+void drawShortened(QPainter& painter, const QRect& room, const QString& text) {
+    painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width()));
+}
+
 void paintCaption(QPainter& painter, const Stage& stage, const QRect& strip, const QString& title) {
     painter.fillRect(strip, stage.look->title);
     painter.setPen(stage.look->text);
     painter.setFont(fontOf(nullptr));
-    painter.drawText(strip.adjusted(kTextGap, 0, -kTextGap, 0), Qt::AlignVCenter | Qt::AlignLeft,
-                     title);
+    drawShortened(painter, strip.adjusted(kTextGap, 0, -kTextGap, 0), title);
 }
 
 void paintBar(QPainter& painter, Stage& stage, Window& window) {
@@ -42,8 +47,9 @@ void paintBar(QPainter& painter, Stage& stage, Window& window) {
         return;
     const BarParts parts = partsOfDockedBar(window.rect.Width());
     const bool isStrip = place.anchored && window.rect.Width() < parts.smallestFull;
-    paintCaption(painter, stage, {0, 0, window.rect.Width(), PaletteSetWidget::kGripHeight},
-                 isStrip ? QString() : toQt(window.text));
+    paintCaption(painter, stage, {0, 0, window.rect.Width(), PaletteSetWidget::kGripHeight}, {});
+    if (!isStrip)
+        drawShortened(painter, parts.grip.adjusted(kTextGap, 0, 0, 0), toQt(window.text));
     if (isStrip) {
         painter.save();
         painter.translate(window.rect.Width() / 2.0, PaletteSetWidget::kGripHeight + kTextGap);
@@ -84,9 +90,10 @@ void paintPanel(QPainter& painter, Stage& stage, Window& window) {
     font.setBold(true);
     painter.setFont(font);
     painter.setPen(stage.look->text);
-    painter.drawText(
+    drawShortened(
+        painter,
         title.adjusted(PanelWidget::kImageAreaWidth + kTextGap, 0, -PanelWidget::kTitleHeight, 0),
-        Qt::AlignVCenter | Qt::AlignLeft, toQt(window.text));
+        toQt(window.text));
     const QPointF arrow(title.right() - PanelWidget::kTitleHeight / 2.0, title.center().y());
     if (state.collapsed)
         paintArrowRight(painter, arrow, 4, stage.look->dimText);

@@ -127,10 +127,20 @@ QPushButton* JournalPane::makeKindMenu() {
     auto* button = new QPushButton(QStringLiteral("Kinds"));
     button->setAccessibleName(QStringLiteral("Kinds of records on show"));
     auto* menu = new QMenu(button);
+    m_kinds = menu;
+    connect(menu->addAction(QStringLiteral("All")), &QAction::triggered, this,
+            [this] { setAllKinds(true); });
+    connect(menu->addAction(QStringLiteral("None")), &QAction::triggered, this,
+            [this] { setAllKinds(false); });
+    QAction* idle = menu->addAction(QStringLiteral("Idle ticks"));
+    idle->setCheckable(true);
+    connect(idle, &QAction::toggled, this, [this](bool shown) { setIdleShown(shown); });
+    menu->addSeparator();
     for (const char* kind : kKinds) {
         QAction* action = menu->addAction(QString::fromLatin1(kind));
         action->setCheckable(true);
         action->setChecked(true);
+        action->setData(true);
         connect(action, &QAction::toggled, this,
                 [this, action](bool shown) { m_filter.setKindShown(action->text(), shown); });
     }
@@ -138,7 +148,22 @@ QPushButton* JournalPane::makeKindMenu() {
     return button;
 }
 
+void JournalPane::setAllKinds(bool shown) {
+    for (QAction* action : m_kinds->actions()) {
+        if (action->data().toBool())
+            action->setChecked(shown);
+    }
+}
+
+/// The many calls and messages by which controls are kept up to date while nothing happens.
+bool JournalPane::isNoise(const JournalRecord& record) const {
+    return !m_idleShown && m_isIdle && m_isIdle() &&
+           (record.kind == "call" || record.kind == "message");
+}
+
 void JournalPane::note(const JournalRecord& record) {
+    if (isNoise(record))
+        return;
     m_fresh.push_back(record);
     // A burst without a turn of the event loop must not take more memory than the table.
     if (m_fresh.size() >= 2 * JournalModel::kMostRows)

@@ -10,6 +10,7 @@
 #include <vector>
 
 class QHBoxLayout;
+class QMenu;
 class QPushButton;
 class QTableView;
 class QToolButton;
@@ -35,6 +36,13 @@ public:
     /// written.
     bool saveTo(const QString& path, QString& error) const;
 
+    /// Tells whether what happens now is only an idle tick's: such calls and messages are left out,
+    /// unless they are asked for.
+    void setIsIdle(std::function<bool()> isIdle) { m_isIdle = std::move(isIdle); }
+    void setIdleShown(bool shown) { m_idleShown = shown; }
+    /// Shows the records of all kinds, or of none.
+    void setAllKinds(bool shown);
+
     /// Told in one message what could not be done.
     void setOnFailure(std::function<void(const QString&)> told) { m_onFailure = std::move(told); }
 
@@ -46,6 +54,7 @@ private:
     QTableView* makeTable();
     QPushButton* makeKindMenu();
     void note(const JournalRecord& record);
+    bool isNoise(const JournalRecord& record) const;
     void showWaiting();
     void save();
     /// The records of the selected rows, or of all on show, in their order.
@@ -61,6 +70,9 @@ private:
     std::vector<JournalRecord> m_waiting;  // to be shown once the pane is on show and not held
     bool m_paused = false;
     bool m_follows = true;  // the end stays in view; until the user scrolls up
+    bool m_idleShown = false;
+    std::function<bool()> m_isIdle;
+    QMenu* m_kinds = nullptr;
     std::function<void(const QString&)> m_onFailure;
     Journal::Listening m_listening;
 };

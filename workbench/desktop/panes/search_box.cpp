@@ -60,8 +60,10 @@ void SearchBox::search(const QString& text) {
     QStringList rows;
     for (const SearchHit& hit : m_hits)
         rows.append(hit.label + QStringLiteral(" \u2013 ") + hit.panelTitle);
+    if (m_hits.empty() && !text.trimmed().isEmpty())
+        rows.append(QStringLiteral("Nothing found"));
     m_rows.setStringList(rows);
-    if (m_hits.empty())
+    if (rows.isEmpty())
         m_list.popup()->hide();
     else
         openList();

@@ -76,7 +76,9 @@ void Pump::idle() {
     if (m_depth > 0 || m_held)
         return;
     ++m_depth;
+    m_idling = true;
     guarded([this] { m_workbench.toolkit().idleUpdate(); });
+    m_idling = false;
     runHost();
     armTimer();
     --m_depth;

@@ -30,6 +30,8 @@ public:
     /// Leaves clock and host to a script, and questions to its answers. `resume` ends it.
     void hold();
     bool isHeld() const { return m_held; }
+    /// Whether what happens now is only an idle tick's.
+    bool isIdling() const { return m_idling; }
 
     /// Told of each failure, in words.
     void setOnFailure(std::function<void(const QString&)> told) { m_onFailure = std::move(told); }
@@ -52,6 +54,7 @@ private:
     QTimer m_idle;
     int m_depth = 0;
     bool m_held = true;
+    bool m_idling = false;
 };
 
 }  // namespace workbench::desktop

@@ -1,13 +1,11 @@
 #include "workbench/desktop/app/main_window.h"
 
-#include "tests/workbench/desktop/events.h"
-#include "tests/workbench/host/test_options.h"
+#include "tests/workbench/desktop/app/main_window_fixture.h"
 #include "workbench/base/input_error.h"
 #include "workbench/desktop/app/collapsed_panels.h"
+#include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/document_tabs.h"
-#include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/host_actions.h"
-#include "workbench/desktop/app/space_tabs.h"
 #include "workbench/desktop/drawing_view/drawing_view.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/window_mirror.h"
@@ -15,10 +13,10 @@
 #include "workbench/desktop/panes/journal_pane.h"
 #include "workbench/desktop/panes/search_box.h"
 #include "workbench/drawing/lookup.h"
-#include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/shade.h"
@@ -36,7 +34,6 @@
 #include <QImage>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -45,58 +42,6 @@
 
 namespace workbench::desktop {
 namespace {
-
-class MainWindowTest : public testing::Test {
-protected:
-    MainWindowTest() {
-        m_window.resize(1000, 800);
-        m_window.show();
-        m_window.stage().pump.resume();
-        openDashboard(m_workbench, PROJECT_SOURCE_ROOT "/examples/house.json");
-        rest();
-    }
-
-    Editor& editor() { return m_workbench.editor(); }
-    WindowSystem& windows() { return m_workbench.windows(); }
-    void rest() {
-        m_window.stage().pump.act([] {});
-        m_window.mirror().sync();
-    }
-    MirrorWidget* edit() {
-        const HWND control = windows().findByName("LayerLockTransparencySliderControl");
-        return m_window.mirror().widgetOf(findPart(windows(), control, "edit"));
-    }
-    void enter(const char* text) {
-        m_window.commandLine().input().setText(QString::fromLatin1(text));
-        pressKey(m_window.commandLine().input(), Qt::Key_Return);
-    }
-    /// The menu of a title, as it opens; and one of its lines.
-    QMenu& menu(const char* title) {
-        for (QAction* action : m_window.menuBar()->actions()) {
-            if (action->text() == QLatin1String(title)) {
-                Q_EMIT action->menu()->aboutToShow();
-                return *action->menu();
-            }
-        }
-        throw std::logic_error(title);
-    }
-    QAction& line(QMenu& menu, const QString& text) {
-        for (QAction* action : menu.actions()) {
-            if (action->text() == text)
-                return *action;
-        }
-        throw std::logic_error(text.toStdString());
-    }
-    QStringList lines(QMenu& menu) {
-        QStringList texts;
-        for (QAction* action : menu.actions())
-            texts.append(action->text());
-        return texts;
-    }
-
-    Workbench m_workbench{testOptions(PROJECT_SOURCE_ROOT "/examples/panels.json")};
-    MainWindow m_window{m_workbench, Shade::Light};
-};
 
 TEST_F(MainWindowTest, TheHostsFrameIsAsLargeAsItsPlace) {
     const CRect before = windows().clientRect(m_workbench.toolkit().frame().frame().m_hWnd);
@@ -230,6 +175,19 @@ TEST_F(MainWindowTest, ASearchShowsAndMarksWhatItFound) {
     EXPECT_TRUE(windows().isOnScreen(layers));
 }
 
+TEST_F(MainWindowTest, AToolThatWasFoundIsRunByEnter) {
+    editor().set(L"PERSPECTIVE", 1);
+    rest();
+    typeText(m_window.searchBox(), QStringLiteral("parallel projection"));
+    ASSERT_FALSE(m_window.searchBox().hits().empty());
+    pressKey(m_window.searchBox(), Qt::Key_Return);
+    rest();
+    auto* const row = dynamic_cast<MirrorWidget*>(m_window.focusWidget());
+    ASSERT_NE(row, nullptr);
+    pressKey(*row, Qt::Key_Return);
+    EXPECT_EQ(editor().read(L"PERSPECTIVE"), Value(0));
+}
+
 TEST_F(MainWindowTest, MenusListAndSwitchWorkspacesProfilesAndDocuments) {
     QMenu& workspaces = menu("&Workspace");
     EXPECT_TRUE(line(workspaces, QStringLiteral("3D Modeling")).isChecked());
@@ -245,43 +203,21 @@ TEST_F(MainWindowTest, MenusListAndSwitchWorkspacesProfilesAndDocuments) {
     EXPECT_EQ(editor().documents().active()->name(), L"Drawing1");
 }
 
-TEST_F(MainWindowTest, AChangedDocumentIsOnlyClosedWhenItsUserAgrees) {
-    QStringList questions;
-    QMessageBox::StandardButton answer = QMessageBox::Cancel;
-    m_window.fileActions().setAsker([&](const QString& question) {
-        questions.append(question);
-        return answer;
-    });
-    Document& house = *editor().documents().active();
-    m_window.stage().pump.act([&] { drawing::setByPath(house.data(), "layers.Roof.on", false); });
-    line(menu("&Document"), QStringLiteral("&Close")).trigger();
-    EXPECT_EQ(questions, QStringList{QStringLiteral("house.json has changed. Save it?")});
-    EXPECT_EQ(editor().documents().count(), 1);
-    EXPECT_FALSE(m_window.close());
-    EXPECT_TRUE(m_window.isVisible());
-    line(menu("&Edit"), QStringLiteral("&Undo")).trigger();
-    line(menu("&Document"), QStringLiteral("&Close")).trigger();
-    EXPECT_EQ(questions.size(), 2) << "nothing to lose any more";
-    EXPECT_EQ(editor().documents().count(), 0);
-}
-
-TEST_F(MainWindowTest, ADrawingIsSavedUnderANameAndOpenedFromThere) {
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("mine"));
-    QStringList starts;
-    m_window.fileActions().setChooser([&](bool saving, const QString& startsAt) {
-        starts.append(startsAt);
-        return saving ? file : file + QStringLiteral(".json");
-    });
-    enter("LUPREC");
-    enter("7");
-    line(menu("&Document"), QStringLiteral("Save &as...")).trigger();
-    EXPECT_TRUE(QFile::exists(file + QStringLiteral(".json"))) << "the ending is added";
-    line(menu("&Document"), QStringLiteral("&Close")).trigger();
-    line(menu("&Document"), QStringLiteral("&Open...")).trigger();
-    EXPECT_EQ(starts.back(), folder.path());
-    ASSERT_NE(editor().documents().active(), nullptr);
-    EXPECT_EQ(editor().documents().active()->name(), L"mine.json");
+TEST_F(MainWindowTest, AWorkspaceShowsTheSamePanelsWhenItComesBack) {
+    const auto shown = [this] {
+        std::vector<std::wstring> ids;
+        for (const CQrUiPanel* panel : allPanels(windows())) {
+            if (windows().isOnScreen(panel->m_hWnd))
+                ids.push_back(panel->GetID());
+        }
+        return ids;
+    };
+    m_window.stage().pump.act([this] { showPanelsOfWorkspace(m_workbench); });
+    const std::vector<std::wstring> before = shown();
+    line(menu("&Workspace"), QStringLiteral("Drafting")).trigger();
+    EXPECT_NE(shown(), before);
+    line(menu("&Workspace"), QStringLiteral("3D Modeling")).trigger();
+    EXPECT_EQ(shown(), before);
 }
 
 TEST_F(MainWindowTest, TheMenusShowTheirShortcuts) {
@@ -294,19 +230,6 @@ TEST_F(MainWindowTest, TheMenusShowTheirShortcuts) {
     EXPECT_EQ(shortcutOf("&Document", "&Quit"), QStringLiteral("Ctrl+Q"));
     EXPECT_EQ(shortcutOf("&Edit", "&Undo"), QStringLiteral("Ctrl+Z"));
     EXPECT_EQ(shortcutOf("&Help", "The &dashboard"), QStringLiteral("F1"));
-}
-
-TEST_F(MainWindowTest, TheTabsBelowTheDrawingGoToItsLayouts) {
-    SpaceTabs& spaces = m_window.spaceTabs();
-    ASSERT_GT(spaces.count(), 1);
-    EXPECT_EQ(spaces.tabText(0), QStringLiteral("Model"));
-    EXPECT_EQ(spaces.currentIndex(), 0);
-    spaces.setCurrentIndex(1);
-    EXPECT_EQ(editor().read(L"TILEMODE"), Value(0));
-    EXPECT_EQ(spaces.currentIndex(), 1);
-    enter("MODEL");
-    EXPECT_EQ(spaces.currentIndex(), 0);
-    EXPECT_EQ(editor().read(L"TILEMODE"), Value(1));
 }
 
 TEST_F(MainWindowTest, AWindowWithoutADrawingSaysHowToGetOne) {
@@ -407,6 +330,17 @@ TEST_F(MainWindowTest, PicturesShowTheDashboardOrTheWholeWindow) {
     EXPECT_THROW(m_window.takePicture(file, false), InputError);
 }
 
+TEST_F(MainWindowTest, APictureHoldsTheWholeDashboardThoughTheWindowIsLow) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("a.png"));
+    m_window.takePicture(file.toStdString(), false);
+    const int whole = QImage(file).height();
+    m_window.resize(1000, 400);
+    m_window.takePicture(file.toStdString(), false);
+    EXPECT_EQ(QImage(file).height(), whole);
+    EXPECT_EQ(m_window.height(), 400);
+}
+
 TEST_F(MainWindowTest, AFloatingDashboardIsPicturedToo) {
     const QTemporaryDir folder;
     const std::string file = folder.filePath(QStringLiteral("a.png")).toStdString();
@@ -463,6 +397,37 @@ TEST_F(MainWindowTest, RemembersThemeAndRolledUpPanels) {
     EXPECT_EQ(m_window.shade(), Shade::Dark);
     EXPECT_EQ(collapsedPanels(m_workbench.toolkit()),
               (std::vector<std::wstring>{L"Layers", L"Light"}));
+}
+
+TEST_F(MainWindowTest, AStateThatCannotBeReadIsOnlyOverwrittenOnceSomethingChanges) {
+    const QString file =
+        QString::fromStdString((m_workbench.profiles().folder() / "desktop.json").string());
+    const QByteArray half = R"({"theme": "da)";
+    const auto content = [&file] {
+        QFile reading(file);
+        return reading.open(QIODevice::ReadOnly) ? reading.readAll() : QByteArray();
+    };
+    QFile writing(file);
+    ASSERT_TRUE(writing.open(QIODevice::WriteOnly));
+    writing.write(half);
+    writing.close();
+    m_window.recall();
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().startsWith(file));
+    EXPECT_EQ(m_window.shade(), Shade::Light);
+    m_window.rememberLook();
+    EXPECT_EQ(content(), half);
+    m_window.setShade(Shade::Dark);
+    m_window.rememberLook();
+    EXPECT_TRUE(content().contains("dark"));
+    m_window.setShade(Shade::Light);
+}
+
+TEST_F(MainWindowTest, AThemeThatWasChosenIsRememberedAtOnce) {
+    QMenu& view = menu("&View");
+    line(*line(view, QStringLiteral("&Theme")).menu(), QStringLiteral("dark")).trigger();
+    QString complaint;
+    EXPECT_EQ(DesktopState::read(m_workbench.profiles().folder(), complaint).shade, Shade::Dark);
+    m_window.setShade(Shade::Light);
 }
 
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {

@@ -54,9 +54,20 @@ TEST_F(AccessibleTest, FieldsAndListsTellTheirTexts) {
     EXPECT_TRUE(edit.state().editable);
     EXPECT_TRUE(edit.state().focusable);
     EXPECT_EQ(edit.valueInterface(), nullptr);
+    QAccessibleTextInterface* const text = edit.textInterface();
+    ASSERT_NE(text, nullptr);
+    EXPECT_EQ(text->characterCount(), 6);
+    EXPECT_EQ(text->text(0, 2), QStringLiteral("24"));
+    EXPECT_EQ(text->offsetAtPoint(text->characterRect(3).center()), 3);
+    pressKey(*widget("3DNavPointTriplet1", "x"), Qt::Key_Home);
+    EXPECT_EQ(text->selectionCount(), 0);
+    EXPECT_EQ(of(widget(kFade, "slider")).textInterface(), nullptr);
     QAccessibleInterface& combo = of(widget(kViews, "combo"));
     EXPECT_EQ(combo.role(), QAccessible::ComboBox);
     EXPECT_EQ(combo.text(QAccessible::Value), QStringLiteral("Garden"));
+    EXPECT_EQ(combo.text(QAccessible::Name), QStringLiteral("Views"));
+    EXPECT_EQ(of(widget(kFade, "slider")).text(QAccessible::Name),
+              QStringLiteral("Locked layer fading"));
 }
 
 TEST_F(AccessibleTest, ButtonsTellTheirStateAndCanBePressed) {
@@ -89,6 +100,32 @@ TEST_F(AccessibleTest, ExactlyOneObjectHasTheKeyboard) {
         ASSERT_EQ(focused.size(), 1U) << windows().find(place)->className;
         EXPECT_EQ(focused.front()->role() == QAccessible::Button, place == tool->toolPanel());
     }
+}
+
+TEST_F(AccessibleTest, TheHostsListsHaveNamesThatPeopleKnow) {
+    std::vector<QAccessibleInterface*> all;
+    collect(of(widget(m_stage.toolkit.frame().bars().front()->m_hWnd)), all);
+    QStringList names;
+    for (QAccessibleInterface* node : all) {
+        if (node->role() == QAccessible::ComboBox)
+            names.append(node->text(QAccessible::Name));
+    }
+    EXPECT_TRUE(names.contains(QLatin1String("Layer")));
+    for (const QString& name : names)
+        EXPECT_FALSE(name.contains(QLatin1String("Control"))) << name.toStdString();
+}
+
+TEST_F(AccessibleTest, FlyoutsSayThatTheyOpen) {
+    int flyouts = 0;
+    std::vector<QAccessibleInterface*> all;
+    collect(of(widget(m_stage.toolkit.frame().bars().front()->m_hWnd)), all);
+    for (QAccessibleInterface* node : all) {
+        if (node->role() != QAccessible::ButtonMenu && node->role() != QAccessible::Button)
+            continue;
+        EXPECT_EQ(node->state().hasPopup, node->role() == QAccessible::ButtonMenu);
+        flyouts += node->state().hasPopup ? 1 : 0;
+    }
+    EXPECT_GT(flyouts, 0);
 }
 
 TEST_F(AccessibleTest, DisabledPartsSaySo) {

@@ -110,7 +110,7 @@ TEST_F(QuestionsTest, NoTooltipComesOnceTheMouseHasLeft) {
 }
 
 TEST_F(QuestionsTest, TooltipsComeWhenTheMouseRestsAndTellWhyAToolIsDisabled) {
-    m_stage.whyDisabled = [] { return QStringLiteral("No drawing is open."); };
+    m_stage.whyDisabled = [](HWND) { return QStringLiteral("No drawing is open."); };
     ItemWidget* play = item(L"ID_Animation_Play");
     hover(*play->parentWidget(), play->geometry().center());
     windows().advance(600);

@@ -268,4 +268,37 @@ TEST_F(JournalPaneTest, EachPartHasAName) {
     EXPECT_FALSE(pane.findChild<QLineEdit*>()->accessibleName().isEmpty());
 }
 
+TEST_F(JournalPaneTest, CallsAndMessagesOfIdleTicksAreLeftOutAtFirst) {
+    show();
+    bool idle = true;
+    pane.setIsIdle([&idle] { return idle; });
+    add("a", "call");
+    add("b", "message");
+    add("c", "control");
+    comeRound();
+    EXPECT_EQ(rows(), 1) << "what changed on the screen is no noise";
+    idle = false;
+    add("d", "call");
+    comeRound();
+    EXPECT_EQ(rows(), 2);
+    idle = true;
+    pane.setIdleShown(true);
+    add("e", "call");
+    comeRound();
+    EXPECT_EQ(rows(), 3);
+}
+
+TEST_F(JournalPaneTest, AllKindsOrNoneAreShownAtOnce) {
+    show();
+    add("a", "call");
+    add("b", "var");
+    comeRound();
+    pane.setAllKinds(false);
+    EXPECT_EQ(rows(), 0);
+    setKindShown("var", true);
+    EXPECT_EQ(rows(), 1);
+    pane.setAllKinds(true);
+    EXPECT_EQ(rows(), 2);
+}
+
 }  // namespace workbench::desktop

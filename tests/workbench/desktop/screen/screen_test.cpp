@@ -158,6 +158,20 @@ TEST_F(ScreenTest, APanelsContextMenuOpens) {
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
+TEST_F(ScreenTest, ClosedWhileTheDashboardFloatsTheProgramEnds) {
+    CQrUiPaletteSet& set = *m_workbench.toolkit().frame().bars().front();
+    m_window.stage().pump.act([&] {
+        m_workbench.toolkit().frame().floatAt(set, {300, 200, 540, 600});
+    });
+    pause(200);
+    QTimer::singleShot(0, &m_window, [this] { m_window.close(); });
+    QTimer watch;
+    watch.setSingleShot(true);
+    QObject::connect(&watch, &QTimer::timeout, [] { QApplication::exit(1); });
+    watch.start(5000);
+    EXPECT_EQ(QApplication::exec(), 0);
+}
+
 TEST_F(ScreenTest, TheDashboardIsDraggedOffAndFloats) {
     CQrUiPaletteSet& set = *m_workbench.toolkit().frame().bars().front();
     MirrorWidget* bar = m_window.mirror().widgetOf(set.m_hWnd);
