@@ -174,6 +174,8 @@ void DesktopMenus::fillView(QMenu& menu, QDockWidget& journal) {
     addAction(menu, QStringLiteral("Show or hide the &dashboard"),
               [this] { m_window.stage().pump.act([this] { toggleDashboard(m_workbench); }); });
     menu.addAction(journal.toggleViewAction());
+    addAction(menu, QStringLiteral("&Compare with the host"),
+              [this] { m_window.compareWithHost(); });
     addAction(menu, QStringLiteral("&Reset the layout"),
               [this] { m_window.stage().pump.act([this] { resetLayout(m_workbench); }); });
     menu.addAction(m_fit);

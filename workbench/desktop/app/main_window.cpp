@@ -1,5 +1,6 @@
 #include "workbench/desktop/app/main_window.h"
 
+#include "workbench/audit/audit.h"
 #include "workbench/base/input_error.h"
 #include "workbench/base/number_text.h"
 #include "workbench/desktop/app/collapsed_panels.h"
@@ -10,6 +11,7 @@
 #include "workbench/desktop/app/document_tabs.h"
 #include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/frame_home.h"
+#include "workbench/desktop/app/layout_keeper.h"
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
 #include "workbench/desktop/app/space_tabs.h"
@@ -356,6 +358,19 @@ void MainWindow::recall() {
         m_commandLine->echo(QString::fromLatin1(kFirstHint));
     m_pump.act([&] { collapsePanels(m_stage.toolkit, state.rolledUp); });
     m_recalled = stateNow();
+    m_layout = std::make_unique<LayoutKeeper>(m_stage.toolkit,
+                                              [this] { m_pump.act([this] { remember(); }); });
+    m_layout->start();
+}
+
+void MainWindow::compareWithHost() {
+    const std::vector<AuditFinding> findings = audit(m_workbench);
+    if (findings.empty())
+        m_commandLine->echo(QStringLiteral("All that is on show agrees with the host."));
+    for (const AuditFinding& finding : findings)
+        m_commandLine->echo(QStringLiteral("%1: %2 shows \"%3\" for \"%4\".")
+                                .arg(toQt(finding.control), toQt(finding.field),
+                                     toQt(finding.shown), toQt(finding.expected)));
 }
 
 void MainWindow::remember() {

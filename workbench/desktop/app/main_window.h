@@ -29,6 +29,7 @@ class FileActions;
 class FrameHome;
 class HelpPage;
 class JournalPane;
+class LayoutKeeper;
 class Questions;
 class SearchBox;
 class SpaceTabs;
@@ -66,6 +67,8 @@ public:
     void remember();
     /// Remembers the look at once, as it may be the last thing that its user does.
     void rememberLook();
+    /// Says at the command line what of the dashboard doesn't agree with the host's state.
+    void compareWithHost();
     /// Opens the page about the dashboard.
     void showHelp();
     /// Says something in the status bar.
@@ -106,8 +109,9 @@ private:
     JournalPane* m_journal;
     SearchBox* m_search;
     QDockWidget* m_journalDock;
-    DesktopState m_recalled;            // nothing is written over it before something differs
-    const Document* m_front = nullptr;  // compared only: the document may have been closed
+    std::unique_ptr<LayoutKeeper> m_layout;  // null until an earlier run was recalled
+    DesktopState m_recalled;                 // nothing is written over it before something differs
+    const Document* m_front = nullptr;       // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
     std::unique_ptr<FileActions> m_files;

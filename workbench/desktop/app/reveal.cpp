@@ -61,7 +61,7 @@ void bringKeyboard(Stage& stage, const SearchHit& hit, const CQrUiToolPanelItem&
     if (window == nullptr)
         return;
     if (hit.item.empty()) {
-        goToNextField(stage.windows, window->handle, false);
+        goToNextField(stage.toolkit, window->handle, false);
         return;
     }
     int index = 0;

@@ -274,6 +274,19 @@ TEST_F(MainWindowTest, TheViewMenuHidesShowsAndResetsTheDashboard) {
     EXPECT_FALSE(set.IsFloating());
 }
 
+TEST_F(MainWindowTest, TheViewMenuComparesWhatIsOnShowWithTheHost) {
+    const auto* log = m_window.commandLine().findChild<QPlainTextEdit*>();
+    line(menu("&View"), QStringLiteral("&Compare with the host")).trigger();
+    EXPECT_TRUE(
+        log->toPlainText().endsWith(QStringLiteral("All that is on show agrees with the host.")));
+    m_workbench.faults().fail("vxedGetVar");
+    m_workbench.editor().set(L"LAYLOCKFADECTL", 70);
+    m_workbench.faults().unfail("vxedGetVar");
+    line(menu("&View"), QStringLiteral("&Compare with the host")).trigger();
+    EXPECT_TRUE(log->toPlainText().contains(
+        QStringLiteral("LayerLockTransparencySliderControl: slider shows \"1\" for \"70\".")));
+}
+
 TEST_F(MainWindowTest, TheDashboardsEdgeIsDragged) {
     const HWND bar = m_workbench.toolkit().frame().bars().front()->m_hWnd;
     const auto width = [&] { return windows().screenRect(bar).Width(); };
