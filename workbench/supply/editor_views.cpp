@@ -28,6 +28,15 @@ void stepBack(bool (workbench::ViewHistory::*step)(workbench::drawing::ObjectId)
         (document->viewHistory().*step)(workbench::drawing::activeViewport(document->data()));
 }
 
+bool canStepBack() {
+    workbench::Document* const document = currentDocument();
+    if (document == nullptr)
+        return false;
+    const auto viewport = workbench::drawing::activeViewport(document->data());
+    const auto* const shown = document->data().look<workbench::drawing::Viewport>(viewport);
+    return shown != nullptr && !shown->locked && document->viewHistory().depth(viewport) > 0;
+}
+
 /// The viewport in which the user works; null for none.
 VxDbObjectId activeViewport() {
     const workbench::Document* document = currentDocument();
@@ -145,11 +154,7 @@ VxDbObjectId vxInternalGetCurVPAppliedView() {
 
 bool vxInternalIsCurVPZoomUndoAvailable() {
     HostCall call("vxInternalIsCurVPZoomUndoAvailable");
-    workbench::Document* document = currentDocument();
-    const bool available =
-        !call.failed() && document != nullptr &&
-        document->viewHistory().depth(workbench::drawing::activeViewport(document->data())) > 0;
-    return call.returns(available);
+    return call.returns(!call.failed() && canStepBack());
 }
 
 void vxInternalZoomPrevious() {

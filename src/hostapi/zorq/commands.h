@@ -8,7 +8,7 @@ class VxApDocument;
 
 /// Flags of a registered command.
 constexpr int kCommandTransparent = 1;  ///< May run inside another command.
-constexpr int kCommandUsePickSet = 2;   ///< May use the selection made before it.
+constexpr int kCommandUsePickSet = 2;   ///< May use the selection made before it, if there is one.
 
 /// The registered commands, the registry's entry "ZORQ_REGISTERED_COMMANDS"; class
 /// "VxEdCommandStack".

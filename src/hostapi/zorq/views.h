@@ -89,7 +89,7 @@ public:
 
 /// The named view that the current viewport shows, null if it shows none.
 VxDbObjectId vxInternalGetCurVPAppliedView();
-/// Whether the current viewport has an earlier view to go back to.
+/// Whether the current viewport has an earlier view to go back to; never while it is locked.
 bool vxInternalIsCurVPZoomUndoAvailable();
 /// Gives the current viewport its previous view back, whatever has changed it; nothing if it is locked,
 /// or the document is not locked for writing.

@@ -1,6 +1,7 @@
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/view.h"
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/navigation/navigation_tool.h"
@@ -231,6 +232,19 @@ TEST_F(ViewFunctionsTest, PreviousTakesTheLastChangeBackAndBackTheLastZoom) {
     write(L"PERSPECTIVE", 1);
     vxInternalZoomBack();
     EXPECT_TRUE(shown().view.perspective);
+}
+
+TEST_F(ViewFunctionsTest, InALockedViewportThereIsNoViewToGoBackTo) {
+    Document& document = newDocument();
+    const VxAxDocLock lock(document.database(), 1);
+    vxgsSetLensLength(kTile, 24);
+    drawing::setByPath(document.data(), "viewports.current.locked", true);
+    EXPECT_FALSE(vxInternalIsCurVPZoomUndoAvailable());
+    vxInternalZoomPrevious();
+    vxInternalZoomBack();
+    EXPECT_EQ(shown().view.lens, 24);
+    drawing::setByPath(document.data(), "viewports.current.locked", false);
+    EXPECT_TRUE(vxInternalIsCurVPZoomUndoAvailable());
 }
 
 TEST_F(ViewFunctionsTest, WithoutALockNoViewIsSteppedBack) {
