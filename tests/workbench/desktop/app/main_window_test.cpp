@@ -16,6 +16,7 @@
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/navigation/navigation_tool.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
@@ -85,6 +86,30 @@ TEST_F(MainWindowTest, AClickInTheDrawingAnswersAPointPrompt) {
     EXPECT_EQ(document.data().ids(drawing::RecordKind::Entity).size(), before + 1);
     enter("");
     EXPECT_FALSE(document.processor().isActive());
+}
+
+TEST_F(MainWindowTest, WhileThePanToolRunsADragPansAndBehindItADragOrbits) {
+    DrawingView& view = m_window.documentTabs().viewAt(0);
+    const drawing::Database& data = editor().documents().active()->data();
+    const auto shown = [&data] {
+        return data.look<drawing::Viewport>(drawing::activeViewport(data))->view;
+    };
+    const auto drag = [&view] {
+        press(view, {300, 200});
+        moveHeld(view, {340, 220});
+        release(view, {340, 220});
+    };
+    enter("'_3dpan");
+    ASSERT_TRUE(m_workbench.navigation().isRunning());
+    const drawing::ViewParameters before = shown();
+    drag();
+    const drawing::ViewParameters panned = shown();
+    EXPECT_NE(panned.target, before.target);
+    pressKey(m_window.commandLine().input(), Qt::Key_Escape);
+    ASSERT_FALSE(m_workbench.navigation().isRunning());
+    drag();
+    EXPECT_EQ(shown().target, panned.target);
+    EXPECT_NE(shown().eye, panned.eye);
 }
 
 TEST_F(MainWindowTest, EachDocumentHasATab) {
