@@ -288,6 +288,30 @@ TEST_F(MainWindowTest, TheDrawingIsFittedIntoItsView) {
     EXPECT_NEAR(width() / fit, 1.0, 0.2);
 }
 
+TEST_F(MainWindowTest, ToReadThePanelsAnewLeavesTheirValuesInPlace) {
+    const auto shown = [this] {
+        std::vector<std::wstring> texts;
+        for (const HWND each :
+             windows().descendants(m_workbench.toolkit().frame().frame().m_hWnd)) {
+            const Window& window = *windows().find(each);
+            if (window.className != "CQrUiInputEditCtrl" || !windows().isOnScreen(each))
+                continue;
+            texts.push_back(window.text);
+        }
+        return texts;
+    };
+    enter("LAYLOCKFADECTL");
+    enter("35");
+    enter("STEPSIZE");
+    enter("2.5");
+    rest();
+    const std::vector<std::wstring> before = shown();
+    ASSERT_GT(before.size(), 5U);
+    line(menu("&Workspace"), QStringLiteral("Read the &panels anew")).trigger();
+    rest();
+    EXPECT_EQ(shown(), before);
+}
+
 TEST_F(MainWindowTest, TheViewMenuHidesShowsAndResetsTheDashboard) {
     CQrUiPaletteSet& set = *m_workbench.toolkit().frame().bars().front();
     line(menu("&View"), QStringLiteral("Show or hide the &dashboard")).trigger();
