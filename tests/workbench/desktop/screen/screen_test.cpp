@@ -160,6 +160,19 @@ TEST_F(ScreenTest, APanelsContextMenuOpens) {
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
 }
 
+TEST_F(ScreenTest, ControlZAtTheEmptyCommandLineTakesTheLastCommandBack) {
+    m_window.commandLine().input().setFocus();
+    hands({QStringLiteral("type"), QStringLiteral("line 0,0 9,9")});
+    hands({QStringLiteral("key"), QStringLiteral("Return")});
+    hands({QStringLiteral("key"), QStringLiteral("Return")});
+    const drawing::Database& data = m_workbench.editor().documents().active()->data();
+    const std::size_t drawn = data.ids(drawing::RecordKind::Entity).size();
+    hands({QStringLiteral("key"), QStringLiteral("ctrl+z")});
+    EXPECT_EQ(data.ids(drawing::RecordKind::Entity).size(), drawn - 1);
+    hands({QStringLiteral("key"), QStringLiteral("ctrl+y")});
+    EXPECT_EQ(data.ids(drawing::RecordKind::Entity).size(), drawn);
+}
+
 TEST_F(ScreenTest, ABalloonTakesTheClickOnIt) {
     MirrorWidget* edit = part("edit");
     clickAt(edit->mapToGlobal(edit->rect().center()));
