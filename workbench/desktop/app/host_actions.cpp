@@ -90,6 +90,8 @@ void reloadMenu(Workbench& workbench) {
     notify(workbench, kTakePanelsDown);
     workbench.menu().reload();
     notify(workbench, kBuildPanels);
+    // Controls of the view wait for its change before they show it.
+    workbench.editor().viewChanged();
     collapsePanels(workbench.toolkit(), rolledUp);
 }
 

@@ -41,6 +41,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
@@ -108,10 +109,12 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     m_pump.setOnRest([this] { onRest(); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*before*/, QWidget* now) { leaveDashboard(now); });
+    qApp->installEventFilter(this);
     onRest();
 }
 
 MainWindow::~MainWindow() {
+    qApp->removeEventFilter(this);
     m_pump.setOnRest(nullptr);
     m_pump.setOnFailure(nullptr);
 }
@@ -389,6 +392,18 @@ void MainWindow::rememberLook() {
     if (now != m_recalled || !DesktopState::exists(folder))
         now.write(folder);
     m_recalled = now;
+}
+
+/// What the user's hands begin in this window, for the journal.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    const auto* const widget = qobject_cast<QWidget*>(watched);
+    if (widget != nullptr && event->type() == QEvent::MouseButtonPress)
+        m_journal->beginGesture(QStringLiteral("Press on ") + widget->accessibleName());
+    else if (widget != nullptr && event->type() == QEvent::KeyPress)
+        m_journal->beginGesture(
+            QStringLiteral("Key ") +
+            QKeySequence(static_cast<QKeyEvent*>(event)->key()).toString(QKeySequence::NativeText));
+    return QMainWindow::eventFilter(watched, event);
 }
 
 /// The host begins to quit, and stays if its user wants to keep a change.

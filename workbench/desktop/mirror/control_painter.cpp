@@ -4,6 +4,7 @@
 #include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/desktop/mirror/window_names.h"
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/slider_widget.h"
@@ -104,6 +105,12 @@ void paintCombo(QPainter& painter, Stage& stage, const Window& window, const Com
     painter.fillRect(area, enabled ? stage.look->field : stage.look->panel);
     const QColor ink = enabled ? stage.look->fieldText : stage.look->dimText;
     int left = kComboTextMargin;
+    painter.setFont(fontOf(stage.windows.gdi().findFont(window.font)));
+    const auto drawText = [&](const QString& text) {
+        const QRect room(left, 0, area.width() - left - kComboButton, area.height());
+        painter.drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
+                         painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width()));
+    };
     if (const QRUI_COMBO_CTRL_ITEM* shown = combo.entry(combo.selected())) {
         const QPixmap picture = stage.pictures.fit(shown->image, nullptr, kComboPicture,
                                                    painter.device()->devicePixelRatioF());
@@ -112,11 +119,11 @@ void paintCombo(QPainter& painter, Stage& stage, const Window& window, const Com
             left += kComboPicture + kComboTextMargin;
         }
         painter.setPen(ink);
-        painter.setFont(fontOf(stage.windows.gdi().findFont(window.font)));
-        const QRect room(left, 0, area.width() - left - kComboButton, area.height());
-        painter.drawText(
-            room, Qt::AlignVCenter | Qt::AlignLeft,
-            painter.fontMetrics().elidedText(toQt(shown->text), Qt::ElideRight, room.width()));
+        drawText(toQt(shown->text));
+    } else {
+        // Nothing is chosen: then the list says what could be.
+        painter.setPen(stage.look->dimText);
+        drawText(namesOf(stage.toolkit, window).name);
     }
     paintArrowDown(painter, {area.width() - kComboButton / 2.0, area.height() / 2.0}, 4, ink);
     paintBorder(painter, stage, window);

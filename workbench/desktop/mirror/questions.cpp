@@ -2,6 +2,7 @@
 
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
@@ -105,12 +106,37 @@ bool isDisabledAt(const Stage& stage, HWND window) {
     return false;
 }
 
+/// The variable that a slider sets, as its user would type it; empty for one that sets none, such as
+/// the lens, which belongs to the view.
+QString variableOf(const WindowSystem& windows, HWND window) {
+    struct Row {
+        const char* control;
+        const char* variable;
+    };
+    constexpr Row kRows[] = {
+        {"LayerLockTransparencySliderControl", "LAYLOCKFADECTL"},
+        {"3DNavStepSizeSliderControl", "STEPSIZE"},
+        {"3DNavStepsPerSecSliderControl", "STEPSPERSEC"},
+    };
+    const Window* const found = windows.find(window);
+    if (found == nullptr || dynamic_cast<SliderWidget*>(found->widget.get()) == nullptr)
+        return {};
+    const std::string control = windows.ownerName(window);
+    for (const Row& row : kRows) {
+        if (control == row.control)
+            return QString::fromLatin1(row.variable);
+    }
+    return {};
+}
+
 void showTip(const Stage& stage, HWND window, const std::wstring& text) {
     if (text.empty()) {
         QToolTip::hideText();
         return;
     }
     QString shown = toQt(text);
+    if (const QString variable = variableOf(stage.windows, window); !variable.isEmpty())
+        shown += QStringLiteral("\nVariable: ") + variable;
     const QString reason = stage.whyDisabled ? stage.whyDisabled(window) : QString();
     if (!reason.isEmpty() && isDisabledAt(stage, window))
         shown += QLatin1Char('\n') + reason;

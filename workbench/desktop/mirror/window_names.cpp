@@ -51,7 +51,9 @@ QString headOf(const QString& tip) {
 
 /// Lists that the host or a module names for programs only.
 constexpr ClassRow kLists[] = {
-    {"3DNavViewComboCtrl", "Views"},
+    {"3DNavViewComboCtrl", "Views"},          {"DimStyleControl", "Dimension style"},
+    {"MldStyleControl", "Multileader style"}, {"RefblknameControl", "Reference block"},
+    {"TblStyleControl", "Table style"},       {"TxtStyleControl", "Text style"},
 };
 
 /// A name for programs in words: "LayerControl" is "Layer", "LineWeightControl" "Line weight".

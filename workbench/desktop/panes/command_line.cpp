@@ -18,6 +18,11 @@ QString restPrompt() {
     return QStringLiteral("Command:");
 }
 
+bool isUndoOrRedo(const QKeyEvent& event) {
+    return event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo) ||
+           (event.modifiers() == Qt::ControlModifier && event.key() == Qt::Key_Y);
+}
+
 /// The marks that may stand ahead of a name: transparent, not translated, not redefined.
 QString marksOf(const QString& typed) {
     const auto isMark = [](QChar letter) { return QStringLiteral("'_.").contains(letter); };
@@ -76,6 +81,12 @@ void CommandLine::begin(const QString& text) {
 }
 
 bool CommandLine::eventFilter(QObject* watched, QEvent* event) {
+    // With nothing typed there is nothing to take back but the last command.
+    if (event->type() == QEvent::ShortcutOverride && m_input->text().isEmpty() &&
+        isUndoOrRedo(*static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return true;
+    }
     const bool isKey = event->type() == QEvent::KeyPress && m_input->isEnabled();
     if (isKey && handleKey(*static_cast<QKeyEvent*>(event)))
         return true;

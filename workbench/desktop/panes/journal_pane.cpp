@@ -64,13 +64,18 @@ void complete(std::vector<JournalRecord>& records, const Journal& journal) {
 
 }  // namespace
 
-JournalPane::JournalPane(Journal& journal) : m_journal(journal), m_table(makeTable()) {
+JournalPane::JournalPane(Journal& journal)
+    : m_journal(journal),
+      m_table(makeTable()),
+      m_roads(new GestureRoads) {
     setAccessibleName(QStringLiteral("Journal"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 2, 2, 2);
     layout->setSpacing(2);
     layout->addLayout(makeControls());
     layout->addWidget(m_table);
+    layout->addWidget(m_roads);
+    m_roads->hide();
     m_batch.setSingleShot(true);
     connect(&m_batch, &QTimer::timeout, this, [this] { takeOver(); });
     m_listening = journal.addListener([this](const JournalRecord& record) { note(record); });
@@ -89,8 +94,13 @@ QHBoxLayout* JournalPane::makeControls() {
     m_pause = addButton(*row, QStringLiteral("Pause"));
     m_pause->setCheckable(true);
     connect(m_pause, &QToolButton::toggled, this, [this](bool paused) { setPaused(paused); });
-    connect(addButton(*row, QStringLiteral("Clear")), &QToolButton::clicked, this,
-            [this] { m_model.clear(); });
+    connect(addButton(*row, QStringLiteral("Clear")), &QToolButton::clicked, this, [this] {
+        m_model.clear();
+        m_roads->clearRoads();
+    });
+    QToolButton* const roads = addButton(*row, QStringLiteral("Gestures"));
+    roads->setCheckable(true);
+    connect(roads, &QToolButton::toggled, this, [this](bool shown) { setRoadsShown(shown); });
     connect(addButton(*row, QStringLiteral("Copy")), &QToolButton::clicked, this,
             [this] { QApplication::clipboard()->setText(copied()); });
     connect(addButton(*row, QStringLiteral("Save...")), &QToolButton::clicked, this,
@@ -161,7 +171,17 @@ bool JournalPane::isNoise(const JournalRecord& record) const {
            (record.kind == "call" || record.kind == "message");
 }
 
+void JournalPane::beginGesture(const QString& title) {
+    m_roads->begin(title, m_lastNumber + 1);
+}
+
+void JournalPane::setRoadsShown(bool shown) {
+    m_table->setVisible(!shown);
+    m_roads->setVisible(shown);
+}
+
 void JournalPane::note(const JournalRecord& record) {
+    m_lastNumber = std::max(m_lastNumber, record.number);
     if (isNoise(record))
         return;
     m_fresh.push_back(record);
@@ -186,6 +206,8 @@ void JournalPane::takeOver() {
 }
 
 void JournalPane::showWaiting() {
+    for (const JournalRecord& record : m_waiting)
+        m_roads->add(record);
     m_model.append(std::exchange(m_waiting, {}));
 }
 

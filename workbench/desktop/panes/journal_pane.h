@@ -1,11 +1,13 @@
 #pragma once
 
 #include "workbench/core/journal.h"
+#include "workbench/desktop/panes/gesture_roads.h"
 #include "workbench/desktop/panes/journal_filter.h"
 #include "workbench/desktop/panes/journal_model.h"
 
 #include <QTimer>
 #include <QWidget>
+#include <cstdint>
 #include <functional>
 #include <vector>
 
@@ -40,6 +42,11 @@ public:
     /// unless they are asked for.
     void setIsIdle(std::function<bool()> isIdle) { m_isIdle = std::move(isIdle); }
     void setIdleShown(bool shown) { m_idleShown = shown; }
+    /// A gesture of the user's begins: from now on records are those of its road.
+    void beginGesture(const QString& title);
+    /// Shows the road of each gesture as a group, in place of the table.
+    void setRoadsShown(bool shown);
+    GestureRoads& roads() { return *m_roads; }
     /// Shows the records of all kinds, or of none.
     void setAllKinds(bool shown);
 
@@ -73,6 +80,8 @@ private:
     bool m_idleShown = false;
     std::function<bool()> m_isIdle;
     QMenu* m_kinds = nullptr;
+    GestureRoads* m_roads;
+    std::uint64_t m_lastNumber = 0;  // of the newest record
     std::function<void(const QString&)> m_onFailure;
     Journal::Listening m_listening;
 };

@@ -16,6 +16,7 @@
 #include "workbench/drawing/records/viewport.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
+#include "workbench/navigation/navigation_tool.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
 #include "workbench/toolkit/lookup.h"
@@ -85,6 +86,30 @@ TEST_F(MainWindowTest, AClickInTheDrawingAnswersAPointPrompt) {
     EXPECT_EQ(document.data().ids(drawing::RecordKind::Entity).size(), before + 1);
     enter("");
     EXPECT_FALSE(document.processor().isActive());
+}
+
+TEST_F(MainWindowTest, WhileThePanToolRunsADragPansAndBehindItADragOrbits) {
+    DrawingView& view = m_window.documentTabs().viewAt(0);
+    const drawing::Database& data = editor().documents().active()->data();
+    const auto shown = [&data] {
+        return data.look<drawing::Viewport>(drawing::activeViewport(data))->view;
+    };
+    const auto drag = [&view] {
+        press(view, {300, 200});
+        moveHeld(view, {340, 220});
+        release(view, {340, 220});
+    };
+    enter("'_3dpan");
+    ASSERT_TRUE(m_workbench.navigation().isRunning());
+    const drawing::ViewParameters before = shown();
+    drag();
+    const drawing::ViewParameters panned = shown();
+    EXPECT_NE(panned.target, before.target);
+    pressKey(m_window.commandLine().input(), Qt::Key_Escape);
+    ASSERT_FALSE(m_workbench.navigation().isRunning());
+    drag();
+    EXPECT_EQ(shown().target, panned.target);
+    EXPECT_NE(shown().eye, panned.eye);
 }
 
 TEST_F(MainWindowTest, EachDocumentHasATab) {
@@ -263,6 +288,30 @@ TEST_F(MainWindowTest, TheDrawingIsFittedIntoItsView) {
     EXPECT_NEAR(width() / fit, 1.0, 0.2);
 }
 
+TEST_F(MainWindowTest, ToReadThePanelsAnewLeavesTheirValuesInPlace) {
+    const auto shown = [this] {
+        std::vector<std::wstring> texts;
+        for (const HWND each :
+             windows().descendants(m_workbench.toolkit().frame().frame().m_hWnd)) {
+            const Window& window = *windows().find(each);
+            if (window.className != "CQrUiInputEditCtrl" || !windows().isOnScreen(each))
+                continue;
+            texts.push_back(window.text);
+        }
+        return texts;
+    };
+    enter("LAYLOCKFADECTL");
+    enter("35");
+    enter("STEPSIZE");
+    enter("2.5");
+    rest();
+    const std::vector<std::wstring> before = shown();
+    ASSERT_GT(before.size(), 5U);
+    line(menu("&Workspace"), QStringLiteral("Read the &panels anew")).trigger();
+    rest();
+    EXPECT_EQ(shown(), before);
+}
+
 TEST_F(MainWindowTest, TheViewMenuHidesShowsAndResetsTheDashboard) {
     CQrUiPaletteSet& set = *m_workbench.toolkit().frame().bars().front();
     line(menu("&View"), QStringLiteral("Show or hide the &dashboard")).trigger();
@@ -433,6 +482,27 @@ TEST_F(MainWindowTest, AStateThatCannotBeReadIsOnlyOverwrittenOnceSomethingChang
     m_window.rememberLook();
     EXPECT_TRUE(content().contains("dark"));
     m_window.setShade(Shade::Light);
+}
+
+TEST_F(MainWindowTest, TheRoadOfOneGestureIsOneGroupOfTheJournal) {
+    m_window.journalPane().parentWidget()->show();
+    m_window.journalPane().setRoadsShown(true);
+    QApplication::processEvents();
+    MirrorWidget* const field = edit();
+    click(*field);
+    pressKey(*field, Qt::Key_A, QStringLiteral("\x01"), Qt::ControlModifier);
+    typeText(*field, QStringLiteral("35"));
+    pressKey(*field, Qt::Key_Return);
+    rest();
+    const GestureRoads& roads = m_window.journalPane().roads();
+    ASSERT_GT(roads.topLevelItemCount(), 1);
+    const QTreeWidgetItem& last = *roads.topLevelItem(roads.topLevelItemCount() - 1);
+    EXPECT_TRUE(last.text(0).startsWith(QLatin1String("Key ")));
+    QStringList steps;
+    for (int step = 0; step < last.childCount(); ++step)
+        steps.append(last.child(step)->text(0));
+    EXPECT_EQ(steps.filter(QStringLiteral("LAYLOCKFADECTL: 50 -> 35")).size(), 1);
+    EXPECT_FALSE(steps.filter(QStringLiteral("1727")).isEmpty()) << "the echo to all controls";
 }
 
 TEST_F(MainWindowTest, AThemeThatWasChosenIsRememberedAtOnce) {

@@ -98,6 +98,17 @@ TEST_F(QuestionsTest, AQueuedAnswerComesFirst) {
     EXPECT_EQ(m_stage.toolkit.boxes().show(L"Really?", 1, ""), MessageBoxes::kCancel);
 }
 
+TEST_F(QuestionsTest, ASlidersTipNamesItsVariable) {
+    MirrorWidget* slider = widget(kFade, "slider");
+    hover(*slider, slider->rect().center());
+    windows().advance(600);
+    EXPECT_TRUE(QToolTip::text().endsWith(QLatin1String("\nVariable: LAYLOCKFADECTL")));
+    MirrorWidget* field = widget(kFade, "edit");
+    hover(*field, field->rect().center());
+    windows().advance(600);
+    EXPECT_FALSE(QToolTip::text().contains(QLatin1String("Variable")));
+}
+
 TEST_F(QuestionsTest, NoTooltipComesOnceTheMouseHasLeft) {
     ItemWidget* line = item(L"ID_Parallel_Projection");
     hover(*line->parentWidget(), line->geometry().center());

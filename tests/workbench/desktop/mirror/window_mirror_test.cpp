@@ -6,6 +6,7 @@
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/slider_widget.h"
 
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QPointer>
@@ -119,6 +120,19 @@ TEST_F(MirrorTest, WheelTurnsOnlyTheControlWithTheKeyboardAndScrollsOtherwise) {
     windows().setFocus(slider->handle());
     turnWheel(*slider, 1);
     EXPECT_NE(shown->position(), before);
+}
+
+TEST_F(MirrorTest, AListWithNothingInItShowsItsName) {
+    CQrUiComboCtrl empty;
+    empty.Create(WS_CHILD | WS_VISIBLE, {0, 0, 120, 100}, windows().find(window(kFade))->object,
+                 77);
+    rest();
+    const QImage image = widget(empty.m_hWnd)->grab().toImage();
+    const QColor paper = image.pixelColor(2, 2);
+    int inked = 0;
+    for (int x = 4; x < image.width() - 20; ++x)
+        inked += image.pixelColor(x, image.height() / 2) != paper ? 1 : 0;
+    EXPECT_GT(inked, 5);
 }
 
 TEST_F(MirrorTest, ClickOnAToolSendsItsCommand) {

@@ -17,8 +17,10 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QProcess>
 #include <QTimer>
 #include <QToolTip>
@@ -156,6 +158,44 @@ TEST_F(ScreenTest, APanelsContextMenuOpens) {
     EXPECT_TRUE(lines.contains(QStringLiteral("Collapse")));
     EXPECT_TRUE(lines.contains(QStringLiteral("Customize...")));
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(ScreenTest, ControlZAtTheEmptyCommandLineTakesTheLastCommandBack) {
+    m_window.commandLine().input().setFocus();
+    hands({QStringLiteral("type"), QStringLiteral("line 0,0 9,9")});
+    hands({QStringLiteral("key"), QStringLiteral("Return")});
+    hands({QStringLiteral("key"), QStringLiteral("Return")});
+    const drawing::Database& data = m_workbench.editor().documents().active()->data();
+    const std::size_t drawn = data.ids(drawing::RecordKind::Entity).size();
+    hands({QStringLiteral("key"), QStringLiteral("ctrl+z")});
+    EXPECT_EQ(data.ids(drawing::RecordKind::Entity).size(), drawn - 1);
+    hands({QStringLiteral("key"), QStringLiteral("ctrl+y")});
+    EXPECT_EQ(data.ids(drawing::RecordKind::Entity).size(), drawn);
+}
+
+TEST_F(ScreenTest, ABalloonTakesTheClickOnIt) {
+    MirrorWidget* edit = part("edit");
+    clickAt(edit->mapToGlobal(edit->rect().center()));
+    hands({QStringLiteral("key"), QStringLiteral("ctrl+a")});
+    hands({QStringLiteral("type"), QStringLiteral("95")});
+    hands({QStringLiteral("key"), QStringLiteral("Return")});
+    pause(100);
+    ASSERT_TRUE(m_workbench.toolkit().balloons().isShown());
+    const QString text =
+        QString::fromStdWString(m_workbench.toolkit().balloons().textOf(edit->host()->parent));
+    QPointer<QLabel> bubble;
+    for (QLabel* label : m_window.findChildren<QLabel*>()) {
+        if (label->text() == text)
+            bubble = label;
+    }
+    ASSERT_NE(bubble, nullptr);
+    m_workbench.journal().take();
+    clickAt(bubble->mapToGlobal(bubble->rect().center()));
+    pause(100);
+    EXPECT_EQ(bubble.data(), nullptr);
+    EXPECT_FALSE(m_workbench.toolkit().balloons().isShown());
+    EXPECT_EQ(m_workbench.windows().focus(), edit->handle());
+    EXPECT_EQ(fading(), 50);
 }
 
 TEST_F(ScreenTest, ClosedWhileTheDashboardFloatsTheProgramEnds) {
