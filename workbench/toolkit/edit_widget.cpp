@@ -79,8 +79,11 @@ int EditWidget::naturalHeight(const Window& /*window*/, int /*width*/) const {
 
 std::size_t EditWidget::scrolled(const Window& window) {
     const int room = std::max(1, (window.rect.Width() - 2 * kTextMargin) / kCharacterWidth);
-    const std::size_t caret = editor(window).caret();
-    const bool isTyping = m_toolkit.windows().focus() == window.handle;
+    const LineEditor& line = editor(window);
+    const std::size_t caret = line.caret();
+    // A text that is selected as a whole is read from its start before it is typed over.
+    const bool isWhole = line.anchor() == 0 && caret == line.text().size();
+    const bool isTyping = m_toolkit.windows().focus() == window.handle && !isWhole;
     const auto shown = static_cast<std::size_t>(room);
     return isTyping && caret > shown ? caret - shown : 0;
 }

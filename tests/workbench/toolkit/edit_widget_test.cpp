@@ -57,6 +57,20 @@ TEST_F(EditWidgetTest, ReplacingTypesOverAll) {
     EXPECT_EQ(m_edit.GetWindowText(), L"");
 }
 
+TEST_F(EditWidgetTest, ALongTextIsShownFromItsStartUntilItIsEditedAtItsEnd) {
+    m_edit.SetWindowText(L"12345678901234567890");
+    Window& window = *windows().find(m_edit.m_hWnd);
+    auto& widget = static_cast<EditWidget&>(*window.widget);
+    EXPECT_EQ(widget.scrolled(window), 0U);
+    focusField(toolkit(), m_edit.m_hWnd);
+    widget.selectAll(window);
+    EXPECT_EQ(widget.scrolled(window), 0U) << "selected as a whole it is read first";
+    pressKey(toolkit(), "end");
+    EXPECT_GT(widget.scrolled(window), 0U);
+    pressKey(toolkit(), "home");
+    EXPECT_EQ(widget.scrolled(window), 0U);
+}
+
 TEST_F(EditWidgetTest, ATextSetFromOutsideIsTheOneEdited) {
     focusField(toolkit(), m_edit.m_hWnd);
     m_edit.SetWindowText(L"7");
