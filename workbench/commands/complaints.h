@@ -8,7 +8,7 @@
 namespace workbench {
 
 /// \name What a command tells its user when something is wrong
-/// In one line: a record of the journal with the event "said".
+/// In one line above the command line.
 /// @{
 
 /// The answer wasn't taken: the command asks again.

@@ -2,6 +2,7 @@
 
 #include "workbench/desktop/app/main_window.h"
 #include "workbench/desktop/look/text.h"
+#include "workbench/editor/command_processor.h"
 #include "workbench/editor/editor.h"
 #include "workbench/host/workbench.h"
 
@@ -107,6 +108,12 @@ bool FileActions::mayLeave(Document& document) {
 }
 
 bool FileActions::close(Document& document) {
+    if (document.processor().isAtWork()) {
+        m_window.tell(QStringLiteral("%1 can't be closed while its command %2 is at work.")
+                          .arg(desktop::toQt(document.name()),
+                               desktop::toQt(document.processor().activeNames())));
+        return false;
+    }
     if (!mayLeave(document))
         return false;
     m_window.stage().pump.act([&] { m_window.workbench().editor().documents().close(document); });

@@ -21,6 +21,7 @@ namespace {
 constexpr double kDisabledOpacity = 0.35;
 constexpr int kFlashMs = 1500;
 constexpr int kLettersOfAName = 2;
+constexpr UINT kGapStyle = 4;  // of a separator
 
 bool isDrawn(const CQrUiToolPanelItem::Record& record) {
     const bool hasLook = record.type == kItemButton || record.type == kItemFlyout ||
@@ -108,6 +109,8 @@ void ItemWidget::paintEvent(QPaintEvent* /*event*/) {
         return;
     QPainter painter(this);
     const CQrUiToolPanelItem::Record& record = *shown->m_record;
+    if (record.type == kItemSeparator && (record.style & kGapStyle) != 0)
+        return;
     if (record.type == kItemSeparator) {
         painter.setPen(m_stage.look->line);
         painter.drawLine(width() / 2, 2, width() / 2, height() - 3);

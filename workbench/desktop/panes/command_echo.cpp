@@ -30,9 +30,13 @@ CommandEcho::CommandEcho(Journal& journal, std::function<void(const QString&)> s
       m_listening(journal.addListener([this](const JournalRecord& record) { note(record); })) {}
 
 void CommandEcho::note(const JournalRecord& record) {
+    const QString text = textOf(record, "text");
+    if (record.kind == "output") {
+        m_say(text);
+        m_hasSaid = true;
+    }
     if (record.kind != "command")
         return;
-    const QString text = textOf(record, "text");
     if (const QString event = textOf(record, "event"); !event.isEmpty())
         noteEvent(event, text);
     else if (const QString line = asLine(text); !line.isEmpty())
@@ -40,16 +44,14 @@ void CommandEcho::note(const JournalRecord& record) {
 }
 
 void CommandEcho::noteEvent(const QString& event, const QString& text) {
-    if (event == QLatin1String("said"))
-        m_say(text);
-    else if (event == QLatin1String("unknown"))
+    if (event == QLatin1String("unknown"))
         m_say(QStringLiteral("Unknown command \"%1\": the workbench has none of that name.")
                   .arg(asLine(text)));
     else if (event == QLatin1String("refused"))
         m_say(QStringLiteral("%1 can't run inside another command.").arg(text));
     else if (event == QLatin1String("failed") && !m_hasSaid)
         m_say(QStringLiteral("%1 could not be done.").arg(text));
-    m_hasSaid = event == QLatin1String("said") || (m_hasSaid && event != QLatin1String("started"));
+    m_hasSaid = m_hasSaid && event != QLatin1String("started");
 }
 
 }  // namespace workbench::desktop

@@ -49,4 +49,31 @@ TEST_F(FileActionsTest, ADrawingIsSavedUnderANameAndOpenedFromThere) {
     EXPECT_EQ(editor().documents().active()->name(), L"mine.json");
 }
 
+/// Closes the document from inside of its command.
+class ClosingReactor final : public VxEditorReactor {
+public:
+    explicit ClosingReactor(FileActions& files, Document& document)
+        : m_files(files),
+          m_document(document) {}
+    void commandWillStart(const wchar_t* /*name*/) override {
+        hasClosed = m_files.close(m_document);
+    }
+
+    bool hasClosed = true;
+
+private:
+    FileActions& m_files;
+    Document& m_document;
+};
+
+TEST_F(FileActionsTest, ADocumentWhoseCommandIsAtWorkStaysOpen) {
+    ClosingReactor closing(m_window.fileActions(), *editor().documents().active());
+    editor().reactors().add(&closing);
+    enter("LUPREC");
+    enter("7");
+    editor().reactors().remove(&closing);
+    EXPECT_FALSE(closing.hasClosed);
+    EXPECT_EQ(editor().documents().count(), 1);
+}
+
 }  // namespace workbench::desktop

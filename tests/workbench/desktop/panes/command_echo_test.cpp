@@ -42,7 +42,7 @@ TEST_F(CommandEchoTest, WhatWentWrongIsSaidOnce) {
     tell("FOO", "unknown");
     tell("LINE", "refused");
     tell("-VIEW", "started");
-    tell("There is no view \"x\".", "said");
+    m_journal.add("output", {{"text", "There is no view \"x\"."}});
     tell("-VIEW", "failed");
     tell("PSPACE", "started");
     tell("PSPACE", "failed");
