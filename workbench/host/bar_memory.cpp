@@ -39,6 +39,11 @@ IXMLDOMNode* BarMemory::openBar(const GUID& tool, bool create) {
     return create ? profile.makeNode(path) : profile.findNode(path);
 }
 
+void BarMemory::complain(const GUID& tool) {
+    m_profiles.complain("/Storage/" + pathOf(tool) +
+                        ": no place where the bar may stand; it stands where its module puts it");
+}
+
 void BarMemory::currentProfileChanged(const wchar_t* /*name*/) {
     m_toolkit.bars().loadAll();
 }

@@ -18,6 +18,7 @@ public:
 
     // BarStorage:
     IXMLDOMNode* openBar(const GUID& tool, bool create) override;
+    void complain(const GUID& tool) override;
 
     // VxApProfileManagerReactor:
     void currentProfileChanged(const wchar_t* name) override;

@@ -59,6 +59,12 @@ void ProfileStore::switchTo(std::string_view name) {
     });
 }
 
+void ProfileStore::complain(const std::string& what) {
+    std::string complaint = m_current->file().string() + what;
+    m_journal.add("profile", {{"event", "damaged"}, {"text", complaint}});
+    m_complaints.push_back(std::move(complaint));
+}
+
 void ProfileStore::save() {
     // A reactor may switch profiles; what is saved is the one that it was told of.
     const Profile& saved = *m_current;

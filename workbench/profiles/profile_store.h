@@ -46,6 +46,8 @@ public:
     /// `InputError` if it cannot be written; the old file is untouched then.
     void save();
 
+    /// Says that something kept in the current profile can't be taken.
+    void complain(const std::string& what);
     /// What was said about damaged files, in order.
     const std::vector<std::string>& complaints() const { return m_complaints; }
 

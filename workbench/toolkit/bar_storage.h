@@ -12,6 +12,8 @@ public:
     /// The node that the bar of a tool is kept in, counted for the caller. A missing one is made if
     /// `create`; null for none.
     virtual IXMLDOMNode* openBar(const GUID& tool, bool create) = 0;
+    /// What is kept for the bar of a tool is no place where it may stand.
+    virtual void complain(const GUID& tool) = 0;
 };
 
 }  // namespace workbench

@@ -85,7 +85,12 @@ std::size_t EditWidget::scrolled(const Window& window) {
     const bool isWhole = line.anchor() == 0 && caret == line.text().size();
     const bool isTyping = m_toolkit.windows().focus() == window.handle && !isWhole;
     const auto shown = static_cast<std::size_t>(room);
-    return isTyping && caret > shown ? caret - shown : 0;
+    if (isTyping)
+        return caret > shown ? caret - shown : 0;
+    // A padded text gives up blanks in front rather than what they push to the right.
+    const std::wstring& text = line.text();
+    const std::size_t blanks = std::min(text.find_first_not_of(L' '), text.size());
+    return text.size() > shown ? std::min(blanks, text.size() - shown) : 0;
 }
 
 void EditWidget::press(Window& window, CPoint point) {

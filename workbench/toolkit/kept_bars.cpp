@@ -28,9 +28,10 @@ void forEachSet(MainFrame& frame, Function function) {
 void KeptBars::load(CQrUiPaletteSet& set) {
     if (m_storage == nullptr)
         return;
-    const HeldNode node(m_storage->openBar(m_toolkit.paletteSets().of(&set).toolId, false));
-    if (node.get() != nullptr)
-        set.Load(node.get());
+    const GUID tool = m_toolkit.paletteSets().of(&set).toolId;
+    const HeldNode node(m_storage->openBar(tool, false));
+    if (node.get() != nullptr && set.Load(node.get()) == 0)
+        m_storage->complain(tool);
 }
 
 void KeptBars::loadAll() {

@@ -20,7 +20,8 @@ public:
     /// Where they are kept; null: nowhere. Must live until another one is set.
     void setStorage(BarStorage* storage) { m_storage = storage; }
 
-    /// Has a set read its place, if one is kept for its tool. The set may end meanwhile.
+    /// Has a set read its place, if one is kept for its tool; one that it can't take is complained of.
+    /// The set may end meanwhile.
     void load(CQrUiPaletteSet& set);
     /// Forgets all places of this run, and has all sets read theirs.
     void loadAll();

@@ -81,7 +81,14 @@ TEST_F(BarMemoryTest, APlaceThatMakesNoSenseIsNoneAndWhatElseIsKeptStays) {
     ASSERT_NE(profile.find(right), std::string::npos);
     profile.replace(profile.find(right), right.size(), "Strand=\"docked\" Kept=\"1\"");
     m_folder.write("Default.xml", profile);
-    EXPECT_EQ(placeAfterStart().edge, Edge::Right);
+    std::vector<std::string> complaints;
+    run([&complaints](Workbench& workbench, CQrUiPaletteSet& bar) {
+        EXPECT_EQ(workbench.toolkit().frame().placeOf(bar).edge, Edge::Right);
+        complaints = workbench.profiles().complaints();
+    });
+    ASSERT_EQ(complaints.size(), 1U);
+    EXPECT_NE(complaints[0].find("Default.xml/Storage/PaletteSets/Set-"), std::string::npos)
+        << complaints[0];
     EXPECT_NE(m_folder.read("Default.xml").find("Kept=\"1\""), std::string::npos);
 }
 

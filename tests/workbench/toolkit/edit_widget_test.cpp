@@ -57,6 +57,21 @@ TEST_F(EditWidgetTest, ReplacingTypesOverAll) {
     EXPECT_EQ(m_edit.GetWindowText(), L"");
 }
 
+TEST_F(EditWidgetTest, APaddedTextGivesUpItsBlanksWhereItDoesNotFit) {
+    auto& widget = *windows().widgetOf<EditWidget>(&m_edit);
+    Window& window = *windows().find(m_edit.m_hWnd);
+    const auto room = static_cast<std::size_t>((window.rect.Width() - 2 * EditWidget::kTextMargin) /
+                                               EditWidget::kCharacterWidth);
+    m_edit.SetWindowText(std::wstring(room - 3, L' ') + L"50%");
+    EXPECT_EQ(widget.scrolled(window), 0U) << "all of it fits";
+    m_edit.SetWindowText(std::wstring(room, L' ') + L"50%");
+    EXPECT_EQ(widget.scrolled(window), 3U);
+    m_edit.SetWindowText(std::wstring(2, L' ') + std::wstring(room, L'7'));
+    EXPECT_EQ(widget.scrolled(window), 2U);
+    m_edit.SetWindowText(L"  " + std::wstring(2 * room, L'7'));
+    EXPECT_EQ(widget.scrolled(window), 2U) << "beyond its blanks it is shown from its start";
+}
+
 TEST_F(EditWidgetTest, ALongTextIsShownFromItsStartUntilItIsEditedAtItsEnd) {
     m_edit.SetWindowText(L"12345678901234567890");
     Window& window = *windows().find(m_edit.m_hWnd);

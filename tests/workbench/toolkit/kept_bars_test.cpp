@@ -16,7 +16,10 @@ public:
             element = m_tree->root().append_child(name.c_str());
         return element ? m_tree->makeNode(element) : nullptr;
     }
+    void complain(const GUID& tool) override { complaints.push_back(tool.Data1); }
     std::string text() const { return m_tree->text(); }
+
+    std::vector<std::uint32_t> complaints;  // the first parts of the tools
 
 private:
     std::shared_ptr<XmlTree> m_tree = XmlTree::make("Bars");
@@ -77,6 +80,13 @@ TEST_F(KeptBarsTest, AStoreWithoutThePlaceLeavesTheBarWhereItIs) {
     frame().floatAt(*m_set, m_place);
     toolkit().bars().loadAll();
     EXPECT_TRUE(m_set->IsFloating());
+}
+
+TEST_F(KeptBarsTest, APlaceThatTheSetCannotTakeIsComplainedOf) {
+    m_storage.openBar(kTool, true)->Release();
+    makeAgain();
+    EXPECT_EQ(m_storage.complaints, std::vector<std::uint32_t>{0x12345678});
+    EXPECT_EQ(frame().placeOf(*m_set).edge, Edge::Right);
 }
 
 TEST_F(KeptBarsTest, WithoutAStoreNothingIsKept) {

@@ -352,6 +352,8 @@ QPixmap MainWindow::pictureOf(bool wholeWindow) {
 void MainWindow::recall() {
     QString complaint;
     const DesktopState state = DesktopState::read(m_workbench.profiles().folder(), complaint);
+    for (const std::string& damage : m_workbench.profiles().complaints())
+        tell(toQt(std::string_view(damage)));
     if (!complaint.isEmpty())
         tell(complaint);
     if (state.shade)

@@ -19,6 +19,7 @@
 #include "workbench/navigation/navigation_tool.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/startup/open_dashboard.h"
+#include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/shade.h"
 #include "workbench/toolkit/toolkit.h"
@@ -334,6 +335,20 @@ TEST_F(MainWindowTest, TheViewMenuComparesWhatIsOnShowWithTheHost) {
     line(menu("&View"), QStringLiteral("&Compare with the host")).trigger();
     EXPECT_TRUE(log->toPlainText().contains(
         QStringLiteral("LayerLockTransparencySliderControl: slider shows \"1\" for \"70\".")));
+}
+
+TEST_F(MainWindowTest, TextsOfFieldsFitBesideLargeTools) {
+    setIconSize(m_workbench, 32);
+    for (const char* name : {"LayerLockTransparencySliderControl", "3DNavStepSizeSliderControl",
+                             "3DNavStepsPerSecSliderControl"}) {
+        const Window& field =
+            *windows().find(findPart(windows(), windows().findByName(name), "edit"));
+        auto& edit = static_cast<EditWidget&>(*field.widget);
+        const auto seen = static_cast<int>(field.text.size() - edit.scrolled(field));
+        EXPECT_GE(field.rect.Width(),
+                  EditWidget::kCharacterWidth * seen + 2 * EditWidget::kTextMargin)
+            << name;
+    }
 }
 
 TEST_F(MainWindowTest, TheDashboardsEdgeIsDragged) {
