@@ -110,6 +110,7 @@ std::string appliedView(const drawing::Database& drawing) {
 
 std::vector<std::string> textsOf(const ComboWidget& list) {
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(list.count()));
     for (int index = 0; index < list.count(); ++index)
         texts.push_back(toUtf8(list.entry(index)->text));
     return texts;

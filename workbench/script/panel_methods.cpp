@@ -46,6 +46,7 @@ int menu(Session& session, Arguments& arguments) {
     const std::vector<MenuLine> read = gestures::readContextMenu(session.toolkit(), window);
     const std::vector<gestures::PlacedLine> lines = gestures::linesInOrder(read);
     std::vector<std::string> texts;
+    texts.reserve(lines.size());
     for (const gestures::PlacedLine& each : lines)
         texts.push_back(toUtf8(each.path));
     push(arguments.lua(), texts);

@@ -1,5 +1,6 @@
 #include "workbench/toolkit/main_frame.h"
 
+#include "workbench/base/turn.h"
 #include "workbench/toolkit/click_focus_widget.h"
 #include "workbench/toolkit/dock_layout.h"
 #include "workbench/toolkit/reparent.h"
@@ -82,6 +83,15 @@ void MainFrame::makeWindow(CWnd& object, const char* className, UINT id,
         creation.style |= WS_CHILD;
     creation.widget = std::move(widget);
     m_windows.create(object, std::move(creation));
+}
+
+void MainFrame::forEachBar(const std::function<void(CQrUiPaletteSet&)>& function) const {
+    const Turn turn;
+    const std::vector<CQrUiPaletteSet*> round(m_bars.begin(), m_bars.end());
+    for (CQrUiPaletteSet* set : round) {
+        if (std::find(m_bars.begin(), m_bars.end(), set) != m_bars.end())
+            function(*set);
+    }
 }
 
 CFrameWnd* MainFrame::frameOf(const CQrUiPaletteSet& set) {

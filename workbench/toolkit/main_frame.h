@@ -48,6 +48,8 @@ public:
     void setOnShown(Shown shown) { m_onShown = std::move(shown); }
     /// The palette sets with a window, in order of creation.
     const std::vector<CQrUiPaletteSet*>& bars() const { return m_bars; }
+    /// Calls a function with each of them; a set may go while it runs for another one.
+    void forEachBar(const std::function<void(CQrUiPaletteSet&)>& function) const;
     /// The frame that a set is docked in or floats in; null before it was placed.
     CFrameWnd* frameOf(const CQrUiPaletteSet& set);
 

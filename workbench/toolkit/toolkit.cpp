@@ -3,8 +3,6 @@
 #include "workbench/base/turn.h"
 #include "workbench/windows/window_system.h"
 
-#include <algorithm>
-
 namespace workbench {
 
 namespace {
@@ -39,13 +37,10 @@ void Toolkit::setShade(Shade shade) {
     m_shade = shade;
     Theme* const theme = m_themes.find(kThemeName);
     theme->changeElement(kAllElements);
-    // A set may go while another is told: each is asked for again before its turn.
-    const std::vector<CQrUiPaletteSet*> round = m_frame.bars();
-    for (CQrUiPaletteSet* set : round) {
-        const std::vector<CQrUiPaletteSet*>& now = m_frame.bars();
-        if (std::find(now.begin(), now.end(), set) != now.end() && set->GetTheme() == theme)
-            set->ThemeModified(kAllElements);
-    }
+    m_frame.forEachBar([theme](CQrUiPaletteSet& set) {
+        if (set.GetTheme() == theme)
+            set.ThemeModified(kAllElements);
+    });
 }
 
 void Toolkit::idleUpdate() {

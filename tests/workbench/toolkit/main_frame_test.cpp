@@ -79,6 +79,20 @@ TEST_F(MainFrameTest, ASetIsNotRestoredAtAnEdgeWhereItMayNotDock) {
     EXPECT_EQ(frame().placeOf(again).edge, Edge::Right);
 }
 
+TEST_F(MainFrameTest, ASetThatGoesWhileTheSetsAreVisitedIsLeftOut) {
+    auto other = std::make_unique<Listening<CQrUiPaletteSet>>(0U);
+    other->Create(L"Other", 0, {50, 50, 150, 350}, &frame().frame(), 0);
+    std::vector<CQrUiPaletteSet*> visited;
+    frame().forEachBar([&](CQrUiPaletteSet& set) { visited.push_back(&set); });
+    EXPECT_THAT(visited, ElementsAre(m_set.get(), other.get()));
+    visited.clear();
+    frame().forEachBar([&](CQrUiPaletteSet& set) {
+        visited.push_back(&set);
+        other.reset();
+    });
+    EXPECT_THAT(visited, ElementsAre(m_set.get()));
+}
+
 TEST_F(MainFrameTest, ASetMayHaveNoFrame) {
     frame().floatAt(*m_set, {10, 20, 310, 420});
     m_workbench.faults().fail("CControlBar::GetDockingFrame");
