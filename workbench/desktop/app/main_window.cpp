@@ -115,6 +115,8 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
 
 MainWindow::~MainWindow() {
     qApp->removeEventFilter(this);
+    // The end of the base closes the window, which moves the keyboard.
+    disconnect(qApp, nullptr, this, nullptr);
     m_pump.setOnRest(nullptr);
     m_pump.setOnFailure(nullptr);
 }
