@@ -98,6 +98,8 @@ bool ToolbarControls::handle(HWND handle, UINT id, UINT notification) {
 }
 
 void ToolbarControls::refresh() {
+    if (m_lists.empty())
+        return;
     WindowSystem& windows = m_toolkit.windows();
     std::erase_if(m_lists, [&windows](HWND list) { return windows.find(list) == nullptr; });
     for (const HWND list : m_lists) {
