@@ -16,6 +16,7 @@
 #include <hostapi/qrui18/panel_set.h>
 #include <hostapi/qrui18/prog_slider.h>
 #include <hostapi/qrui18/quick_start_link.h>
+#include <hostapi/qrui18/registry_access.h>
 #include <hostapi/qrui18/theme.h>
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/qrui18/tool_panel_item.h>

@@ -23,7 +23,10 @@ public:
     int GetCount() const;
     /// The entry at an index, null outside. Owned by the combo.
     QRUI_COMBO_CTRL_ITEM* GetItem(int index) const;
-    /// Ends all entries; nothing is selected then.
+    /// Ends an entry with its image; the selection goes with it if it was the selected one, and stays
+    /// on its entry otherwise. Returns the number of entries left, -1 for an index outside.
+    int DeleteItem(int index);
+    /// Ends all entries; nothing is selected then. `CB_RESETCONTENT` does the same.
     void ResetContent();
     /// The index of the selected entry, -1 for none.
     int GetCurSel() const;

@@ -7,3 +7,6 @@
 HBITMAP QrUiLoadImageFromResource(HINSTANCE library, const wchar_t* key, int size, int flags);
 /// A picture of a file; null if it can't be read. Owned by the caller until handed over.
 HBITMAP LoadBitmapFileGdiPlus(const wchar_t* fileName);
+/// A picture with the look of an icon, which stays the caller's; null if there is no such icon. Owned by
+/// the caller until handed over.
+HBITMAP BitmapFromIconGdiPlus(HICON icon);

@@ -17,11 +17,19 @@ struct VxDbObjectId {
     friend bool operator==(const VxDbObjectId&, const VxDbObjectId&) = default;
 };
 
+/// An array of IDs.
+using VxDbObjectIdArray = std::vector<VxDbObjectId>;
+
 /// An object of a database. Open from `vxdbOpenObject` to `close`.
 class VXHOST VxDbObject {
 public:
     virtual ~VxDbObject() = default;
-    /// Ends this opening.
+    /// The object's ID; null as long as it is in no database.
+    virtual VxDbObjectId objectId() const = 0;
+    /// Turns an opening for reading into one for writing. Returns 0 on success, also if it is one
+    /// already; 4 where another opening reads the object; as `vxdbOpenObject` otherwise.
+    virtual Zorq::ErrorStatus upgradeOpen() = 0;
+    /// Ends this opening; what was written stands from now on.
     virtual Zorq::ErrorStatus close() = 0;
 };
 
@@ -53,6 +61,11 @@ public:
     virtual bool isLocked() const = 0;
     virtual VxDbObjectId background() const = 0;
     virtual VxDbObjectId sunId() const = 0;
+    /// Freezes layers in this viewport alone. Returns 0 on success; at the first ID that is no layer its
+    /// status, with the layers before it frozen.
+    virtual Zorq::ErrorStatus freezeLayersInViewport(const VxDbObjectIdArray& layers) = 0;
+    /// Thaws layers that are frozen in this viewport alone; as above.
+    virtual Zorq::ErrorStatus thawLayersInViewport(const VxDbObjectIdArray& layers) = 0;
 };
 
 /// A record of a symbol table: a thing with a name.
@@ -60,21 +73,30 @@ class VXHOST VxDbSymbolTableRecord : public VxDbObject {
 public:
     /// The name. Returns 0 on success.
     virtual Zorq::ErrorStatus getName(VxString& name) const = 0;
+    /// Whether the record comes from a referenced drawing and goes with it.
+    virtual bool isDependent() const = 0;
+};
+
+/// Walks the records of a symbol table, in the table's order. Deleted by whoever asked for it.
+class VXHOST VxDbSymbolTableIterator {
+public:
+    virtual ~VxDbSymbolTableIterator() = default;
+    /// Begins the walk anew, at the first record or at the last one, with or without erased records.
+    virtual void start(bool atBeginning = true, bool skipErased = true) = 0;
+    /// Whether the walk is over.
+    virtual bool done() const = 0;
+    /// Goes to the next record, or to the one before.
+    virtual void step(bool forward = true, bool skipErased = true) = 0;
+    /// The record's ID. Returns 0 on success.
+    virtual Zorq::ErrorStatus getRecordId(VxDbObjectId& id) const = 0;
 };
 
 /// A named view.
 class VXHOST VxDbViewTableRecord : public VxDbSymbolTableRecord {};
 
-/// Walks the records of the view table. Deleted by whoever asked for it.
-class VXHOST VxDbViewTableIterator {
+/// Walks the records of the view table.
+class VXHOST VxDbViewTableIterator : public VxDbSymbolTableIterator {
 public:
-    virtual ~VxDbViewTableIterator() = default;
-    /// Whether the walk is over.
-    virtual bool done() const = 0;
-    /// Goes to the next record.
-    virtual void step() = 0;
-    /// The record's ID. Returns 0 on success.
-    virtual Zorq::ErrorStatus getRecordId(VxDbObjectId& id) const = 0;
     /// The record, open, to be closed by the caller. Returns 0 on success.
     virtual Zorq::ErrorStatus getRecord(VxDbViewTableRecord*& record, VxDbOpenMode mode) const = 0;
 };
@@ -87,6 +109,9 @@ public:
     virtual Zorq::ErrorStatus newIterator(VxDbViewTableIterator*& iterator, bool atStart,
                                           bool skipErased) const = 0;
 };
+
+class VxDbLayerTable;
+class VxDbTextStyleTable;
 
 /// A drawing's database.
 class VXHOST VxDbDatabase {
@@ -102,8 +127,14 @@ public:
     virtual double stepsPerSec() const = 0;
     /// Whether cameras are drawn.
     virtual bool cameraDisplay() const = 0;
+    /// The current layer, null for none.
+    virtual VxDbObjectId clayer() const = 0;
     /// The table of the named views, open, to be closed by the caller. Returns 0 on success.
     virtual Zorq::ErrorStatus getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) = 0;
+    /// The table of the layers, likewise.
+    virtual Zorq::ErrorStatus getSymbolTable(VxDbLayerTable*& table, VxDbOpenMode mode) = 0;
+    /// The table of the text styles, likewise.
+    virtual Zorq::ErrorStatus getSymbolTable(VxDbTextStyleTable*& table, VxDbOpenMode mode) = 0;
 };
 
 /// Opens an object. On status 0 the object is handed out, to be closed by the caller. It can't be

@@ -38,6 +38,8 @@ VxRxDictionary* vxrxSysRegistry();
 bool vxrxServiceIsRegistered(const wchar_t* name);
 /// Registers a service by name; its entry appears in the registry's "ServiceDictionary".
 void vxrxRegisterService(const wchar_t* name);
+/// The path of the host's part of the registry, below a root such as `HKEY_CURRENT_USER`.
+VxString vxrxProductKey();
 /// Loads a host module by its file name and gives it the load message. True if it is loaded
 /// afterwards.
 bool vxrxLoadModule(const wchar_t* fileName, bool print, bool asCommand);

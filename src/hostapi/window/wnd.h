@@ -35,6 +35,15 @@ public:
     /// The object of the window with the keyboard focus, null for none.
     static CWnd* GetFocus();
 
+    /// The object of the window that the user works in, null for none.
+    static CWnd* GetActiveWindow();
+    /// For `SetWindowPos`: behind all windows that are to stay on top, and before all others.
+    static const CWnd wndNoTopMost;
+
+    /// Creates a window of a window class by its name, such as "Static". `rect` is within the parent's
+    /// client area, for `WS_POPUP` on the screen. Returns 0 on failure.
+    BOOL CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
+                  const CRect& rect, CWnd* parent, UINT id);
     /// Ends the window. Returns 0 if there is none.
     BOOL DestroyWindow();
 
@@ -44,7 +53,8 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
     /// Gives the window the keyboard focus: the old one gets `EN_KILLFOCUS` reported to its parent
-    /// first, then the new one `EN_SETFOCUS`, if they are edit fields. A disabled or hidden window
+    /// first, then the new one `EN_SETFOCUS`, if they are edit fields; then the old one gets
+    /// `WM_KILLFOCUS` and the new one `WM_SETFOCUS`. The focus has moved before any of these. A disabled or hidden window
     /// takes no focus.
     void SetFocus();
 
@@ -81,17 +91,23 @@ public:
 
     /// Sets the font of the text, which the font's owner keeps; draws anew if `redraw`.
     void SetFont(CFont* font, BOOL redraw = 1);
+    /// The object of the font that was set, null for none.
+    CFont* GetFont() const;
     /// The window with its borders, in screen coordinates; empty without a window.
     CRect GetWindowRect() const;
     /// The client area with its origin at (0, 0); empty without a window.
     CRect GetClientRect() const;
     /// From screen to client coordinates.
     CPoint ScreenToClient(CPoint point) const;
+    /// From client to screen coordinates.
+    CPoint ClientToScreen(CPoint point) const;
     /// Moves and sizes within the parent's client area and repaints.
     void MoveWindow(const CRect& rect);
     /// Moves and sizes within the parent's client area as far as the `SWP_...` flags allow. A
     /// negative width or height counts as 0.
     void SetWindowPos(int x, int y, int cx, int cy, UINT flags);
+    /// The same, and places the window in the pile of windows, unless `SWP_NOZORDER` says no.
+    void SetWindowPos(const CWnd* insertAfter, int x, int y, int cx, int cy, UINT flags);
     /// Has the client area painted again, its background erased first if `erase`.
     void Invalidate(BOOL erase = 1);
 
@@ -120,8 +136,18 @@ LRESULT SendMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 short GetKeyState(int key);
 /// A measure of the window system in pixels (`SM_...`).
 int GetSystemMetrics(int index);
+/// Asks for messages about the mouse (`TME_...`). Returns 0 for a stale window.
+BOOL TrackMouseEvent(TRACKMOUSEEVENT* request);
 /// Sets the standard arrow as the mouse cursor.
 void SetArrowCursor();
+/// Shows the mouse cursor that says that work is under way, while it lives.
+class VXHOST CWaitCursor {
+public:
+    CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+    ~CWaitCursor();
+};
 /// Compares two texts by the user's language: below, equal to or above 0.
 int Collate(const VxString& left, const VxString& right);
 /// Compares two texts by the user's language, ignoring case: below, equal to or above 0.

@@ -91,10 +91,12 @@ public:
 /// The document manager.
 VxApDocManager* vxDocManagerPtr();
 
-/// Locks the document of a database for the life of this object. Mode 1 is write.
+/// Locks a document for the life of this object. Mode 1 is write; 0 leaves the choice to the host, which
+/// locks for writing. Nothing happens for null.
 class VXHOST VxAxDocLock {
 public:
     VxAxDocLock(VxDbDatabase* database, int mode);
+    explicit VxAxDocLock(VxApDocument* document, int mode = 0);
     VxAxDocLock(const VxAxDocLock&) = delete;
     VxAxDocLock& operator=(const VxAxDocLock&) = delete;
     ~VxAxDocLock();
