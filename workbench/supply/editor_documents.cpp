@@ -91,6 +91,15 @@ VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
         m_document = document;
 }
 
+VxAxDocLock::VxAxDocLock(VxApDocument* document, int mode) {
+    workbench::HostCall call("VxAxDocLock::VxAxDocLock", {document, mode});
+    workbench::Document* locked =
+        workbench::Workbench::current().editor().documents().find(document);
+    const int taken = mode == 0 ? workbench::DocumentLocks::kWrite : mode;
+    if (!call.failed() && locked != nullptr && locked->locks().lock(taken, this))
+        m_document = locked;
+}
+
 VxAxDocLock::~VxAxDocLock() {
     workbench::HostCall call("VxAxDocLock::~VxAxDocLock");
     workbench::Document* document =
