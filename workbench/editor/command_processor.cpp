@@ -198,6 +198,10 @@ std::wstring CommandProcessor::activeNames() const {
     return names;
 }
 
+bool CommandProcessor::mayUsePickSet() const {
+    return m_running.empty() || m_running.back().definition->usesPickSet;
+}
+
 std::wstring CommandProcessor::prompt() const {
     return m_running.empty() ? std::wstring() : m_running.back().command->prompt();
 }
@@ -251,6 +255,9 @@ bool CommandProcessor::start(std::shared_ptr<const CommandDefinition> definition
     if (m_abandoned)
         return false;
     leaveRest();
+    // What may run inside of others leaves the selection to them.
+    if (!definition->usesPickSet && !definition->transparent)
+        m_document.pickSet().clear();
     const std::size_t run = m_running.size();
     m_running.push_back({definition, definition->make(), transparent, false});
     if (definition->undoable) {

@@ -64,6 +64,9 @@ public:
     int activity() const;
     /// What CMDNAMES tells: the names from the outermost in, with "'" between.
     std::wstring activeNames() const;
+    /// Whether the selection that was made before may be used now: in the innermost command, or outside
+    /// of all.
+    bool mayUsePickSet() const;
     /// What the innermost command asks for; empty for nothing.
     std::wstring prompt() const;
     /// Whether it is a point that the innermost command asks for.

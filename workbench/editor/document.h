@@ -12,6 +12,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace workbench {
 
@@ -44,6 +45,9 @@ public:
     ViewHistory& viewHistory() { return *m_viewHistory; }
     OpenObjects& openObjects() { return m_openObjects; }
 
+    /// The entities that were selected before a command; see `EntitySelection`.
+    std::vector<drawing::ObjectId>& pickSet() { return m_pickSet; }
+
     /// A gesture is one step of undo and of the viewports' histories; see there.
     void beginGesture(drawing::UndoLog::Gesture gesture = drawing::UndoLog::Gesture::New);
     void endGesture();
@@ -62,6 +66,7 @@ private:
     DocumentLocks m_locks;
     std::unique_ptr<ViewHistory> m_viewHistory;
     OpenObjects m_openObjects;
+    std::vector<drawing::ObjectId> m_pickSet;
     std::unique_ptr<CommandProcessor> m_processor;
 };
 
