@@ -10,6 +10,7 @@ constexpr Zorq::ErrorStatus kNotApplicable = 2;
 constexpr Zorq::ErrorStatus kInvalidInput = 3;
 constexpr Zorq::ErrorStatus kDuplicateKey = 28;
 constexpr Zorq::ErrorStatus kKeyNotFound = 29;
+constexpr Zorq::ErrorStatus kLockViolation = 371;
 constexpr Zorq::ErrorStatus kNoDocument = 372;
 constexpr Zorq::ErrorStatus kNoLock = 373;
 /// @}

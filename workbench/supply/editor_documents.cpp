@@ -4,10 +4,23 @@
 #include "workbench/editor/editor.h"
 #include "workbench/editor/statuses.h"
 #include "workbench/host/workbench.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/zorq/documents.h>
 
 namespace workbench {
+
+namespace {
+
+constexpr UINT kWarningIcon = 48;
+
+void tellLocked(const Document& document, const wchar_t* command) {
+    const std::wstring name = command == nullptr ? std::wstring() : command;
+    Workbench::current().toolkit().boxes().show(
+        document.name() + L" is locked: " + name + L" can't be done now.", kWarningIcon, {});
+}
+
+}  // namespace
 
 int DocumentList::documentCount() const {
     HostCall call("VxApDocManager::documentCount");
@@ -48,7 +61,10 @@ Zorq::ErrorStatus DocumentList::lockDocument(VxApDocument* document, int mode,
     Document* locked = find(document);
     if (locked == nullptr)
         return call.returns(kNoDocument);
-    return call.returns(locked->locks().lock(mode, this) ? Zorq::eOk : kInvalidInput);
+    const Zorq::ErrorStatus status = locked->locks().lock(mode, this);
+    if (status == kLockViolation && prompt)
+        tellLocked(*locked, localCommand);
+    return call.returns(status);
 }
 
 Zorq::ErrorStatus DocumentList::unlockDocument(VxApDocument* document) {
@@ -87,7 +103,10 @@ VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {database, mode});
     workbench::Document* document =
         workbench::Workbench::current().editor().documents().find(database);
-    if (!call.failed() && document != nullptr && document->locks().lock(mode, this))
+    if (call.failed() || document == nullptr)
+        return;
+    const Zorq::ErrorStatus status = document->locks().lockScope(mode, this);
+    if (status == Zorq::eOk || status == workbench::kLockViolation)
         m_document = document;
 }
 
