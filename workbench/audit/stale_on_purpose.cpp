@@ -57,13 +57,13 @@ constexpr StaleEntry kEntries[] = {
 
 }  // namespace
 
-bool isStaleOnPurpose(const AuditFinding& finding, const HostState& host) {
+const char* reasonToBeStale(const AuditFinding& finding, const HostState& host) {
     for (const StaleEntry& entry : kEntries) {
         if ((entry.control.empty() || entry.control == finding.control) &&
             (entry.field.empty() || entry.field == finding.field) && entry.holds(finding, host))
-            return true;
+            return entry.reason;
     }
-    return false;
+    return nullptr;
 }
 
 }  // namespace workbench

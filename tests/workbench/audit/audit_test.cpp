@@ -99,6 +99,30 @@ TEST_F(AuditTest, ScriptsGetTheFindingsAsTables) {
     )");
 }
 
+TEST_F(AuditTest, WhatIsStaleOnPurposeIsToldWithItsReasonAndIsNoFinding) {
+    runOnDashboard(R"(
+        wb.control("LayerLockTransparencySliderControl"):put("12")
+        local report = wb.audit()
+        assert(#report == 0 and next(report) == nil)
+        assert(#report.stale == 1)
+        local stale = report.stale[1]
+        assert(stale.control == "LayerLockTransparencySliderControl" and stale.field == "edit")
+        assert(stale.shown == "12" and stale.expected == "50%")
+        assert(stale.reason == "what the user types or drags isn't an entry yet")
+    )");
+}
+
+TEST_F(AuditTest, WhereAllIsInStepNothingIsStale) {
+    runOnDashboard("assert(#wb.audit().stale == 0)");
+}
+
+TEST_F(AuditTest, AFindingIsNotStaleAsWell) {
+    runOnDashboard(std::string(kUnreadFade) + R"(
+        local report = wb.audit()
+        assert(#report > 0 and #report.stale == 0)
+    )");
+}
+
 TEST_F(AuditTest, EveryControlOfTheModuleHasARule) {
     for (const ToolbarControlRow& row : kToolbarControls)
         EXPECT_TRUE(hasAuditRule(toUtf8(row.name))) << toUtf8(row.name);
