@@ -89,21 +89,26 @@ int askBox(const Stage& stage, QWidget& owner, const std::wstring& text, UINT ty
     }
 }
 
-bool isDisabledAt(const Stage& stage, HWND window) {
-    if (!stage.windows.takesInput(window))
-        return true;
+/// The item of a tool panel that the mouse is over; null for none.
+const CQrUiToolPanelItem* itemUnderMouse(const Stage& stage, HWND window) {
     const Window* const found = stage.windows.find(window);
-    const auto* panel = found == nullptr ? nullptr : dynamic_cast<CQrUiToolPanel*>(found->object);
-    if (panel == nullptr)
-        return false;
-    for (int i = 0; i < panel->GetToolPanelItemCount(); ++i) {
+    auto* panel = found == nullptr ? nullptr : dynamic_cast<CQrUiToolPanel*>(found->object);
+    for (int i = 0; panel != nullptr && i < panel->GetToolPanelItemCount(); ++i) {
         const CQrUiToolPanelItem& item = *panel->GetToolPanelItem(i);
         CRect rect;
         item.GetRect(rect, kItemClientRect);
         if (rect.PtInRect(stage.toolkit.mouse().point()))
-            return (item.GetState() & kItemDisabled) != 0;
+            return &item;
     }
-    return false;
+    return nullptr;
+}
+
+/// Empty for a part that can be used.
+QString reasonFor(const Stage& stage, HWND window) {
+    const CQrUiToolPanelItem* const item = itemUnderMouse(stage, window);
+    const bool isDisabled = !stage.windows.takesInput(window) ||
+                            (item != nullptr && (item->GetState() & kItemDisabled) != 0);
+    return isDisabled && stage.whyDisabled ? stage.whyDisabled(window, item) : QString();
 }
 
 /// The variable that a slider sets, as its user would type it; empty for one that sets none, such as
@@ -137,8 +142,7 @@ void showTip(const Stage& stage, HWND window, const std::wstring& text) {
     QString shown = toQt(text);
     if (const QString variable = variableOf(stage.windows, window); !variable.isEmpty())
         shown += QStringLiteral("\nVariable: ") + variable;
-    const QString reason = stage.whyDisabled ? stage.whyDisabled(window) : QString();
-    if (!reason.isEmpty() && isDisabledAt(stage, window))
+    if (const QString reason = reasonFor(stage, window); !reason.isEmpty())
         shown += QLatin1Char('\n') + reason;
     QToolTip::showText(QCursor::pos(), shown);
 }

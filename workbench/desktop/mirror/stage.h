@@ -10,6 +10,8 @@
 #include <QString>
 #include <functional>
 
+class CQrUiToolPanelItem;
+
 namespace workbench {
 class Toolkit;
 class WindowSystem;
@@ -36,8 +38,9 @@ struct Stage {
     std::function<void(HWND frame, QPoint screenPoint)> holdFloating;
     /// Takes a text that was typed where nothing takes texts.
     std::function<void(const QString&)> typed;
-    /// Why a disabled part can't be used, as far as the host's state tells; empty otherwise.
-    std::function<QString(HWND window)> whyDisabled;
+    /// Why a disabled part can't be used, as far as the host's state tells; empty otherwise. The item is
+    /// the one of the window that is meant, null for the window as a whole.
+    std::function<QString(HWND window, const CQrUiToolPanelItem* item)> whyDisabled;
 };
 
 }  // namespace workbench::desktop
