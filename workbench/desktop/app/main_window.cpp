@@ -273,6 +273,7 @@ void MainWindow::setShade(Shade shade) {
 
 void MainWindow::showShade(Shade shade) {
     m_shade = shade;
+    m_unknownTheme.clear();
     m_stage.look = &lookOf(shade);
     QApplication::setPalette(paletteOf(*m_stage.look));
     QToolTip::setPalette(paletteOf(*m_stage.look));
@@ -361,6 +362,7 @@ void MainWindow::recall() {
         tell(complaint);
     if (state.shade)
         setShade(*state.shade);
+    m_unknownTheme = state.unknownTheme;
     m_files->files().setLastFolder(state.lastFolder);
     if (!DesktopState::exists(m_workbench.profiles().folder()))
         m_commandLine->echo(QString::fromLatin1(kFirstHint));
@@ -387,7 +389,9 @@ void MainWindow::remember() {
 }
 
 DesktopState MainWindow::stateNow() {
-    return {m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()};
+    const std::optional<Shade> shade =
+        m_unknownTheme.empty() ? std::optional(m_shade) : std::nullopt;
+    return {shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder(), m_unknownTheme};
 }
 
 /// A file that can't be read stays as it is until there is something to write.

@@ -101,6 +101,7 @@ private:
     Pump m_pump;
     Stage m_stage;
     Shade m_shade;
+    std::string m_unknownTheme;  // was remembered in place of a shade; empty once one is chosen
     FrameHome* m_home;
     DockSplitter* m_splitter;
     DocumentTabs* m_tabs;

@@ -507,6 +507,26 @@ TEST_F(MainWindowTest, AThemeThatWasChosenIsRememberedAtOnce) {
     m_window.setShade(Shade::Light);
 }
 
+TEST_F(MainWindowTest, AThemeOfAnotherVersionIsKeptUntilTheUserChoosesOne) {
+    const std::filesystem::path folder = m_workbench.profiles().folder();
+    DesktopState saved;
+    saved.unknownTheme = "blue";
+    saved.write(folder);
+    m_window.recall();
+    EXPECT_EQ(m_window.shade(), Shade::Light);
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().endsWith(
+        QLatin1String("desktop.json: /theme: light or dark")));
+    collapsePanels(m_workbench.toolkit(), {L"Layers"});
+    m_window.rememberLook();
+    QString complaint;
+    const DesktopState kept = DesktopState::read(folder, complaint);
+    EXPECT_EQ(kept.unknownTheme, "blue");
+    EXPECT_EQ(kept.rolledUp, std::vector<std::wstring>{L"Layers"});
+    m_window.setShade(Shade::Light);
+    m_window.rememberLook();
+    EXPECT_EQ(DesktopState::read(folder, complaint).shade, Shade::Light);
+}
+
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {
     enter("LUPREC");
     enter("6");
