@@ -196,7 +196,7 @@ TEST_F(TextHeightTest, SelectionUnderAFixedHeightDoesNothing) {
 }
 
 TEST_F(TextHeightTest, EndOfTheStyleCommandBringsAChangedHeight) {
-    setDb("textStyles.Standard.height", 9.0);
+    setDb("textstyles.Standard.height", 9.0);
     EXPECT_EQ(entries(), Texts{L"2.5000"});
     tellCommandEnded(L"Style");
     EXPECT_EQ(entries(), Texts{L"9.0000"});
@@ -204,7 +204,7 @@ TEST_F(TextHeightTest, EndOfTheStyleCommandBringsAChangedHeight) {
 }
 
 TEST_F(TextHeightTest, UnknownStyleLeavesListAndModeAsTheyWere) {
-    setDb("textStyles.Standard.name", "STANDARD");
+    setDb("textstyles.Standard.name", "STANDARD");
     fail("VxDbTextStyleTable::newIterator", 1, 1);
     tellOf(L"TEXTSTYLE");
     EXPECT_EQ(entries(), Texts{L"2.5000"});
@@ -246,7 +246,7 @@ class TextHeightFailureTest : public TextHeightTest,
                               public testing::WithParamInterface<const char*> {};
 
 TEST_P(TextHeightFailureTest, LeavesTheHeightsAsTheyWere) {
-    setDb("textStyles.Standard.name", "Standard");
+    setDb("textstyles.Standard.name", "Standard");
     fail(GetParam(), {}, 1);
     set(L"TEXTSIZE", 5.0);
     const Texts firstOne = entries();

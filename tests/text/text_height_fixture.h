@@ -55,7 +55,7 @@ protected:
         return open;
     }
     void addStyle(const std::string& name, double height) {
-        setDb("textStyles." + name, workbench::Value::Table{{"height", height}});
+        setDb("textstyles." + name, workbench::Value::Table{{"height", height}});
     }
     /// Lets this control alone hear of a variable.
     void tellOf(const wchar_t* variable) { send(1727, 1, reinterpret_cast<LPARAM>(variable)); }
