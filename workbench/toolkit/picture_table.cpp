@@ -13,7 +13,15 @@ std::uintptr_t numberOf(HBITMAP picture) {
 }  // namespace
 
 HBITMAP PictureTable::add(std::string source, std::vector<std::uint8_t> png) {
-    m_pictures.emplace(++m_lastNumber, Picture{std::move(source), std::move(png)});
+    return add(Picture{std::move(source), std::move(png), {}});
+}
+
+HBITMAP PictureTable::add(std::string source, PngPicture pixels) {
+    return add(Picture{std::move(source), {}, std::move(pixels)});
+}
+
+HBITMAP PictureTable::add(Picture picture) {
+    m_pictures.emplace(++m_lastNumber, std::move(picture));
     return reinterpret_cast<HBITMAP>(m_lastNumber);
 }
 
@@ -32,6 +40,8 @@ PngPicture PictureTable::pixels(HBITMAP picture) const {
     if (found == m_pictures.end())
         throw InputError("picture", "it was given back");
     const Picture& known = found->second;
+    if (known.pixels)
+        return *known.pixels;
     return decodePng(known.png.data(), known.png.size(), known.source);
 }
 

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -18,6 +19,8 @@ class PictureTable {
 public:
     /// Adds the bytes of a PNG file. `source` is the resource key or the file name.
     HBITMAP add(std::string source, std::vector<std::uint8_t> png);
+    /// Adds a picture that is decoded already.
+    HBITMAP add(std::string source, PngPicture pixels);
     /// Gives a picture back; null and stale handles are ignored.
     void release(HBITMAP picture);
     /// The resource key or file name of a picture; empty for null and stale handles.
@@ -30,8 +33,12 @@ public:
 private:
     struct Picture {
         std::string source;
-        std::vector<std::uint8_t> png;
+        std::vector<std::uint8_t> png;    // empty: `pixels` are all there is
+        std::optional<PngPicture> pixels;  // nothing: not decoded
     };
+
+    HBITMAP add(Picture picture);
+
     std::uintptr_t m_lastNumber = 0;  // handles are numbers, never given out again
     std::unordered_map<std::uintptr_t, Picture> m_pictures;
 };
