@@ -4,6 +4,7 @@
 #include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18/image.h>
 
@@ -67,4 +68,14 @@ HBITMAP LoadBitmapFileGdiPlus(const wchar_t* fileName) {
     }
     call.returns(static_cast<const void*>(picture));
     return picture;
+}
+
+HBITMAP BitmapFromIconGdiPlus(HICON icon) {
+    HostCall call("BitmapFromIconGdiPlus", {icon});
+    const workbench::SourcedPicture* const known =
+        Workbench::current().windows().gdi().findIcon(icon);
+    if (call.failed() || known == nullptr)
+        return call.returns<HBITMAP>(nullptr);
+    return call.returns(
+        Workbench::current().toolkit().pictures().add(known->source, known->picture));
 }

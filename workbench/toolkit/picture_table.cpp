@@ -14,7 +14,15 @@ std::uintptr_t numberOf(HBITMAP picture) {
 
 HBITMAP PictureTable::add(std::string source, std::vector<std::uint8_t> png,
                           std::vector<std::uint8_t> fine) {
-    m_pictures.emplace(++m_lastNumber, Picture{std::move(source), std::move(png), std::move(fine)});
+    return add(Picture{std::move(source), std::move(png), std::move(fine), {}});
+}
+
+HBITMAP PictureTable::add(std::string source, PngPicture pixels) {
+    return add(Picture{std::move(source), {}, {}, std::move(pixels)});
+}
+
+HBITMAP PictureTable::add(Picture picture) {
+    m_pictures.emplace(++m_lastNumber, std::move(picture));
     return reinterpret_cast<HBITMAP>(m_lastNumber);
 }
 
@@ -37,6 +45,8 @@ const PictureTable::Picture& PictureTable::present(HBITMAP picture) const {
 
 PngPicture PictureTable::pixels(HBITMAP picture) const {
     const Picture& known = present(picture);
+    if (known.pixels)
+        return *known.pixels;
     return decodePng(known.png.data(), known.png.size(), known.source);
 }
 

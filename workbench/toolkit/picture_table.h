@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -20,6 +21,8 @@ public:
     /// picture with twice the pixels each way, for finer screens, empty for none.
     HBITMAP add(std::string source, std::vector<std::uint8_t> png,
                 std::vector<std::uint8_t> fine = {});
+    /// Adds a picture that is decoded already.
+    HBITMAP add(std::string source, PngPicture pixels);
     /// Gives a picture back; null and stale handles are ignored.
     void release(HBITMAP picture);
     /// The resource key or file name of a picture; empty for null and stale handles.
@@ -34,9 +37,11 @@ public:
 private:
     struct Picture {
         std::string source;
-        std::vector<std::uint8_t> png;
-        std::vector<std::uint8_t> fine;  // empty: none
+        std::vector<std::uint8_t> png;     // empty: `pixels` are all there is
+        std::vector<std::uint8_t> fine;    // empty: none
+        std::optional<PngPicture> pixels;  // nothing: not decoded
     };
+    HBITMAP add(Picture picture);
     const Picture& present(HBITMAP picture) const;
 
     std::uintptr_t m_lastNumber = 0;  // handles are numbers, never given out again
