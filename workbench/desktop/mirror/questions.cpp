@@ -1,6 +1,7 @@
 #include "workbench/desktop/mirror/questions.h"
 
 #include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -8,9 +9,11 @@
 
 #include <hostapi/qrui18/tool_panel_item.h>
 
+#include <QApplication>
 #include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QToolTip>
 #include <algorithm>
 #include <iterator>
@@ -41,12 +44,15 @@ void fillMenu(QMenu& menu, const std::vector<MenuLine>& lines) {
 std::optional<UINT> chooseFromMenu(const Stage& stage, const std::vector<MenuLine>& lines) {
     if (stage.pump.isHeld())
         return {};
-    QMenu menu;
-    fillMenu(menu, lines);
-    const QAction* const chosen = menu.exec(stage.pressedAt);
-    if (chosen == nullptr)
-        return {};
-    return chosen->data().toUInt();
+    // A part of the window that it opens on, or nobody who reads the window would come to it; and it
+    // may go together with that part.
+    auto* const opener = dynamic_cast<MirrorWidget*>(QApplication::widgetAt(stage.pressedAt));
+    const QPointer<QMenu> menu = new QMenu(opener);
+    fillMenu(*menu, lines);
+    const QAction* const chosen = menu->exec(stage.pressedAt);
+    const auto command = chosen == nullptr ? std::nullopt : std::optional(chosen->data().toUInt());
+    delete menu;
+    return command;
 }
 
 constexpr UINT kBoxKinds = 0xf;  // the bits of a box's type that tell its buttons

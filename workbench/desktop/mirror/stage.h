@@ -31,7 +31,8 @@ struct Stage {
     Pictures pictures;
     const Look* look;  ///< Not owned; changes with the theme.
 
-    /// Where the user last pressed a button, on the screen: menus open there.
+    /// Where the user last pressed a button of the mouse, or a key on a tool, on the screen: menus open
+    /// there.
     QPoint pressedAt;
     /// Has the small frame of a bar that was just torn off follow the mouse, which is on the screen at
     /// a point, until its button is let go.
