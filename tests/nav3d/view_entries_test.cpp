@@ -63,7 +63,7 @@ TEST_P(UnreadableViewTest, IsLeftOutAndTheOthersStay) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Calls, UnreadableViewTest,
-                         testing::Values("VxDbViewTableIterator::getRecordId",
+                         testing::Values("VxDbSymbolTableIterator::getRecordId",
                                          "VxDbViewTableIterator::getRecord",
                                          "VxDbSymbolTableRecord::getName"));
 

@@ -5,6 +5,9 @@
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/viewport.h"
 
+#include <hostapi/vxdb18/layer.h>
+#include <hostapi/vxdb18/text_style.h>
+
 namespace workbench {
 
 bool DatabaseAdapter::tilemode() const {
@@ -39,16 +42,37 @@ bool DatabaseAdapter::cameraDisplay() const {
     return call.returns(valueIn(m_variables, *findVariable(L"CAMERADISPLAY")).asInteger() != 0);
 }
 
-Zorq::ErrorStatus DatabaseAdapter::getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) {
+VxDbObjectId DatabaseAdapter::clayer() const {
+    HostCall call("VxDbDatabase::clayer");
+    const VxDbObjectId layer =
+        call.failed() ? VxDbObjectId() : toHostId(drawing::currentLayer(m_database));
+    call.returns(layer.number);
+    return layer;
+}
+
+template <class Table>
+Zorq::ErrorStatus DatabaseAdapter::openTable(drawing::RecordKind kind, Table*& table,
+                                             VxDbOpenMode mode) {
     HostCall call("VxDbDatabase::getSymbolTable", {static_cast<int>(mode)});
     table = nullptr;
     if (call.failed())
         return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
     VxDbObject* object = nullptr;
-    const drawing::Status status =
-        m_objects.open(m_database.table(drawing::RecordKind::View), openModeOf(mode), object);
-    table = static_cast<VxDbViewTable*>(object);
+    const drawing::Status status = m_objects.open(m_database.table(kind), openModeOf(mode), object);
+    table = static_cast<Table*>(object);
     return call.returns(toHostStatus(status));
+}
+
+Zorq::ErrorStatus DatabaseAdapter::getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) {
+    return openTable(drawing::RecordKind::View, table, mode);
+}
+
+Zorq::ErrorStatus DatabaseAdapter::getSymbolTable(VxDbLayerTable*& table, VxDbOpenMode mode) {
+    return openTable(drawing::RecordKind::Layer, table, mode);
+}
+
+Zorq::ErrorStatus DatabaseAdapter::getSymbolTable(VxDbTextStyleTable*& table, VxDbOpenMode mode) {
+    return openTable(drawing::RecordKind::TextStyle, table, mode);
 }
 
 }  // namespace workbench

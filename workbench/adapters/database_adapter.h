@@ -27,9 +27,15 @@ public:
     double stepSize() const override;
     double stepsPerSec() const override;
     bool cameraDisplay() const override;
+    VxDbObjectId clayer() const override;
     Zorq::ErrorStatus getSymbolTable(VxDbViewTable*& table, VxDbOpenMode mode) override;
+    Zorq::ErrorStatus getSymbolTable(VxDbLayerTable*& table, VxDbOpenMode mode) override;
+    Zorq::ErrorStatus getSymbolTable(VxDbTextStyleTable*& table, VxDbOpenMode mode) override;
 
 private:
+    template <class Table>
+    Zorq::ErrorStatus openTable(drawing::RecordKind kind, Table*& table, VxDbOpenMode mode);
+
     const drawing::Database& m_database;
     const VariableValues& m_variables;
     OpenObjects& m_objects;

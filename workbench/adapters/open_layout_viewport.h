@@ -14,6 +14,13 @@ public:
     bool isLocked() const override;
     VxDbObjectId background() const override;
     VxDbObjectId sunId() const override;
+    Zorq::ErrorStatus freezeLayersInViewport(const VxDbObjectIdArray& layers) override;
+    Zorq::ErrorStatus thawLayersInViewport(const VxDbObjectIdArray& layers) override;
+
+private:
+    drawing::Status changeFreezing(const VxDbObjectIdArray& layers, bool frozen);
+    /// The status of a change of an ID's freezing: whether it may be made and names a layer.
+    drawing::Status statusFor(VxDbObjectId layer) const;
 };
 
 }  // namespace workbench

@@ -1,8 +1,13 @@
 #include "workbench/adapters/open_objects.h"
 
 #include "workbench/adapters/open_background.h"
+#include "workbench/adapters/open_entity.h"
+#include "workbench/adapters/open_layer.h"
+#include "workbench/adapters/open_layer_table.h"
 #include "workbench/adapters/open_layout_viewport.h"
 #include "workbench/adapters/open_sun.h"
+#include "workbench/adapters/open_text_style.h"
+#include "workbench/adapters/open_text_style_table.h"
 #include "workbench/adapters/open_tile.h"
 #include "workbench/adapters/open_view.h"
 #include "workbench/adapters/open_view_table.h"
@@ -12,9 +17,15 @@
 namespace workbench {
 
 std::unique_ptr<VxDbObject> OpenObjects::wrap(drawing::DbObject& object) {
-    if (object.id() == m_database.table(drawing::RecordKind::View))
-        return std::make_unique<OpenViewTable>(*this, object);
     switch (object.kind()) {
+    case drawing::RecordKind::Table:
+        return wrapTable(object);
+    case drawing::RecordKind::Layer:
+        return std::make_unique<OpenLayer>(*this, object);
+    case drawing::RecordKind::TextStyle:
+        return std::make_unique<OpenTextStyle>(*this, object);
+    case drawing::RecordKind::Entity:
+        return std::make_unique<OpenEntity>(*this, object);
     case drawing::RecordKind::View:
         return std::make_unique<OpenView>(*this, object);
     case drawing::RecordKind::Background:
@@ -28,6 +39,16 @@ std::unique_ptr<VxDbObject> OpenObjects::wrap(drawing::DbObject& object) {
     default:
         return std::make_unique<Opening<VxDbObject>>(*this, object);
     }
+}
+
+std::unique_ptr<VxDbObject> OpenObjects::wrapTable(drawing::DbObject& table) {
+    if (table.id() == m_database.table(drawing::RecordKind::View))
+        return std::make_unique<OpenViewTable>(*this, table);
+    if (table.id() == m_database.table(drawing::RecordKind::Layer))
+        return std::make_unique<OpenLayerTable>(*this, table);
+    if (table.id() == m_database.table(drawing::RecordKind::TextStyle))
+        return std::make_unique<OpenTextStyleTable>(*this, table);
+    return std::make_unique<Opening<VxDbObject>>(*this, table);
 }
 
 OpenObjects::~OpenObjects() {
@@ -48,6 +69,12 @@ drawing::Status OpenObjects::open(drawing::ObjectId id, drawing::OpenMode mode,
         object = m_open.back().adapter.get();
     }
     return status;
+}
+
+drawing::Status OpenObjects::upgrade(drawing::DbObject& object) {
+    if (object.isOpenForWrite())
+        return drawing::Status::Ok;
+    return m_mayWrite() ? object.upgradeOpen() : drawing::Status::NotLocked;
 }
 
 drawing::Status OpenObjects::close(const VxDbObject* adapter, drawing::DbObject& object) {

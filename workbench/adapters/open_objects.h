@@ -29,12 +29,15 @@ public:
     drawing::Status open(drawing::ObjectId id, drawing::OpenMode mode, VxDbObject*& object);
     /// Ends an opening: its adapter is gone afterwards.
     drawing::Status close(const VxDbObject* adapter, drawing::DbObject& object);
+    /// Turns an opening for reading into one for writing; one for writing stays as it is.
+    drawing::Status upgrade(drawing::DbObject& object);
     const drawing::Database& database() const { return m_database; }
     /// How many openings were not closed.
     std::size_t count() const { return m_open.size(); }
 
 private:
     std::unique_ptr<VxDbObject> wrap(drawing::DbObject& object);
+    std::unique_ptr<VxDbObject> wrapTable(drawing::DbObject& table);
 
     drawing::Database& m_database;
     std::function<bool()> m_mayWrite;

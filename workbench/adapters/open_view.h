@@ -6,12 +6,6 @@
 namespace workbench {
 
 /// A named view, opened by a module.
-class OpenView final : public OpenedRecord<VxDbViewTableRecord, drawing::View> {
-public:
-    using OpenedRecord::OpenedRecord;
-
-    // VxDbViewTableRecord:
-    Zorq::ErrorStatus getName(VxString& name) const override;
-};
+using OpenView = OpenedSymbol<VxDbViewTableRecord, drawing::View>;
 
 }  // namespace workbench

@@ -7,11 +7,7 @@ namespace workbench {
 Zorq::ErrorStatus OpenViewTable::newIterator(VxDbViewTableIterator*& iterator, bool atStart,
                                              bool skipErased) const {
     HostCall call("VxDbViewTable::newIterator", {atStart, skipErased});
-    iterator = nullptr;
-    if (call.failed())
-        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
-    iterator = new ViewTableWalk(owner(), atStart);
-    return call.returns(Zorq::eOk);
+    return handOutWalk<ViewTableWalk>(call, owner(), iterator, atStart, skipErased);
 }
 
 }  // namespace workbench

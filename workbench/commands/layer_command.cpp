@@ -4,7 +4,7 @@
 #include "workbench/commands/answers.h"
 #include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
-#include "workbench/drawing/records/current.h"
+#include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/editor.h"
@@ -17,17 +17,11 @@ namespace workbench {
 
 namespace {
 
-using drawing::Current;
 using drawing::Database;
 using drawing::Layer;
 using drawing::ObjectId;
 using drawing::RecordKind;
 using drawing::Writing;
-
-ObjectId currentLayer(const Database& database) {
-    const auto* current = database.look<Current>(database.first(RecordKind::Current));
-    return current == nullptr ? ObjectId() : current->layer.id;
-}
 
 /// Adds the layers of a list of names that are not there yet.
 void addLayers(Database& database, std::wstring_view names) {
@@ -50,7 +44,7 @@ void changeLayers(const CommandScope& scope, std::wstring_view patterns, Change 
             fitsOne = true;
             Writing<Layer> layer(database, id);
             if (layer)
-                change(*layer, id == currentLayer(database));
+                change(*layer, id == drawing::currentLayer(database));
         }
         if (!fitsOne)
             askAgain(scope, L"There is no layer " + inQuotes(pattern) + L".");

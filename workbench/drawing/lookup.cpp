@@ -56,6 +56,11 @@ ObjectId activeViewport(const Database& database) {
     return sheet == nullptr ? ObjectId() : findViewport(database, layout, sheet->currentViewport);
 }
 
+ObjectId currentLayer(const Database& database) {
+    const auto* current = database.look<Current>(database.first(RecordKind::Current));
+    return current == nullptr ? ObjectId() : living(database, current->layer);
+}
+
 ObjectId activeSun(const Database& database) {
     const Viewport* viewport = lookAtActiveViewport(database);
     return viewport == nullptr ? ObjectId() : living(database, viewport->sun);

@@ -19,6 +19,9 @@ ObjectId activeLayout(const Database& database);
 /// if there is none of the number that counts as current.
 ObjectId activeViewport(const Database& database);
 
+/// The layer that new objects go to; null if there is none.
+ObjectId currentLayer(const Database& database);
+
 /// What the active viewport shows; null where it names none.
 ObjectId activeSun(const Database& database);
 ObjectId activeBackground(const Database& database);

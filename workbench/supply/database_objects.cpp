@@ -4,6 +4,7 @@
 #include "workbench/host/workbench.h"
 
 #include <hostapi/vxdb18/database.h>
+#include <hostapi/vxdb18/entity.h>
 
 namespace {
 
@@ -11,6 +12,23 @@ using namespace workbench;
 
 Document* documentOf(VxDbObjectId id) {
     return Workbench::current().editor().documents().findBySerial(fromHostId(id).database());
+}
+
+Zorq::ErrorStatus openObject(VxDbObject*& object, VxDbObjectId id, VxDbOpenMode mode) {
+    if (id.isNull())
+        return toHostStatus(drawing::Status::NullObjectId);
+    Document* document = documentOf(id);
+    if (document == nullptr)
+        return toHostStatus(drawing::Status::UnknownId);
+    return toHostStatus(document->openObjects().open(fromHostId(id), openModeOf(mode), object));
+}
+
+/// Whether the ID is that of an object of another kind.
+bool isOtherKind(VxDbObjectId id, drawing::RecordKind kind) {
+    const Document* document = documentOf(id);
+    const drawing::DbObject* object =
+        document == nullptr ? nullptr : document->data().peek(fromHostId(id));
+    return object != nullptr && object->kind() != kind;
 }
 
 }  // namespace
@@ -27,11 +45,19 @@ Zorq::ErrorStatus vxdbOpenObject(VxDbObject*& object, VxDbObjectId id, VxDbOpenM
     object = nullptr;
     if (call.failed())
         return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
-    if (id.isNull())
-        return call.returns(toHostStatus(drawing::Status::NullObjectId));
-    Document* document = documentOf(id);
-    if (document == nullptr)
-        return call.returns(toHostStatus(drawing::Status::UnknownId));
-    return call.returns(
-        toHostStatus(document->openObjects().open(fromHostId(id), openModeOf(mode), object)));
+    return call.returns(openObject(object, id, mode));
+}
+
+Zorq::ErrorStatus vxdbOpenVxDbEntity(VxDbEntity*& entity, VxDbObjectId id, VxDbOpenMode mode) {
+    HostCall call("vxdbOpenVxDbEntity", {id.number, static_cast<int>(mode)});
+    entity = nullptr;
+    if (call.failed())
+        return call.returns(call.status(toHostStatus(drawing::Status::UnknownId)));
+    // Looked at first: opening alone would be seen by those who watch the object.
+    if (isOtherKind(id, drawing::RecordKind::Entity))
+        return call.returns(toHostStatus(drawing::Status::WrongKind));
+    VxDbObject* object = nullptr;
+    const Zorq::ErrorStatus status = openObject(object, id, mode);
+    entity = static_cast<VxDbEntity*>(object);
+    return call.returns(status);
 }

@@ -76,6 +76,14 @@ Zorq::ErrorStatus DocumentList::sendToCommandLine(VxApDocument* document, const 
 
 }  // namespace workbench
 
+namespace {
+
+int chosenMode(int mode) {
+    return mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
+}
+
+}  // namespace
+
 VxApDocManager* vxDocManagerPtr() {
     workbench::HostCall call("vxDocManagerPtr");
     VxApDocManager* manager =
@@ -87,7 +95,7 @@ VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {database, mode});
     workbench::Document* document =
         workbench::Workbench::current().editor().documents().find(database);
-    if (!call.failed() && document != nullptr && document->locks().lock(mode, this))
+    if (!call.failed() && document != nullptr && document->locks().lock(chosenMode(mode), this))
         m_document = document;
 }
 
@@ -95,8 +103,7 @@ VxAxDocLock::VxAxDocLock(VxApDocument* document, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {document, mode});
     workbench::Document* locked =
         workbench::Workbench::current().editor().documents().find(document);
-    const int taken = mode == 0 ? workbench::DocumentLocks::kWrite : mode;
-    if (!call.failed() && locked != nullptr && locked->locks().lock(taken, this))
+    if (!call.failed() && locked != nullptr && locked->locks().lock(chosenMode(mode), this))
         m_document = locked;
 }
 

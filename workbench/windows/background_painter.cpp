@@ -20,11 +20,30 @@ public:
             m_colour = m_brush->colour();
         return 1;
     }
+    // Nothing but a brush that covers all of it is taken for a background.
+    void FillSolidRect(const CRect& /*rect*/, COLORREF /*colour*/) override {}
+    BOOL GradientFill(const TRIVERTEX* /*vertices*/, UINT /*vertexCount*/,
+                      const GRADIENT_RECT* /*rects*/, UINT /*rectCount*/, UINT /*mode*/) override {
+        return 0;
+    }
+    BOOL TransparentBlt(int /*x*/, int /*y*/, int /*width*/, int /*height*/,
+                        const CBitmap& /*source*/, COLORREF /*transparent*/) override {
+        return 0;
+    }
+    CFont* SelectObject(CFont* font) override { return std::exchange(m_font, font); }
+    COLORREF SetTextColor(COLORREF colour) override { return std::exchange(m_textColour, colour); }
+    int SetBkMode(int mode) override { return std::exchange(m_backMode, mode); }
+    int DrawText(const VxString& /*text*/, const CRect& /*rect*/, UINT /*format*/) override {
+        return 0;
+    }
     std::optional<COLORREF> colour() const { return m_colour; }
 
 private:
     CRect m_clip;
     CBrush* m_brush = nullptr;  // not owned
+    CFont* m_font = nullptr;    // not owned
+    COLORREF m_textColour = 0;
+    int m_backMode = 0;
     std::optional<COLORREF> m_colour;
 };
 

@@ -27,7 +27,7 @@ public:
     /// The object's ID; null as long as it is in no database.
     virtual VxDbObjectId objectId() const = 0;
     /// Turns an opening for reading into one for writing. Returns 0 on success, also if it is one
-    /// already; 4 where another opening reads the object; as `vxdbOpenObject` otherwise.
+    /// already; 5 where another opening reads the object; as `vxdbOpenObject` otherwise.
     virtual Zorq::ErrorStatus upgradeOpen() = 0;
     /// Ends this opening; what was written stands from now on.
     virtual Zorq::ErrorStatus close() = 0;

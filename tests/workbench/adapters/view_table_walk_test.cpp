@@ -23,7 +23,7 @@ protected:
     /// The names of the views, in the order of a walk.
     std::vector<VxString> viewNames(bool atStart) {
         std::vector<VxString> names;
-        for (const auto each = walk(atStart); !each->done(); each->step()) {
+        for (const auto each = walk(atStart); !each->done(); each->step(atStart)) {
             VxDbViewTableRecord* record = nullptr;
             EXPECT_EQ(each->getRecord(record, VxDbOpenMode::kForRead), Zorq::eOk);
             EXPECT_EQ(record->getName(names.emplace_back()), Zorq::eOk);
@@ -73,7 +73,7 @@ TEST_F(ViewTableWalkTest, FaultsGiveNoViewAndNoId) {
     VxDbViewTableRecord* record = nullptr;
     VxDbObjectId id;
     m_bench.faults().fail("VxDbViewTableIterator::getRecord", 11);
-    m_bench.faults().fail("VxDbViewTableIterator::getRecordId", 12);
+    m_bench.faults().fail("VxDbSymbolTableIterator::getRecordId", 12);
     EXPECT_EQ(each->getRecord(record, VxDbOpenMode::kForRead), 11);
     EXPECT_EQ(record, nullptr);
     EXPECT_EQ(each->getRecordId(id), 12);

@@ -85,10 +85,10 @@ const DbObject* Database::peek(ObjectId id) const {
     return find(id);
 }
 
-std::vector<ObjectId> Database::ids(RecordKind kind) const {
+std::vector<ObjectId> Database::ids(RecordKind kind, ErasedObjects erased) const {
     std::vector<ObjectId> found;
     for (const DbObject* object : ofKind(kind)) {
-        if (!object->isErased()) {
+        if (erased == ErasedObjects::Accept || !object->isErased()) {
             found.push_back(object->id());
         }
     }

@@ -68,8 +68,8 @@ public:
         return record == nullptr ? nullptr : &record->data();
     }
 
-    /// The living objects of a kind, in the order of their table.
-    std::vector<ObjectId> ids(RecordKind kind) const;
+    /// The objects of a kind, in the order of their table: the living ones, or all.
+    std::vector<ObjectId> ids(RecordKind kind, ErasedObjects erased = ErasedObjects::Refuse) const;
 
     /// The living object of a kind that bears the name, without regard to case; null if none.
     ObjectId find(RecordKind kind, std::string_view name) const;

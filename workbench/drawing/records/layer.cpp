@@ -12,6 +12,7 @@ const std::vector<Property<Layer>>& Layer::properties() {
         property<Layer, &Layer::locked>("locked"),
         property<Layer, &Layer::plottable>("plottable"),
         property<Layer, &Layer::frozenInNewViewports>("frozenInNewViewports"),
+        property<Layer, &Layer::reconciled>("reconciled"),
         property<Layer, &Layer::linetype>("linetype"),
         property<Layer, &Layer::lineweight>("lineweight").within(-3, 211),
         property<Layer, &Layer::transparency>("transparency").within(0, 90),

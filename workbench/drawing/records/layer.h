@@ -20,6 +20,7 @@ struct Layer {
     bool locked = false;
     bool plottable = true;
     bool frozenInNewViewports = false;
+    bool reconciled = true;  // false: came after the drawing's layers were looked over
     std::string linetype = "Continuous";
     int lineweight = -3;   // hundredths of a millimetre; -3 is the default weight
     int transparency = 0;  // percent, 0 to 90

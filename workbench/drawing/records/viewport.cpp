@@ -1,5 +1,7 @@
 #include "workbench/drawing/records/viewport.h"
 
+#include <algorithm>
+
 namespace workbench::drawing {
 
 const std::vector<Property<Viewport>>& Viewport::properties() {
@@ -31,6 +33,18 @@ const std::vector<Property<Viewport>>& Viewport::properties() {
         return all;
     }();
     return kProperties;
+}
+
+void freezeInViewport(Viewport& viewport, ObjectId layer, bool frozen) {
+    if (!frozen)
+        std::erase_if(viewport.frozenLayers, [layer](const auto& one) { return one.id == layer; });
+    else if (!isFrozenInViewport(viewport, layer))
+        viewport.frozenLayers.emplace_back(layer);
+}
+
+bool isFrozenInViewport(const Viewport& viewport, ObjectId layer) {
+    return std::any_of(viewport.frozenLayers.begin(), viewport.frozenLayers.end(),
+                       [layer](const auto& one) { return one.id == layer; });
 }
 
 }  // namespace workbench::drawing

@@ -46,4 +46,8 @@ struct Viewport {
     friend bool operator==(const Viewport&, const Viewport&) = default;
 };
 
+/// Freezes a layer in one viewport alone, or thaws it there.
+void freezeInViewport(Viewport& viewport, ObjectId layer, bool frozen);
+bool isFrozenInViewport(const Viewport& viewport, ObjectId layer);
+
 }  // namespace workbench::drawing
