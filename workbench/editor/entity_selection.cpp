@@ -4,7 +4,6 @@
 #include "workbench/editor/editor.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <limits>
 #include <stdexcept>
 #include <utility>
@@ -33,6 +32,8 @@ Entities livingOnce(const Document& document, const Entities& entities) {
     return living;
 }
 
+}  // namespace
+
 ObjectId entityOfNumber(const Document& document, std::int64_t number) {
     ObjectId id;
     if (number > 0 && number <= std::numeric_limits<std::uint32_t>::max())
@@ -41,8 +42,6 @@ ObjectId entityOfNumber(const Document& document, std::int64_t number) {
         throw std::invalid_argument("there is no entity " + std::to_string(number) + " to select");
     return id;
 }
-
-}  // namespace
 
 std::optional<Entities> EntitySelection::ask(Document& document) {
     if (Entities before = takeBefore(document); !before.empty())

@@ -3,6 +3,7 @@
 #include "workbench/core/answers.h"
 #include "workbench/drawing/database/object_id.h"
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -11,6 +12,9 @@ namespace workbench {
 
 class Document;
 class Editor;
+
+/// The living entity of a number. Throws std::invalid_argument if there is none.
+drawing::ObjectId entityOfNumber(const Document& document, std::int64_t number);
 
 /// The user's choice of entities. The answer comes from the selection that was made before a command,
 /// where the command may use it, or from the queue of the kind "select" (a list of entity numbers), or

@@ -103,7 +103,7 @@ workbench::DocumentList& documents() {
 workbench::Document* lockScope(workbench::Document* document, int mode, const void* scope) {
     if (document == nullptr)
         return nullptr;
-    const int taken = mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
+    const int taken = mode == 0 ? workbench::DocumentLocks::kWrite : mode;
     const Zorq::ErrorStatus status = document->locks().lockScope(taken, scope);
     const bool begun = status == Zorq::eOk || status == workbench::kLockViolation;
     return begun ? document : nullptr;

@@ -35,7 +35,7 @@ TEST_F(DocumentFunctionsTest, ALockScopeLocksTheDocumentOfItsDatabase) {
     }
     EXPECT_EQ(document.locks().mode(), 0);
     {
-        const VxAxDocLock nothing(nullptr, 1);
+        const VxAxDocLock nothing(static_cast<VxDbDatabase*>(nullptr), 1);
         m_bench.faults().fail("VxAxDocLock::VxAxDocLock", {}, 1);
         const VxAxDocLock failed(document.database(), 1);
         EXPECT_EQ(document.locks().mode(), 0);
@@ -75,6 +75,23 @@ TEST_F(DocumentFunctionsTest, TheUserIsToldOfALockViolationOnRequestAndOfNothing
     m_bench.journal().take();
     EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"Local", true), kLockViolation);
     EXPECT_EQ(fields("box", "text"), Lines{"A is locked: Local can't be done now."});
+}
+
+TEST_F(DocumentFunctionsTest, ALockScopeOfADocumentLocksForWritingUnlessAModeIsTold) {
+    Document& document = newDocument();
+    {
+        const VxAxDocLock lock(&document);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kWrite);
+        EXPECT_TRUE(document.locks().isForWriting());
+    }
+    {
+        const VxAxDocLock lock(&document, DocumentLocks::kRead);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kRead);
+    }
+    const VxAxDocLock nothing(static_cast<VxApDocument*>(nullptr));
+    m_bench.faults().fail("VxAxDocLock::VxAxDocLock", {}, 1);
+    const VxAxDocLock failed(&document);
+    EXPECT_EQ(document.locks().mode(), 0);
 }
 
 TEST_F(DocumentFunctionsTest, SentTextWaitsForTheProcessor) {
