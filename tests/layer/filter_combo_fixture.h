@@ -37,9 +37,8 @@ protected:
         setDb("filters.House",
               Value::Table{{"kind", "property"}, {"expression", R"(NAME=="Walls,Doors")"}});
         setDb("filters.Top", Value::Table{{"kind", "group"}, {"layers", Value::List{"Roof"}}});
-        setDb("filters.Inner", Value::Table{{"kind", "group"},
-                                            {"layers", Value::List{"Doors"}},
-                                            {"parent", "Top"}});
+        setDb("filters.Inner",
+              Value::Table{{"kind", "group"}, {"layers", Value::List{"Doors"}}, {"parent", "Top"}});
         tellCommandEnded(L"LAYER");
         takeJournal();
     }
@@ -55,9 +54,7 @@ protected:
             return {};
         return list.GetItem(0)->text;
     }
-    void tellCommandEnded(const wchar_t* name) {
-        send(1730, 0, reinterpret_cast<LPARAM>(name));
-    }
+    void tellCommandEnded(const wchar_t* name) { send(1730, 0, reinterpret_cast<LPARAM>(name)); }
     void answer(const std::string& kind, const workbench::Value& value) {
         bench().answers().queue(kind, value);
     }

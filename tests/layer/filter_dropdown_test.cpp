@@ -14,18 +14,16 @@ protected:
         ASSERT_TRUE(isOpen());
     }
     CWnd& dropdown() { return *CWnd::FromHandle(tree())->GetParent(); }
-    int rowHeight() {
-        return dynamic_cast<CTreeCtrl*>(CWnd::FromHandle(tree()))->GetItemHeight();
-    }
+    int rowHeight() { return dynamic_cast<CTreeCtrl*>(CWnd::FromHandle(tree()))->GetItemHeight(); }
 };
 
 TEST_F(FilterDropdownTest, IsAHiddenPopupOfTheMainFrameAtFirst) {
     takeJournal();
     clickCombo();
     clickCombo();
-    const Calls made = takeCallLines({"CWnd::CreateEx", "CTreeCtrl::Create", "CButton::Create",
-                                      "VxLyLayerFilterManager::getFilters",
-                                      "vxedGetInvertLayerFilterFlag"});
+    const Calls made =
+        takeCallLines({"CWnd::CreateEx", "CTreeCtrl::Create", "CButton::Create",
+                       "VxLyLayerFilterManager::getFilters", "vxedGetInvertLayerFilterFlag"});
     ASSERT_EQ(made.size(), 5U);
     EXPECT_EQ(made[0].substr(0, 24), "CWnd::CreateEx(0, \"Stati");
     EXPECT_EQ(made[1].substr(0, 28), "CTreeCtrl::Create(1342181439");

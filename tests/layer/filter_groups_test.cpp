@@ -1,5 +1,4 @@
 #include "tests/layer/layer_filter_fixture.h"
-
 #include "workbench/drawing/database/database.h"
 
 #include <hostapi/zorq/layers.h>
@@ -26,8 +25,7 @@ protected:
     /// The IDs of the lines on the first layers.
     VxDbObjectIdArray lines(std::size_t count = 3) {
         VxDbObjectIdArray ids;
-        const workbench::drawing::Database& data =
-            bench().editor().documents().current()->data();
+        const workbench::drawing::Database& data = bench().editor().documents().current()->data();
         for (const auto id : data.ids(workbench::drawing::RecordKind::Entity)) {
             if (ids.size() < count)
                 ids.push_back({id.number});
@@ -203,10 +201,9 @@ TEST_F(FilterGroupTest, NoEntitiesReplaceTheLayersByNone) {
 
 TEST_F(FilterGroupTest, AddingHoldsALockFromBeginningToEnd) {
     manager().addSelectionToGroup(L"Top", true, lines(1));
-    const Calls made = takeCallLines({"VxAxDocLock::VxAxDocLock", "VxAxDocLock::~VxAxDocLock",
-                                      "vxedGetInvertLayerFilterFlag", "vxdbOpenVxDbEntity",
-                                      "VxLyLayerGroup::addLayerId",
-                                      "VxLyLayerGroup::removeLayerId"});
+    const Calls made = takeCallLines(
+        {"VxAxDocLock::VxAxDocLock", "VxAxDocLock::~VxAxDocLock", "vxedGetInvertLayerFilterFlag",
+         "vxdbOpenVxDbEntity", "VxLyLayerGroup::addLayerId", "VxLyLayerGroup::removeLayerId"});
     ASSERT_EQ(made.size(), 8U);
     EXPECT_EQ(made.front(), "VxAxDocLock::VxAxDocLock(object, 0)");
     EXPECT_EQ(made[1], "vxedGetInvertLayerFilterFlag()");

@@ -14,7 +14,8 @@ const char* const kTaken = "A layer filter of this name exists already.";
 const char* const kBadLong =
     "The name of a layer filter can't contain these characters: < > / \\ \" : ; ? * | , = `";
 const char* const kBadShort =
-    "The name of a layer filter can't contain these characters: all but letters, digits, blanks, $, "
+    "The name of a layer filter can't contain these characters: all but letters, digits, blanks, "
+    "$, "
     "_ and -";
 const char* const kTooLong = "The name of a layer filter can't be longer than 255 characters.";
 const char* const kTooLongShort = "The name of a layer filter can't be longer than 31 characters.";
@@ -31,21 +32,20 @@ TEST_P(FilterNameTest, IsTakenOrRefusedWithItsReason) {
 
 INSTANTIATE_TEST_SUITE_P(
     Names, FilterNameTest,
-    testing::Values(
-        NameCase{L"Home", true, 0, ""}, NameCase{L" Home ", true, 0, ""},
-        NameCase{L"My home", true, 0, ""}, NameCase{L"\u0414\u043e\u043c", true, 0, ""},
-        NameCase{L"", true, 352, kTooFew}, NameCase{L" \t ", true, 352, kTooFew},
-        NameCase{L"house", true, 352, kTaken}, NameCase{L" House ", true, 352, kTaken},
-        NameCase{std::wstring(255, L'x'), true, 0, ""},
-        NameCase{std::wstring(256, L'x'), true, 160, kTooLong},
-        NameCase{L" " + std::wstring(255, L'x') + L" ", true, 0, ""},
-        NameCase{std::wstring(31, L'x'), false, 0, ""},
-        NameCase{std::wstring(32, L'x'), false, 160, kTooLongShort},
-        NameCase{L"My home", false, 0, ""}, NameCase{L"a+b", false, 3, kBadShort},
-        NameCase{L"a+b", true, 0, ""}));
+    testing::Values(NameCase{L"Home", true, 0, ""}, NameCase{L" Home ", true, 0, ""},
+                    NameCase{L"My home", true, 0, ""}, NameCase{L"\u0414\u043e\u043c", true, 0, ""},
+                    NameCase{L"", true, 352, kTooFew}, NameCase{L" \t ", true, 352, kTooFew},
+                    NameCase{L"house", true, 352, kTaken}, NameCase{L" House ", true, 352, kTaken},
+                    NameCase{std::wstring(255, L'x'), true, 0, ""},
+                    NameCase{std::wstring(256, L'x'), true, 160, kTooLong},
+                    NameCase{L" " + std::wstring(255, L'x') + L" ", true, 0, ""},
+                    NameCase{std::wstring(31, L'x'), false, 0, ""},
+                    NameCase{std::wstring(32, L'x'), false, 160, kTooLongShort},
+                    NameCase{L"My home", false, 0, ""}, NameCase{L"a+b", false, 3, kBadShort},
+                    NameCase{L"a+b", true, 0, ""}));
 
-class ForbiddenCharacterTest : public LayerFilterTest, public testing::WithParamInterface<wchar_t> {
-};
+class ForbiddenCharacterTest : public LayerFilterTest,
+                               public testing::WithParamInterface<wchar_t> {};
 
 TEST_P(ForbiddenCharacterTest, IsRefused) {
     EXPECT_EQ(manager().validateFilterName(std::wstring(L"a") + GetParam() + L"b"), 3);

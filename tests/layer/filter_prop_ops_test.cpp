@@ -46,8 +46,8 @@ TEST_F(FilterWalkTest, CurrentLayerIsAskedForAfterItsUpgrade) {
     refresh();
     answer("box", "no");
     manager().setLayersOn(L"Zero", false);
-    EXPECT_EQ(takeCallLines({"VxDbObject::upgradeOpen", "AfxMessageBox",
-                             "VxDbLayerTableRecord::setIsOff"})
+    EXPECT_EQ(takeCallLines(
+                  {"VxDbObject::upgradeOpen", "AfxMessageBox", "VxDbLayerTableRecord::setIsOff"})
                   .size(),
               3U);
     takeTexts("box");

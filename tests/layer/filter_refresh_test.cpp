@@ -27,12 +27,12 @@ TEST_F(FilterComboTest, RefreshTakesItsStepsInThisOrder) {
         {"VxLyLayerFilterManager::getFilters", "vxedSetUseCurrentFilterFlag", "vxedGetVar",
          "CImageList::SetImageCount", "CQrUiComboCtrl::ResetContent", "CImageList::ExtractIcon",
          "BitmapFromIconGdiPlus", "CQrUiComboCtrl::SetCurSel"});
-    const Calls oneCombo{"CImageList::SetImageCount(1)", "CImageList::ExtractIcon(0)",
-                         "CImageList::SetImageCount(2)", "CImageList::ExtractIcon(0)",
+    const Calls oneCombo{"CImageList::SetImageCount(1)",   "CImageList::ExtractIcon(0)",
+                         "CImageList::SetImageCount(2)",   "CImageList::ExtractIcon(0)",
                          "CQrUiComboCtrl::ResetContent()", "CImageList::SetImageCount(3)",
-                         "CImageList::ExtractIcon(0)", "CImageList::SetImageCount(4)",
-                         "CImageList::ExtractIcon(0)", "CImageList::ExtractIcon(2)",
-                         "BitmapFromIconGdiPlus()", "CQrUiComboCtrl::SetCurSel(0)"};
+                         "CImageList::ExtractIcon(0)",     "CImageList::SetImageCount(4)",
+                         "CImageList::ExtractIcon(0)",     "CImageList::ExtractIcon(2)",
+                         "BitmapFromIconGdiPlus()",        "CQrUiComboCtrl::SetCurSel(0)"};
     Calls expected{"VxLyLayerFilterManager::getFilters()", "CImageList::SetImageCount(0)",
                    "vxedSetUseCurrentFilterFlag(1)", "vxedGetVar(\"VPLAYEROVERRIDES\")"};
     expected.insert(expected.end(), oneCombo.begin(), oneCombo.end());

@@ -54,9 +54,9 @@ TEST_F(FilterComboTest, ClickBesideTheLabelsAppliesNothing) {
     const CRect label = treeWidget().partsOf(node(L"House")).label;
     const CRect button = treeWidget().partsOf(node(L"Top")).button;
     const CRect client = CWnd::FromHandle(opened)->GetClientRect();
-    for (const CPoint place : {CPoint{label.right + 20, label.top + 2},
-                               CPoint{button.left + 2, button.top + 2},
-                               CPoint{30, client.bottom - 2}}) {
+    for (const CPoint place :
+         {CPoint{label.right + 20, label.top + 2}, CPoint{button.left + 2, button.top + 2},
+          CPoint{30, client.bottom - 2}}) {
         workbench::gestures::clickAt(bench().toolkit(), opened, place);
         settle();
         EXPECT_TRUE(isOpen());

@@ -23,14 +23,12 @@ const EntryCase kEntries[] = {
      [](CVxDaLayerFilterMgr& m, const std::wstring& n) { return m.setLayersFrozen(n, true); }},
     {"locked",
      [](CVxDaLayerFilterMgr& m, const std::wstring& n) { return m.setLayersLocked(n, true); }},
-    {"viewport",
-     [](CVxDaLayerFilterMgr& m, const std::wstring& n) {
-         return m.setLayersFrozenInViewport(n, true);
-     }},
+    {"viewport", [](CVxDaLayerFilterMgr& m,
+                    const std::wstring& n) { return m.setLayersFrozenInViewport(n, true); }},
     {"isolated here",
      [](CVxDaLayerFilterMgr& m, const std::wstring& n) { return m.isolateGroupActiveViewport(n); }},
-    {"isolated", [](CVxDaLayerFilterMgr& m,
-                    const std::wstring& n) { return m.isolateGroupAllViewports(n); }},
+    {"isolated",
+     [](CVxDaLayerFilterMgr& m, const std::wstring& n) { return m.isolateGroupAllViewports(n); }},
 };
 
 class EntryPointTest : public FilterWalkTest, public testing::WithParamInterface<EntryCase> {};
@@ -53,8 +51,8 @@ TEST_P(EntryPointTest, NeedsAFilterAndADocument) {
 TEST_P(EntryPointTest, HoldsALockFromBeginningToEnd) {
     enterViewport();
     EXPECT_EQ(GetParam().run(manager(), L"House"), 1);
-    const Calls made = takeCallLines({"VxAxDocLock::VxAxDocLock", "VxAxDocLock::~VxAxDocLock",
-                                      "VxDbDatabase::getSymbolTable"});
+    const Calls made = takeCallLines(
+        {"VxAxDocLock::VxAxDocLock", "VxAxDocLock::~VxAxDocLock", "VxDbDatabase::getSymbolTable"});
     ASSERT_EQ(made.size(), 3U);
     EXPECT_EQ(made[0], "VxAxDocLock::VxAxDocLock(object, 0)");
     EXPECT_EQ(made[2], "VxAxDocLock::~VxAxDocLock()");
@@ -109,16 +107,15 @@ TEST_F(FilterWalkTest, EmptyFilterWalksOverAllAndChangesNothing) {
 
 TEST_F(FilterWalkTest, LayersAreWalkedOverInTheHostsOrderAndClosedEach) {
     manager().setLayersLocked(L"House", true);
-    EXPECT_EQ(takeCallLines({"VxDbLayerTable::newIterator", "VxDbSymbolTableIterator::start",
-                             "VxDbSymbolTableIterator::step", "VxDbLayerTableRecord::setIsLocked"}),
-              (Calls{"VxDbLayerTable::newIterator(true, true)",
-                     "VxDbSymbolTableIterator::start(true, true)",
-                     "VxDbSymbolTableIterator::step(true, true)",
-                     "VxDbLayerTableRecord::setIsLocked(true)",
-                     "VxDbSymbolTableIterator::step(true, true)",
-                     "VxDbLayerTableRecord::setIsLocked(true)",
-                     "VxDbSymbolTableIterator::step(true, true)",
-                     "VxDbSymbolTableIterator::step(true, true)"}));
+    EXPECT_EQ(
+        takeCallLines({"VxDbLayerTable::newIterator", "VxDbSymbolTableIterator::start",
+                       "VxDbSymbolTableIterator::step", "VxDbLayerTableRecord::setIsLocked"}),
+        (Calls{
+            "VxDbLayerTable::newIterator(true, true)", "VxDbSymbolTableIterator::start(true, true)",
+            "VxDbSymbolTableIterator::step(true, true)", "VxDbLayerTableRecord::setIsLocked(true)",
+            "VxDbSymbolTableIterator::step(true, true)", "VxDbLayerTableRecord::setIsLocked(true)",
+            "VxDbSymbolTableIterator::step(true, true)",
+            "VxDbSymbolTableIterator::step(true, true)"}));
 }
 
 TEST_F(FilterWalkTest, WalkWithoutADatabaseIsNone) {

@@ -67,13 +67,13 @@ TEST_F(LayerFilterTest, SaveStoresTheCopyUnderALock) {
     EXPECT_EQ(manager().saveFilters(), 1);
     EXPECT_TRUE(isStored("Home"));
     EXPECT_FALSE(isStored("House"));
-    const Calls made = takeCallLines({"VxAxDocLock::VxAxDocLock", "vxlyGetLayerFilterManager",
-                                      "VxLyLayerFilterManager::setFilters",
-                                      "VxAxDocLock::~VxAxDocLock"});
-    EXPECT_EQ(made, (Calls{"VxAxDocLock::VxAxDocLock(object, 0)",
-                           "vxlyGetLayerFilterManager(object)",
-                           "VxLyLayerFilterManager::setFilters(object, object)",
-                           "VxAxDocLock::~VxAxDocLock()"}));
+    const Calls made =
+        takeCallLines({"VxAxDocLock::VxAxDocLock", "vxlyGetLayerFilterManager",
+                       "VxLyLayerFilterManager::setFilters", "VxAxDocLock::~VxAxDocLock"});
+    EXPECT_EQ(made,
+              (Calls{"VxAxDocLock::VxAxDocLock(object, 0)", "vxlyGetLayerFilterManager(object)",
+                     "VxLyLayerFilterManager::setFilters(object, object)",
+                     "VxAxDocLock::~VxAxDocLock()"}));
 }
 
 TEST_F(LayerFilterTest, SaveWithoutADocumentOrAHostsManagerAnswersNo) {

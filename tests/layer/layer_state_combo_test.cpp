@@ -49,11 +49,11 @@ TEST_F(LayerStateTest, HostIsAskedForNamesLastStateViewportAndComparison) {
     takeSent();
     takeJournal();
     send(1730, 0, reinterpret_cast<LPARAM>(L"LAYER"));
-    const Calls made = takeCallLines(
-        {"CQrUiComboCtrl::ResetContent", "VxDbLayerStateManager::getLayerStateNames",
-         "VxDbLayerStateManager::getLastRestoredLayerState", "vxedGetCurViewportObjectId",
-         "VxDbLayerStateManager::compareLayerStateToDb", "CQrUiComboCtrl::SetCurSel",
-         "CWnd::EnableWindow"});
+    const Calls made =
+        takeCallLines({"CQrUiComboCtrl::ResetContent", "VxDbLayerStateManager::getLayerStateNames",
+                       "VxDbLayerStateManager::getLastRestoredLayerState",
+                       "vxedGetCurViewportObjectId", "VxDbLayerStateManager::compareLayerStateToDb",
+                       "CQrUiComboCtrl::SetCurSel", "CWnd::EnableWindow"});
     EXPECT_EQ(made.size(), 6U);
     EXPECT_EQ(made[0], "CQrUiComboCtrl::ResetContent()");
     EXPECT_EQ(made[1], "VxDbLayerStateManager::getLayerStateNames(false, true)");
@@ -120,26 +120,21 @@ TEST_F(LayerStateTest, RestoreTakesItsStepsInThisOrder) {
     setWallsOn(false);
     takeJournal();
     pick(2);
-    const Calls made = takeCallLines(
-        {"VxAxDocLock::VxAxDocLock", "vxedGetCurViewportObjectId", "CQrUiRegistryAccess::Open",
-         "VxDbDatabase::getSymbolTable", "VxDbLayerStateManager::restoreLayerState",
-         "CWaitCursor::CWaitCursor", "CWaitCursor::~CWaitCursor", "do_cmd",
-         "VxAxDocLock::~VxAxDocLock"});
+    const Calls made =
+        takeCallLines({"VxAxDocLock::VxAxDocLock", "vxedGetCurViewportObjectId",
+                       "CQrUiRegistryAccess::Open", "VxDbDatabase::getSymbolTable",
+                       "VxDbLayerStateManager::restoreLayerState", "CWaitCursor::CWaitCursor",
+                       "CWaitCursor::~CWaitCursor", "do_cmd", "VxAxDocLock::~VxAxDocLock"});
     takeSent();
     Calls names;
     for (const std::string& call : made)
         names.push_back(call.substr(0, call.find('(')));
     ASSERT_GE(names.size(), 12U);
-    const Calls expected{"VxAxDocLock::VxAxDocLock",
-                         "vxedGetCurViewportObjectId",
-                         "CQrUiRegistryAccess::Open",
-                         "CQrUiRegistryAccess::Open",
-                         "CWaitCursor::CWaitCursor",
-                         "VxDbDatabase::getSymbolTable",
-                         "CWaitCursor::~CWaitCursor",
-                         "VxDbLayerStateManager::restoreLayerState",
-                         "CWaitCursor::CWaitCursor",
-                         "do_cmd"};
+    const Calls expected{"VxAxDocLock::VxAxDocLock",  "vxedGetCurViewportObjectId",
+                         "CQrUiRegistryAccess::Open", "CQrUiRegistryAccess::Open",
+                         "CWaitCursor::CWaitCursor",  "VxDbDatabase::getSymbolTable",
+                         "CWaitCursor::~CWaitCursor", "VxDbLayerStateManager::restoreLayerState",
+                         "CWaitCursor::CWaitCursor",  "do_cmd"};
     EXPECT_EQ(Calls(names.begin(), names.begin() + 10), expected);
     EXPECT_EQ(names.back(), "VxAxDocLock::~VxAxDocLock");
 }
@@ -271,8 +266,8 @@ TEST_F(LayerStateTest, WithoutADocumentNoDialogOpens) {
 
 // What it hears
 
-class LayerCommandTest : public LayerStateTest, public testing::WithParamInterface<const wchar_t*> {
-};
+class LayerCommandTest : public LayerStateTest,
+                         public testing::WithParamInterface<const wchar_t*> {};
 
 TEST_P(LayerCommandTest, ItsEndReadsTheStatesAnew) {
     takeJournal();

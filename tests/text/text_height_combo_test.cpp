@@ -69,7 +69,8 @@ TEST_F(TextHeightTest, SelectionStaysEmptyIfTheHeightCannotBeWritten) {
 
 TEST_F(TextHeightTest, HeightThatCannotBeWrittenHasNoEntryButStays) {
     set(L"TEXTSIZE", 5.0);
-    bench().faults().fail("vxdbRToS", {}, 1, 1);  // the text of the height to show is written before
+    bench().faults().fail("vxdbRToS", {}, 1,
+                          1);  // the text of the height to show is written before
     tellOf(L"LUPREC");
     EXPECT_EQ(entries(), Texts{L"5.0000"});
     tellOf(L"LUPREC");
@@ -229,9 +230,10 @@ TEST_F(TextHeightTest, TextsizeIsReadAndOnlyThisListFilled) {
     set(L"TEXTSIZE", 5.0);
     takeJournal();
     tellOf(L"TEXTSIZE");
-    EXPECT_EQ(takeCallLines({"vxedGetVar", "vxdbDisToF", "vxedSetVar", "CQrUiComboCtrl::SetCurSel"}),
-              (Calls{"vxedGetVar(\"TEXTSIZE\")", "vxdbDisToF(\"5.0000\", -1)",
-                     "CQrUiComboCtrl::SetCurSel(1)"}));
+    EXPECT_EQ(
+        takeCallLines({"vxedGetVar", "vxdbDisToF", "vxedSetVar", "CQrUiComboCtrl::SetCurSel"}),
+        (Calls{"vxedGetVar(\"TEXTSIZE\")", "vxdbDisToF(\"5.0000\", -1)",
+               "CQrUiComboCtrl::SetCurSel(1)"}));
 }
 
 TEST_F(TextHeightTest, TextsizeUnderAFixedHeightIsNotEvenRead) {
