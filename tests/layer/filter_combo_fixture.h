@@ -69,7 +69,7 @@ protected:
     HWND check() { return workbench::findButtonBeside(bench().windows(), tree()); }
     bool isOpen() { return tree() != nullptr; }
     workbench::TreeWidget& treeWidget() {
-        return *bench().windows().widgetOf<workbench::TreeWidget>(tree());
+        return *bench().windows().widgetOf<workbench::TreeWidget>(CWnd::FromHandle(tree()));
     }
     /// The texts of the rows that show, each with a blank for each item above it.
     Texts rows() {

@@ -78,7 +78,7 @@ TEST_F(FilterDropdownTest, HidesWhenTheKeyboardLeavesIt) {
             clickCombo();
         if (fromCheck)
             workbench::gestures::clickAt(bench().toolkit(), check(), {5, 5});
-        bench().windows().focus().moveTo(nullptr);
+        bench().windows().setFocus(nullptr);
         settle();
         EXPECT_FALSE(isOpen()) << fromCheck;
     }
@@ -87,7 +87,7 @@ TEST_F(FilterDropdownTest, HidesWhenTheKeyboardLeavesIt) {
 TEST_F(FilterDropdownTest, HidesWhenItHadTheKeyboardItself) {
     dropdown().SetFocus();
     ASSERT_TRUE(isOpen());
-    bench().windows().focus().moveTo(nullptr);
+    bench().windows().setFocus(nullptr);
     EXPECT_FALSE(isOpen());
 }
 

@@ -1,4 +1,5 @@
 #include "tests/layer/layer_filter_fixture.h"
+#include "workbench/adapters/host_values.h"
 #include "workbench/drawing/database/database.h"
 
 #include <hostapi/zorq/layers.h>
@@ -28,7 +29,7 @@ protected:
         const workbench::drawing::Database& data = bench().editor().documents().current()->data();
         for (const auto id : data.ids(workbench::drawing::RecordKind::Entity)) {
             if (ids.size() < count)
-                ids.push_back({id.number});
+                ids.push_back(workbench::toHostId(id));
         }
         return ids;
     }

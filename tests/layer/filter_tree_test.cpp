@@ -209,7 +209,8 @@ TEST_F(FilterComboTest, ViewportCommandsWorkInAViewportOfALayout) {
 
 TEST_F(FilterComboTest, OneCommandIsOneStepOfUndo) {
     choose(L"House", "Visibility/Off");
-    bench().editor().documents().current()->undo();
+    type(L"U\n");
+    takeSent();
     EXPECT_EQ(db("layers.Walls.on"), Value(true));
     EXPECT_EQ(db("layers.Doors.on"), Value(true));
     EXPECT_TRUE(isStored("House"));

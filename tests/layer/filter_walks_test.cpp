@@ -121,7 +121,7 @@ TEST_F(FilterWalkTest, LayersAreWalkedOverInTheHostsOrderAndClosedEach) {
 TEST_F(FilterWalkTest, WalkWithoutADatabaseIsNone) {
     class Counting final : public CVxDaLayerFilterMgr::VxDaFilterPropOp {
     public:
-        using VxDaFilterPropOp::VxDaFilterPropOp;
+        explicit Counting(const VxLyLayerFilter& filter) : VxDaFilterPropOp(filter) {}
         bool operator()(VxDbLayerTableRecord& /*layer*/) override {
             ++layers;
             return true;

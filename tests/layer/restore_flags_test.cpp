@@ -1,7 +1,9 @@
 #include "layer/restore_flags.h"
 
 #include "tests/support/bench.h"
+#include "workbench/profiles/profile.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/profiles/registry_element.h"
 
 namespace {
 
@@ -19,8 +21,9 @@ protected:
     void SetUp() override { useNoMenu(); }
     void setOption(const char* name, const Option& value) {
         if (value) {
-            bench().profiles().setRegistryValue(
-                std::string("Dialogs/VxLayerApps:LayerStatesManager/") + name,
+            bench().profiles().current().setRegistryValue(
+                *workbench::parseRegistryPath(
+                    std::string("Dialogs/VxLayerApps:LayerStatesManager/") + name),
                 workbench::Value(*value));
         }
     }

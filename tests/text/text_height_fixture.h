@@ -49,7 +49,10 @@ protected:
     bool opensByClick() {
         workbench::gestures::clickAt(bench().toolkit(), window(), {5, 5});
         settle();
-        const bool open = bench().windows().widgetOf<workbench::ComboWidget>(window())->isOpen();
+        const bool open = bench()
+                              .windows()
+                              .widgetOf<workbench::ComboWidget>(CWnd::FromHandle(window()))
+                              ->isOpen();
         if (open)
             workbench::gestures::closeList(bench().toolkit(), window());
         return open;

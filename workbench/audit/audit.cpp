@@ -20,7 +20,7 @@ namespace {
 const std::vector<ControlRule>& controlRules() {
     static const std::vector<ControlRule> rules = [] {
         std::vector<ControlRule> all;
-        for (const auto family : {layerRules, navigationRules, hostListRules}) {
+        for (const auto family : {layerRules, navigationRules, textRules, hostListRules}) {
             std::vector<ControlRule> some = family();
             all.insert(all.end(), some.begin(), some.end());
         }
