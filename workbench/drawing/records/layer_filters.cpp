@@ -2,6 +2,8 @@
 
 #include "workbench/base/text.h"
 #include "workbench/drawing/database/database.h"
+#include "workbench/drawing/layer_overrides.h"
+#include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
 
@@ -13,7 +15,8 @@ namespace workbench::drawing {
 
 namespace {
 
-constexpr std::array<const char*, 4> kKindNames{"all", "used", "property", "group"};
+constexpr std::array<const char*, 6> kKindNames{"all",       "used",     "unreconciled",
+                                                "overrides", "property", "group"};
 
 bool isUsed(ObjectId layer, const Database& database) {
     const std::vector<ObjectId> entities = database.ids(RecordKind::Entity);
@@ -66,15 +69,51 @@ void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
 
 constexpr const char* kAllLayers = "All";
 
+/// A filter below the root that a drawing keeps itself.
+struct GeneratedFilter {
+    FilterKind kind;
+    const char* name;
+};
+
+constexpr GeneratedFilter kGenerated[] = {
+    {FilterKind::Used, "All Used Layers"},
+    {FilterKind::Unreconciled, "Unreconciled New Layers"},
+    {FilterKind::Overrides, "Viewport Overrides"},
+};
+
+bool hasKind(const LayerFilter& filter, FilterKind kind) {
+    return filter.kind == kind ||
+           std::any_of(filter.children.begin(), filter.children.end(),
+                       [kind](const LayerFilter& child) { return hasKind(child, kind); });
+}
+
+bool isUnreconciled(ObjectId id, const Database& database) {
+    const auto* layer = database.look<Layer>(id);
+    return layer != nullptr && !layer->reconciled;
+}
+
+bool looksOtherInViewport(ObjectId layer, const Database& database) {
+    const auto* viewport = database.look<Viewport>(activeViewport(database));
+    return viewport != nullptr && hasOverride(*viewport, layer);
+}
+
 }  // namespace
 
 LayerFilters::LayerFilters() : current(kAllLayers) {
     root.name = kAllLayers;
     root.kind = FilterKind::All;
-    LayerFilter used;
-    used.name = "All Used Layers";
-    used.kind = FilterKind::Used;
-    root.children.push_back(used);
+    addGenerated();
+}
+
+void LayerFilters::addGenerated() {
+    for (const GeneratedFilter& generated : kGenerated) {
+        if (hasKind(root, generated.kind) || findFilter(root, generated.name) != nullptr)
+            continue;
+        LayerFilter added;
+        added.name = generated.name;
+        added.kind = generated.kind;
+        root.children.push_back(added);
+    }
 }
 
 const std::vector<Property<LayerFilters>>& LayerFilters::properties() {
@@ -125,6 +164,10 @@ bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& data
         return true;
     case FilterKind::Used:
         return isUsed(layer, database);
+    case FilterKind::Unreconciled:
+        return isUnreconciled(layer, database);
+    case FilterKind::Overrides:
+        return looksOtherInViewport(layer, database);
     case FilterKind::Property:
         return expressionShows(filter.expression, layer, database);
     case FilterKind::Group:
@@ -142,7 +185,8 @@ void fromValue(const Value& value, FilterKind& member, const Database& /*databas
     const std::string& text = value.asString();
     const auto found = std::find(kKindNames.begin(), kKindNames.end(), text);
     if (found == kKindNames.end()) {
-        throw ValueError("expected all, used, property or group, got " + value.describe());
+        throw ValueError("expected all, used, unreconciled, overrides, property or group, got " +
+                         value.describe());
     }
     member = static_cast<FilterKind>(found - kKindNames.begin());
 }
