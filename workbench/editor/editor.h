@@ -6,6 +6,7 @@
 #include "workbench/editor/document_list.h"
 #include "workbench/editor/editor_objects.h"
 #include "workbench/editor/editor_reactors.h"
+#include "workbench/editor/layer_display.h"
 #include "workbench/editor/profile_values.h"
 #include "workbench/editor/system_variables.h"
 
@@ -32,6 +33,7 @@ public:
     Journal& journal() { return m_journal; }
     Answers& answers() { return m_answers; }
     ProfileValues& profileValues() { return m_profileValues; }
+    LayerDisplay& layerDisplay() { return m_layerDisplay; }
 
     // The session, as scripts and the desktop drive it.
 
@@ -73,6 +75,7 @@ private:
     SystemVariables m_variables{*this};
     DocumentList m_documents{*this};
     EditorObjects m_objects;
+    LayerDisplay m_layerDisplay;
     std::vector<Document*> m_inGesture;  // in the order of their making; not owned, may have gone
 };
 
