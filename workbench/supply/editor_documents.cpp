@@ -78,8 +78,14 @@ Zorq::ErrorStatus DocumentList::sendToCommandLine(VxApDocument* document, const 
 
 namespace {
 
-int chosenMode(int mode) {
-    return mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
+/// Locks a document for an owner. What is written meanwhile is one step of undo. Null if nothing was
+/// locked.
+workbench::Document* lock(workbench::Document* document, int mode, const void* owner) {
+    const int chosen = mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
+    if (document == nullptr || !document->locks().lock(chosen, owner))
+        return nullptr;
+    document->data().undoLog().beginGroup(std::string());
+    return document;
 }
 
 }  // namespace
@@ -93,24 +99,22 @@ VxApDocManager* vxDocManagerPtr() {
 
 VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {database, mode});
-    workbench::Document* document =
-        workbench::Workbench::current().editor().documents().find(database);
-    if (!call.failed() && document != nullptr && document->locks().lock(chosenMode(mode), this))
-        m_document = document;
+    if (!call.failed())
+        m_document =
+            lock(workbench::Workbench::current().editor().documents().find(database), mode, this);
 }
 
 VxAxDocLock::VxAxDocLock(VxApDocument* document, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {document, mode});
-    workbench::Document* locked =
-        workbench::Workbench::current().editor().documents().find(document);
-    if (!call.failed() && locked != nullptr && locked->locks().lock(chosenMode(mode), this))
-        m_document = locked;
+    if (!call.failed())
+        m_document =
+            lock(workbench::Workbench::current().editor().documents().find(document), mode, this);
 }
 
 VxAxDocLock::~VxAxDocLock() {
     workbench::HostCall call("VxAxDocLock::~VxAxDocLock");
     workbench::Document* document =
         workbench::Workbench::current().editor().documents().find(m_document);
-    if (document != nullptr)
-        document->locks().unlock(this);
+    if (document != nullptr && document->locks().unlock(this))
+        document->data().undoLog().endGroup();
 }

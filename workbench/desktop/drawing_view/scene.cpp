@@ -1,5 +1,6 @@
 #include "workbench/desktop/drawing_view/scene.h"
 
+#include "workbench/drawing/layer_overrides.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/viewport.h"
@@ -40,11 +41,9 @@ public:
         : m_settings(settings) {
         const auto* port = database.look<Viewport>(viewport);
         for (const ObjectId id : database.ids(drawing::RecordKind::Layer)) {
-            const Layer& layer = *database.look<Layer>(id);
-            const bool frozenHere =
-                port != nullptr &&
-                std::any_of(port->frozenLayers.begin(), port->frozenLayers.end(),
-                            [id](const auto& frozen) { return frozen.id == id; });
+            const Layer& own = *database.look<Layer>(id);
+            const Layer layer = port == nullptr ? own : drawing::lookIn(*port, id, own);
+            const bool frozenHere = port != nullptr && drawing::isFrozenInViewport(*port, id);
             m_layers[id] = {layer.on && !layer.frozen && !frozenHere, layer.locked, layer.colour};
         }
     }

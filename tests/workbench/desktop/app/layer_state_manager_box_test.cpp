@@ -35,7 +35,7 @@ protected:
 
     Workbench m_workbench{testOptions()};
     Document& m_document = m_workbench.editor().documents().create(L"A");
-    LayerStateList m_states{m_document, LayerStateList::NewLayers::Keep};
+    LayerStateList m_states{m_document, {}};
     QWidget m_owner;
     std::unique_ptr<LayerStateManagerBox> m_box;
 };

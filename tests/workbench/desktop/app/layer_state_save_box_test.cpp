@@ -20,8 +20,7 @@ protected:
     }
 
     Workbench m_workbench{testOptions()};
-    LayerStateList m_states{m_workbench.editor().documents().create(L"A"),
-                            LayerStateList::NewLayers::Keep};
+    LayerStateList m_states{m_workbench.editor().documents().create(L"A"), {}};
     QWidget m_owner;
     LayerStateSaveBox m_box{m_states, m_owner};
 };
