@@ -1,4 +1,5 @@
 #include "workbench/audit/control_rules.h"
+#include "workbench/drawing/database/database.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/text_style.h"
 

@@ -7,6 +7,7 @@
 #include "workbench/editor/editor_objects.h"
 #include "workbench/editor/editor_reactors.h"
 #include "workbench/editor/entity_selection.h"
+#include "workbench/editor/layer_display.h"
 #include "workbench/editor/layer_state_dialogs.h"
 #include "workbench/editor/profile_values.h"
 #include "workbench/editor/selection_sets.h"
@@ -38,6 +39,7 @@ public:
     Journal& journal() { return m_journal; }
     Answers& answers() { return m_answers; }
     ProfileValues& profileValues() { return m_profileValues; }
+    LayerDisplay& layerDisplay() { return m_layerDisplay; }
 
     // The session, as scripts and the desktop drive it.
 
@@ -82,6 +84,7 @@ private:
     SelectionSets m_selectionSets{m_documents};
     EntitySelection m_selection{*this};
     LayerStateDialogs m_layerStateDialogs{*this};
+    LayerDisplay m_layerDisplay;
     std::vector<Document*> m_inGesture;  // in the order of their making; not owned, may have gone
 };
 

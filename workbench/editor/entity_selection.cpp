@@ -32,8 +32,6 @@ Entities livingOnce(const Document& document, const Entities& entities) {
     return living;
 }
 
-}  // namespace
-
 ObjectId entityOfNumber(const Document& document, std::int64_t number) {
     ObjectId id;
     if (number > 0 && number <= std::numeric_limits<std::uint32_t>::max())
@@ -41,6 +39,18 @@ ObjectId entityOfNumber(const Document& document, std::int64_t number) {
     if (!isLivingEntity(document, id))
         throw std::invalid_argument("there is no entity " + std::to_string(number) + " to select");
     return id;
+}
+
+}  // namespace
+
+Entities EntitySelection::entitiesOf(const Document& document, const Value& numbers) {
+    // A script's empty table may be either.
+    if (numbers.isTable() && numbers.asTable().empty())
+        return {};
+    Entities entities;
+    for (const Value& number : numbers.asList())
+        entities.push_back(entityOfNumber(document, number.asInteger()));
+    return entities;
 }
 
 std::optional<Entities> EntitySelection::ask(Document& document) {
@@ -70,10 +80,7 @@ std::optional<Entities> EntitySelection::queuedAnswer(const Document& document) 
     const std::optional<Value> queued = m_editor.answers().take("select");
     if (!queued || queued->isNil())
         return {};
-    Entities entities;
-    for (const Value& number : queued->asList())
-        entities.push_back(entityOfNumber(document, number.asInteger()));
-    return entities;
+    return entitiesOf(document, *queued);
 }
 
 }  // namespace workbench

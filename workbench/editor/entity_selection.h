@@ -1,9 +1,8 @@
 #pragma once
 
-#include "workbench/core/answers.h"
+#include "workbench/base/value.h"
 #include "workbench/drawing/database/object_id.h"
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -13,9 +12,6 @@ namespace workbench {
 class Document;
 class Editor;
 
-/// The living entity of a number. Throws std::invalid_argument if there is none.
-drawing::ObjectId entityOfNumber(const Document& document, std::int64_t number);
-
 /// The user's choice of entities. The answer comes from the selection that was made before a command,
 /// where the command may use it, or from the queue of the kind "select" (a list of entity numbers), or
 /// from whoever shows the drawing; nothing: the user cancelled.
@@ -24,6 +20,10 @@ public:
     using Entities = std::vector<drawing::ObjectId>;
 
     explicit EntitySelection(Editor& editor) : m_editor(editor) {}
+
+    /// The living entities of a list of numbers. Throws std::invalid_argument for a number without one,
+    /// `ValueError` for anything else than a list.
+    static Entities entitiesOf(const Document& document, const Value& numbers);
 
     /// Asks for entities of a document; each of them lives and comes once. Throws
     /// std::invalid_argument for a queued answer that names none.

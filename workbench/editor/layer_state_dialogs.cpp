@@ -11,8 +11,10 @@ namespace workbench {
 
 namespace {
 
-/// Whether layers that a state doesn't know are turned off, a setting of the manager's.
-constexpr const char* kNewLayersSetting = "Dialogs/VxLayerApps:LayerStatesManager/LayerNotFound";
+/// Whether layers that a state doesn't know are turned off, and whether a viewport of a layout gets what
+/// it can have of its own: settings of the manager's, 0 for no.
+constexpr const char* kTurnsUnknownOff = "Dialogs/VxLayerApps:LayerStatesManager/LayerNotFound";
+constexpr const char* kAsOverrides = "Dialogs/VxLayerApps:LayerStatesManager/RestoreAsOverrides";
 
 std::optional<std::wstring> textMember(const Value& table, const char* name) {
     const Value* const member = table.member(name);
@@ -54,7 +56,7 @@ bool LayerStateDialogs::open(const Dialog& dialog, const std::string& owner) {
         fields.push_back({"owner", owner});
     m_editor.journal().add("dialog", std::move(fields));
     const Turn turn;  // the document may be closed while a user has the dialog
-    LayerStateList states(*document, newLayers());
+    LayerStateList states(*document, restoring());
     if (const std::optional<Value> table = m_editor.answers().take("dialog"))
         return answer(dialog, *document, states, *table);
     return m_presenter != nullptr && (m_presenter->*dialog.show)(states);
@@ -71,10 +73,14 @@ bool LayerStateDialogs::answer(const Dialog& dialog, const Document& document,
     return problem.empty();
 }
 
-LayerStateList::NewLayers LayerStateDialogs::newLayers() const {
-    const Value setting = m_editor.profileValues().registryValue(kNewLayersSetting);
-    return setting.isInteger() && setting.asInteger() == 0 ? LayerStateList::NewLayers::Keep
-                                                           : LayerStateList::NewLayers::TurnOff;
+LayerStateList::Restoring LayerStateDialogs::restoring() const {
+    const auto isSet = [this](const char* setting) {
+        const Value value = m_editor.profileValues().registryValue(setting);
+        return !value.isInteger() || value.asInteger() != 0;
+    };
+    return {
+        isSet(kTurnsUnknownOff) ? drawing::UnknownLayers::TurnOff : drawing::UnknownLayers::Keep,
+        isSet(kAsOverrides) ? drawing::RestoredLook::OfViewport : drawing::RestoredLook::OfLayers};
 }
 
 }  // namespace workbench

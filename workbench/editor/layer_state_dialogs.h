@@ -44,7 +44,7 @@ private:
     bool open(const Dialog& dialog, const std::string& owner);
     bool answer(const Dialog& dialog, const Document& document, LayerStateList& states,
                 const Value& table);
-    LayerStateList::NewLayers newLayers() const;
+    LayerStateList::Restoring restoring() const;
 
     Editor& m_editor;
     LayerStatePresenter* m_presenter = nullptr;  // not owned; null: nobody shows them

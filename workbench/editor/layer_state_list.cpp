@@ -1,7 +1,6 @@
 #include "workbench/editor/layer_state_list.h"
 
 #include "workbench/base/text.h"
-#include "workbench/drawing/layer_state_operations.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/layer_state.h"
@@ -87,11 +86,9 @@ std::wstring LayerStateList::descriptionOf(const std::wstring& name) const {
 }
 
 std::wstring LayerStateList::restore(const std::wstring& name) {
-    const auto unknown = m_newLayers == NewLayers::TurnOff ? drawing::UnknownLayers::TurnOff
-                                                           : drawing::UnknownLayers::Keep;
-    return problemOf(
-        drawing::restoreLayerState(data(), find(name), drawing::activeViewport(data()), unknown),
-        name);
+    return problemOf(drawing::restoreLayerState(data(), find(name), drawing::activeViewport(data()),
+                                                m_restoring.unknown, m_restoring.look),
+                     name);
 }
 
 std::wstring LayerStateList::save(const std::wstring& name, const std::wstring& description) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "workbench/drawing/database/database.h"
+#include "workbench/drawing/layer_state_operations.h"
 
 #include <string>
 #include <vector>
@@ -13,12 +13,15 @@ class Document;
 /// or part of the running command's.
 class LayerStateList {
 public:
-    /// What restoring does with layers that the state doesn't know.
-    enum class NewLayers { Keep, TurnOff };
+    /// How states are restored in the active viewport.
+    struct Restoring {
+        drawing::UnknownLayers unknown = drawing::UnknownLayers::TurnOff;
+        drawing::RestoredLook look = drawing::RestoredLook::OfViewport;
+    };
 
-    LayerStateList(Document& document, NewLayers newLayers)
+    LayerStateList(Document& document, Restoring restoring)
         : m_document(document),
-          m_newLayers(newLayers) {}
+          m_restoring(restoring) {}
 
     std::vector<std::wstring> names() const;
     /// Empty for a name without a state, too.
@@ -39,7 +42,7 @@ private:
     drawing::ObjectId find(const std::wstring& name) const;
 
     Document& m_document;
-    NewLayers m_newLayers;
+    Restoring m_restoring;
 };
 
 }  // namespace workbench

@@ -9,6 +9,8 @@
 
 #include <lua.hpp>
 
+#include <utility>
+
 namespace workbench::script {
 
 namespace {
@@ -109,18 +111,10 @@ int finish(Session& session, Arguments& arguments) {
     return 0;
 }
 
-/// Entities by their numbers, of a document.
-EntitySelection::Entities entitiesOf(const Document& document, const Value& numbers) {
-    EntitySelection::Entities entities;
-    for (const Value& number : numbers.asList())
-        entities.push_back(entityOfNumber(document, number.asInteger()));
-    return entities;
-}
-
 int select(Session& session, Arguments& arguments) {
     Document& document = currentDocument(session);
-    if (!editor(session).selection().selectBefore(document,
-                                                  entitiesOf(document, arguments.value(1))))
+    auto entities = EntitySelection::entitiesOf(document, arguments.value(1));
+    if (!editor(session).selection().selectBefore(document, std::move(entities)))
         throw ScriptError("a command is running: what it asks for is answered by wb.answer");
     session.settle();
     return 0;

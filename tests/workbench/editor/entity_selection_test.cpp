@@ -61,6 +61,8 @@ TEST_F(EntitySelectionTest, WithoutAnAnswerOrWithNilItIsCancelled) {
     EXPECT_EQ(ask(), std::nullopt);
     queue(Value::List{});
     EXPECT_EQ(ask(), Entities{});
+    queue(Value::Table{});
+    EXPECT_EQ(ask(), Entities{});
 }
 
 TEST_F(EntitySelectionTest, AnAnswerThatNamesNoEntityIsAnError) {

@@ -8,14 +8,14 @@ namespace workbench {
 class LayerStateListTest : public EditorTest {
 protected:
     using Names = std::vector<std::wstring>;
-    using NewLayers = LayerStateList::NewLayers;
+    using Unknown = drawing::UnknownLayers;
 
     LayerStateListTest() : m_document(newDocument()) {
         set("layers.Walls", Value::Table{{"frozen", true}});
     }
 
-    LayerStateList states(NewLayers newLayers = NewLayers::TurnOff) {
-        return {m_document, newLayers};
+    LayerStateList states(Unknown unknown = Unknown::TurnOff) {
+        return {m_document, {.unknown = unknown}};
     }
     void set(const char* path, const Value& value) {
         drawing::setByPath(m_document.data(), path, value);
@@ -38,9 +38,9 @@ TEST_F(LayerStateListTest, AStateIsSavedWithItsDescriptionAndRestored) {
 TEST_F(LayerStateListTest, LayersThatTheStateDoesNotKnowGoOffOnlyIfAskedFor) {
     states().save(L"Plan", L"");
     set("layers.New", Value::Table{});
-    EXPECT_EQ(states(NewLayers::Keep).restore(L"Plan"), L"");
+    EXPECT_EQ(states(Unknown::Keep).restore(L"Plan"), L"");
     EXPECT_EQ(get("layers.New.on"), Value(true));
-    EXPECT_EQ(states(NewLayers::TurnOff).restore(L"Plan"), L"");
+    EXPECT_EQ(states(Unknown::TurnOff).restore(L"Plan"), L"");
     EXPECT_EQ(get("layers.New.on"), Value(false));
 }
 

@@ -81,7 +81,7 @@ TEST_F(DocumentFunctionsTest, ALockScopeOfADocumentLocksForWritingUnlessAModeIsT
     Document& document = newDocument();
     {
         const VxAxDocLock lock(&document);
-        EXPECT_EQ(document.locks().mode(), DocumentLocks::kWrite);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kAutoWrite);
         EXPECT_TRUE(document.locks().isForWriting());
     }
     {

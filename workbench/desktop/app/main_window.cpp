@@ -9,9 +9,11 @@
 #include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/dock_splitter.h"
 #include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/entity_picker.h"
 #include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/frame_home.h"
 #include "workbench/desktop/app/gesture_watch.h"
+#include "workbench/desktop/app/layer_state_boxes.h"
 #include "workbench/desktop/app/layout_keeper.h"
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
@@ -96,6 +98,9 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     setCentralWidget(m_home);
     m_mirror = std::make_unique<WindowMirror>(m_stage, *m_home);
     m_questions = std::make_unique<Questions>(m_stage, *this);
+    m_picker = std::make_unique<EntityPicker>(m_stage, *m_tabs,
+                                              [this](const QString& text) { tell(text); });
+    m_layerStates = std::make_unique<LayerStateBoxes>(m_stage, *this);
     m_home->attach(m_stage);
     keepOnScreen();
     buildPanes();

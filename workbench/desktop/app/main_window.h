@@ -25,11 +25,13 @@ class DesktopCommands;
 class DesktopMenus;
 class DockSplitter;
 class DocumentTabs;
+class EntityPicker;
 class FileActions;
 class FrameHome;
 class GestureWatch;
 class HelpPage;
 class JournalPane;
+class LayerStateBoxes;
 class LayoutKeeper;
 class Questions;
 class SearchBox;
@@ -116,6 +118,8 @@ private:
     const Document* m_front = nullptr;       // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
+    std::unique_ptr<EntityPicker> m_picker;
+    std::unique_ptr<LayerStateBoxes> m_layerStates;
     std::unique_ptr<FileActions> m_files;
     std::unique_ptr<DesktopMenus> m_menus;
     std::unique_ptr<DesktopCommands> m_commands;

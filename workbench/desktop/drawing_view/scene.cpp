@@ -48,7 +48,7 @@ public:
         }
     }
 
-    void add(const Entity& entity) {
+    void add(ObjectId id, const Entity& entity) {
         const LayerLook& layer = m_layers[entity.layer.id];
         if (!layer.shown)
             return;
@@ -57,12 +57,12 @@ public:
             if (corners.size() < 3)
                 continue;
             const Vec3 normal = normalOf(corners);
-            m_scene.faces.push_back({std::move(corners), normal, colour});
+            m_scene.faces.push_back({std::move(corners), normal, colour, id});
         }
         if (entity.type != drawing::EntityType::Line)
             return;
         for (std::size_t i = 1; i < entity.points.size(); ++i)
-            m_scene.lines.push_back({entity.points[i - 1], entity.points[i], colour});
+            m_scene.lines.push_back({entity.points[i - 1], entity.points[i], colour, id});
     }
 
     Scene take() { return std::move(m_scene); }
@@ -103,7 +103,7 @@ private:
 Scene sceneOf(const drawing::Database& database, ObjectId viewport, const SceneSettings& settings) {
     SceneMaker maker(database, viewport, settings);
     for (const ObjectId id : database.ids(drawing::RecordKind::Entity))
-        maker.add(*database.look<Entity>(id));
+        maker.add(id, *database.look<Entity>(id));
     return maker.take();
 }
 

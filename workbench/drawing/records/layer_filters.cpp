@@ -56,12 +56,7 @@ void setMember(LayerFilter& filter, const Value::Member& member, const Database&
 }
 
 void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
-    for (const std::string& name : names) {
-        if (equalNoCase(name, filter.name)) {
-            throw ValueError("two layer filters are named \"" + filter.name + "\"");
-        }
-    }
-    names.push_back(filter.name);
+    names.push_back(toUtf8(toUpper(toWide(filter.name))));
     for (const LayerFilter& child : filter.children) {
         collectNames(child, names);
     }
@@ -158,6 +153,16 @@ LayerFilter* findFilterParent(LayerFilter& start, std::string_view name) {
     return const_cast<LayerFilter*>(findFilterParent(static_cast<const LayerFilter&>(start), name));
 }
 
+FilterNames nameProblemOf(const LayerFilter& root) {
+    std::vector<std::string> names;
+    collectNames(root, names);
+    std::sort(names.begin(), names.end());
+    if (names.front().empty())
+        return FilterNames::Empty;
+    return std::adjacent_find(names.begin(), names.end()) == names.end() ? FilterNames::Good
+                                                                         : FilterNames::Twice;
+}
+
 bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database) {
     switch (filter.kind) {
     case FilterKind::All:
@@ -210,11 +215,14 @@ void fromValue(const Value& value, LayerFilter& member, const Database& database
     for (const Value::Member& entry : value.asTable()) {
         setMember(member, entry, database);
     }
-    if (member.name.empty()) {
+    switch (nameProblemOf(member)) {
+    case FilterNames::Empty:
         throw ValueError("a layer filter needs a \"name\"");
+    case FilterNames::Twice:
+        throw ValueError("two layer filters bear the same name");
+    case FilterNames::Good:
+        break;
     }
-    std::vector<std::string> names;
-    collectNames(member, names);
 }
 
 }  // namespace workbench::drawing

@@ -60,6 +60,10 @@ LayerFilter* findFilter(LayerFilter& start, std::string_view name);
 const LayerFilter* findFilterParent(const LayerFilter& start, std::string_view name);
 LayerFilter* findFilterParent(LayerFilter& start, std::string_view name);
 
+/// What is to be said of the names in a tree: each is needed, and unique without regard to case.
+enum class FilterNames { Good, Empty, Twice };
+FilterNames nameProblemOf(const LayerFilter& root);
+
 /// True if the filter shows the layer: where it is nested makes no difference. A property filter whose expression can't be read shows
 /// none.
 bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database);
