@@ -5,6 +5,7 @@
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,12 @@ protected:
             setDb(std::string("layers.") + layer, workbench::Value::Table{});
         addProperty("House", R"(NAME=="Walls,Doors")");
         addGroup("Top", {"Roof"});
+        m_manager = std::make_unique<CVxDaLayerFilterMgr>();
         refresh();
+    }
+    void TearDown() override {
+        m_manager = nullptr;
+        ControlBench::TearDown();
     }
 
     void addProperty(const std::string& name, const std::string& expression,
@@ -37,11 +43,11 @@ protected:
     }
     /// Reads the drawing's filters anew and forgets what happened so far.
     void refresh() {
-        m_manager.refreshFilters();
+        m_manager->refreshFilters();
         takeJournal();
     }
-    CVxDaLayerFilterMgr& manager() { return m_manager; }
-    VxLyLayerFilter* filter(const std::wstring& name) { return m_manager.findFilter(name); }
+    CVxDaLayerFilterMgr& manager() { return *m_manager; }
+    VxLyLayerFilter* filter(const std::wstring& name) { return m_manager->findFilter(name); }
     /// The drawing's own filter of a name, as a path of the drawing.
     workbench::Value stored(const std::string& name, const std::string& member) {
         return db("filters[\"" + name + "\"]." + member);
@@ -78,5 +84,5 @@ private:
         setDb("filters[\"" + name + "\"]", members);
     }
 
-    CVxDaLayerFilterMgr m_manager;
+    std::unique_ptr<CVxDaLayerFilterMgr> m_manager;
 };
