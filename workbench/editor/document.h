@@ -13,6 +13,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace workbench {
 
@@ -46,6 +47,9 @@ public:
     OpenObjects& openObjects() { return m_openObjects; }
     Regeneration& regeneration() { return m_regeneration; }
 
+    /// The entities that were selected before a command; see `EntitySelection`.
+    std::vector<drawing::ObjectId>& pickSet() { return m_pickSet; }
+
     /// A gesture is one step of undo and of the viewports' histories; see there.
     void beginGesture(drawing::UndoLog::Gesture gesture = drawing::UndoLog::Gesture::New);
     void endGesture();
@@ -65,6 +69,7 @@ private:
     std::unique_ptr<ViewHistory> m_viewHistory;
     OpenObjects m_openObjects;
     Regeneration m_regeneration;
+    std::vector<drawing::ObjectId> m_pickSet;
     std::unique_ptr<CommandProcessor> m_processor;
 };
 

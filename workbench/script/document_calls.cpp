@@ -109,6 +109,23 @@ int finish(Session& session, Arguments& arguments) {
     return 0;
 }
 
+/// Entities by their numbers, of a document.
+EntitySelection::Entities entitiesOf(const Document& document, const Value& numbers) {
+    EntitySelection::Entities entities;
+    for (const Value& number : numbers.asList())
+        entities.push_back(entityOfNumber(document, number.asInteger()));
+    return entities;
+}
+
+int select(Session& session, Arguments& arguments) {
+    Document& document = currentDocument(session);
+    if (!editor(session).selection().selectBefore(document,
+                                                  entitiesOf(document, arguments.value(1))))
+        throw ScriptError("a command is running: what it asks for is answered by wb.answer");
+    session.settle();
+    return 0;
+}
+
 int var(Session& session, Arguments& arguments) {
     const std::wstring name = toWide(arguments.text(1));
     Value value = editor(session).read(name);
@@ -168,12 +185,19 @@ int db(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& documentCalls() {
     static const std::vector<Call> calls{
-        {"activate", activate, CallKind::Acts}, {"begin", begin, CallKind::Acts},
-        {"close", close, CallKind::Acts},       {"db", db},
-        {"finish", finish, CallKind::Acts},     {"new", newDocument, CallKind::Acts},
-        {"open", open, CallKind::Acts},         {"redo", redo, CallKind::Acts},
-        {"set", set, CallKind::Acts},           {"type", type, CallKind::Acts},
-        {"undo", undo, CallKind::Acts},         {"var", var},
+        {"activate", activate, CallKind::Acts},
+        {"begin", begin, CallKind::Acts},
+        {"close", close, CallKind::Acts},
+        {"db", db},
+        {"finish", finish, CallKind::Acts},
+        {"new", newDocument, CallKind::Acts},
+        {"open", open, CallKind::Acts},
+        {"redo", redo, CallKind::Acts},
+        {"select", select, CallKind::Acts},
+        {"set", set, CallKind::Acts},
+        {"type", type, CallKind::Acts},
+        {"undo", undo, CallKind::Acts},
+        {"var", var},
     };
     return calls;
 }
