@@ -6,7 +6,7 @@ namespace workbench {
 
 class OpenLayerTest : public AdaptersTest {
 protected:
-    OpenLayerTest() { m_walls = addLayer("Walls"); }
+    OpenLayerTest() : m_walls(addLayer("Walls")), m_before(walls()) {}
 
     drawing::ObjectId addLayer(const char* name) {
         drawing::Layer layer;
@@ -18,6 +18,7 @@ protected:
     void lockForWriting() { m_document.locks().lock(DocumentLocks::kWrite, this); }
 
     drawing::ObjectId m_walls;
+    drawing::Layer m_before;
 };
 
 TEST_F(OpenLayerTest, TellsItsNameItsIdAndHowItIs) {
@@ -48,7 +49,7 @@ TEST_F(OpenLayerTest, IsChangedWhileItIsOpenForWritingOnly) {
     layer.setIsOff(true);
     layer.setIsLocked(true);
     EXPECT_NE(layer.setIsFrozen(true), Zorq::eOk);
-    EXPECT_EQ(walls(), (drawing::Layer{.name = "Walls"}));
+    EXPECT_EQ(walls(), m_before);
     EXPECT_EQ(layer.upgradeOpen(), toHostStatus(drawing::Status::NotLocked));
     lockForWriting();
     EXPECT_EQ(layer.upgradeOpen(), Zorq::eOk);
@@ -61,7 +62,7 @@ TEST_F(OpenLayerTest, IsChangedWhileItIsOpenForWritingOnly) {
     EXPECT_TRUE(walls().locked);
     EXPECT_TRUE(walls().frozen);
     editor().undo();
-    EXPECT_EQ(walls(), (drawing::Layer{.name = "Walls"}));
+    EXPECT_EQ(walls(), m_before);
 }
 
 TEST_F(OpenLayerTest, AnotherReaderIsInTheWayOfWriting) {

@@ -28,7 +28,7 @@ protected:
 TEST_F(LayerOverrideTest, ComesBackAsItWasWritten) {
     const LayerOverride override =
         read(Value::Table{{"layer", "walls"}, {"linetype", "Hidden"}, {"transparency", 30}});
-    EXPECT_EQ(override.layer, m_walls);
+    EXPECT_EQ(override.layer.id, m_walls);
     EXPECT_EQ(override.linetype, "Hidden");
     EXPECT_EQ(override.transparency, 30);
     EXPECT_EQ(override.colour, std::nullopt);
