@@ -35,7 +35,7 @@ TEST_F(DocumentFunctionsTest, ALockScopeLocksTheDocumentOfItsDatabase) {
     }
     EXPECT_EQ(document.locks().mode(), 0);
     {
-        const VxAxDocLock nothing(nullptr, 1);
+        const VxAxDocLock nothing(static_cast<VxDbDatabase*>(nullptr), 1);
         m_bench.faults().fail("VxAxDocLock::VxAxDocLock", {}, 1);
         const VxAxDocLock failed(document.database(), 1);
         EXPECT_EQ(document.locks().mode(), 0);
