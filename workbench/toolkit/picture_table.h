@@ -20,7 +20,7 @@ public:
     /// Adds the bytes of a PNG file. `source` is the resource key or the file name.
     HBITMAP add(std::string source, std::vector<std::uint8_t> png);
     /// Adds a picture that is decoded already.
-    HBITMAP add(std::string source, PngPicture pixels);
+    HBITMAP addDecoded(std::string source, PngPicture pixels);
     /// Gives a picture back; null and stale handles are ignored.
     void release(HBITMAP picture);
     /// The resource key or file name of a picture; empty for null and stale handles.
@@ -33,11 +33,11 @@ public:
 private:
     struct Picture {
         std::string source;
-        std::vector<std::uint8_t> png;    // empty: `pixels` are all there is
+        std::vector<std::uint8_t> png;     // empty: `pixels` are all there is
         std::optional<PngPicture> pixels;  // nothing: not decoded
     };
 
-    HBITMAP add(Picture picture);
+    HBITMAP keep(Picture picture);
 
     std::uintptr_t m_lastNumber = 0;  // handles are numbers, never given out again
     std::unordered_map<std::uintptr_t, Picture> m_pictures;
