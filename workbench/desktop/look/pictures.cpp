@@ -14,17 +14,20 @@ constexpr qsizetype kMostDecoded = 2000;
 
 QPixmap decode(const PictureTable& table, HBITMAP picture) {
     try {
-        const PngPicture pixels = table.pixels(picture);
-        const QImage image(pixels.rgba.data(), static_cast<int>(pixels.width),
-                           static_cast<int>(pixels.height), static_cast<int>(pixels.width) * 4,
-                           QImage::Format_RGBA8888);
-        return QPixmap::fromImage(image);
+        return pixmapOf(table.pixels(picture));
     } catch (const InputError&) {
         return {};
     }
 }
 
 }  // namespace
+
+QPixmap pixmapOf(const PngPicture& picture) {
+    const QImage image(picture.rgba.data(), static_cast<int>(picture.width),
+                       static_cast<int>(picture.height), static_cast<int>(picture.width) * 4,
+                       QImage::Format_RGBA8888);
+    return QPixmap::fromImage(image);
+}
 
 const QPixmap& Pictures::of(HBITMAP picture) {
     const auto found = m_decoded.constFind(picture);

@@ -35,6 +35,9 @@ public:
     const std::vector<ItemWidget*>& items() const { return m_items; }
 
 protected:
+    /// Where the widget is to be in its parent.
+    virtual QRect placeOf(const Window& window) const;
+
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
