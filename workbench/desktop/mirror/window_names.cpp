@@ -170,7 +170,7 @@ WindowNames namesOf(Toolkit& toolkit, const Window& window) {
     else if (!tip.isEmpty())
         names.name = headOf(tip);
     else if (isNamedForPrograms(toolkit.windows(), window))
-        names.name = nameOfList(window.name);
+        names.name = knownName(window.name);
     else
         names.name = nameOfClass(window);
     if (names.name.isEmpty() && window.object == &toolkit.frame().frame())
