@@ -96,6 +96,8 @@ private:
     bool startNamed(const std::wstring& entered, bool inside);
     bool start(std::shared_ptr<const CommandDefinition> definition, bool transparent);
     bool feed(std::wstring_view answer);
+    /// Locks the document for a command; false if another's lock is in the way.
+    bool lockFor(const Command& command);
     /// Has a run's command do a step of its work; one that throws has failed.
     template <class Work>
     bool work(std::size_t run, Work step);

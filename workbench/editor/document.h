@@ -68,8 +68,8 @@ private:
     DocumentLocks m_locks;
     std::unique_ptr<ViewHistory> m_viewHistory;
     OpenObjects m_openObjects;
-    std::vector<drawing::ObjectId> m_pickSet;
     Regeneration m_regeneration;
+    std::vector<drawing::ObjectId> m_pickSet;
     std::unique_ptr<CommandProcessor> m_processor;
 };
 

@@ -81,10 +81,10 @@ private:
     SystemVariables m_variables{*this};
     DocumentList m_documents{*this};
     EditorObjects m_objects;
+    LayerDisplay m_layerDisplay;
     SelectionSets m_selectionSets{m_documents};
     EntitySelection m_selection{*this};
     LayerStateDialogs m_layerStateDialogs{*this};
-    LayerDisplay m_layerDisplay;
     std::vector<Document*> m_inGesture;  // in the order of their making; not owned, may have gone
 };
 

@@ -13,6 +13,7 @@ constexpr Zorq::ErrorStatus kKeyNotFound = 29;
 constexpr Zorq::ErrorStatus kNoDatabase = 124;
 constexpr Zorq::ErrorStatus kStringTooLong = 160;
 constexpr Zorq::ErrorStatus kInvalidSymbolName = 352;
+constexpr Zorq::ErrorStatus kLockViolation = 371;
 constexpr Zorq::ErrorStatus kNoDocument = 372;
 constexpr Zorq::ErrorStatus kNoLock = 373;
 /// @}

@@ -8,7 +8,6 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace workbench {
@@ -31,12 +30,15 @@ public:
     /// attached last first. Of an attached one that is where its record says its resources are, or, if
     /// it says nothing, the library itself. Nothing if none of them has it.
     std::optional<std::wstring> string(UINT number);
+    /// A bitmap, which is 16 pixels high, by its number, found as strings are. Nothing if none has it.
+    std::optional<PictureBytes> bitmap(UINT number);
 
     /// The strings that were handed out.
     const StringTrace& trace() const { return m_trace; }
 
 private:
-    std::optional<std::string_view> find(UINT number);
+    template <class Find>
+    auto findInAll(Find find);
 
     LibraryTable& m_libraries;
     HINSTANCE m_current = nullptr;

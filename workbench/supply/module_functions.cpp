@@ -127,7 +127,9 @@ HICON LoadIcon(HINSTANCE library, UINT number) {
     std::optional<workbench::PngPicture> picture = iconPicture(library, number);
     if (!picture)
         return call.returns<HICON>(nullptr);
-    return call.returns(Workbench::current().windows().gdi().addIcon(std::move(*picture)));
+    std::string source = "#" + std::to_string(number);
+    return call.returns(
+        Workbench::current().windows().gdi().addIcon({std::move(*picture), std::move(source)}));
 }
 
 BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& record, HINSTANCE library) {

@@ -47,6 +47,14 @@ QRUI_COMBO_CTRL_ITEM* CQrUiComboCtrl::GetItem(int index) const {
     return combo == nullptr ? nullptr : combo->entry(index);
 }
 
+int CQrUiComboCtrl::DeleteItem(int index) {
+    HostCall call("CQrUiComboCtrl::DeleteItem", {index});
+    ComboWidget* const combo = widgetOf(*this);
+    if (call.failed() || combo == nullptr || !combo->remove(*windows().find(m_hWnd), index))
+        return call.returns(-1);
+    return call.returns(combo->count());
+}
+
 void CQrUiComboCtrl::ResetContent() {
     HostCall call("CQrUiComboCtrl::ResetContent");
     if (ComboWidget* const combo = widgetOf(*this); combo != nullptr && !call.failed())

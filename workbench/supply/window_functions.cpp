@@ -1,5 +1,6 @@
 #include "workbench/core/host_call.h"
 #include "workbench/host/workbench.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/collation.h"
 #include "workbench/windows/window_system.h"
 
@@ -51,6 +52,25 @@ int GetSystemMetrics(int index) {
 void SetArrowCursor() {
     // Nothing here shows a cursor; the journal tells that it was set.
     const HostCall call("SetArrowCursor");
+}
+
+BOOL TrackMouseEvent(TRACKMOUSEEVENT* request) {
+    HostCall call("TrackMouseEvent", {request == nullptr ? DWORD{0} : request->dwFlags});
+    if (call.failed() || request == nullptr || !IsWindow(request->hwndTrack))
+        return call.returns(0);
+    if ((request->dwFlags & TME_LEAVE) != 0)
+        Workbench::current().toolkit().mouse().tellOfLeaving(request->hwndTrack);
+    return call.returns(1);
+}
+
+CWaitCursor::CWaitCursor() {
+    // Nothing here shows a cursor; the journal tells when it came and went.
+    const HostCall call("CWaitCursor::CWaitCursor");
+}
+
+CWaitCursor::~CWaitCursor() {
+    if (Workbench::living() != nullptr)
+        const HostCall call("CWaitCursor::~CWaitCursor");
 }
 
 int Collate(const VxString& left, const VxString& right) {

@@ -1,9 +1,11 @@
 #include "workbench/core/host_call.h"
 #include "workbench/host/workbench.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/window.h>
 
+#include <optional>
 #include <string>
 
 namespace {
@@ -59,6 +61,26 @@ int CMenu::GetMenuItemCount() const {
 
 int CMenu::GetMenuStateAt(int position) const {
     return menus().stateAt(m_hMenu, position);
+}
+
+int CMenu::EnableMenuItem(UINT item, UINT flags) {
+    HostCall call("CMenu::EnableMenuItem", {item, flags});
+    if (call.failed())
+        return call.returns(-1);
+    return call.returns(menus().enable(m_hMenu, item, flags));
+}
+
+BOOL CMenu::TrackPopupMenu(UINT flags, int x, int y, CWnd* owner) {
+    HostCall call("CMenu::TrackPopupMenu", {flags, x, y});
+    if (call.failed() || owner == nullptr || !menus().isMenu(m_hMenu))
+        return call.returns(0);
+    workbench::WindowSystem& windows = Workbench::current().windows();
+    const HWND window = owner->m_hWnd;
+    const std::optional<UINT> chosen =
+        Workbench::current().toolkit().menus().track(menus().read(m_hMenu));
+    if (chosen)
+        windows.send(window, WM_COMMAND, *chosen, 0);
+    return call.returns(1);
 }
 
 BOOL CMenu::RemoveMenuAt(int position) {

@@ -1,10 +1,14 @@
 #include "workbench/core/host_call.h"
 #include "workbench/host/workbench.h"
+#include "workbench/supply/qrui_window.h"
+#include "workbench/toolkit/dropdowns.h"
+#include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/window.h>
 
 #include <cstdint>
+#include <utility>
 
 // Calls that change something open with a HostCall; questions and sends don't: a send enters the
 // journal as the message that the window gets.
@@ -50,6 +54,32 @@ CWnd* CWnd::GetFocus() {
     return objectOf(windows().focus());
 }
 
+CWnd* CWnd::GetActiveWindow() {
+    const HWND top = windows().topOf(windows().focus());
+    return top == nullptr ? &workbench::Workbench::current().toolkit().frame().frame()
+                          : objectOf(top);
+}
+
+const CWnd CWnd::wndNoTopMost;
+
+BOOL CWnd::CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* text, DWORD style,
+                    const CRect& rect, CWnd* parent, UINT id) {
+    HostCall call("CWnd::CreateEx",
+                  {exStyle, className, text, style, rect.Width(), rect.Height(), parent, id});
+    const bool isPopup = (style & WS_POPUP) != 0;
+    if (call.failed() || className == nullptr || VxString(className) != L"Static" ||
+        (!isPopup && parent == nullptr))
+        return call.returns(0);
+    auto creation = workbench::supply::creationOf("Static", style, rect, parent, id);
+    if (text != nullptr)
+        creation.text = text;
+    if (isPopup) {
+        creation.popupOf = std::exchange(creation.parent, nullptr);
+        creation.name = workbench::nameOfNewDropdown(windows());
+    }
+    return call.returns(windows().create(*this, std::move(creation)) ? 1 : 0);
+}
+
 BOOL CWnd::DestroyWindow() {
     HostCall call("CWnd::DestroyWindow", {shown(this)});
     if (call.failed())
@@ -88,7 +118,9 @@ void CWnd::KillTimer(UINT timer) {
 
 CWnd* CWnd::GetParent() const {
     const Window* const window = windowOf(this);
-    return window == nullptr ? nullptr : objectOf(window->parent);
+    if (window == nullptr)
+        return nullptr;
+    return objectOf(window->popupOf == nullptr ? window->parent : window->popupOf);
 }
 
 CFrameWnd* CWnd::GetParentFrame() const {
@@ -111,6 +143,11 @@ DWORD CWnd::GetStyle() const {
 
 void CWnd::SetFont(CFont* font, BOOL redraw) {
     SendMessage(WM_SETFONT, font == nullptr ? 0 : font->GetSafeHandle(), redraw);
+}
+
+CFont* CWnd::GetFont() const {
+    const Window* const window = windowOf(this);
+    return window == nullptr ? nullptr : windows().gdi().fontObject(window->font);
 }
 
 BOOL CWnd::IsWindowEnabled() const {
@@ -158,6 +195,11 @@ CPoint CWnd::ScreenToClient(CPoint point) const {
     return {point.x - rect.left, point.y - rect.top};
 }
 
+CPoint CWnd::ClientToScreen(CPoint point) const {
+    const CRect rect = windows().screenRect(m_hWnd);
+    return {point.x + rect.left, point.y + rect.top};
+}
+
 void CWnd::MoveWindow(const CRect& rect) {
     HostCall call("CWnd::MoveWindow",
                   {shown(this), rect.left, rect.top, rect.Width(), rect.Height()});
@@ -171,6 +213,17 @@ void CWnd::SetWindowPos(int x, int y, int cx, int cy, UINT flags) {
     HostCall call("CWnd::SetWindowPos", {shown(this), x, y, cx, cy, flags});
     if (!call.failed())
         windows().place(m_hWnd, {x, y, x + cx, y + cy}, flags);
+}
+
+void CWnd::SetWindowPos(const CWnd* insertAfter, int x, int y, int cx, int cy, UINT flags) {
+    HostCall call("CWnd::SetWindowPos", {shown(this), x, y, cx, cy, flags});
+    if (call.failed())
+        return;
+    // No window is to stay on top, so that those before all others are before all.
+    const bool isOnTop = insertAfter == nullptr || insertAfter == &wndNoTopMost;
+    if ((flags & SWP_NOZORDER) == 0)
+        windows().state().pile(m_hWnd, isOnTop ? nullptr : insertAfter->m_hWnd);
+    windows().place(m_hWnd, {x, y, x + cx, y + cy}, flags);
 }
 
 void CWnd::Invalidate(BOOL erase) {

@@ -45,6 +45,22 @@ int ComboWidget::add(Window& window, std::unique_ptr<QRUI_COMBO_CTRL_ITEM> entry
     return before;
 }
 
+bool ComboWidget::remove(Window& window, int index) {
+    const QRUI_COMBO_CTRL_ITEM* const gone = entry(index);
+    if (gone == nullptr)
+        return false;
+    const int before = count();
+    if (index == m_selected)
+        select(window, -1);
+    m_toolkit.pictures().release(gone->image);
+    m_entries.erase(m_entries.begin() + index);
+    if (m_selected > index)
+        --m_selected;
+    m_highlighted = m_selected;
+    m_toolkit.windows().changes().note(window.handle, "items", before, count());
+    return true;
+}
+
 void ComboWidget::clear(Window& window) {
     const int before = count();
     releaseImages();
@@ -121,6 +137,9 @@ bool ComboWidget::handle(Window& window, UINT message, WPARAM wParam, LPARAM lPa
     switch (message) {
     case kLeftButtonDown:
         m_open ? close(window) : open(window);
+        return true;
+    case CB_RESETCONTENT:
+        clear(window);
         return true;
     case WM_QRUI_THEME_CHANGED:
         takeFontOf(window, lParam);

@@ -27,6 +27,8 @@ public:
     ~ComboWidget() override;
 
     int add(Window& window, std::unique_ptr<QRUI_COMBO_CTRL_ITEM> entry);
+    /// Ends an entry; if it was the selected one none is. False for an index outside.
+    bool remove(Window& window, int index);
     void clear(Window& window);
     int count() const { return static_cast<int>(m_entries.size()); }
     /// The entry at an index, null outside.

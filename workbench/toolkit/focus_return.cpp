@@ -118,4 +118,13 @@ void giveFocusBackOnLeave(Toolkit& toolkit, HWND paletteSet) {
     takeFocusFrom(toolkit, *set);
 }
 
+void leavePopupOnPress(Toolkit& toolkit, HWND pressed) {
+    WindowSystem& windows = toolkit.windows();
+    const Window* const popup = windows.find(windows.popupAbove(windows.focus()));
+    if (popup == nullptr || windows.isWithin(pressed, popup->handle) ||
+        (popup->opener != nullptr && windows.isWithin(pressed, popup->opener)))
+        return;
+    windows.setFocus(toolkit.frame().drawingView().m_hWnd);
+}
+
 }  // namespace workbench

@@ -29,4 +29,8 @@ void giveFocusBackOnPress(Toolkit& toolkit, HWND pressed);
 /// The same when the mouse leaves a palette set: a field that the user types in keeps the focus.
 void giveFocusBackOnLeave(Toolkit& toolkit, HWND paletteSet);
 
+/// A press on something beside a popup that has the focus brings it to the drawing view: the user
+/// works in another window now. The control that opened the popup may be pressed, to close it.
+void leavePopupOnPress(Toolkit& toolkit, HWND pressed);
+
 }  // namespace workbench

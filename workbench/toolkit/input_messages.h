@@ -12,6 +12,7 @@ constexpr UINT kContextMenuMessage = 123;     ///< lParam: client point.
 constexpr UINT kCharMessage = 258;            ///< wParam: the character.
 constexpr UINT kLeftButtonDown = 513;         ///< lParam: client point.
 constexpr UINT kLeftButtonUp = 514;           ///< lParam: client point.
+constexpr UINT kRightButtonUp = 517;          ///< lParam: client point.
 constexpr UINT kLeftButtonDoubleClick = 515;  ///< lParam: client point.
 constexpr UINT kMouseWheel = 522;             ///< wParam: turn in the high word; lParam: point.
 constexpr UINT kMouseLeave = 675;             ///< The mouse left the window.
@@ -32,6 +33,7 @@ constexpr WPARAM kKeyUp = 38;
 constexpr WPARAM kKeyRight = 39;
 constexpr WPARAM kKeyDown = 40;
 constexpr WPARAM kKeyDelete = 46;
+constexpr WPARAM kKeyF2 = 113;
 
 constexpr wchar_t kCharSelectAll = 1;  ///< Ctrl+A.
 constexpr wchar_t kCharBackspace = 8;

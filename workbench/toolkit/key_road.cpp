@@ -34,9 +34,8 @@ void passKeyOn(Toolkit& toolkit, WPARAM key, LPARAM details) {
 
 HWND nextField(const WindowSystem& windows, HWND from, bool backwards) {
     const CQrUiPaletteSet* const set = paletteSetAbove(windows, from);
-    if (set == nullptr)
-        return nullptr;
-    std::vector<HWND> all = windows.descendants(set->m_hWnd);
+    const HWND root = set == nullptr ? windows.popupAbove(from) : set->m_hWnd;
+    std::vector<HWND> all = windows.descendants(root);
     if (backwards)
         std::reverse(all.begin(), all.end());
     // Those behind the window come first.

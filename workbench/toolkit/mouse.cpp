@@ -37,6 +37,7 @@ bool Mouse::press(HWND window, CPoint point) {
     hideTips();
     m_turnedOver = nullptr;
     beginGesture(Begin::New);
+    leavePopupOnPress(m_toolkit, window);
     giveFocusBackOnPress(m_toolkit, window);
     const bool taken = send(window, kLeftButtonDown, kLeftButtonHeld | heldKeys(), point);
     if (!taken)
@@ -80,7 +81,10 @@ bool Mouse::doubleClick(HWND window, CPoint point) {
 bool Mouse::contextMenu(HWND window, CPoint point) {
     noteOver(window, point);
     hideTips();
-    return send(window, kContextMenuMessage, 0, point);
+    leavePopupOnPress(m_toolkit, window);
+    return send(window, WM_RBUTTONDOWN, heldKeys(), point) &&
+           send(window, kRightButtonUp, heldKeys(), point) &&
+           send(window, kContextMenuMessage, 0, point);
 }
 
 bool Mouse::wheel(HWND window, CPoint point, int notches) {
@@ -99,9 +103,23 @@ void Mouse::leave() {
     const CQrUiPaletteSet* const set = paletteSetAbove(m_windows, m_over);
     const HWND left = m_over;
     m_over = nullptr;
-    send(left, kMouseLeave, 0, {});
+    tellThatItLeft();
+    if (paletteSetAbove(m_windows, left) != nullptr)
+        send(left, kMouseLeave, 0, {});
     if (set != nullptr)
         giveFocusBackOnLeave(m_toolkit, set->m_hWnd);
+}
+
+void Mouse::tellOfLeaving(HWND window) {
+    if (m_over == window)
+        m_asked = window;
+    else
+        m_windows.queue().post(window, WM_MOUSELEAVE, 0, 0);
+}
+
+void Mouse::tellThatItLeft() {
+    if (const HWND asked = std::exchange(m_asked, nullptr))
+        m_windows.send(asked, WM_MOUSELEAVE, 0, 0);
 }
 
 void Mouse::hideTips() {
@@ -134,12 +152,19 @@ void Mouse::noteOver(HWND window, CPoint point) {
         leave();
     m_over = window;
     m_point = point;
+    if (m_asked != window)
+        tellThatItLeft();
     const Window* const found = m_windows.find(window);
     if (found == nullptr)
         return;
     const auto* const control = dynamic_cast<const ControlWidget*>(found->widget.get());
-    m_toolkit.toolTips().mouseOver(
-        window, control == nullptr ? std::wstring() : control->tipAt(*found, point));
+    ToolTips& tips = m_toolkit.toolTips();
+    if (control == nullptr)
+        tips.mouseOver(window, {});
+    else if (control->isTipRelayed())
+        tips.mouseOverRelayed(window);
+    else
+        tips.mouseOver(window, control->tipAt(*found, point));
 }
 
 }  // namespace workbench

@@ -40,12 +40,15 @@ public:
     bool press(HWND window, CPoint point);
     bool release(HWND window, CPoint point);
     bool doubleClick(HWND window, CPoint point);
+    /// Presses the right button and asks for the context menu.
     bool contextMenu(HWND window, CPoint point);
     /// Turns the wheel by notches, forward above 0.
     bool wheel(HWND window, CPoint point, int notches);
     /// Leaves the window that the mouse is over, and its palette set.
     void leave();
 
+    /// Has a window told once when the mouse leaves it; soon if it is elsewhere.
+    void tellOfLeaving(HWND window);
     /// Has a window hold the mouse; null lets it go.
     void capture(HWND window) { m_captured = window; }
     /// The window that it is over; null for none of ours.
@@ -60,6 +63,7 @@ private:
     WPARAM heldKeys() const;
     bool send(HWND window, UINT message, WPARAM wParam, CPoint point);
     void noteOver(HWND window, CPoint point);
+    void tellThatItLeft();
     void beginGesture(Begin begin);
     void endGesture();
     /// Notes a turn of the wheel over a window.
@@ -70,6 +74,7 @@ private:
     HWND m_over = nullptr;      // null: over none of ours
     CPoint m_point;             // in its client area
     HWND m_captured = nullptr;  // null: no window holds the mouse
+    HWND m_asked = nullptr;     // to be told when the mouse leaves it; null: none
     GestureEvents m_gestureEvents;
     bool m_inGesture = false;
     HWND m_turnedOver = nullptr;     // null: something else was done since the wheel was turned

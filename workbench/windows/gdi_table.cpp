@@ -5,8 +5,18 @@
 
 namespace workbench {
 
-WPARAM GdiTable::addFont(const LOGFONT& font) {
-    return m_fonts.add(std::make_unique<LOGFONT>(font));
+WPARAM GdiTable::addFont(const LOGFONT& font, CFont* object) {
+    return m_fonts.add(std::make_unique<Font>(Font{font, object}));
+}
+
+const LOGFONT* GdiTable::findFont(WPARAM font) const {
+    const Font* const found = m_fonts.find(font);
+    return found == nullptr ? nullptr : &found->font;
+}
+
+CFont* GdiTable::fontObject(WPARAM font) const {
+    const Font* const found = m_fonts.find(font);
+    return found == nullptr ? nullptr : found->object;
 }
 
 HDC GdiTable::addContext(CDC& context) {
@@ -18,8 +28,12 @@ CDC* GdiTable::findContext(HDC context) const {
     return found == nullptr ? nullptr : *found;
 }
 
-HICON GdiTable::addIcon(PngPicture picture) {
-    return m_icons.add(std::make_unique<PngPicture>(std::move(picture)));
+HICON GdiTable::addIcon(SourcedPicture picture) {
+    return m_icons.add(std::make_unique<SourcedPicture>(std::move(picture)));
+}
+
+HIMAGELIST GdiTable::addImageList(CSize pictureSize) {
+    return m_imageLists.add(std::make_unique<ImageList>(pictureSize));
 }
 
 }  // namespace workbench

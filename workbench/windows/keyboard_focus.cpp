@@ -1,5 +1,7 @@
 #include "workbench/windows/keyboard_focus.h"
 
+#include <utility>
+
 namespace workbench {
 
 bool KeyboardFocus::moveTo(HWND window) {
@@ -25,9 +27,23 @@ bool KeyboardFocus::moveTo(HWND window) {
         m_reported = window;
         report(window, EN_SETFOCUS);
     }
+    tellWindows(old, move);
     if (m_onMoved)
         m_onMoved();
     return m_window == window;
+}
+
+/// Tells the windows of a move, unless a handler has moved the focus on: they know of that then. One
+/// that hasn't heard that it got the focus isn't said to have lost it.
+void KeyboardFocus::tellWindows(HWND before, std::uint64_t move) {
+    if (move != m_moves)
+        return;
+    const HWND left = std::exchange(m_told, nullptr);
+    m_messages.send(left, WM_KILLFOCUS, reinterpret_cast<WPARAM>(m_window), 0);
+    if (move != m_moves || m_tree.find(m_window) == nullptr)
+        return;
+    m_told = m_window;
+    m_messages.send(m_window, WM_SETFOCUS, reinterpret_cast<WPARAM>(before), 0);
 }
 
 void KeyboardFocus::report(HWND window, UINT notification) {
@@ -58,6 +74,8 @@ void KeyboardFocus::windowEnded(HWND window) {
         m_window = nullptr;
     if (m_reported == window)
         m_reported = nullptr;
+    if (m_told == window)
+        m_told = nullptr;
 }
 
 }  // namespace workbench

@@ -49,6 +49,35 @@ bool MenuTable::remove(HMENU menu, int position) {
     return true;
 }
 
+int MenuTable::enable(HMENU menu, UINT item, UINT flags) {
+    const bool isPlace = (flags & MF_BYPOSITION) != 0;
+    const int position = static_cast<int>(item);
+    Item* found = nullptr;
+    if (!isPlace)
+        found = itemOf(menu, item);
+    else if (itemAt(menu, position) != nullptr)
+        found = &m_menus.find(menu)->items[item];
+    if (found == nullptr)
+        return -1;
+    const UINT before = found->flags;
+    found->flags = (before & ~kDisabledFlags) | (flags & kDisabledFlags);
+    return static_cast<int>(before);
+}
+
+/// The line of a command in a menu or its popups; null for none.
+MenuTable::Item* MenuTable::itemOf(HMENU menu, UINT command) const {
+    Menu* const found = m_menus.find(menu);
+    if (found == nullptr)
+        return nullptr;
+    for (Item& item : found->items) {
+        const bool isLine = item.popup == nullptr && (item.flags & MF_SEPARATOR) == 0;
+        Item* const line = isLine && item.command == command ? &item : itemOf(item.popup, command);
+        if (line != nullptr)
+            return line;
+    }
+    return nullptr;
+}
+
 int MenuTable::lineCount(HMENU menu) const {
     const Menu* const found = m_menus.find(menu);
     return found == nullptr ? 0 : static_cast<int>(found->items.size());

@@ -33,6 +33,9 @@ public:
     /// Appends a line; `item` is its command, or for `MF_POPUP` the popup's handle. False for a
     /// stale menu and for a popup that is stale or in which the menu itself hangs.
     bool append(HMENU menu, UINT flags, std::uintptr_t item, std::wstring text);
+    /// Enables or grays (`MF_GRAYED`) the line of a command in the menu or its popups, or with
+    /// `MF_BYPOSITION` the one at a position. Returns the bits that it had, -1 if there is none.
+    int enable(HMENU menu, UINT item, UINT flags);
     /// Removes the line at a position; a popup stays alive. False if there is none.
     bool remove(HMENU menu, int position);
     /// Number of lines, 0 for a stale handle.
@@ -56,6 +59,7 @@ private:
     };
 
     const Item* itemAt(HMENU menu, int position) const;
+    Item* itemOf(HMENU menu, UINT command) const;
     bool hangsIn(HMENU menu, HMENU root) const;
 
     HandleTable<HMENU, Menu> m_menus;

@@ -92,6 +92,12 @@ LRESULT MessageDispatcher::send(HWND window, UINT message, WPARAM wParam, LPARAM
 }
 
 LRESULT MessageDispatcher::dispatch(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_COMMAND || message == WM_NOTIFY) {
+        if (const HWND control = reflectsTo(message, lParam)) {
+            const LRESULT answer = send(control, WM_REFLECT_BASE + message, wParam, lParam);
+            return message == WM_COMMAND ? 1 : answer;
+        }
+    }
     Dispatch dispatch{&object, object.m_hWnd, message, wParam, lParam};
     if (message != WM_COMMAND) {
         const FoundRow found = findRowOfMessage(dispatch, object.GetMessageMap());
@@ -104,6 +110,23 @@ LRESULT MessageDispatcher::dispatch(CWnd& object, UINT message, WPARAM wParam, L
             return 1;
     }
     return runWidget(dispatch);
+}
+
+/// The control that sent a notification, if it takes it itself; null otherwise.
+HWND MessageDispatcher::reflectsTo(UINT message, LPARAM lParam) {
+    if (lParam == 0)
+        return nullptr;
+    const HWND control = message == WM_COMMAND ? reinterpret_cast<HWND>(lParam)
+                                               : reinterpret_cast<const NMHDR*>(lParam)->hwndFrom;
+    const Window* const window = m_tree.find(control);
+    if (window == nullptr)
+        return nullptr;
+    const FoundRow found = m_rows.find(window->object->GetMessageMap(), WM_REFLECT_BASE + message);
+    return found.row == nullptr ? nullptr : control;
+}
+
+HWND MessageDispatcher::handling() const {
+    return m_innermost == nullptr ? nullptr : m_innermost->window;
 }
 
 LRESULT MessageDispatcher::dispatchToBase(CWnd& object) {

@@ -40,7 +40,8 @@ public:
 
     /// What `CWnd::WindowProc` does: the object's message table, then the widget, then the common
     /// handling. `WM_COMMAND` goes to the object's `OnCommand` in place of the table and, unless
-    /// that answers non-zero, on to the widget.
+    /// that answers non-zero, on to the widget. What a control tells its parent by `WM_COMMAND` or
+    /// `WM_NOTIFY` goes back to the control alone, if its table has a row for that.
     LRESULT dispatch(CWnd& object, UINT message, WPARAM wParam, LPARAM lParam);
     /// What `CWnd::Default` does: goes on with the message that the object's innermost running
     /// handler is handling, behind the table in which that handler stands.
@@ -49,6 +50,8 @@ public:
     /// without a control in `lParam`), if the object's table has one.
     bool dispatchCommand(CWnd& object, WPARAM wParam, LPARAM lParam);
 
+    /// The window whose handler runs, the innermost one; null for none.
+    HWND handling() const;
     /// A window object ends: the handlers of it that are running are not continued.
     void objectEnds(const CWnd& object);
     /// A window is gone, and with it perhaps the last of its class.
@@ -58,6 +61,7 @@ private:
     struct Dispatch;
     class Running;
 
+    HWND reflectsTo(UINT message, LPARAM lParam);
     LRESULT runTables(Dispatch& dispatch, const MessageMap* map);
     FoundRow findRow(const Dispatch& dispatch, const MessageMap* map);
     FoundRow findRowOfMessage(const Dispatch& dispatch, const MessageMap& map);

@@ -19,7 +19,11 @@ struct PointerMessage {
 
 /// The messages whose lParam is a pointer.
 constexpr PointerMessage kPointerMessages[] = {
-    {WM_CREATE, Argument::Object}, {WM_WINDOWPOSCHANGED, Argument::Object},
+    {WM_CREATE, Argument::Object},
+    {WM_DRAWITEM, Argument::Object},
+    {WM_WINDOWPOSCHANGED, Argument::Object},
+    {WM_NOTIFY, Argument::Object},
+    {WM_REFLECT_BASE + WM_NOTIFY, Argument::Object},
     {1565, Argument::Object},  // the theme that changed
     {1605, Argument::Object},  // the item that was clicked
     {1724, Argument::Object},  // the document to be activated

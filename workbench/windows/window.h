@@ -16,6 +16,8 @@ struct Window;
 class Widget {
 public:
     virtual ~Widget() = default;
+    /// Told its window once, before the window's first message.
+    virtual void stand(HWND /*window*/) {}
     /// The toolkit's own handling of a message. True if it was handled; `answer` is then the answer.
     virtual bool handle(Window& window, UINT message, WPARAM wParam, LPARAM lParam,
                         LRESULT& answer);
@@ -38,7 +40,9 @@ struct Window {
     std::string className;           ///< the toolkit class, such as "CQrUiProgSliderCtrl"
     std::string name;                ///< by which scripts and the journal know it; empty for none
     HWND parent = nullptr;           ///< null: a top window
-    std::vector<HWND> children;      ///< in order of creation
+    HWND popupOf = nullptr;          ///< over whose window a popup stands; null: it is no popup
+    HWND opener = nullptr;           ///< in whose handler a popup was made; null: in none
+    std::vector<HWND> children;      ///< from the bottom of the pile to its top
     CRect rect;                      ///< in the parent's client area; top windows: on the screen
     DWORD style = 0;                 ///< `WS_VISIBLE` is kept up to date
     int id = 0;

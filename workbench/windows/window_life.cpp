@@ -26,13 +26,9 @@ CWnd& nobody() {
 
 bool WindowLife::create(CWnd& object, WindowCreation creation) {
     const WindowTree& tree = m_parts.tree;
-    if (tree.find(object.m_hWnd) != nullptr)
+    if (tree.find(object.m_hWnd) != nullptr || !canStandIn(creation.parent) ||
+        !canStandIn(creation.popupOf))
         return false;
-    if (creation.parent != nullptr) {
-        const Window* const parent = tree.find(creation.parent);
-        if (parent == nullptr || parent->dying)
-            return false;
-    }
     creation.rect = withoutNegativeSize(creation.rect);
     const CREATESTRUCT record{creation.rect.left,     creation.rect.top, creation.rect.Width(),
                               creation.rect.Height(), creation.style,    creation.parent};
@@ -45,17 +41,30 @@ bool WindowLife::create(CWnd& object, WindowCreation creation) {
     return tree.find(window) != nullptr;
 }
 
+/// Whether a window, unless it is null, can have another one in it or over it.
+bool WindowLife::canStandIn(HWND window) const {
+    const Window* const found = m_parts.tree.find(window);
+    return window == nullptr || (found != nullptr && !found->dying);
+}
+
 HWND WindowLife::add(CWnd& object, WindowCreation&& creation) {
     auto window = std::make_unique<Window>();
     window->object = &object;
     window->className = creation.className;
+    window->name = std::move(creation.name);
     window->parent = creation.parent;
+    window->popupOf = creation.popupOf;
+    if (creation.popupOf != nullptr)
+        window->opener = m_parts.messages.handling();
     window->rect = creation.rect;
     window->style = creation.style;
     window->id = creation.id;
     window->text = std::move(creation.text);
     window->widget = std::move(creation.widget);
+    Widget* const widget = window->widget.get();
     object.m_hWnd = m_parts.tree.add(std::move(window));
+    if (widget != nullptr)
+        widget->stand(object.m_hWnd);
     return object.m_hWnd;
 }
 
@@ -63,10 +72,22 @@ bool WindowLife::destroy(HWND window) {
     const Window* const found = m_parts.tree.find(window);
     if (found == nullptr || found->dying)
         return false;
+    destroyPopupsOf(window);
+    if (m_parts.tree.find(window) == nullptr)
+        return true;
     m_parts.state.show(window, false);
     sendDestroy(window);
     remove(window);
     return true;
+}
+
+void WindowLife::destroyPopupsOf(HWND window) {
+    const std::vector<HWND> tops = m_parts.tree.topWindows();
+    for (const HWND top : tops) {
+        const Window* const popup = m_parts.tree.find(top);
+        if (popup != nullptr && m_parts.tree.isWithin(popup->popupOf, window))
+            destroy(top);
+    }
 }
 
 void WindowLife::sendDestroy(HWND window) {

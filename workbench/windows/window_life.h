@@ -20,8 +20,10 @@ struct WindowCreation {
     DWORD style = 0;
     CRect rect;
     HWND parent = nullptr;
+    HWND popupOf = nullptr;  ///< makes a popup: it has no parent, and goes when that window goes
     int id = 0;
     std::wstring text;
+    std::string name;  ///< by which scripts and the journal know it from its first message on
     std::unique_ptr<Widget> widget;
 };
 
@@ -47,7 +49,7 @@ public:
     bool create(CWnd& object, WindowCreation creation);
     /// Ends a window: hides it, sends `WM_DESTROY` to it and its descendants, parents first, and
     /// clears their objects' handles, children first. Timers, queued messages and the focus go with
-    /// it. False for a stale handle and for a window that is on its way out.
+    /// it, and popups before it. False for a stale handle and for a window that is on its way out.
     bool destroy(HWND window);
     /// A window object ends: its window goes with it, and the handlers of it that are running are
     /// not continued.
@@ -57,7 +59,9 @@ public:
     void abandonAll();
 
 private:
+    bool canStandIn(HWND window) const;
     HWND add(CWnd& object, WindowCreation&& creation);
+    void destroyPopupsOf(HWND window);
     void sendDestroy(HWND window);
     void remove(HWND window);
 

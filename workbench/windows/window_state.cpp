@@ -51,6 +51,11 @@ void WindowState::setName(HWND window, std::string name) {
         found->name = std::move(name);
 }
 
+void WindowState::pile(HWND window, HWND below) {
+    if (m_tree.putBelow(window, below))
+        m_changes.tell(window);
+}
+
 void WindowState::place(HWND window, CRect rect, UINT flags) {
     Window* const found = m_tree.find(window);
     if (found == nullptr)

@@ -32,7 +32,11 @@ public:
     void setName(HWND window, std::string name);
     /// Moves, sizes, shows or hides as the `SWP_...` flags say; sends `WM_SIZE` if the size changed
     /// and then `WM_WINDOWPOSCHANGED` if anything did. A negative width or height counts as 0.
+    /// The place in the pile is kept.
     void place(HWND window, CRect rect, UINT flags = 0);
+
+    /// Puts a window into the pile of its siblings, as `WindowTree::putBelow` does.
+    void pile(HWND window, HWND below);
 
 private:
     void setVisibleStyle(Window& window, bool visible);

@@ -1,5 +1,6 @@
 #include "workbench/windows/window_tree.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace workbench {
@@ -63,6 +64,35 @@ CRect WindowTree::screenRect(HWND window) const {
 CRect WindowTree::clientRect(HWND window) const {
     const Window* const found = find(window);
     return found == nullptr ? CRect{} : CRect{0, 0, found->rect.Width(), found->rect.Height()};
+}
+
+HWND WindowTree::topOf(HWND window) const {
+    const Window* top = find(window);
+    while (top != nullptr && find(top->parent) != nullptr)
+        top = find(top->parent);
+    return top == nullptr ? nullptr : top->handle;
+}
+
+HWND WindowTree::popupAbove(HWND window) const {
+    const Window* const top = find(topOf(window));
+    return top == nullptr || top->popupOf == nullptr ? nullptr : top->handle;
+}
+
+bool WindowTree::putBelow(HWND window, HWND sibling) {
+    const Window* const moved = find(window);
+    if (moved == nullptr || window == sibling)
+        return false;
+    std::vector<HWND>& pile = siblingsOf(*moved);
+    std::vector<HWND> after = pile;
+    std::erase(after, window);
+    const auto place =
+        sibling == nullptr ? after.end() : std::find(after.begin(), after.end(), sibling);
+    if (sibling != nullptr && place == after.end())
+        return false;
+    after.insert(place, window);
+    const bool isNew = after != pile;
+    pile = std::move(after);
+    return isNew;
 }
 
 bool WindowTree::isWithin(HWND window, HWND root) const {

@@ -29,7 +29,7 @@ public:
         Window* window = object == nullptr ? nullptr : find(object->m_hWnd);
         return window == nullptr ? nullptr : dynamic_cast<Type*>(window->widget.get());
     }
-    /// The top windows, in order of creation.
+    /// The top windows, from the bottom of the pile to its top.
     const std::vector<HWND>& topWindows() const { return m_topWindows; }
     /// How many windows live.
     std::size_t count() const { return m_windows.count(); }
@@ -41,6 +41,10 @@ public:
     CRect screenRect(HWND window) const;
     /// The client area, origin (0, 0).
     CRect clientRect(HWND window) const;
+    /// The top window that a window is or stands in; null for a stale handle.
+    HWND topOf(HWND window) const;
+    /// The popup that a window is or stands in; null for none.
+    HWND popupAbove(HWND window) const;
     /// Whether a window is `root` or stands below it.
     bool isWithin(HWND window, HWND root) const;
     /// The first window with this name at or below `root` (null: anywhere), `skip` left out before.
@@ -49,8 +53,12 @@ public:
     std::string ownerName(HWND window) const;
     /// The nearest named window at or above, null for none.
     HWND owner(HWND window) const;
-    /// All descendants, depth first, in order of creation.
+    /// All descendants, depth first, each window's children from the bottom of the pile to its top.
     std::vector<HWND> descendants(HWND window) const;
+
+    /// Puts a window into the pile of its siblings, right below another of them, or on top of all for
+    /// null. False if it stands there already, and for what are no siblings.
+    bool putBelow(HWND window, HWND sibling);
 
 private:
     friend class WindowLife;  // nobody else makes and ends windows

@@ -43,6 +43,40 @@ TEST_F(DocumentFunctionsTest, ALockScopeLocksTheDocumentOfItsDatabase) {
     EXPECT_EQ(document.locks().mode(), 0);
 }
 
+TEST_F(DocumentFunctionsTest, AnotherOwnersLockInTheWayIsALockViolation) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    {
+        const VxAxDocLock exclusive(document.database(), DocumentLocks::kExclusiveWrite);
+        EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false),
+                  kLockViolation);
+        EXPECT_EQ(manager.unlockDocument(&document), kNoLock);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kExclusiveWrite);
+    }
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false), Zorq::eOk);
+    EXPECT_EQ(m_bench.journal().take("box").size(), 0U);
+}
+
+TEST_F(DocumentFunctionsTest, AnExclusiveLockIsRefusedWhileACommandRuns) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    editor().beginCommand(L"wait");
+    EXPECT_EQ(manager.lockDocument(&document, DocumentLocks::kExclusiveWrite, L"G", L"L", false),
+              kLockViolation);
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false), Zorq::eOk);
+}
+
+TEST_F(DocumentFunctionsTest, TheUserIsToldOfALockViolationOnRequestAndOfNothingElse) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", true), Zorq::eOk);
+    manager.unlockDocument(&document);
+    const VxAxDocLock exclusive(document.database(), DocumentLocks::kExclusiveWrite);
+    m_bench.journal().take();
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"Local", true), kLockViolation);
+    EXPECT_EQ(fields("box", "text"), Lines{"A is locked: Local can't be done now."});
+}
+
 TEST_F(DocumentFunctionsTest, ALockScopeOfADocumentLocksForWritingUnlessAModeIsTold) {
     Document& document = newDocument();
     {
@@ -115,6 +149,19 @@ TEST_F(DocumentFunctionsTest, EachRoadEndsItsOwnLock) {
     EXPECT_EQ(manager.unlockDocument(&document), kNoLock);
     editor().finishCommand(CommandState::Ended);
     EXPECT_EQ(document.locks().mode(), 0);
+}
+
+TEST_F(DocumentFunctionsTest, WhatIsWrittenInALockScopeIsOneStepOfUndo) {
+    Document& document = newDocument();
+    const std::size_t steps = document.data().undoLog().undoCount();
+    {
+        const VxAxDocLock lock(&document);
+        run(L"_-layer\nnew\nWalls\n\n");
+        run(L"_-layer\nnew\nRoof\n\n");
+    }
+    EXPECT_EQ(document.data().undoLog().undoCount(), steps + 1);
+    editor().undo();
+    EXPECT_EQ(document.data().ids(drawing::RecordKind::Layer).size(), 1U);
 }
 
 }  // namespace workbench

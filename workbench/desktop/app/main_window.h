@@ -28,6 +28,7 @@ class DocumentTabs;
 class EntityPicker;
 class FileActions;
 class FrameHome;
+class GestureWatch;
 class HelpPage;
 class JournalPane;
 class LayerStateBoxes;
@@ -78,7 +79,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void keepOnScreen();
@@ -103,6 +103,7 @@ private:
     Pump m_pump;
     Stage m_stage;
     Shade m_shade;
+    std::string m_unknownTheme;  // was remembered in place of a shade; empty once one is chosen
     FrameHome* m_home;
     DockSplitter* m_splitter;
     DocumentTabs* m_tabs;
@@ -124,6 +125,7 @@ private:
     std::unique_ptr<DesktopCommands> m_commands;
     std::unique_ptr<CommandEcho> m_echo;
     std::unique_ptr<HelpPage> m_help;
+    std::unique_ptr<GestureWatch> m_gestures;
 };
 
 }  // namespace workbench::desktop

@@ -12,9 +12,11 @@ namespace {
 /// More than a dashboard shows at a time; then those that are gone are let go.
 constexpr qsizetype kMostDecoded = 2000;
 
-QPixmap decode(const PictureTable& table, HBITMAP picture) {
+using PixelsOf = PngPicture (PictureTable::*)(HBITMAP) const;
+
+QPixmap decode(const PictureTable& table, HBITMAP picture, PixelsOf pixelsOf) {
     try {
-        const PngPicture pixels = table.pixels(picture);
+        const PngPicture pixels = (table.*pixelsOf)(picture);
         const QImage image(pixels.rgba.data(), static_cast<int>(pixels.width),
                            static_cast<int>(pixels.height), static_cast<int>(pixels.width) * 4,
                            QImage::Format_RGBA8888);
@@ -24,20 +26,33 @@ QPixmap decode(const PictureTable& table, HBITMAP picture) {
     }
 }
 
+const QPixmap& decodedOnce(QHash<HBITMAP, QPixmap>& decoded, const PictureTable& table,
+                           HBITMAP picture, PixelsOf pixelsOf) {
+    const auto found = decoded.constFind(picture);
+    if (found != decoded.constEnd())
+        return *found;
+    if (decoded.size() >= kMostDecoded)
+        decoded.clear();
+    return *decoded.insert(picture, decode(table, picture, pixelsOf));
+}
+
 }  // namespace
 
 const QPixmap& Pictures::of(HBITMAP picture) {
-    const auto found = m_decoded.constFind(picture);
-    if (found != m_decoded.constEnd())
-        return *found;
-    if (m_decoded.size() >= kMostDecoded)
-        m_decoded.clear();
-    return *m_decoded.insert(picture, decode(m_table, picture));
+    return decodedOnce(m_decoded, m_table, picture, &PictureTable::pixels);
+}
+
+const QPixmap& Pictures::fineOf(HBITMAP picture) {
+    return decodedOnce(m_fine, m_table, picture, &PictureTable::finePixels);
 }
 
 QPixmap Pictures::fit(HBITMAP small, HBITMAP large, int size, double pixelRatio) {
-    const bool isFine = size * pixelRatio > of(small).width() && !of(large).isNull();
-    QPixmap fitting = isFine || of(small).isNull() ? of(large) : of(small);
+    QPixmap fitting = of(small);
+    if (size * pixelRatio > fitting.width()) {
+        const QPixmap finer = of(large).isNull() ? fineOf(small) : of(large);
+        if (!finer.isNull())
+            fitting = finer;
+    }
     if (!fitting.isNull())
         fitting.setDevicePixelRatio(static_cast<double>(fitting.width()) / size);
     return fitting;

@@ -19,6 +19,8 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
+#include <QMenu>
 #include <algorithm>
 
 namespace workbench::desktop {
@@ -58,6 +60,19 @@ public:
     }
     QAccessible::State state() const override;
     QAccessibleInterface* focusChild() const override;
+    int childCount() const override {
+        return QAccessibleWidget::childCount() + (openMenu() == nullptr ? 0 : 1);
+    }
+    QAccessibleInterface* child(int index) const override {
+        return index == QAccessibleWidget::childCount()
+                   ? QAccessible::queryAccessibleInterface(openMenu())
+                   : QAccessibleWidget::child(index);
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return openMenu() != nullptr && child->object() == openMenu()
+                   ? QAccessibleWidget::childCount()
+                   : QAccessibleWidget::indexOfChild(child);
+    }
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && slider() != nullptr)
             return static_cast<QAccessibleValueInterface*>(this);
@@ -97,12 +112,21 @@ public:
     }
 
 private:
+    /// The list or the menu that is open on the window, its last child; null for none.
+    QWidget* openMenu() const;
     EditWidget* edit() const { return widgetOf<EditWidget>(mirror()); }
     const LineEditor& line() const { return edit()->editor(*mirror().host()); }
     MirrorWidget& mirror() const { return *static_cast<MirrorWidget*>(widget()); }
     SliderWidget* slider() const { return widgetOf<SliderWidget>(mirror()); }
     QString value() const;
 };
+
+QWidget* AccessibleWindow::openMenu() const {
+    QWidget* menu = QApplication::activePopupWidget();
+    while (menu != nullptr && qobject_cast<QMenu*>(menu->parentWidget()) != nullptr)
+        menu = menu->parentWidget();
+    return menu != nullptr && menu->parentWidget() == &mirror() ? menu : nullptr;
+}
 
 int AccessibleWindow::cursorPosition() const {
     return static_cast<int>(line().caret());
@@ -142,11 +166,8 @@ QString AccessibleWindow::value() const {
 }
 
 QAccessibleInterface* AccessibleWindow::focusChild() const {
-    for (ItemWidget* item : mirror().items()) {
-        if (mirror().hasFocus() && item->isMarked())
-            return QAccessible::queryAccessibleInterface(item);
-    }
-    return nullptr;
+    ItemWidget* const item = mirror().itemWithKeyboard();
+    return item == nullptr ? nullptr : QAccessible::queryAccessibleInterface(item);
 }
 
 QAccessible::State AccessibleWindow::state() const {
@@ -158,7 +179,8 @@ QAccessible::State AccessibleWindow::state() const {
     state.disabled = !windows.takesInput(window->handle);
     state.focusable = window->widget != nullptr && window->widget->takesTab();
     // Of a row of tools the marked tool has it.
-    state.focused = mirror().hasFocus() && focusChild() == nullptr;
+    state.focused = mirror().hasFocus() && QApplication::activePopupWidget() == nullptr &&
+                    focusChild() == nullptr;
     state.editable = widgetOf<EditWidget>(mirror()) != nullptr;
     if (const auto* combo = widgetOf<ComboWidget>(mirror())) {
         state.expandable = true;
@@ -208,7 +230,7 @@ public:
         state.hasPopup = role() == QAccessible::ButtonMenu;
         state.expandable = state.hasPopup;
         state.focusable = actionNames().size() > 0;
-        state.focused = item().isMarked() && item().parentWidget()->hasFocus();
+        state.focused = isWithKeyboard();
         return state;
     }
     QStringList actionNames() const override {
@@ -230,6 +252,10 @@ public:
 
 private:
     ItemWidget& item() const { return *static_cast<ItemWidget*>(widget()); }
+    bool isWithKeyboard() const {
+        const auto* panel = static_cast<const MirrorWidget*>(item().parentWidget());
+        return panel->itemWithKeyboard() == &item();
+    }
 };
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {

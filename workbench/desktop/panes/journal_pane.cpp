@@ -24,9 +24,9 @@ namespace workbench::desktop {
 
 namespace {
 
-constexpr const char* kKinds[] = {"call",    "message",    "command", "var",    "item",
-                                  "control", "balloon",    "box",     "tip",    "gesture",
-                                  "dialog",  "navigation", "output",  "profile"};
+constexpr const char* kKinds[] = {"call",    "message",    "command", "var",     "item",
+                                  "control", "balloon",    "box",     "tip",     "gesture",
+                                  "dialog",  "navigation", "output",  "profile", "regen"};
 constexpr int kTimeWidth = 80;  // pixels
 constexpr int kKindWidth = 80;
 constexpr int kRowHeight = 18;
@@ -173,6 +173,10 @@ bool JournalPane::isNoise(const JournalRecord& record) const {
 
 void JournalPane::beginGesture(const QString& title) {
     m_roads->begin(title, m_lastNumber + 1);
+}
+
+void JournalPane::endGesture() {
+    m_roads->end(m_lastNumber);
 }
 
 void JournalPane::setRoadsShown(bool shown) {
