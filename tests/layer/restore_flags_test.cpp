@@ -18,7 +18,10 @@ struct FlagCase {
 
 class RestoreFlagsTest : public support::Bench, public testing::WithParamInterface<FlagCase> {
 protected:
-    void SetUp() override { useNoMenu(); }
+    void SetUp() override {
+        useNoMenu();
+        bench();
+    }
     void setOption(const char* name, const Option& value) {
         if (value) {
             bench().profiles().current().setRegistryValue(

@@ -98,16 +98,15 @@ workbench::DocumentList& documents() {
     return workbench::Workbench::current().editor().documents();
 }
 
-/// Locks a document for a scope of a module, in the host's own choice of a mode for 0. What is written
-/// within the scope is one step of undo. The document if the scope has to be ended; null for a mode
-/// that locks nothing, and for no document.
+/// Locks a document for a scope of a module, in the host's own choice of a mode for 0. The document if
+/// the scope has to be ended; null for a mode that locks nothing, and for no document. What is written
+/// meanwhile is one step of undo.
 workbench::Document* lockScope(workbench::Document* document, int mode, const void* scope) {
     if (document == nullptr)
         return nullptr;
-    const int taken = mode == 0 ? workbench::DocumentLocks::kWrite : mode;
+    const int taken = mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
     const Zorq::ErrorStatus status = document->locks().lockScope(taken, scope);
-    const bool begun = status == Zorq::eOk || status == workbench::kLockViolation;
-    if (!begun)
+    if (status != Zorq::eOk && status != workbench::kLockViolation)
         return nullptr;
     document->data().undoLog().beginGroup(std::string());
     return document;
@@ -136,8 +135,6 @@ VxAxDocLock::VxAxDocLock(VxApDocument* document, int mode) {
 VxAxDocLock::~VxAxDocLock() {
     workbench::HostCall call("VxAxDocLock::~VxAxDocLock");
     workbench::Document* document = documents().find(m_document);
-    if (document == nullptr)
-        return;
-    document->locks().unlock(this);
-    document->data().undoLog().endGroup();
+    if (document != nullptr && document->locks().unlock(this))
+        document->data().undoLog().endGroup();
 }
