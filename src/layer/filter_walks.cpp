@@ -8,6 +8,8 @@
 #include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/views.h>
 
+#include <optional>
+
 // Changes of the layers that a filter shows.
 
 namespace {
@@ -18,8 +20,10 @@ class FilterWork {
 public:
     FilterWork(const CVxDaLayerFilterMgr& manager, const VxString& name)
         : m_filter(manager.findFilter(name)),
-          m_document(m_filter == nullptr ? nullptr : currentDocument()),
-          m_lock(m_document) {}
+          m_document(m_filter == nullptr ? nullptr : currentDocument()) {
+        if (m_document != nullptr)
+            m_lock.emplace(m_document);
+    }
 
     bool isReady() const { return m_document != nullptr; }
     const VxLyLayerFilter& filter() const { return *m_filter; }
@@ -33,7 +37,7 @@ public:
 private:
     const VxLyLayerFilter* m_filter;
     VxApDocument* m_document;
-    VxAxDocLock m_lock;
+    std::optional<VxAxDocLock> m_lock;
 };
 
 /// Calls an operation for a layer by its ID. Whether the walk goes on.

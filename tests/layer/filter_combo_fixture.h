@@ -113,7 +113,10 @@ protected:
         settle();
     }
 
-    std::wstring rootName() { return workbench::toWide(db("filters.root.name").asString()); }
+    std::wstring rootName() {
+        const workbench::Value names = db("filters");
+        return workbench::toWide(names.asList().front().asString());
+    }
     bool isStored(const std::string& filter) {
         const workbench::Value names = db("filters");
         return std::any_of(

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/resources.h"
 #include "tests/layer/layer_filter_fixture.h"
 
 #include <string>
@@ -7,13 +8,24 @@
 /// Test fixture: what entry points do to layers.
 class FilterWalkTest : public LayerFilterTest {
 protected:
+    void SetUp() override {
+        LayerFilterTest::SetUp();
+        ASSERT_TRUE(dashboardResources().load());
+        takeJournal();
+    }
+    void TearDown() override {
+        dashboardResources().free();
+        LayerFilterTest::TearDown();
+    }
+
     void setLayer(const std::string& layer, const std::string& property, bool on) {
         setDb("layers." + layer + "." + property, on);
     }
     /// The layers that are frozen in the viewport on show.
     Texts frozenHere() {
         Texts names;
-        for (const workbench::Value& layer : db("viewports.current.frozenLayers").asList())
+        const workbench::Value layers = db("viewports.current.frozenLayers");
+        for (const workbench::Value& layer : layers.asList())
             names.push_back(layer.asString());
         return names;
     }

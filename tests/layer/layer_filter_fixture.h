@@ -61,7 +61,8 @@ protected:
     }
     Texts layersOf(const std::string& group) {
         Texts names;
-        for (const workbench::Value& layer : stored(group, "layers").asList())
+        const workbench::Value layers = stored(group, "layers");
+        for (const workbench::Value& layer : layers.asList())
             names.push_back(layer.asString());
         return names;
     }
