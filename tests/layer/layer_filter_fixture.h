@@ -5,6 +5,7 @@
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
@@ -52,7 +53,12 @@ protected:
     workbench::Value stored(const std::string& name, const std::string& member) {
         return db("filters[\"" + name + "\"]." + member);
     }
-    bool isStored(const std::string& name) { return !stored(name, "name").isNil(); }
+    bool isStored(const std::string& name) {
+        const workbench::Value names = db("filters");
+        return std::any_of(
+            names.asList().begin(), names.asList().end(),
+            [&name](const workbench::Value& known) { return known.asString() == name; });
+    }
     Texts layersOf(const std::string& group) {
         Texts names;
         for (const workbench::Value& layer : stored(group, "layers").asList())

@@ -19,13 +19,21 @@ struct NamedKey {
     WPARAM key;
 };
 constexpr NamedKey kKeys[] = {
-    {"enter", WM_KEYDOWN, VK_RETURN},       {"escape", WM_KEYDOWN, VK_ESCAPE},
-    {"tab", WM_KEYDOWN, kKeyTab},           {"left", WM_KEYDOWN, kKeyLeft},
-    {"right", WM_KEYDOWN, kKeyRight},       {"up", WM_KEYDOWN, kKeyUp},
-    {"down", WM_KEYDOWN, kKeyDown},         {"home", WM_KEYDOWN, kKeyHome},
-    {"end", WM_KEYDOWN, kKeyEnd},           {"pageup", WM_KEYDOWN, kKeyPageUp},
-    {"pagedown", WM_KEYDOWN, kKeyPageDown}, {"backspace", kCharMessage, kCharBackspace},
-    {"delete", WM_KEYDOWN, kKeyDelete},     {"f1", WM_HELP, 0},
+    {"enter", WM_KEYDOWN, VK_RETURN},
+    {"escape", WM_KEYDOWN, VK_ESCAPE},
+    {"tab", WM_KEYDOWN, kKeyTab},
+    {"left", WM_KEYDOWN, kKeyLeft},
+    {"right", WM_KEYDOWN, kKeyRight},
+    {"up", WM_KEYDOWN, kKeyUp},
+    {"down", WM_KEYDOWN, kKeyDown},
+    {"home", WM_KEYDOWN, kKeyHome},
+    {"end", WM_KEYDOWN, kKeyEnd},
+    {"pageup", WM_KEYDOWN, kKeyPageUp},
+    {"pagedown", WM_KEYDOWN, kKeyPageDown},
+    {"backspace", kCharMessage, kCharBackspace},
+    {"delete", WM_KEYDOWN, kKeyDelete},
+    {"f1", WM_HELP, 0},
+    {"f2", WM_KEYDOWN, kKeyF2},
 };
 
 void typeCharacter(Toolkit& toolkit, wchar_t character) {

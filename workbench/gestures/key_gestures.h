@@ -20,7 +20,7 @@ void typeText(Toolkit& toolkit, std::wstring_view text);
 /// Selects all of the field with the focus and types a text over it.
 void replaceText(Toolkit& toolkit, std::wstring_view text);
 /// Presses a key by its name: "enter", "escape", "tab", "left", "right", "up", "down", "home",
-/// "end", "pageup", "pagedown", "backspace", "delete", "f1". Raises `GestureError` for another name.
+/// "end", "pageup", "pagedown", "backspace", "delete", "f1", "f2". Raises `GestureError` for another name.
 /// `window` gets the key in place of the window with the focus, unless it is null.
 void pressKey(Toolkit& toolkit, std::string_view name, HWND window = nullptr);
 /// The names that `pressKey` takes.

@@ -12,12 +12,10 @@ namespace workbench::gestures {
 
 namespace {
 
-constexpr CPoint kOnTitle{40, 6};  // on the title bar of panels and palette sets
-
-void openMenu(Toolkit& toolkit, HWND window, PopupMenus::Chooser chooser) {
+void openMenu(Toolkit& toolkit, HWND window, CPoint point, PopupMenus::Chooser chooser) {
     requireOnScreen(toolkit, window);
     toolkit.menus().answerNext(std::move(chooser));
-    toolkit.mouse().contextMenu(window, kOnTitle);
+    toolkit.mouse().contextMenu(window, point);
     if (!toolkit.menus().isAnswerWaiting())
         return;
     toolkit.menus().answerNext(nullptr);
@@ -47,33 +45,35 @@ std::vector<PlacedLine> linesInOrder(const std::vector<MenuLine>& menu) {
     return all;
 }
 
-std::vector<MenuLine> readContextMenu(Toolkit& toolkit, HWND window) {
+std::vector<MenuLine> readContextMenu(Toolkit& toolkit, HWND window, CPoint point) {
     std::vector<MenuLine> read;
-    openMenu(toolkit, window, [&read](const std::vector<MenuLine>& lines) {
+    openMenu(toolkit, window, point, [&read](const std::vector<MenuLine>& lines) {
         read = lines;
         return std::optional<UINT>();
     });
     return read;
 }
 
-void chooseFromContextMenu(Toolkit& toolkit, HWND window, const std::wstring& path) {
+void chooseFromContextMenu(Toolkit& toolkit, HWND window, const std::wstring& path, CPoint point) {
     bool found = false;
-    openMenu(toolkit, window, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
-        const MenuLine* const line = findMenuLine(lines, path);
-        found = line != nullptr;
-        return line == nullptr ? std::nullopt : answerOf(*line);
-    });
+    openMenu(toolkit, window, point,
+             [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
+                 const MenuLine* const line = findMenuLine(lines, path);
+                 found = line != nullptr;
+                 return line == nullptr ? std::nullopt : answerOf(*line);
+             });
     if (!found)
         throw GestureError("the menu has no line \"" + toUtf8(path) + "\"");
 }
 
-void chooseLineOfContextMenu(Toolkit& toolkit, HWND window, std::size_t number) {
+void chooseLineOfContextMenu(Toolkit& toolkit, HWND window, std::size_t number, CPoint point) {
     std::size_t count = 0;
-    openMenu(toolkit, window, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
-        const std::vector<PlacedLine> all = linesInOrder(lines);
-        count = all.size();
-        return number < 1 || number > count ? std::nullopt : answerOf(*all[number - 1].line);
-    });
+    openMenu(
+        toolkit, window, point, [&](const std::vector<MenuLine>& lines) -> std::optional<UINT> {
+            const std::vector<PlacedLine> all = linesInOrder(lines);
+            count = all.size();
+            return number < 1 || number > count ? std::nullopt : answerOf(*all[number - 1].line);
+        });
     if (number < 1 || number > count) {
         throw GestureError("the menu has no line " + std::to_string(number) + ": it has " +
                            std::to_string(count));

@@ -31,8 +31,8 @@ auto ResourceSearch::findInAll(Find find) {
 }
 
 std::optional<std::wstring> ResourceSearch::string(UINT number) {
-    const auto found = findInAll(
-        [number](const ResourceLibrary& library) { return library.findString(number); });
+    const auto found =
+        findInAll([number](const ResourceLibrary& library) { return library.findString(number); });
     if (!found)
         return std::nullopt;
     std::wstring text = toWide(*found);

@@ -196,8 +196,12 @@ int wheel(Session& session, Arguments& arguments) {
     return pushTruth(arguments.lua(), taken);
 }
 
+/// The list of the handle's control, which may be nothing but a list itself.
 HWND listOf(Session& session, const Arguments& arguments) {
-    return partOf(session, arguments, kCombo);
+    const HWND control = controlOf(session, arguments);
+    const Window& window = *windows(session).find(control);
+    const bool isList = dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr;
+    return isList ? control : partOf(session, arguments, kCombo);
 }
 
 const ComboWidget& comboOf(Session& session, const Arguments& arguments) {
@@ -276,7 +280,7 @@ int close(Session& session, Arguments& arguments) {
 HWND mainPart(Session& session, const Arguments& arguments) {
     const HWND control = controlOf(session, arguments);
     const HWND main = findPart(windows(session), control, kSlider);
-    return main == nullptr ? partOf(session, arguments, kCombo) : main;
+    return main == nullptr ? listOf(session, arguments) : main;
 }
 
 /// The part that is named first, or the main part.

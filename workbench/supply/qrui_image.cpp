@@ -77,5 +77,5 @@ HBITMAP BitmapFromIconGdiPlus(HICON icon) {
     if (call.failed() || known == nullptr)
         return call.returns<HBITMAP>(nullptr);
     return call.returns(
-        Workbench::current().toolkit().pictures().add(known->source, known->picture));
+        Workbench::current().toolkit().pictures().addDecoded(known->source, known->picture));
 }

@@ -58,9 +58,8 @@ BOOL CBitmap::LoadBitmap(UINT number) {
     const auto bytes = Workbench::current().modules().resources().bitmap(number);
     if (!bytes)
         return call.returns(0);
-    m_hBitmap =
-        pictures().add("#" + std::to_string(number),
-                       std::vector<std::uint8_t>(bytes->data, bytes->data + bytes->length));
+    m_hBitmap = pictures().add("#" + std::to_string(number),
+                               std::vector<std::uint8_t>(bytes->data, bytes->data + bytes->length));
     return call.returns(1);
 }
 

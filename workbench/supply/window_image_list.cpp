@@ -84,8 +84,7 @@ int CImageList::Add(const CBitmap* bitmap, COLORREF mask) {
     try {
         const auto& pictures = toolkit().pictures();
         const HBITMAP strip = bitmap->m_hBitmap;
-        return call.returns(
-            list->addStrip({pictures.pixels(strip), pictures.source(strip)}, mask));
+        return call.returns(list->addStrip({pictures.pixels(strip), pictures.source(strip)}, mask));
     } catch (const workbench::InputError&) {
         return call.returns(-1);
     }

@@ -14,14 +14,14 @@ std::uintptr_t numberOf(HBITMAP picture) {
 
 HBITMAP PictureTable::add(std::string source, std::vector<std::uint8_t> png,
                           std::vector<std::uint8_t> fine) {
-    return add(Picture{std::move(source), std::move(png), std::move(fine), {}});
+    return keep(Picture{std::move(source), std::move(png), std::move(fine), {}});
 }
 
-HBITMAP PictureTable::add(std::string source, PngPicture pixels) {
-    return add(Picture{std::move(source), {}, {}, std::move(pixels)});
+HBITMAP PictureTable::addDecoded(std::string source, PngPicture pixels) {
+    return keep(Picture{std::move(source), {}, {}, std::move(pixels)});
 }
 
-HBITMAP PictureTable::add(Picture picture) {
+HBITMAP PictureTable::keep(Picture picture) {
     m_pictures.emplace(++m_lastNumber, std::move(picture));
     return reinterpret_cast<HBITMAP>(m_lastNumber);
 }

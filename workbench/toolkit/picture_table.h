@@ -22,7 +22,7 @@ public:
     HBITMAP add(std::string source, std::vector<std::uint8_t> png,
                 std::vector<std::uint8_t> fine = {});
     /// Adds a picture that is decoded already.
-    HBITMAP add(std::string source, PngPicture pixels);
+    HBITMAP addDecoded(std::string source, PngPicture pixels);
     /// Gives a picture back; null and stale handles are ignored.
     void release(HBITMAP picture);
     /// The resource key or file name of a picture; empty for null and stale handles.
@@ -41,7 +41,7 @@ private:
         std::vector<std::uint8_t> fine;    // empty: none
         std::optional<PngPicture> pixels;  // nothing: not decoded
     };
-    HBITMAP add(Picture picture);
+    HBITMAP keep(Picture picture);
     const Picture& present(HBITMAP picture) const;
 
     std::uintptr_t m_lastNumber = 0;  // handles are numbers, never given out again

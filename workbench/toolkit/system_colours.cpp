@@ -23,8 +23,9 @@ constexpr ColourRow kColours[] = {
 }  // namespace
 
 COLORREF systemColour(Shade shade, int index) {
-    const auto* const row = std::find_if(std::begin(kColours), std::end(kColours),
-                                         [index](const ColourRow& each) { return each.index == index; });
+    const auto* const row =
+        std::find_if(std::begin(kColours), std::end(kColours),
+                     [index](const ColourRow& each) { return each.index == index; });
     if (row == std::end(kColours))
         return 0;
     return shade == Shade::Dark ? row->dark : row->light;

@@ -150,7 +150,6 @@ HTREEITEM TreeWidget::nextVisible(HTREEITEM item) const {
     return found == rows.end() || found + 1 == rows.end() ? nullptr : *(found + 1);
 }
 
-/// The row that an item shows in; -1 for none.
 int TreeWidget::rowOf(HTREEITEM item) const {
     const std::vector<HTREEITEM> rows = m_items.rows();
     const auto found = std::find(rows.begin(), rows.end(), item);
@@ -271,8 +270,8 @@ bool TreeWidget::moveBy(int rows) {
 void TreeWidget::goToRow(int row) {
     const std::vector<HTREEITEM> rows = m_items.rows();
     if (!rows.empty())
-        select(rows[static_cast<std::size_t>(
-            std::clamp(row, 0, static_cast<int>(rows.size()) - 1))]);
+        select(
+            rows[static_cast<std::size_t>(std::clamp(row, 0, static_cast<int>(rows.size()) - 1))]);
 }
 
 void TreeWidget::goLeft() {

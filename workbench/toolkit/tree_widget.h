@@ -53,6 +53,8 @@ public:
     /// Where the parts of an item's row are; none if it doesn't show. Rows beyond the edges of the
     /// window have places too.
     TreeRowParts partsOf(HTREEITEM item) const;
+    /// The row that an item shows in, from 0 at the top of the tree; -1 for none.
+    int rowOf(HTREEITEM item) const;
     /// The item in whose row a point is; null for none.
     HTREEITEM itemAt(CPoint point) const;
 
@@ -70,7 +72,6 @@ public:
 
 private:
     bool hasStyle(DWORD style) const;
-    int rowOf(HTREEITEM item) const;
     int rowsInView() const;
     void scrollTo(int row);
     void changed();

@@ -52,9 +52,9 @@ BOOL DrawingContext::TransparentBlt(int x, int y, int width, int height, const C
         m_reader == nullptr ? std::nullopt : m_reader(source.m_hBitmap);
     if (!picture || width <= 0 || height <= 0)
         return 0;
-    m_steps.emplace_back(PictureStep{
-        {x, y, x + width, y + height},
-        scaled(withoutColour(std::move(*picture), transparent), {width, height})});
+    m_steps.emplace_back(
+        PictureStep{{x, y, x + width, y + height},
+                    scaled(withoutColour(std::move(*picture), transparent), {width, height})});
     return 1;
 }
 

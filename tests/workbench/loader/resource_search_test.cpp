@@ -2,6 +2,7 @@
 
 #include "tests/workbench/loader/loader_fixture.h"
 
+#include <hostapi/window/gdi.h>
 #include <hostapi/window/module.h>
 
 namespace workbench {
@@ -98,6 +99,18 @@ TEST_F(ResourceSearchTest, AFaultCanNameAString) {
     EXPECT_NE(LoadString(204, text), 0);
     faults().unfail("LoadString:203");
     EXPECT_NE(LoadString(203, text), 0);
+}
+
+TEST_F(ResourceSearchTest, ABitmapComesFromTheCurrentLibraryByItsNumber) {
+    CBitmap bitmap;
+    EXPECT_FALSE(bitmap.LoadBitmap(1291));
+    EXPECT_EQ(bitmap.GetPixel(0, 0), CLR_INVALID);
+    AfxSetResourceHandle(library);
+    EXPECT_FALSE(bitmap.LoadBitmap(999999));
+    EXPECT_TRUE(bitmap.LoadBitmap(1291));
+    EXPECT_FALSE(bitmap.LoadBitmap(1291));
+    EXPECT_EQ(bitmap.GetPixel(0, 0), 0xff00ffU);
+    EXPECT_EQ(bitmap.GetPixel(16, 0), CLR_INVALID);
 }
 
 }  // namespace workbench

@@ -40,9 +40,10 @@ TEST_F(ModuleFunctionsTest, AnIconComesAtItsNaturalSizeAndBelongsToTheCaller) {
     const HINSTANCE library = LoadLibrary(kResources);
     const HICON icon = LoadIcon(library, 220);
     ASSERT_NE(icon, nullptr);
-    const PngPicture* picture = bench.windows().gdi().findIcon(icon);
-    ASSERT_NE(picture, nullptr);
-    EXPECT_EQ(picture->width, 32U);
+    const SourcedPicture* icon32 = bench.windows().gdi().findIcon(icon);
+    ASSERT_NE(icon32, nullptr);
+    EXPECT_EQ(icon32->picture.width, 32U);
+    EXPECT_EQ(icon32->source, "#220");
     EXPECT_NE(DestroyIcon(icon), 0);
     EXPECT_EQ(bench.windows().gdi().iconCount(), 0U);
 }

@@ -113,5 +113,32 @@ TEST_F(ComboWidgetTest, TreeTellsTheChoiceAndTheCount) {
     EXPECT_EQ(widget().describe(window()), "\"one\" of 4");
 }
 
+TEST_F(ComboWidgetTest, ADeletedEntryLeavesTheSelectionOnItsEntry) {
+    m_combo.SetCurSel(2);
+    EXPECT_EQ(m_combo.DeleteItem(0), 3);
+    EXPECT_EQ(m_combo.GetCurSel(), 1);
+    EXPECT_EQ(m_combo.GetItem(1)->text, L"two");
+    EXPECT_EQ(m_combo.DeleteItem(1), 2);
+    EXPECT_EQ(m_combo.GetCurSel(), -1);
+    EXPECT_EQ(m_combo.DeleteItem(2), -1);
+    EXPECT_EQ(m_combo.DeleteItem(-1), -1);
+    EXPECT_TRUE(told().empty());
+}
+
+TEST_F(ComboWidgetTest, ADeletedEntryTakesItsImageAlong) {
+    auto entry = std::make_unique<QRUI_COMBO_CTRL_ITEM>();
+    entry->image = toolkit().pictures().add("picture", {});
+    const int index = m_combo.AddItem(entry.release());
+    const std::size_t live = toolkit().pictures().liveCount();
+    m_combo.DeleteItem(index);
+    EXPECT_EQ(toolkit().pictures().liveCount(), live - 1);
+}
+
+TEST_F(ComboWidgetTest, AMessageResetsTheEntriesToo) {
+    m_combo.SendMessage(CB_RESETCONTENT);
+    EXPECT_EQ(m_combo.GetCount(), 0);
+    EXPECT_EQ(m_combo.GetCurSel(), -1);
+}
+
 }  // namespace
 }  // namespace workbench

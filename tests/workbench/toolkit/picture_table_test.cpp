@@ -46,5 +46,18 @@ TEST(PictureTableTest, PixelsOfAStaleHandleOrBrokenBytesAreAnError) {
     EXPECT_THROW(pictures.finePixels(pictures.add("a", {1, 2, 3})), InputError) << "it has none";
 }
 
+TEST(PictureTableTest, ADecodedPictureIsGivenOutAsItIs) {
+    PictureTable table;
+    PngPicture pixels;
+    pixels.width = 1;
+    pixels.height = 1;
+    pixels.rgba = {1, 2, 3, 4};
+    const HBITMAP picture = table.addDecoded("#7", pixels);
+    EXPECT_EQ(table.source(picture), "#7");
+    EXPECT_EQ(table.pixels(picture).rgba, pixels.rgba);
+    table.release(picture);
+    EXPECT_EQ(table.liveCount(), 0U);
+}
+
 }  // namespace
 }  // namespace workbench

@@ -48,9 +48,10 @@ TEST_F(GdiTableTest, AFontThatFailsHasNoHandle) {
 TEST_F(GdiTableTest, AnIconIsGivenBackOnce) {
     PngPicture picture;
     picture.width = 16;
-    const HICON icon = gdi().addIcon(picture);
+    const HICON icon = gdi().addIcon({picture, "#220"});
     ASSERT_NE(gdi().findIcon(icon), nullptr);
-    EXPECT_EQ(gdi().findIcon(icon)->width, 16U);
+    EXPECT_EQ(gdi().findIcon(icon)->picture.width, 16U);
+    EXPECT_EQ(gdi().findIcon(icon)->source, "#220");
     EXPECT_TRUE(DestroyIcon(icon));
     EXPECT_FALSE(DestroyIcon(icon));
     EXPECT_EQ(gdi().iconCount(), 0U);

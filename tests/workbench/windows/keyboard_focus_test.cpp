@@ -166,4 +166,87 @@ TEST_F(KeyboardFocusTest, TheNewFieldMayEndInTheOldOnesNotification) {
     EXPECT_EQ(CWnd::GetFocus(), nullptr);
 }
 
+namespace {
+
+/// The words for the focus messages that windows got, in the order in which they came.
+class FocusLog {
+public:
+    void listenTo(TestWindow& window, const std::string& name) {
+        window.onMessage = [this, name](UINT message) {
+            if (message == WM_SETFOCUS || message == WM_KILLFOCUS)
+                m_log.push_back(name + (message == WM_SETFOCUS ? " got" : " lost"));
+        };
+    }
+    Log take() { return std::exchange(m_log, {}); }
+
+private:
+    Log m_log;
+};
+
+}  // namespace
+
+class FocusMessagesTest : public KeyboardFocusTest {
+protected:
+    void SetUp() override {
+        KeyboardFocusTest::SetUp();
+        ASSERT_TRUE(make(a, &parent, 4));
+        ASSERT_TRUE(make(b, &parent, 5));
+        ASSERT_TRUE(make(c, &parent, 6));
+        log.listenTo(a, "a");
+        log.listenTo(b, "b");
+        log.listenTo(c, "c");
+    }
+
+    FocusLog log;
+    TestWindow a;
+    TestWindow b;
+    TestWindow c;
+};
+
+TEST_F(FocusMessagesTest, TheOldWindowIsToldFirstAndBothKnowTheOther) {
+    a.SetFocus();
+    b.SetFocus();
+    EXPECT_EQ(log.take(), (Log{"a got", "a lost", "b got"}));
+    EXPECT_EQ(a.got.back(), (Got{WM_KILLFOCUS, reinterpret_cast<WPARAM>(b.m_hWnd), 0}));
+    EXPECT_EQ(b.got.back(), (Got{WM_SETFOCUS, reinterpret_cast<WPARAM>(a.m_hWnd), 0}));
+}
+
+TEST_F(FocusMessagesTest, WindowsAreToldBehindTheParentsOfFields) {
+    parent.onNotification = [this](bool) { EXPECT_EQ(log.take(), Log{}); };
+    first.SetFocus();
+    a.SetFocus();
+    EXPECT_EQ(parent.log, (Log{"10001 got, focus 10001", "10001 lost, focus 4"}));
+    EXPECT_EQ(log.take(), (Log{"a got"}));
+}
+
+TEST_F(FocusMessagesTest, AWindowThatWasPassedOverIsToldNothing) {
+    a.SetFocus();
+    log.take();
+    a.onMessage = [this, told = a.onMessage](UINT message) {
+        told(message);
+        if (message == WM_KILLFOCUS)
+            c.SetFocus();
+    };
+    b.SetFocus();
+    EXPECT_EQ(log.take(), (Log{"a lost", "c got"}));
+    EXPECT_EQ(CWnd::GetFocus(), &c);
+}
+
+TEST_F(FocusMessagesTest, AHiddenWindowLosesTheFocusToNone) {
+    a.SetFocus();
+    a.ShowWindow(SW_HIDE);
+    EXPECT_EQ(log.take(), (Log{"a got", "a lost"}));
+    EXPECT_EQ(a.got.back().wParam, 0U);
+}
+
+TEST_F(FocusMessagesTest, AWindowMayEndWhenItLosesTheFocus) {
+    a.SetFocus();
+    a.onMessage = [this](UINT message) {
+        if (message == WM_KILLFOCUS)
+            a.DestroyWindow();
+    };
+    b.SetFocus();
+    EXPECT_EQ(log.take(), (Log{"a got", "b got"}));
+}
+
 }  // namespace workbench

@@ -108,4 +108,34 @@ TEST_F(MenuTableTest, NothingIsAddedWithoutAMenuOrWithAFault) {
     EXPECT_EQ(menu.GetMenuItemCount(), 0);
 }
 
+TEST_F(MenuTableTest, ALineIsEnabledByItsCommandWhereverItIsOrByItsPosition) {
+    CMenu menu;
+    CMenu popup;
+    ASSERT_TRUE(menu.CreatePopupMenu() && popup.CreatePopupMenu());
+    popup.AppendMenu(MF_STRING, 7, L"Inner");
+    menu.AppendMenu(MF_POPUP, handle(popup), L"Popup");
+    menu.AppendMenu(MF_STRING | MF_CHECKED, 8, L"Outer");
+    EXPECT_EQ(menu.EnableMenuItem(7, MF_BYCOMMAND | MF_GRAYED), 0);
+    EXPECT_EQ(menu.EnableMenuItem(7, MF_BYCOMMAND | MF_ENABLED), static_cast<int>(MF_GRAYED));
+    EXPECT_EQ(menu.EnableMenuItem(1, MF_BYPOSITION | MF_GRAYED), static_cast<int>(MF_CHECKED));
+    EXPECT_EQ(menu.GetMenuStateAt(1), static_cast<int>(MF_CHECKED | MF_GRAYED));
+    EXPECT_EQ(menu.EnableMenuItem(9, MF_BYCOMMAND), -1);
+    EXPECT_EQ(menu.EnableMenuItem(2, MF_BYPOSITION), -1);
+    const std::vector<MenuLine> lines = menus().read(menu.m_hMenu);
+    EXPECT_FALSE(lines[0].children[0].disabled);
+    EXPECT_TRUE(lines[1].disabled);
+}
+
+TEST_F(MenuTableTest, WhatStandsInAGrayPopupCannotBeChosen) {
+    CMenu menu;
+    CMenu popup;
+    ASSERT_TRUE(menu.CreatePopupMenu() && popup.CreatePopupMenu());
+    popup.AppendMenu(MF_STRING, 7, L"Inner");
+    menu.AppendMenu(MF_POPUP, handle(popup), L"Popup");
+    menu.EnableMenuItem(0, MF_BYPOSITION | MF_GRAYED);
+    const std::vector<MenuLine> lines = menus().read(menu.m_hMenu);
+    EXPECT_TRUE(lines[0].disabled);
+    EXPECT_TRUE(lines[0].children[0].disabled);
+}
+
 }  // namespace workbench

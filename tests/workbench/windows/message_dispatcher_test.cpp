@@ -286,4 +286,71 @@ TEST_F(MessageDispatcherTest, SendingAllocatesNothingWhileTheJournalRests) {
     EXPECT_EQ(window.count(kUnknown), 1);
 }
 
+namespace {
+
+/// A control that takes what it tells its parent itself.
+class ReflectedControl : public TestWindow {
+public:
+    const MessageMap& GetMessageMap() const override {
+        static constexpr MessageEntry kRows[] = {
+            {WM_REFLECT_BASE + WM_NOTIFY, to<&ReflectedControl::onNotify>},
+            {WM_REFLECT_BASE + WM_COMMAND, to<&ReflectedControl::onCommand>},
+        };
+        static_assert(hostapi::isAscendingAndUnique(kRows));
+        static const MessageMap kMap{&CWnd::GetThisMessageMap, kRows, std::size(kRows)};
+        return kMap;
+    }
+
+private:
+    LRESULT onNotify(WPARAM, LPARAM) { return 5; }
+    LRESULT onCommand(WPARAM, LPARAM) { return 5; }
+};
+
+/// A parent that counts what comes to it.
+class NotedParent : public TestWindow {
+public:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override {
+        ++commands;
+        return CWnd::OnCommand(wParam, lParam);
+    }
+    int commands = 0;
+};
+
+}  // namespace
+
+TEST_F(MessageDispatcherTest, ANotificationGoesToTheControlThatTakesItItself) {
+    NotedParent above;
+    ReflectedControl control;
+    ASSERT_TRUE(make(above) && make(control, &above, 3));
+    const auto handle = reinterpret_cast<LPARAM>(control.m_hWnd);
+    EXPECT_EQ(above.SendMessage(WM_COMMAND, 3, handle), 1);
+    EXPECT_EQ(above.commands, 0);
+    EXPECT_EQ(control.got.back(), (Got{WM_REFLECT_BASE + WM_COMMAND, 3, handle}));
+    const NMHDR notification{control.m_hWnd, 3, TVN_ENDLABELEDIT};
+    EXPECT_EQ(above.SendMessage(WM_NOTIFY, 3, reinterpret_cast<LPARAM>(&notification)), 5);
+    // A menu's command has no control.
+    above.SendMessage(WM_COMMAND, 3, 0);
+    EXPECT_EQ(above.commands, 1);
+}
+
+TEST_F(MessageDispatcherTest, ANotificationThatItsControlDoesNotTakeIsTheParents) {
+    NotedParent above;
+    TestWindow control;
+    ASSERT_TRUE(make(above) && make(control, &above, 3));
+    above.SendMessage(WM_COMMAND, 3, reinterpret_cast<LPARAM>(control.m_hWnd));
+    EXPECT_EQ(above.commands, 1);
+    EXPECT_EQ(control.count(WM_REFLECT_BASE + WM_COMMAND), 0);
+}
+
+TEST_F(MessageDispatcherTest, ItTellsInWhoseHandlerTheHostIs) {
+    TestWindow outer;
+    ASSERT_TRUE(make(outer));
+    HWND inPlain = outer.m_hWnd;
+    outer.onMessage = [&](UINT) { inPlain = windows().messages().handling(); };
+    outer.SendMessage(kUnknown);
+    // The object's own procedure is no handler of a table.
+    EXPECT_EQ(inPlain, nullptr);
+    EXPECT_EQ(windows().messages().handling(), nullptr);
+}
+
 }  // namespace workbench

@@ -188,4 +188,32 @@ TEST_F(WindowLifeTest, AnObjectMayEndWhileItsWindowIsOnItsWayOut) {
     EXPECT_EQ(windowCount(), 0U);
 }
 
+TEST_F(WindowLifeTest, APopupStandsOnTheScreenAndGoesWithTheWindowThatItIsOver) {
+    TestWindow owner;
+    TestWindow inside;
+    TestWindow popup;
+    ASSERT_TRUE(make(owner) && make(inside, &owner));
+    constexpr CRect kPlace{300, 200, 400, 250};
+    ASSERT_TRUE(popup.CreateEx(0, L"Static", L"Popup", WS_POPUP | WS_BORDER, kPlace, &inside, 0));
+    EXPECT_EQ(popup.GetWindowRect(), kPlace);
+    EXPECT_EQ(popup.GetWindowText(), L"Popup");
+    EXPECT_EQ(popup.GetParent(), &inside);
+    EXPECT_FALSE(popup.IsWindowVisible());
+    owner.DestroyWindow();
+    EXPECT_EQ(popup.m_hWnd, nullptr);
+    EXPECT_EQ(popup.count(WM_DESTROY), 1);
+}
+
+TEST_F(WindowLifeTest, OnlyAKnownClassMakesAWindowAndAChildNeedsAParent) {
+    TestWindow owner;
+    TestWindow window;
+    ASSERT_TRUE(make(owner));
+    EXPECT_FALSE(window.CreateEx(0, L"Nothing", nullptr, WS_CHILD, {}, &owner, 0));
+    EXPECT_FALSE(window.CreateEx(0, nullptr, nullptr, WS_CHILD, {}, &owner, 0));
+    EXPECT_FALSE(window.CreateEx(0, L"Static", nullptr, WS_CHILD, {}, nullptr, 0));
+    EXPECT_TRUE(window.CreateEx(0, L"Static", nullptr, WS_CHILD, {1, 2, 3, 4}, &owner, 9));
+    EXPECT_EQ(window.GetParent(), &owner);
+    EXPECT_EQ(window.GetDlgCtrlID(), 9);
+}
+
 }  // namespace workbench

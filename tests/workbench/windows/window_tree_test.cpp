@@ -65,4 +65,26 @@ TEST_F(WindowTreeTest, TheOwnerIsTheNearestNamedWindow) {
     EXPECT_EQ(windows().ownerName(sibling.m_hWnd), "");
 }
 
+TEST_F(WindowTreeTest, AWindowCanBePutInItsPlaceInThePile) {
+    TestWindow parent;
+    TestWindow a;
+    TestWindow b;
+    TestWindow c;
+    ASSERT_TRUE(make(parent) && make(a, &parent) && make(b, &parent) && make(c, &parent));
+    const auto pile = [&] { return windows().find(parent.m_hWnd)->children; };
+    using Pile = std::vector<HWND>;
+    constexpr UINT kPlaceOnly = SWP_NOMOVE | SWP_NOSIZE;
+    a.SetWindowPos(&CWnd::wndNoTopMost, 0, 0, 0, 0, kPlaceOnly);
+    EXPECT_EQ(pile(), (Pile{b.m_hWnd, c.m_hWnd, a.m_hWnd}));
+    a.SetWindowPos(&c, 0, 0, 0, 0, kPlaceOnly);
+    EXPECT_EQ(pile(), (Pile{b.m_hWnd, a.m_hWnd, c.m_hWnd}));
+    b.SetWindowPos(nullptr, 0, 0, 0, 0, kPlaceOnly | SWP_NOZORDER);
+    EXPECT_EQ(pile(), (Pile{b.m_hWnd, a.m_hWnd, c.m_hWnd}));
+    EXPECT_FALSE(windows().putBelow(a.m_hWnd, parent.m_hWnd));
+    EXPECT_FALSE(windows().putBelow(a.m_hWnd, c.m_hWnd));
+    EXPECT_FALSE(windows().putBelow(nullptr, c.m_hWnd));
+    EXPECT_EQ(windows().topOf(a.m_hWnd), parent.m_hWnd);
+    EXPECT_EQ(windows().popupAbove(a.m_hWnd), nullptr);
+}
+
 }  // namespace workbench

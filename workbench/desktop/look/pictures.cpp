@@ -16,11 +16,7 @@ using PixelsOf = PngPicture (PictureTable::*)(HBITMAP) const;
 
 QPixmap decode(const PictureTable& table, HBITMAP picture, PixelsOf pixelsOf) {
     try {
-        const PngPicture pixels = (table.*pixelsOf)(picture);
-        const QImage image(pixels.rgba.data(), static_cast<int>(pixels.width),
-                           static_cast<int>(pixels.height), static_cast<int>(pixels.width) * 4,
-                           QImage::Format_RGBA8888);
-        return QPixmap::fromImage(image);
+        return pixmapOf((table.*pixelsOf)(picture));
     } catch (const InputError&) {
         return {};
     }
@@ -37,6 +33,13 @@ const QPixmap& decodedOnce(QHash<HBITMAP, QPixmap>& decoded, const PictureTable&
 }
 
 }  // namespace
+
+QPixmap pixmapOf(const PngPicture& picture) {
+    const QImage image(picture.rgba.data(), static_cast<int>(picture.width),
+                       static_cast<int>(picture.height), static_cast<int>(picture.width) * 4,
+                       QImage::Format_RGBA8888);
+    return QPixmap::fromImage(image);
+}
 
 const QPixmap& Pictures::of(HBITMAP picture) {
     return decodedOnce(m_decoded, m_table, picture, &PictureTable::pixels);

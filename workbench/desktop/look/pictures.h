@@ -8,9 +8,13 @@
 
 namespace workbench {
 class PictureTable;
-}
+struct PngPicture;
+}  // namespace workbench
 
 namespace workbench::desktop {
+
+/// A decoded picture as a pixmap.
+QPixmap pixmapOf(const PngPicture& picture);
 
 /// The toolkit's pictures as pixmaps, decoded once each.
 class Pictures {

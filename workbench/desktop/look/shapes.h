@@ -1,5 +1,6 @@
 #pragma once
 
+#include <hostapi/types.h>
 #include <hostapi/window/geometry.h>
 
 #include <QColor>
@@ -10,6 +11,10 @@ namespace workbench::desktop {
 
 inline QRect toQt(const CRect& rect) {
     return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+inline QColor toQt(COLORREF colour) {
+    return {static_cast<int>(colour & 0xff), static_cast<int>(colour >> 8 & 0xff),
+            static_cast<int>(colour >> 16 & 0xff)};
 }
 inline CPoint toHost(const QPoint& point) {
     return {point.x(), point.y()};

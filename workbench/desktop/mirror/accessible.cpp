@@ -1,10 +1,13 @@
 #include "workbench/desktop/mirror/accessible.h"
 
 #include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/accessible_tree.h"
 #include "workbench/desktop/mirror/item_widget.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/gestures/mouse_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
+#include "workbench/toolkit/button_widget.h"
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/link_widget.h"
@@ -13,6 +16,7 @@
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/toolkit/tree_widget.h"
 #include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18/tool_panel_item.h>
@@ -42,6 +46,8 @@ QAccessible::Role roleOf(const MirrorWidget& mirror) {
         return QAccessible::ComboBox;
     if (widgetOf<LinkWidget>(mirror) != nullptr)
         return QAccessible::Link;
+    if (widgetOf<ButtonWidget>(mirror) != nullptr)
+        return QAccessible::CheckBox;
     const Window* const window = mirror.host();
     if (window != nullptr && window->className == "ToolbarButton")
         return QAccessible::Button;
@@ -73,6 +79,11 @@ public:
                    ? QAccessibleWidget::childCount()
                    : QAccessibleWidget::indexOfChild(child);
     }
+    QStringList actionNames() const override {
+        return role() == QAccessible::CheckBox ? QStringList{pressAction()}
+                                               : QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override;
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && slider() != nullptr)
             return static_cast<QAccessibleValueInterface*>(this);
@@ -170,6 +181,18 @@ QAccessibleInterface* AccessibleWindow::focusChild() const {
     return item == nullptr ? nullptr : QAccessible::queryAccessibleInterface(item);
 }
 
+void AccessibleWindow::doAction(const QString& name) {
+    if (role() != QAccessible::CheckBox || name != pressAction()) {
+        QAccessibleWidget::doAction(name);
+        return;
+    }
+    mirror().stage().pump.act([this] {
+        Toolkit& toolkit = mirror().stage().toolkit;
+        gestures::clickAt(toolkit, mirror().handle(),
+                          gestures::middleOf(toolkit, mirror().handle()));
+    });
+}
+
 QAccessible::State AccessibleWindow::state() const {
     QAccessible::State state = QAccessibleWidget::state();
     const Window* const window = mirror().host();
@@ -182,6 +205,9 @@ QAccessible::State AccessibleWindow::state() const {
     state.focused = mirror().hasFocus() && QApplication::activePopupWidget() == nullptr &&
                     focusChild() == nullptr;
     state.editable = widgetOf<EditWidget>(mirror()) != nullptr;
+    state.checkable = role() == QAccessible::CheckBox;
+    state.checked =
+        state.checkable && mirror().stage().windows.send(window->handle, BM_GETCHECK, 0, 0) != 0;
     if (const auto* combo = widgetOf<ComboWidget>(mirror())) {
         state.expandable = true;
         state.expanded = combo->isOpen();
@@ -259,7 +285,10 @@ private:
 };
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
-    if (auto* mirror = dynamic_cast<MirrorWidget*>(object))
+    auto* const mirror = dynamic_cast<MirrorWidget*>(object);
+    if (mirror != nullptr && widgetOf<TreeWidget>(*mirror) != nullptr)
+        return new AccessibleTree(*mirror);
+    if (mirror != nullptr)
         return new AccessibleWindow(*mirror);
     if (auto* item = dynamic_cast<ItemWidget*>(object))
         return new AccessibleItem(*item);

@@ -4,11 +4,15 @@
 #include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
+#include "workbench/desktop/mirror/step_painter.h"
+#include "workbench/desktop/mirror/tree_painter.h"
 #include "workbench/desktop/mirror/window_names.h"
+#include "workbench/toolkit/button_widget.h"
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/toolkit/tree_widget.h"
 #include "workbench/windows/window_system.h"
 
 #include <QPainter>
@@ -129,6 +133,16 @@ void paintCombo(QPainter& painter, Stage& stage, const Window& window, const Com
     paintBorder(painter, stage, window);
 }
 
+/// What the button draws of itself, with a frame while it has the keyboard.
+void paintOwnerDrawn(QPainter& painter, Stage& stage, const Window& window) {
+    const HWND button = window.handle;
+    const QRect area = areaOf(window);
+    const bool hasKeyboard = stage.windows.focus() == button;
+    paintSteps(painter, stage, drawingOf(stage.toolkit, button));
+    if (hasKeyboard)
+        paintKeyboardFrame(painter, area, stage.look->accent);
+}
+
 /// A button of the host's own toolbars: undo or redo.
 void paintButton(QPainter& painter, Stage& stage, const Window& window) {
     const QRect area(0, 0, std::min(window.rect.Width(), window.rect.Height()),
@@ -157,6 +171,10 @@ bool paintControl(QPainter& painter, Stage& stage, Window& window) {
         paintEdit(painter, stage, window, *edit);
     else if (const auto* combo = dynamic_cast<ComboWidget*>(window.widget.get()))
         paintCombo(painter, stage, window, *combo);
+    else if (const auto* tree = dynamic_cast<TreeWidget*>(window.widget.get()))
+        paintTree(painter, stage, window, *tree);
+    else if (isOwnerDrawn(window))
+        paintOwnerDrawn(painter, stage, window);
     else if (window.className == "ToolbarButton")
         paintButton(painter, stage, window);
     else

@@ -10,7 +10,8 @@ namespace workbench::desktop {
 
 struct Stage;
 
-/// Draws a slider, an edit field, a list's field or a toolbar button. False for another window.
+/// Draws a slider, an edit field, a list's field, a tree, a button that draws itself, or a toolbar
+/// button. False for another window.
 bool paintControl(QPainter& painter, Stage& stage, Window& window);
 
 }  // namespace workbench::desktop

@@ -3,12 +3,14 @@
 #include "workbench/desktop/look/text.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/gestures/key_gestures.h"
+#include "workbench/toolkit/button_widget.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/focus_return.h"
 #include "workbench/toolkit/input_messages.h"
 #include "workbench/toolkit/panel_widget.h"
 #include "workbench/toolkit/tool_panel_widget.h"
 #include "workbench/toolkit/toolkit.h"
+#include "workbench/toolkit/tree_widget.h"
 #include "workbench/windows/window_system.h"
 
 #include <QClipboard>
@@ -26,14 +28,23 @@ struct KeyRow {
     const char* name;
 };
 constexpr KeyRow kKeys[] = {
-    {Qt::Key_Return, "enter"},      {Qt::Key_Enter, "enter"},
-    {Qt::Key_Escape, "escape"},     {Qt::Key_Tab, "tab"},
-    {Qt::Key_Backtab, "tab"},       {Qt::Key_Left, "left"},
-    {Qt::Key_Right, "right"},       {Qt::Key_Up, "up"},
-    {Qt::Key_Down, "down"},         {Qt::Key_Home, "home"},
-    {Qt::Key_End, "end"},           {Qt::Key_PageUp, "pageup"},
-    {Qt::Key_PageDown, "pagedown"}, {Qt::Key_Backspace, "backspace"},
-    {Qt::Key_Delete, "delete"},     {Qt::Key_F1, "f1"},
+    {Qt::Key_Return, "enter"},
+    {Qt::Key_Enter, "enter"},
+    {Qt::Key_Escape, "escape"},
+    {Qt::Key_Tab, "tab"},
+    {Qt::Key_Backtab, "tab"},
+    {Qt::Key_Left, "left"},
+    {Qt::Key_Right, "right"},
+    {Qt::Key_Up, "up"},
+    {Qt::Key_Down, "down"},
+    {Qt::Key_Home, "home"},
+    {Qt::Key_End, "end"},
+    {Qt::Key_PageUp, "pageup"},
+    {Qt::Key_PageDown, "pagedown"},
+    {Qt::Key_Backspace, "backspace"},
+    {Qt::Key_Delete, "delete"},
+    {Qt::Key_F1, "f1"},
+    {Qt::Key_F2, "f2"},
 };
 
 EditWidget* editWithKeyboard(Stage& stage) {
@@ -76,6 +87,14 @@ const char* nameOf(const QKeyEvent& event) {
     return row == std::end(kKeys) ? nullptr : row->name;
 }
 
+/// Whether what has the keyboard does something with letters of its own: a field, a tree, a check.
+bool takesLetters(Stage& stage) {
+    const Window* const window = stage.windows.find(stage.windows.focus());
+    return editWithKeyboard(stage) != nullptr ||
+           (window != nullptr && (dynamic_cast<TreeWidget*>(window->widget.get()) != nullptr ||
+                                  dynamic_cast<ButtonWidget*>(window->widget.get()) != nullptr));
+}
+
 /// Whether the space bar is to click what has the keyboard: a tool, or a title.
 bool isButton(const Stage& stage) {
     const Window* const window = stage.windows.find(stage.windows.focus());
@@ -106,7 +125,7 @@ void type(Stage& stage, const QKeyEvent& event) {
     }
     if (event.text().isEmpty() || !event.text().front().isPrint())
         return;
-    if (editWithKeyboard(stage) != nullptr)
+    if (takesLetters(stage))
         gestures::typeText(stage.toolkit, toHost(event.text()));
     else if (stage.typed)
         stage.typed(event.text());

@@ -43,8 +43,7 @@ QColor inLook(const Look& look, COLORREF colour) {
     constexpr COLORREF kWhite = 0xffffff;
     if (colour == kWhite)
         return look.field;
-    return {static_cast<int>(colour & 0xff), static_cast<int>(colour >> 8 & 0xff),
-            static_cast<int>(colour >> 16 & 0xff)};
+    return toQt(colour);
 }
 
 bool isOverAMirror() {
@@ -71,12 +70,16 @@ void MirrorWidget::refresh() {
     const Window* const window = host();
     if (window == nullptr)
         return;
-    setGeometry(toQt(window->rect));
+    setGeometry(placeOf(*window));
     const WindowNames names = namesOf(m_stage.toolkit, *window);
     setAccessibleName(names.name);
     setAccessibleDescription(names.description);
     refreshItems(*window);
     update();
+}
+
+QRect MirrorWidget::placeOf(const Window& window) const {
+    return toQt(window.rect);
 }
 
 void MirrorWidget::refreshItems(const Window& window) {

@@ -40,6 +40,9 @@ public:
     void announceItem();
 
 protected:
+    /// Where the widget is to be in its parent.
+    virtual QRect placeOf(const Window& window) const;
+
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -30,7 +30,9 @@ void fillMenu(QMenu& menu, const std::vector<MenuLine>& lines) {
         if (line.separator) {
             menu.addSeparator();
         } else if (!line.children.empty()) {
-            fillMenu(*menu.addMenu(text), line.children);
+            QMenu* const popup = menu.addMenu(text);
+            popup->setEnabled(!line.disabled);
+            fillMenu(*popup, line.children);
         } else {
             QAction* const action = menu.addAction(text);
             action->setData(line.command);

@@ -7,6 +7,7 @@
 #include "workbench/desktop/mirror/floating_mirror.h"
 #include "workbench/desktop/mirror/list_overlay.h"
 #include "workbench/desktop/mirror/panel_set_mirror.h"
+#include "workbench/desktop/mirror/popup_mirror.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/palette_set_widget.h"
@@ -141,8 +142,12 @@ MirrorWidget* WindowMirror::showTree(HWND window) {
     return mirror;
 }
 
+/// A popup stands in the window in which its opener does, over all else.
 QWidget* WindowMirror::parentFor(HWND window) const {
     const Window* const shown = m_stage.windows.find(window);
+    const MirrorWidget* const opener = widgetOf(shown->opener);
+    if (shown->popupOf != nullptr)
+        return opener == nullptr ? m_home.window() : opener->window();
     return shown->parent == nullptr ? &m_home : widgetOf(shown->parent);
 }
 
@@ -156,6 +161,8 @@ MirrorWidget* WindowMirror::make(HWND window) {
         mirror = new BarMirror(m_stage, window, parent);
     else if (dynamic_cast<PanelSetWidget*>(shown.widget.get()) != nullptr)
         mirror = m_panelSets.emplace_back(new PanelSetMirror(m_stage, window, parent)).data();
+    else if (shown.popupOf != nullptr)
+        mirror = new PopupMirror(m_stage, window, parent, widgetOf(shown.opener));
     else
         mirror = new MirrorWidget(m_stage, window, parent);
     m_mirrors.insert(window, mirror);
@@ -172,7 +179,8 @@ void WindowMirror::followKeyboard() {
         return;
     }
     MirrorWidget* const mirror = widgetOf(now);
-    if (mirror == nullptr || paletteSetAbove(m_stage.windows, now) == nullptr) {
+    if (mirror == nullptr || (paletteSetAbove(m_stage.windows, now) == nullptr &&
+                              m_stage.windows.popupAbove(now) == nullptr)) {
         if (m_toDrawing)
             m_toDrawing();
         return;

@@ -29,6 +29,8 @@ constexpr ClassRow kClasses[] = {
     {"DrawingView", "Drawing"},
     {"CommandLine", "Command line"},
     {"CQrUiCtrlContainer", "Fields"},
+    {"CEdit", "Label"},
+    {"CTreeCtrl", "Tree"},
 };
 
 /// The name of the picture or button at the head of a custom control.
@@ -54,10 +56,17 @@ QString headOf(const QString& tip) {
 
 /// Controls that the host or a module names for programs only.
 constexpr ClassRow kControls[] = {
-    {"3DNavViewComboCtrl", "Views"},          {"DimStyleControl", "Dimension style"},
-    {"MldStyleControl", "Multileader style"}, {"OPTColorControl", "Colour"},
-    {"RedoSkinnyButtonControl", "Redo"},      {"RefblknameControl", "Reference block"},
-    {"TblStyleControl", "Table style"},       {"TxtStyleControl", "Text style"},
+    {"3DNavViewComboCtrl", "Views"},
+    {"DimStyleControl", "Dimension style"},
+    {"LayerFilterComboControl", "Layer filter"},
+    {"LayerFilterComboControl.dropdown", "Layer filters"},
+    {"LayerFilterComboControl.tree", "Layer filters"},
+    {"MldStyleControl", "Multileader style"},
+    {"OPTColorControl", "Colour"},
+    {"RedoSkinnyButtonControl", "Redo"},
+    {"RefblknameControl", "Reference block"},
+    {"TblStyleControl", "Table style"},
+    {"TxtStyleControl", "Text style"},
     {"UndoSkinnyButtonControl", "Undo"},
 };
 
@@ -114,6 +123,13 @@ QString nameOfControl(const Toolkit& toolkit, const Window& window) {
     return {};
 }
 
+/// Whether a window is a control, or a part of a dropdown, that only programs know by name.
+bool isNamedForPrograms(const WindowSystem& windows, const Window& window) {
+    return !window.name.empty() &&
+           (windows.popupAbove(window.handle) != nullptr ||
+            dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr);
+}
+
 QString nameOfClass(const Window& window) {
     for (const ClassRow& row : kClasses) {
         if (window.className == row.className)
@@ -153,6 +169,8 @@ WindowNames namesOf(Toolkit& toolkit, const Window& window) {
         names.name = whole;
     else if (!tip.isEmpty())
         names.name = headOf(tip);
+    else if (isNamedForPrograms(toolkit.windows(), window))
+        names.name = knownName(window.name);
     else
         names.name = nameOfClass(window);
     if (names.name.isEmpty() && window.object == &toolkit.frame().frame())

@@ -112,10 +112,25 @@ void paintLink(QPainter& painter, const Stage& stage, const Window& window) {
                      Qt::AlignVCenter | Qt::AlignLeft, toQt(window.text));
 }
 
+/// The part of a popup's border that runs through one of its windows, or all of it on the popup itself.
+void paintPopupBorder(QPainter& painter, const Stage& stage, HWND window) {
+    const Window* const popup = stage.windows.find(stage.windows.popupAbove(window));
+    if (popup == nullptr || (popup->style & WS_BORDER) == 0)
+        return;
+    const CRect here = stage.windows.screenRect(window);
+    painter.setPen(stage.look->edge);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(popup->rect.left - here.left, popup->rect.top - here.top,
+                     popup->rect.Width() - 1, popup->rect.Height() - 1);
+}
+
 }  // namespace
 
 void paintWindow(QPainter& painter, Stage& stage, Window& window) {
-    if (dynamic_cast<PaletteSetWidget*>(window.widget.get()) != nullptr)
+    const HWND handle = window.handle;
+    if (window.popupOf != nullptr)
+        fill(painter, window, stage.look->field);
+    else if (dynamic_cast<PaletteSetWidget*>(window.widget.get()) != nullptr)
         paintBar(painter, stage, window);
     else if (dynamic_cast<PanelWidget*>(window.widget.get()) != nullptr)
         paintPanel(painter, stage, window);
@@ -126,6 +141,7 @@ void paintWindow(QPainter& painter, Stage& stage, Window& window) {
     else if (!paintControl(painter, stage, window) &&
              (window.className == "CQrUiPanelSet" || window.className == "CDockBar"))
         fill(painter, window, stage.look->frame);
+    paintPopupBorder(painter, stage, handle);
 }
 
 }  // namespace workbench::desktop
