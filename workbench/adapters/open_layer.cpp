@@ -1,6 +1,7 @@
 #include "workbench/adapters/open_layer.h"
 
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/shown_layers.h"
 
 namespace workbench {
 

@@ -5,6 +5,7 @@
 #include "workbench/drawing/path_text.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
 #include "workbench/drawing/records/layer_filters.h"
+#include "workbench/drawing/shown_layers.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -32,19 +32,19 @@ std::vector<std::string> namesOf(const workbench::Document& document,
 
 bool vxedGetInvertLayerFilterFlag() {
     HostCall call("vxedGetInvertLayerFilterFlag");
-    return call.returns(!call.failed() && editor().layerDisplay().inverted);
+    return call.returns(!call.failed() && editor().layerDisplay().isInverted());
 }
 
 void vxedSetInvertLayerFilterFlag(bool invert) {
     HostCall call("vxedSetInvertLayerFilterFlag", {invert});
     if (!call.failed())
-        editor().layerDisplay().inverted = invert;
+        editor().layerDisplay().setInverted(invert);
 }
 
 void vxedSetUseCurrentFilterFlag(int use) {
     HostCall call("vxedSetUseCurrentFilterFlag", {use});
     if (!call.failed())
-        editor().layerDisplay().byFilter = use != 0;
+        editor().layerDisplay().setByFilter(use != 0);
 }
 
 void vxedRegenLayers(const VxDbObjectIdArray& layers, int pending) {

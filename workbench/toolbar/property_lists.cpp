@@ -1,9 +1,11 @@
 #include "workbench/toolbar/property_lists.h"
 
 #include "workbench/base/text.h"
+#include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/text_style.h"
+#include "workbench/drawing/shown_layers.h"
 #include "workbench/editor/editor.h"
 
 #include <array>
@@ -42,6 +44,17 @@ ToolbarEntries namesOf(const ToolbarScope& scope) {
     ToolbarEntries names;
     forEach<Data>(scope, [&names](const Data& data) { names.push_back(toWide(data.name)); });
     return names;
+}
+
+/// Whether the list of layers has one. The current one always stands in it: it is on show there.
+bool isListed(drawing::ObjectId layer, const Database& database, const LayerDisplay& display) {
+    const auto* const filters =
+        database.look<drawing::LayerFilters>(database.first(drawing::RecordKind::LayerFilters));
+    if (!display.isByFilter() || filters == nullptr || layer == drawing::currentLayer(database))
+        return true;
+    const drawing::LayerFilter* const filter = drawing::findFilter(filters->root, filters->current);
+    return filter == nullptr ||
+           drawing::filterShows(*filter, layer, database) != display.isInverted();
 }
 
 void addOnce(ToolbarEntries& entries, const std::wstring& text) {
@@ -84,7 +97,15 @@ void setName(const ToolbarScope& scope, const wchar_t* variable, const std::wstr
 }
 
 ToolbarEntries layerNames(const ToolbarScope& scope) {
-    return namesOf<Layer>(scope);
+    ToolbarEntries names;
+    const Database* const database = databaseOf(scope);
+    if (database == nullptr)
+        return names;
+    for (const drawing::ObjectId id : database->ids(drawing::RecordKind::Layer)) {
+        if (isListed(id, *database, scope.editor.layerDisplay()))
+            names.push_back(toWide(database->look<Layer>(id)->name));
+    }
+    return names;
 }
 
 ToolbarEntries textStyleNames(const ToolbarScope& scope) {

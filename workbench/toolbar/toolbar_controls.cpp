@@ -1,5 +1,6 @@
 #include "workbench/toolbar/toolbar_controls.h"
 
+#include "workbench/editor/editor.h"
 #include "workbench/toolbar/toolbar_button.h"
 #include "workbench/toolkit/combo_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -49,7 +50,13 @@ void fill(Window& window, ComboWidget& combo, const ToolbarEntries& entries) {
 ToolbarControls::ToolbarControls(Toolkit& toolkit, Editor& editor, MenuHost& menu)
     : m_toolkit(toolkit),
       m_scope{editor, menu},
-      m_watch(editor, [this] { refresh(); }) {}
+      m_watch(editor, [this] { refresh(); }) {
+    editor.layerDisplay().setListener([this] { refresh(); });
+}
+
+ToolbarControls::~ToolbarControls() {
+    m_scope.editor.layerDisplay().setListener(nullptr);
+}
 
 CWnd* ToolbarControls::make(CWnd* parent, const CRect& rect, UINT id) {
     WindowSystem& windows = m_toolkit.windows();

@@ -20,6 +20,7 @@ class ToolbarControls {
 public:
     /// All of them must outlive it.
     ToolbarControls(Toolkit& toolkit, Editor& editor, MenuHost& menu);
+    ~ToolbarControls();
 
     /// Makes the window of a control as a child of `parent`, with which its object ends; null for an
     /// unknown ID and without a parent's window.

@@ -29,11 +29,11 @@ TEST_F(LayerDisplayFunctionsTest, TheFlagsOfTheListsAreKept) {
     m_bench.faults().fail("vxedSetInvertLayerFilterFlag");
     vxedSetInvertLayerFilterFlag(false);
     EXPECT_TRUE(vxedGetInvertLayerFilterFlag());
-    EXPECT_FALSE(editor().layerDisplay().byFilter);
+    EXPECT_FALSE(editor().layerDisplay().isByFilter());
     vxedSetUseCurrentFilterFlag(1);
-    EXPECT_TRUE(editor().layerDisplay().byFilter);
+    EXPECT_TRUE(editor().layerDisplay().isByFilter());
     vxedSetUseCurrentFilterFlag(0);
-    EXPECT_FALSE(editor().layerDisplay().byFilter);
+    EXPECT_FALSE(editor().layerDisplay().isByFilter());
 }
 
 TEST_F(LayerDisplayFunctionsTest, ChangedLayersAreDrawnAnewAtOnce) {

@@ -16,6 +16,21 @@ TEST_F(ToolbarTest, LayersAndTextStylesAreTheDrawings) {
     EXPECT_EQ(current(kTextStyles), L"Notes");
 }
 
+TEST_F(ToolbarTest, TheListOfLayersGoesByTheCurrentFilterWhenItIsTold) {
+    setDb("layers.Walls", Value::Table{});
+    setDb("layers.Roof", Value::Table{});
+    setDb("filters.W", Value::Table{{"expression", "NAME==\"W*\""}});
+    setDb("filters.current", "W");
+    EXPECT_EQ(entries(kLayers), (ToolbarEntries{L"0", L"Walls", L"Roof"}));
+    editor().layerDisplay().setByFilter(true);
+    EXPECT_EQ(entries(kLayers), (ToolbarEntries{L"0", L"Walls"}));
+    editor().layerDisplay().setInverted(true);
+    EXPECT_EQ(entries(kLayers), (ToolbarEntries{L"0", L"Roof"}));
+    setDb("filters.current", "All");
+    EXPECT_EQ(entries(kLayers), ToolbarEntries{L"0"});
+    EXPECT_EQ(current(kLayers), L"0");
+}
+
 TEST_F(ToolbarTest, AFrozenLayerIsNotMadeCurrent) {
     setDb("layers.Walls", Value::Table{{"frozen", true}});
     choose(kLayers, L"Walls");

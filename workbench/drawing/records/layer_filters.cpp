@@ -1,10 +1,6 @@
 #include "workbench/drawing/records/layer_filters.h"
 
 #include "workbench/base/text.h"
-#include "workbench/drawing/database/database.h"
-#include "workbench/drawing/layer_overrides.h"
-#include "workbench/drawing/lookup.h"
-#include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
 
 #include <algorithm>
@@ -17,26 +13,6 @@ namespace {
 
 constexpr std::array<const char*, 6> kKindNames{"all",       "used",     "unreconciled",
                                                 "overrides", "property", "group"};
-
-bool isUsed(ObjectId layer, const Database& database) {
-    const std::vector<ObjectId> entities = database.ids(RecordKind::Entity);
-    return std::any_of(entities.begin(), entities.end(), [&](ObjectId id) {
-        const auto* entity = database.look<Entity>(id);
-        return entity != nullptr && entity->layer.id == layer;
-    });
-}
-
-bool expressionShows(const std::string& expression, ObjectId id, const Database& database) {
-    const auto* layer = database.look<Layer>(id);
-    if (layer == nullptr) {
-        return false;
-    }
-    try {
-        return LayerFilterExpression(expression).matches(*layer);
-    } catch (const ValueError&) {
-        return false;
-    }
-}
 
 void setMember(LayerFilter& filter, const Value::Member& member, const Database& database) {
     if (member.name == "name") {
@@ -80,16 +56,6 @@ bool hasKind(const LayerFilter& filter, FilterKind kind) {
     return filter.kind == kind ||
            std::any_of(filter.children.begin(), filter.children.end(),
                        [kind](const LayerFilter& child) { return hasKind(child, kind); });
-}
-
-bool isUnreconciled(ObjectId id, const Database& database) {
-    const auto* layer = database.look<Layer>(id);
-    return layer != nullptr && !layer->reconciled;
-}
-
-bool looksOtherInViewport(ObjectId layer, const Database& database) {
-    const auto* viewport = database.look<Viewport>(activeViewport(database));
-    return viewport != nullptr && hasOverride(*viewport, layer);
 }
 
 }  // namespace
@@ -161,25 +127,6 @@ FilterNames nameProblemOf(const LayerFilter& root) {
         return FilterNames::Empty;
     return std::adjacent_find(names.begin(), names.end()) == names.end() ? FilterNames::Good
                                                                          : FilterNames::Twice;
-}
-
-bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database) {
-    switch (filter.kind) {
-    case FilterKind::All:
-        return true;
-    case FilterKind::Used:
-        return isUsed(layer, database);
-    case FilterKind::Unreconciled:
-        return isUnreconciled(layer, database);
-    case FilterKind::Overrides:
-        return looksOtherInViewport(layer, database);
-    case FilterKind::Property:
-        return expressionShows(filter.expression, layer, database);
-    case FilterKind::Group:
-        break;
-    }
-    return std::any_of(filter.layers.begin(), filter.layers.end(),
-                       [layer](const auto& member) { return member.id == layer; });
 }
 
 Value toValue(FilterKind member, const Database& /*database*/) {

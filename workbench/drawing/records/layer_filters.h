@@ -64,10 +64,6 @@ LayerFilter* findFilterParent(LayerFilter& start, std::string_view name);
 enum class FilterNames { Good, Empty, Twice };
 FilterNames nameProblemOf(const LayerFilter& root);
 
-/// True if the filter shows the layer: where it is nested makes no difference. A property filter whose expression can't be read shows
-/// none.
-bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database);
-
 /// "all", "used", "unreconciled", "overrides", "property", "group".
 Value toValue(FilterKind member, const Database& database);
 void fromValue(const Value& value, FilterKind& member, const Database& database);
