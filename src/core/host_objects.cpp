@@ -2,6 +2,7 @@
 
 #include <hostapi/vxdb18.h>
 #include <hostapi/zorq/commands.h>
+#include <hostapi/zorq/documents.h>
 #include <hostapi/zorq/editor.h>
 
 namespace {
@@ -50,4 +51,9 @@ VxRxDictionary* serviceDictionary() {
 VxDbDatabase* workingDatabase() {
     const VxDbHostApplicationServices* services = vxdbHostApplicationServices();
     return services == nullptr ? nullptr : services->workingDatabase();
+}
+
+VxApDocument* currentDocument() {
+    VxApDocManager* documents = vxDocManagerPtr();
+    return documents == nullptr ? nullptr : documents->curDocument();
 }

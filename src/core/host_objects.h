@@ -1,5 +1,6 @@
 #pragma once
 
+class VxApDocument;
 class VxDbDatabase;
 class VxEdCommandStack;
 class VxEditor;
@@ -16,3 +17,5 @@ VxRxDictionary* serviceDictionary();
 
 /// The database that work is done on; null for none.
 VxDbDatabase* workingDatabase();
+/// The document that commands work in; null for none.
+VxApDocument* currentDocument();

@@ -21,6 +21,12 @@ inline HDC drawingContextFrom(WPARAM wParam) {
     return reinterpret_cast<HDC>(wParam);
 }
 
+/// The point in a window's client area that a message about the mouse brings in lParam.
+inline CPoint pointFrom(LPARAM lParam) {
+    const auto value = static_cast<std::uintptr_t>(lParam);
+    return {static_cast<std::int16_t>(LOWORD(value)), static_cast<std::int16_t>(HIWORD(value))};
+}
+
 /// The variable or command that a broadcast names in lParam; empty for none. Good during the message
 /// only.
 inline std::wstring_view eventNameFrom(LPARAM lParam) {

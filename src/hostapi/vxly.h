@@ -61,8 +61,10 @@ public:
     /// Whether the filter shows a layer.
     virtual bool contains(const VxDbLayerTableRecord* layer) const;
 
-protected:
-    std::unique_ptr<VxLyLayerFilterData> m_data;  ///< the host's; never null
+private:
+    friend struct VxLyLayerFilterData;
+
+    std::unique_ptr<VxLyLayerFilterData> m_data;  // the host's; never null
 };
 
 /// A filter that is a list of layers. A new one is empty and has no name.

@@ -1,15 +1,28 @@
 #include "layer/filter_refresh.h"
 
-#include <algorithm>
+#include "controls/variable_access.h"
+#include "layer/filter_combo.h"
+#include "layer/layer_filter_mgr.h"
+#include "layer/layer_texts.h"
+
+#include <hostapi/zorq/layers.h>
+
 #include <string_view>
-#include <vector>
 
 namespace {
 
 constexpr std::wstring_view kVariables[] = {L"TILEMODE"};
 constexpr std::wstring_view kCommands[] = {L"LAYER", L"-LAYER", L"U", L"UNDO", L"REDO"};
 
-std::vector<LayerFilterView*> s_views;  // live lists in order of creation; not owned
+/// Whether a filter is the host's own of viewport overrides, of which there are none.
+bool isEmptyOverridesFilter(const VxLyLayerFilter& filter) {
+    if (readVariableStrict(L"VPLAYEROVERRIDES") != 0)
+        return false;
+    if (!filter.dynamicallyGenerated() || filter.allowNested())
+        return false;
+    const VxString name = CVxDaLyCtrlMgdResMgr::GetLocalResString(L"FilterProxy_ViewportOverrides");
+    return CollateNoCase(filter.name(), name) == 0;
+}
 
 }  // namespace
 
@@ -21,16 +34,15 @@ const FamilyEvents kLayerFilterEvents{
     .refresh = refreshFilterCombos,
 };
 
-void addLayerFilterView(LayerFilterView* view) {
-    s_views.push_back(view);
-}
-
-void removeLayerFilterView(LayerFilterView* view) {
-    s_views.erase(std::remove(s_views.begin(), s_views.end(), view), s_views.end());
-}
-
 void refreshFilterCombos() {
-    // By index: a refresh may end a list or make another.
-    for (std::size_t i = 0; i < s_views.size(); ++i)
-        s_views[i]->refreshFilters();
+    CVxDaLayerFilterMgr* manager = layerFilterMgr();
+    if (manager == nullptr)
+        return;
+    manager->refreshFilters();
+    vxedSetUseCurrentFilterFlag(1);
+    const VxLyLayerFilter* root = manager->root();
+    const VxLyLayerFilter* current = manager->current();
+    if (root == nullptr || current == nullptr)
+        return;
+    showInFilterCombos(*manager, isEmptyOverridesFilter(*current) ? *root : *current);
 }

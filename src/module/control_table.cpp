@@ -3,11 +3,14 @@
 #include "controls/toolbar_controls.h"
 #include "controls/toolbar_group_ctrl.h"
 #include "core/text.h"
+#include "layer/filter_combo.h"
+#include "layer/layer_state_combo.h"
 #include "layer/locked_layer_fade_slider.h"
 #include "nav3d/camera_point.h"
 #include "nav3d/step_slider.h"
 #include "nav3d/view_combo.h"
 #include "nav3d/zoom_slider.h"
+#include "text/text_height_combo.h"
 
 #include <algorithm>
 #include <array>
@@ -37,16 +40,25 @@ std::unique_ptr<CWnd> makeToolbarGroup(CWnd* parent, const CRect& rect, const wc
     return control;
 }
 
+template <class Combo, UINT WindowId>
+std::unique_ptr<CWnd> makeCombo(CWnd* parent, const CRect& rect, const wchar_t* /*name*/,
+                                CVxDaControlMgr* /*manager*/) {
+    return Combo::make(parent, rect, WindowId);
+}
+
 /// In search order; behind these come the host's own toolbar controls.
 constexpr ControlTableRow kOwnControls[] = {
+    {L"LayerStateComboControl", makeCombo<CVxDaLayerStateComboCtrl, 602>},
     {L"LayerLockTransparencySliderControl",
      makePanelControl<CVxDaLockedLayerTransparencySliderCtrl, 601>},
+    {L"LayerFilterComboControl", makeCombo<CVxDaFilterComboCtrl, 603>},
     {L"3DNavZoomSliderControl", makePanelControl<CVxDa3DNavZoomSliderCtrl, 101>},
     {L"3DNavStepSizeSliderControl", makePanelControl<CVxDa3DNavStepSizeSliderCtrl, 102>},
     {L"3DNavStepsPerSecSliderControl", makePanelControl<CVxDa3DNavStepsPerSecSliderCtrl, 103>},
     {L"3DNavViewComboCtrl", makePanelControl<CVxDa3DNavViewComboCtrl, 104>},
     {L"3DNavPointTriplet1", makePanelControl<CVxDa3DNavCameraEyePointCtrl, 105>},
     {L"3DNavPointTriplet2", makePanelControl<CVxDa3DNavCameraTargetPointCtrl, 106>},
+    {L"TextHeightComboControl", makeCombo<CVxDaTextHeightComboCtrl, 801>},
 };
 
 template <std::size_t Own, std::size_t Wrapped>

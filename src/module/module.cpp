@@ -8,9 +8,11 @@
 #include "core/roof.h"
 #include "core/text.h"
 #include "core/theme.h"
+#include "layer/filter_combo.h"
 #include "module/commands.h"
 #include "module/control_manager.h"
 #include "module/manager.h"
+#include "text/text_height_list.h"
 #include "visualstyle/style_reactors.h"
 
 #include <hostapi/qrui18/palette_set.h>
@@ -82,6 +84,8 @@ void deleteManager() {
 
 void deleteManagers() {
     deleteControlManager();
+    endEarlierDropdowns();
+    dropAllTextHeights();
     // Controls leave the registries of the style reactors as they end, so these go after them.
     deleteStyleReactors();
     deleteManager();

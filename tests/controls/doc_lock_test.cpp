@@ -5,6 +5,7 @@
 #include "workbench/base/text.h"
 #include "workbench/editor/document_locks.h"
 #include "workbench/editor/editor.h"
+#include "workbench/editor/statuses.h"
 
 #include <hostapi/zorq.h>
 
@@ -42,7 +43,7 @@ class OtherModeTest : public DocLockTest, public testing::WithParamInterface<int
 
 TEST_P(OtherModeTest, DoesNotStandForALockForWriting) {
     workbench::DocumentLocks& locks = bench().editor().documents().current()->locks();
-    ASSERT_TRUE(locks.lock(GetParam(), this));
+    ASSERT_EQ(locks.lock(GetParam(), &bench().editor().documents()), Zorq::eOk);
     forget();
     {
         const VxDaDocLock lock;
@@ -58,6 +59,25 @@ INSTANTIATE_TEST_SUITE_P(Modes, OtherModeTest,
                                          workbench::DocumentLocks::kProtectedWrite,
                                          workbench::DocumentLocks::kExclusiveWrite,
                                          workbench::DocumentLocks::kRead));
+
+class ForeignLockTest : public DocLockTest, public testing::WithParamInterface<int> {};
+
+TEST_P(ForeignLockTest, RefusesTheLockWhichIsNotGivenBack) {
+    workbench::DocumentLocks& locks = bench().editor().documents().current()->locks();
+    ASSERT_EQ(locks.lock(GetParam(), this), Zorq::eOk);
+    forget();
+    {
+        const VxDaDocLock lock;
+        EXPECT_EQ(lock.status(), workbench::kLockViolation);
+        EXPECT_EQ(locks.mode(), GetParam());
+    }
+    EXPECT_EQ(locks.mode(), GetParam());
+    EXPECT_EQ(callCount("VxApDocManager::unlockDocument"), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, ForeignLockTest,
+                         testing::Values(workbench::DocumentLocks::kProtectedWrite,
+                                         workbench::DocumentLocks::kExclusiveWrite));
 
 TEST_F(DocLockTest, FailedLockKeepsTheHostsStatusAndUnlocksNothing) {
     fail("VxApDocManager::lockDocument", 15);

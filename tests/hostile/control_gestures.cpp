@@ -1,3 +1,4 @@
+#include "tests/hostile/filter_gestures.h"
 #include "tests/hostile/gesture.h"
 #include "tests/hostile/host.h"
 #include "workbench/gestures/gesture_error.h"
@@ -12,6 +13,7 @@
 #include "workbench/windows/window_parts.h"
 
 #include <map>
+#include <utility>
 
 namespace hostile {
 
@@ -20,6 +22,7 @@ namespace {
 namespace gestures = workbench::gestures;
 using gestures::GestureError;
 
+constexpr const char* kFilterCombo = "LayerFilterComboControl";
 /// Longer than any control waits before it writes.
 constexpr std::int64_t kSettleMs = 400;
 
@@ -157,6 +160,17 @@ void addPart(std::vector<Gesture>& all, const Part& part, const std::string& cla
     }
 }
 
+/// A control that is a list itself, or drops a tree down in its place.
+void addCombo(std::vector<Gesture>& all, const Part& control) {
+    if (control.control != kFilterCombo) {
+        addPart(all, control, "CQrUiComboCtrl");
+        return;
+    }
+    addPart(all, control, {});
+    for (Gesture& gesture : filterGestures(control.control, control.number, control.text()))
+        all.push_back(std::move(gesture));
+}
+
 }  // namespace
 
 std::vector<Gesture> controlGestures() {
@@ -168,7 +182,11 @@ std::vector<Gesture> controlGestures() {
         if (window == nullptr || window->name.empty())
             continue;
         const Part control{window->name, seen[window->name]++, {}};
-        all.push_back({"click the icon of " + control.text(), [control] { clickIcon(control); }});
+        if (window->className == "CQrUiComboCtrl")
+            addCombo(all, control);
+        else
+            all.push_back(
+                {"click the icon of " + control.text(), [control] { clickIcon(control); }});
         for (const HWND below : windows.descendants(item->GetControl())) {
             const workbench::Window& part = *windows.find(below);
             if (windows.owner(below) != item->GetControl() ||

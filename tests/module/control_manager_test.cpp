@@ -1,6 +1,6 @@
 #include "module/control_manager.h"
 
-#include "layer/filter_refresh.h"
+#include "layer/filter_combo.h"
 #include "tests/palette/palette_fixture.h"
 #include "tests/support/call_lines.h"
 #include "workbench/editor/editor.h"
@@ -19,15 +19,6 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-/// Counts the refreshes of layer filter lists.
-class CountingView final : public LayerFilterView {
-public:
-    CountingView() { addLayerFilterView(this); }
-    ~CountingView() override { removeLayerFilterView(this); }
-    void refreshFilters() override { ++refreshes; }
-    int refreshes = 0;
-};
-
 class ControlManagerTest : public PaletteTest {
 protected:
     void SetUp() override {
@@ -38,6 +29,11 @@ protected:
         m_controls.releaseControls();
         m_parent.DestroyWindow();
         PaletteTest::TearDown();
+    }
+    /// How often the layer filters were read since the journal was taken.
+    int refreshes() {
+        return static_cast<int>(
+            support::callLines(bench().journal().take(), {"vxedSetUseCurrentFilterFlag"}).size());
     }
     /// Writes into the control's field and leaves the entry unfinished.
     void typeEntry(HWND control, const wchar_t* text) {
@@ -176,9 +172,10 @@ struct NameCase {
 class CommandNameTest : public ControlManagerTest, public testing::WithParamInterface<NameCase> {};
 
 TEST_P(CommandNameTest, RefreshesTheLayerFilterLists) {
-    const CountingView view;
+    const CVxDaFilterComboCtrl list;
+    bench().journal().take();
     m_controls.onCommandEnded(GetParam().name);
-    EXPECT_EQ(view.refreshes, GetParam().refreshes ? 1 : 0);
+    EXPECT_EQ(refreshes(), GetParam().refreshes ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, CommandNameTest,
@@ -191,9 +188,10 @@ INSTANTIATE_TEST_SUITE_P(Names, CommandNameTest,
 class VariableNameTest : public ControlManagerTest, public testing::WithParamInterface<NameCase> {};
 
 TEST_P(VariableNameTest, RefreshesTheLayerFilterLists) {
-    const CountingView view;
+    const CVxDaFilterComboCtrl list;
+    bench().journal().take();
     m_controls.onSysVarChanged(GetParam().name, 1);
-    EXPECT_EQ(view.refreshes, GetParam().refreshes ? 1 : 0);
+    EXPECT_EQ(refreshes(), GetParam().refreshes ? 1 : 0);
 }
 
 INSTANTIATE_TEST_SUITE_P(Names, VariableNameTest,

@@ -1,6 +1,8 @@
 #include "module/control_table.h"
 
 #include "controls/toolbar_group_ctrl.h"
+#include "layer/filter_combo.h"
+#include "layer/layer_state_combo.h"
 #include "layer/locked_layer_fade_slider.h"
 #include "module/control_manager.h"
 #include "nav3d/camera_point.h"
@@ -8,6 +10,7 @@
 #include "nav3d/view_combo.h"
 #include "nav3d/zoom_slider.h"
 #include "tests/palette/palette_fixture.h"
+#include "text/text_height_combo.h"
 
 #include <hostapi/qrui18/tool_panel.h>
 #include <hostapi/window/frame.h>
@@ -112,6 +115,33 @@ INSTANTIATE_TEST_SUITE_P(
                             "(1342177280, object, 105, 2)"},
                     RowCase{L"3DNavPointTriplet2", isExactly<CVxDa3DNavCameraTargetPointCtrl>,
                             "(1342177280, object, 106, 2)"}));
+
+class ComboRowTest : public ControlRowTest {};
+
+TEST_P(ComboRowTest, MakesItsControlWithItsWindow) {
+    const std::unique_ptr<CWnd> control = make(GetParam().name);
+    ASSERT_NE(control, nullptr);
+    EXPECT_TRUE(GetParam().isOfItsClass(*control)) << typeid(*control).name();
+    EXPECT_EQ(control->GetParent(), m_parent.get());
+    EXPECT_EQ(control->GetWindowRect().Width(), kPlace.Width());
+    EXPECT_EQ(
+        takeLines({"CQrUiComboCtrl::Create"}),
+        std::vector<std::string>{std::string("CQrUiComboCtrl::Create") + GetParam().creation});
+}
+
+TEST_P(ComboRowTest, MakesNothingWithoutAWindow) {
+    fail("CQrUiComboCtrl::Create");
+    EXPECT_EQ(make(GetParam().name), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Controls, ComboRowTest,
+    testing::Values(RowCase{L"LayerStateComboControl", isExactly<CVxDaLayerStateComboCtrl>,
+                            "(1345389091, 200, 300, object, 602)"},
+                    RowCase{L"LayerFilterComboControl", isExactly<CVxDaFilterComboCtrl>,
+                            "(1345389091, 200, 300, object, 603)"},
+                    RowCase{L"TextHeightComboControl", isExactly<CVxDaTextHeightComboCtrl>,
+                            "(1345389091, 200, 300, object, 801)"}));
 
 std::vector<RowCase> hostControlRows() {
     std::vector<RowCase> rows;

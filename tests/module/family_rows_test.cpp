@@ -1,6 +1,6 @@
 #include "module/family_rows.h"
 
-#include "layer/filter_refresh.h"
+#include "layer/filter_combo.h"
 #include "tests/palette/palette_fixture.h"
 
 #include <string>
@@ -9,14 +9,6 @@
 namespace {
 
 using Road = std::vector<std::string>;
-
-/// Notes in the journal when the layer filter lists are refreshed.
-class NotingView final : public LayerFilterView {
-public:
-    NotingView() { addLayerFilterView(this); }
-    ~NotingView() override { removeLayerFilterView(this); }
-    void refreshFilters() override { workbench::Workbench::current().journal().add("filters", {}); }
-};
 
 class FamilyRowsTest : public PaletteTest {
 protected:
@@ -30,7 +22,7 @@ protected:
     /// first.
     std::string refreshed() {
         for (const workbench::JournalRecord& record : bench().journal().take()) {
-            if (record.kind == "filters")
+            if (record.field("name") == workbench::Value("vxlyGetLayerFilterManager"))
                 return "filters";
             if (record.field("name") == workbench::Value("vxedGetVar"))
                 return record.field("args").asList().front().asString();
@@ -38,7 +30,7 @@ protected:
         return "";
     }
 
-    NotingView m_view;
+    CVxDaFilterComboCtrl m_list;
 };
 
 struct NameRow {

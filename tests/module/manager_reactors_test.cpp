@@ -1,6 +1,6 @@
 #include "module/manager_reactors.h"
 
-#include "layer/filter_refresh.h"
+#include "layer/filter_combo.h"
 #include "module/control_manager.h"
 #include "module/module.h"
 #include "tests/palette/palette_fixture.h"
@@ -15,14 +15,6 @@
 namespace {
 
 constexpr const char* kControl = "LayerLockTransparencySliderControl";
-
-/// Notes in the journal when the layer filter lists are refreshed.
-class NotingView final : public LayerFilterView {
-public:
-    NotingView() { addLayerFilterView(this); }
-    ~NotingView() override { removeLayerFilterView(this); }
-    void refreshFilters() override { workbench::Workbench::current().journal().add("filters", {}); }
-};
 
 /// An action that does nothing.
 class IdleCallback final : public VxDaCmdUtil::InputContextReactor::Callback {
@@ -47,14 +39,20 @@ protected:
         for (const workbench::JournalRecord& record : bench().journal().take()) {
             if (record.kind == "message" && record.field("control") == workbench::Value(kControl)) {
                 steps.push_back(std::to_string(record.field("number").asInteger()));
-            } else if (record.kind == "filters") {
+            } else if (isCall(record, "vxedSetUseCurrentFilterFlag")) {
                 steps.push_back("filters");
-            } else if (record.kind == "call" &&
-                       record.field("name") == workbench::Value("vxedGetVar")) {
-                steps.push_back("read " + record.field("args").asList().front().asString());
+            } else if (isCall(record, "vxedGetVar")) {
+                const std::string& name = record.field("args").asList().front().asString();
+                if (name != "VPLAYEROVERRIDES")  // read with the filters
+                    steps.push_back("read " + name);
             }
         }
         return steps;
+    }
+
+private:
+    static bool isCall(const workbench::JournalRecord& record, const char* name) {
+        return record.kind == "call" && record.field("name") == workbench::Value(name);
     }
 };
 
@@ -70,14 +68,14 @@ TEST_F(ManagerReactorsTest, VariableReachesTheControlsThenTheControlManagerThenC
 
 TEST_F(ManagerReactorsTest, TileModeRefreshesTheFilterListsAfterTheBroadcast) {
     show();
-    const NotingView view;
+    const CVxDaFilterComboCtrl list;
     editor().sysVarChanged(L"TILEMODE", true);
     EXPECT_EQ(road(), (Road{"1727", "filters"}));
 }
 
 TEST_F(ManagerReactorsTest, EndOfALayerCommandIsToldFirstAndThenRefreshesTheFilterLists) {
     show();
-    const NotingView view;
+    const CVxDaFilterComboCtrl list;
     editor().commandEnded(L"LAYER");
     EXPECT_EQ(road(), (Road{"1730", "filters"}));
 }
@@ -92,7 +90,7 @@ class SilentEventTest : public ManagerReactorsTest,
 
 TEST_P(SilentEventTest, ReachesTheControlsAlone) {
     show();
-    const NotingView view;
+    const CVxDaFilterComboCtrl list;
     (editor().*GetParam().raise)(L"LAYER");
     EXPECT_EQ(road(), Road{GetParam().number}) << GetParam().what;
 }
@@ -107,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(ManagerReactorsTest, DocumentThatBecomesCurrentIsToldBeforeTheFilterListsAreRefreshed) {
     show();
-    const NotingView view;
+    const CVxDaFilterComboCtrl list;
     bench().editor().documents().create(L"B");
     const Road steps = road();
     const auto told = std::find(steps.begin(), steps.end(), "1726");
@@ -119,7 +117,7 @@ TEST_F(ManagerReactorsTest, DocumentThatBecomesCurrentIsToldBeforeTheFilterLists
 
 TEST_F(ManagerReactorsTest, DocumentReactorWithoutAManagerPassesNothingOn) {
     show();
-    const NotingView view;
+    const CVxDaFilterComboCtrl list;
     VxDaDocManagerReactor alone(nullptr);
     VxApDocument* document = vxDocManagerPtr()->curDocument();
     forget();

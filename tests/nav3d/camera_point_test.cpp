@@ -1,4 +1,5 @@
 #include "tests/nav3d/camera_fixture.h"
+#include "workbench/gestures/mouse_gestures.h"
 #include "workbench/toolkit/edit_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/toolkit.h"
@@ -104,6 +105,10 @@ protected:
         rebuildControl();
         bench().windows().changes().setObserver(nullptr);
     }
+    void hoverOver(const std::string& name) {
+        workbench::gestures::hoverAt(bench().toolkit(), field(name), {2, 2});
+    }
+    std::wstring shownTip() { return bench().toolkit().toolTips().shown(); }
     /// The tooltips' messages of a number since the last look, as wParam and lParam.
     std::vector<std::pair<std::int64_t, std::int64_t>> told(UINT number) {
         std::vector<std::pair<std::int64_t, std::int64_t>> all;
@@ -135,6 +140,17 @@ TEST_P(FieldTipTest, HearsOfEveryMessageOnItsWay) {
         EXPECT_EQ(CWnd::FromHandle(window())->PreTranslateMessage(&msg), 0);
         EXPECT_EQ(told(1031), (Told{{0, reinterpret_cast<std::int64_t>(&msg)}}));
     }
+}
+
+TEST_P(FieldTipTest, ShowsAFieldsTextOnceTheMouseHasRestedOverIt) {
+    hoverOver("y");
+    EXPECT_EQ(shownTip(), L"");
+    bench().windows().advance(500);
+    EXPECT_EQ(shownTip(), stringOf(GetParam().firstTip + 1));
+    hoverOver("z");
+    EXPECT_EQ(shownTip(), L"");
+    bench().windows().advance(500);
+    EXPECT_EQ(shownTip(), stringOf(GetParam().firstTip + 2));
 }
 
 TEST_P(FieldTipTest, ControlWorksWithoutIt) {

@@ -2,7 +2,6 @@
 
 #include "tests/support/control_bench.h"
 #include "workbench/base/text.h"
-#include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/editor/editor.h"
 #include "workbench/navigation/navigation_tool.h"
@@ -13,12 +12,6 @@
 /// Test fixture: a navigation control and the drawing's views.
 class NavControlTest : public support::ControlBench {
 protected:
-    workbench::Value db(const std::string& path) {
-        return workbench::drawing::getByPath(bench().editor().documents().current()->data(), path);
-    }
-    void setDb(const std::string& path, const workbench::Value& value) {
-        workbench::drawing::setByPath(bench().editor().documents().current()->data(), path, value);
-    }
     /// The same, with nobody told of a view that changes.
     void setDbQuietly(const std::string& path, const workbench::Value& value) {
         workbench::ViewHistory& history = bench().editor().documents().current()->viewHistory();

@@ -24,6 +24,22 @@ public:
                         std::to_string(operation) + " in " + std::to_string(m_brush->colour()));
         return 1;
     }
+    void FillSolidRect(const CRect& /*rect*/, COLORREF /*colour*/) override {}
+    BOOL GradientFill(const TRIVERTEX* /*vertices*/, UINT /*vertexCount*/,
+                      const GRADIENT_RECT* /*rects*/, UINT /*rectCount*/,
+                      UINT /*mode*/) override {
+        return 0;
+    }
+    BOOL TransparentBlt(int /*x*/, int /*y*/, int /*width*/, int /*height*/,
+                        const CBitmap& /*source*/, COLORREF /*transparent*/) override {
+        return 0;
+    }
+    CFont* SelectObject(CFont* /*font*/) override { return nullptr; }
+    COLORREF SetTextColor(COLORREF /*colour*/) override { return 0; }
+    int SetBkMode(int /*mode*/) override { return 0; }
+    int DrawText(const VxString& /*text*/, const CRect& /*rect*/, UINT /*format*/) override {
+        return 0;
+    }
     const CBrush* brush() const { return m_brush; }
     std::vector<std::string> notes;
 

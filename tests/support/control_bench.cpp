@@ -2,6 +2,7 @@
 
 #include "tests/resources/loaded_module.h"
 #include "workbench/base/text.h"
+#include "workbench/drawing/path_access.h"
 #include "workbench/editor/editor.h"
 #include "workbench/gestures/item_gestures.h"
 #include "workbench/gestures/key_gestures.h"
@@ -18,11 +19,15 @@ namespace support {
 
 namespace gestures = workbench::gestures;
 
-void ControlBench::useMenuOf(const std::string& control) {
+void ControlBench::useMenuOf(const std::string& control, int count) {
+    const std::string item = R"({"type": "control", "control": ")" + control + R"("})";
+    std::string items = item;
+    for (int i = 1; i < count; ++i)
+        items += R"(, {"type": "rowBreak"}, )" + item;
     useMenu(R"({"menuGroups": [{"name": "MAIN"}], "panels": [{"menuGroup": "MAIN", "id": "P",
         "title": "P", "toolPanels": ["TP"]}], "toolPanels": [{"menuGroup": "MAIN", "id": "TP",
-        "items": [{"type": "control", "control": ")" +
-            control + R"("}]}], "workspaces": [{"name": "W", "panels": [{"menuGroup": "MAIN",
+        "items": [)" +
+            items + R"(]}], "workspaces": [{"name": "W", "panels": [{"menuGroup": "MAIN",
         "panel": "P"}]}], "currentWorkspace": "W"})");
 }
 
@@ -95,6 +100,14 @@ LRESULT ControlBench::send(UINT message, WPARAM wParam, LPARAM lParam) {
     const LRESULT answer = bench().windows().send(m_control, message, wParam, lParam);
     settle();
     return answer;
+}
+
+workbench::Value ControlBench::db(const std::string& path) {
+    return workbench::drawing::getByPath(bench().editor().documents().current()->data(), path);
+}
+
+void ControlBench::setDb(const std::string& path, const workbench::Value& value) {
+    workbench::drawing::setByPath(bench().editor().documents().current()->data(), path, value);
 }
 
 int ControlBench::position() {

@@ -13,7 +13,8 @@ namespace support {
 class ControlBench : public Bench {
 protected:
     /// In place of the example's menu: one panel with one control, so that nobody else calls the host.
-    void useMenuOf(const std::string& control);
+    /// `count` of them stand below each other.
+    void useMenuOf(const std::string& control, int count = 1);
     /// Shows the dashboard with this control in view, on a panel of its own if no menu was chosen,
     /// and forgets what happened so far.
     void showControl(const std::string& name);
@@ -39,6 +40,10 @@ protected:
     void announce(const wchar_t* variable);
     /// Sends the control a message.
     LRESULT send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    /// A value of the current drawing.
+    workbench::Value db(const std::string& path);
+    /// Changes it from outside.
+    void setDb(const std::string& path, const workbench::Value& value);
 
     int position();
     std::wstring text(const std::string& name = "edit");

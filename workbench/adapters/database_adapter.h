@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workbench/adapters/layer_filter_manager.h"
 #include "workbench/adapters/open_objects.h"
 #include "workbench/drawing/database/database.h"
 #include "workbench/editor/variables/variable_definition.h"
@@ -17,9 +18,11 @@ public:
                     OpenObjects& objects)
         : m_database(database),
           m_variables(variables),
-          m_objects(objects) {}
+          m_objects(objects),
+          m_filters(objects) {}
 
     const drawing::Database& database() const { return m_database; }
+    LayerFilterManager& filters() { return m_filters; }
 
     // VxDbDatabase:
     bool tilemode() const override;
@@ -39,6 +42,7 @@ private:
     const drawing::Database& m_database;
     const VariableValues& m_variables;
     OpenObjects& m_objects;
+    LayerFilterManager m_filters;
 };
 
 }  // namespace workbench

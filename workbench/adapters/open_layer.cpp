@@ -50,6 +50,10 @@ void OpenLayer::setIsLocked(bool locked) {
         edit().locked = locked;
 }
 
+bool OpenLayer::isShownBy(const drawing::LayerFilter& filter) const {
+    return drawing::filterShows(filter, id(), owner().database());
+}
+
 bool OpenLayer::isCurrent() const {
     return id() == drawing::currentLayer(owner().database());
 }

@@ -2,6 +2,7 @@
 
 #include "workbench/adapters/opening.h"
 #include "workbench/drawing/records/layer.h"
+#include "workbench/drawing/records/layer_filters.h"
 
 #include <hostapi/vxdb18/layer.h>
 
@@ -19,6 +20,9 @@ public:
     Zorq::ErrorStatus setIsFrozen(bool frozen) override;
     bool isLocked() const override;
     void setIsLocked(bool locked) override;
+
+    /// Whether a filter shows the layer.
+    bool isShownBy(const drawing::LayerFilter& filter) const;
 
 private:
     bool isCurrent() const;

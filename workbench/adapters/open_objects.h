@@ -31,6 +31,16 @@ public:
     drawing::Status close(const VxDbObject* adapter, drawing::DbObject& object);
     /// Turns an opening for reading into one for writing; one for writing stays as it is.
     drawing::Status upgrade(drawing::DbObject& object);
+    /// Changes a record as an opening for writing would, without handing one out.
+    template <class Data, class Change>
+    drawing::Status change(drawing::ObjectId id, Change change) {
+        if (!m_mayWrite())
+            return drawing::Status::NotLocked;
+        drawing::Writing<Data> writing(m_database, id);
+        if (writing)
+            change(*writing);
+        return writing.status();
+    }
     const drawing::Database& database() const { return m_database; }
     /// How many openings were not closed.
     std::size_t count() const { return m_open.size(); }

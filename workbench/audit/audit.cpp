@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace workbench {
 
@@ -19,7 +20,7 @@ namespace {
 const std::vector<ControlRule>& controlRules() {
     static const std::vector<ControlRule> rules = [] {
         std::vector<ControlRule> all;
-        for (const auto family : {layerRules, navigationRules, hostListRules}) {
+        for (const auto family : {layerRules, navigationRules, textRules, hostListRules}) {
             std::vector<ControlRule> some = family();
             all.insert(all.end(), some.begin(), some.end());
         }
@@ -71,16 +72,25 @@ void auditTools(const HostState& host, std::vector<AuditFinding>& findings) {
 
 }  // namespace
 
-std::vector<AuditFinding> audit(Workbench& workbench) {
+AuditResult auditWithStale(Workbench& workbench) {
     const HostState host(workbench);
-    std::vector<AuditFinding> findings;
+    AuditResult result;
     if (!host.hasDocument())
-        return findings;  // what was shown last stays when the last drawing has gone
-    auditControls(host, findings);
-    auditTools(host, findings);
-    std::erase_if(findings,
-                  [&host](const AuditFinding& finding) { return isStaleOnPurpose(finding, host); });
-    return findings;
+        return result;  // what was shown last stays when the last drawing has gone
+    std::vector<AuditFinding> all;
+    auditControls(host, all);
+    auditTools(host, all);
+    for (AuditFinding& finding : all) {
+        if (const char* const reason = reasonToBeStale(finding, host))
+            result.stale.push_back({std::move(finding), reason});
+        else
+            result.findings.push_back(std::move(finding));
+    }
+    return result;
+}
+
+std::vector<AuditFinding> audit(Workbench& workbench) {
+    return auditWithStale(workbench).findings;
 }
 
 bool hasAuditRule(const std::string& control) {

@@ -17,8 +17,23 @@ struct AuditFinding {
     friend bool operator==(const AuditFinding&, const AuditFinding&) = default;
 };
 
+/// Something on show that doesn't agree with the host's state for a while, as it should.
+struct StaleFinding {
+    AuditFinding finding;
+    std::string reason;  ///< Why it is meant to be so.
+};
+
+/// What an audit has found; nothing stands in both lists.
+struct AuditResult {
+    std::vector<AuditFinding> findings;
+    std::vector<StaleFinding> stale;
+};
+
 /// Compares every control and tool on the screen that has a rule with the state of the host, which
-/// should be at rest. What is stale on purpose is left out. Empty when all agree.
+/// should be at rest.
+AuditResult auditWithStale(Workbench& workbench);
+
+/// The findings alone, without what is stale on purpose. Empty when all agree.
 std::vector<AuditFinding> audit(Workbench& workbench);
 
 /// Whether there is a rule for controls of a name.

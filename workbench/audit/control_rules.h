@@ -18,6 +18,7 @@ struct ControlRule {
 /// The rules of each family.
 std::vector<ControlRule> layerRules();
 std::vector<ControlRule> navigationRules();
+std::vector<ControlRule> textRules();
 std::vector<ControlRule> hostListRules();
 
 }  // namespace workbench

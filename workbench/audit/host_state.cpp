@@ -14,6 +14,11 @@ bool HostState::hasDocument() const {
     return m_workbench.editor().documents().current() != nullptr;
 }
 
+const drawing::Database* HostState::drawing() const {
+    const Document* const document = m_workbench.editor().documents().current();
+    return document == nullptr ? nullptr : &document->data();
+}
+
 bool HostState::isCommandRunning() const {
     return whole(L"CMDACTIVE") != 0;
 }

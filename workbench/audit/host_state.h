@@ -7,6 +7,10 @@
 
 namespace workbench {
 
+namespace drawing {
+class Database;
+}
+
 class Workbench;
 
 /// The state of the host as the rules ask for it.
@@ -16,6 +20,8 @@ public:
 
     Workbench& workbench() const { return m_workbench; }
     bool hasDocument() const;
+    /// The current drawing's database; null for none.
+    const drawing::Database* drawing() const;
     /// Whether a command runs in the current document.
     bool isCommandRunning() const;
     /// A variable that holds a number; nothing if it can't be had.

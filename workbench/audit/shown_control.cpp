@@ -42,12 +42,21 @@ std::optional<bool> ShownControl::isEnabled(const std::string& part) const {
 
 template <class Type>
 const Type* ShownControl::firstWidget() const {
+    if (const auto* const own = dynamic_cast<const Type*>(m_windows.find(m_control)->widget.get()))
+        return own;
     for (const HWND window : m_windows.descendants(m_control)) {
         if (const auto* const found =
                 dynamic_cast<const Type*>(m_windows.find(window)->widget.get()))
             return found;
     }
     return nullptr;
+}
+
+std::optional<std::string> ShownControl::choice() const {
+    const ComboWidget* const combo = list();
+    const QRUI_COMBO_CTRL_ITEM* const chosen =
+        combo == nullptr ? nullptr : combo->entry(combo->selected());
+    return chosen == nullptr ? std::nullopt : std::optional(toUtf8(chosen->text));
 }
 
 const SliderWidget* ShownControl::slider() const {

@@ -28,6 +28,8 @@ public:
     /// Its slider and its list; null for none.
     const SliderWidget* slider() const;
     const ComboWidget* list() const;
+    /// The text of the chosen entry of its list; nothing without a list, or a choice.
+    std::optional<std::string> choice() const;
     /// The control ID of its list, 0 for none.
     int listId() const;
     /// Whether the user is at work in it: types into a field, holds the slider, has the list open.

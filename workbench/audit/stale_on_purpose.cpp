@@ -44,12 +44,20 @@ bool isAnyRunning(const AuditFinding& /*finding*/, const HostState& host) {
 }
 
 constexpr std::string_view kFade = "LayerLockTransparencySliderControl";
+constexpr std::string_view kStates = "LayerStateComboControl";
 constexpr std::string_view kLens = "3DNavZoomSliderControl";
+
+bool always(const AuditFinding& /*finding*/, const HostState& /*host*/) {
+    return true;
+}
 
 constexpr StaleEntry kEntries[] = {
     {"", "", any<&ShownControl::isInUse>, "what the user types or drags isn't an entry yet"},
     {kFade, "slider.enabled", isAnyRunning, "the end of a nested command counts as the end of all"},
     {kFade, "edit.enabled", isAnyRunning, "the end of a nested command counts as the end of all"},
+    {kStates, "selected", always,
+     "whether the layers are as a state says is asked at the ends of "
+     "layer commands only"},
     {kLens, "", any<&ShownControl::hasFieldWithFocus>, "its fields don't change under the user"},
     {kLens, "", isUnfilled, "a new control waits for the first event with its values"},
     {kLens, "", isAnyRunning, "a command's changes of the view come with its end"},
@@ -57,13 +65,13 @@ constexpr StaleEntry kEntries[] = {
 
 }  // namespace
 
-bool isStaleOnPurpose(const AuditFinding& finding, const HostState& host) {
+const char* reasonToBeStale(const AuditFinding& finding, const HostState& host) {
     for (const StaleEntry& entry : kEntries) {
         if ((entry.control.empty() || entry.control == finding.control) &&
             (entry.field.empty() || entry.field == finding.field) && entry.holds(finding, host))
-            return true;
+            return entry.reason;
     }
-    return false;
+    return nullptr;
 }
 
 }  // namespace workbench

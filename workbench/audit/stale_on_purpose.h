@@ -5,7 +5,7 @@
 
 namespace workbench {
 
-/// Whether something that isn't shown as it is is meant to be so.
-bool isStaleOnPurpose(const AuditFinding& finding, const HostState& host);
+/// Why something that isn't shown as it is is meant to be so; null if it isn't.
+const char* reasonToBeStale(const AuditFinding& finding, const HostState& host);
 
 }  // namespace workbench

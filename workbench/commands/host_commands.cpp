@@ -7,6 +7,7 @@
 #include "workbench/commands/erase_command.h"
 #include "workbench/commands/layer_command.h"
 #include "workbench/commands/space_commands.h"
+#include "workbench/commands/text_style_commands.h"
 #include "workbench/commands/undo_commands.h"
 #include "workbench/commands/variable_commands.h"
 #include "workbench/commands/view_commands.h"
@@ -23,6 +24,7 @@ void addHostCommands(CommandRegistry& registry) {
     addDrawCommands(registry);
     addEraseCommands(registry);
     addDialogCommands(registry);
+    addTextStyleCommands(registry);
     addViewCommands(registry);
 }
 

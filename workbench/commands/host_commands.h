@@ -16,6 +16,7 @@ enum class CommandTraits {
     Plain,
     Transparent,  ///< may run inside another command
     NotUndoable,  ///< its work is no step of undo
+    UsesPickSet,  ///< may work on the selection that was made before it
 };
 
 /// Adds a command of the host of the class `Type`, which is made with the arguments.
@@ -28,6 +29,7 @@ void addHostCommand(CommandRegistry& registry, std::wstring_view name, CommandTr
     definition.localName = name;
     definition.transparent = traits == CommandTraits::Transparent;
     definition.undoable = traits != CommandTraits::NotUndoable;
+    definition.usesPickSet = traits == CommandTraits::UsesPickSet;
     definition.make = [arguments...] { return std::make_unique<Type>(arguments...); };
     registry.add(std::move(definition));
 }

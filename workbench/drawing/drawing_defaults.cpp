@@ -136,6 +136,10 @@ void settleVisualStyles(Database& database) {
     }
 }
 
+void settleFilters(Database& database) {
+    Writing<LayerFilters>(database, database.first(RecordKind::LayerFilters))->addGenerated();
+}
+
 void settleCurrent(Database& database) {
     Writing<Current> current(database, database.first(RecordKind::Current));
     if (current->layer.id.isNull()) {
@@ -198,6 +202,7 @@ void addDefaults(Database& database, RecordKind kind) {
 void settleReferences(Database& database) {
     addMissingSheets(database);
     settleVisualStyles(database);
+    settleFilters(database);
     settleCurrent(database);
 }
 

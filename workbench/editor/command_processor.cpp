@@ -198,6 +198,10 @@ std::wstring CommandProcessor::activeNames() const {
     return names;
 }
 
+bool CommandProcessor::mayUsePickSet() const {
+    return m_running.empty() || m_running.back().definition->usesPickSet;
+}
+
 std::wstring CommandProcessor::prompt() const {
     return m_running.empty() ? std::wstring() : m_running.back().command->prompt();
 }
@@ -251,17 +255,29 @@ bool CommandProcessor::start(std::shared_ptr<const CommandDefinition> definition
     if (m_abandoned)
         return false;
     leaveRest();
-    const std::size_t run = m_running.size();
-    m_running.push_back({definition, definition->make(), transparent, false});
-    if (definition->undoable) {
-        m_document.data().undoLog().beginGroup(toUtf8(definition->globalName));
-        m_document.locks().lock(DocumentLocks::kAutoWrite, m_running[run].command.get());
+    std::unique_ptr<Command> made = definition->make();
+    if (definition->undoable && !lockFor(*made)) {
+        noteEvent(definition->globalName, "locked");
+        m_editor.print(m_document, m_document.name() + L" is locked: " + definition->globalName +
+                                       L" can't be done now.");
+        return false;
     }
+    // What may run inside of others leaves the selection to them.
+    if (!definition->usesPickSet && !definition->transparent)
+        m_document.pickSet().clear();
+    const std::size_t run = m_running.size();
+    m_running.push_back({definition, std::move(made), transparent, false});
+    if (definition->undoable)
+        m_document.data().undoLog().beginGroup(toUtf8(definition->globalName));
     noteEvent(definition->globalName, "started");
     return work(run, [this, &definition](Command& command) {
         m_editor.reactors().commandWillStart(definition->globalName.c_str());
         return command.start(scope());
     });
+}
+
+bool CommandProcessor::lockFor(const Command& command) {
+    return m_document.locks().lock(DocumentLocks::kAutoWrite, &command) == Zorq::eOk;
 }
 
 bool CommandProcessor::feed(std::wstring_view answer) {

@@ -64,6 +64,9 @@ public:
     int activity() const;
     /// What CMDNAMES tells: the names from the outermost in, with "'" between.
     std::wstring activeNames() const;
+    /// Whether the selection that was made before may be used now: in the innermost command, or outside
+    /// of all.
+    bool mayUsePickSet() const;
     /// What the innermost command asks for; empty for nothing.
     std::wstring prompt() const;
     /// Whether it is a point that the innermost command asks for.
@@ -93,6 +96,8 @@ private:
     bool startNamed(const std::wstring& entered, bool inside);
     bool start(std::shared_ptr<const CommandDefinition> definition, bool transparent);
     bool feed(std::wstring_view answer);
+    /// Locks the document for a command; false if another's lock is in the way.
+    bool lockFor(const Command& command);
     /// Has a run's command do a step of its work; one that throws has failed.
     template <class Work>
     bool work(std::size_t run, Work step);

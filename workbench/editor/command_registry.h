@@ -20,7 +20,9 @@ struct CommandDefinition {
     std::wstring localName;
     bool transparent = false;  ///< may run inside another command
     bool undoable = true;      ///< its changes are one step of undo
-    bool usesPickSet = false;  ///< may work on the selection that was made before it
+    bool usesPickSet =
+        false;  ///< may work on the selection that was made before it, which others that
+                ///< are not transparent drop
     Make make;
 };
 

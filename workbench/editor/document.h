@@ -5,6 +5,7 @@
 #include "workbench/drawing/drawing.h"
 #include "workbench/editor/document_locks.h"
 #include "workbench/editor/input_manager.h"
+#include "workbench/editor/regeneration.h"
 #include "workbench/editor/variables/variable_definition.h"
 #include "workbench/editor/view_history.h"
 
@@ -12,6 +13,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace workbench {
 
@@ -43,6 +45,10 @@ public:
     const DocumentLocks& locks() const { return m_locks; }
     ViewHistory& viewHistory() { return *m_viewHistory; }
     OpenObjects& openObjects() { return m_openObjects; }
+    Regeneration& regeneration() { return m_regeneration; }
+
+    /// The entities that were selected before a command; see `EntitySelection`.
+    std::vector<drawing::ObjectId>& pickSet() { return m_pickSet; }
 
     /// A gesture is one step of undo and of the viewports' histories; see there.
     void beginGesture(drawing::UndoLog::Gesture gesture = drawing::UndoLog::Gesture::New);
@@ -62,6 +68,8 @@ private:
     DocumentLocks m_locks;
     std::unique_ptr<ViewHistory> m_viewHistory;
     OpenObjects m_openObjects;
+    std::vector<drawing::ObjectId> m_pickSet;
+    Regeneration m_regeneration;
     std::unique_ptr<CommandProcessor> m_processor;
 };
 

@@ -6,7 +6,11 @@
 #include "workbench/editor/document_list.h"
 #include "workbench/editor/editor_objects.h"
 #include "workbench/editor/editor_reactors.h"
+#include "workbench/editor/entity_selection.h"
+#include "workbench/editor/layer_display.h"
+#include "workbench/editor/layer_state_dialogs.h"
 #include "workbench/editor/profile_values.h"
+#include "workbench/editor/selection_sets.h"
 #include "workbench/editor/system_variables.h"
 
 #include <string_view>
@@ -29,9 +33,13 @@ public:
     CommandRegistry& commands() { return m_commands; }
     EditorReactors& reactors() { return m_reactors; }
     EditorObjects& objects() { return m_objects; }
+    SelectionSets& selectionSets() { return m_selectionSets; }
+    EntitySelection& selection() { return m_selection; }
+    LayerStateDialogs& layerStateDialogs() { return m_layerStateDialogs; }
     Journal& journal() { return m_journal; }
     Answers& answers() { return m_answers; }
     ProfileValues& profileValues() { return m_profileValues; }
+    LayerDisplay& layerDisplay() { return m_layerDisplay; }
 
     // The session, as scripts and the desktop drive it.
 
@@ -73,6 +81,10 @@ private:
     SystemVariables m_variables{*this};
     DocumentList m_documents{*this};
     EditorObjects m_objects;
+    SelectionSets m_selectionSets{m_documents};
+    EntitySelection m_selection{*this};
+    LayerStateDialogs m_layerStateDialogs{*this};
+    LayerDisplay m_layerDisplay;
     std::vector<Document*> m_inGesture;  // in the order of their making; not owned, may have gone
 };
 

@@ -7,7 +7,7 @@
 
 namespace workbench {
 
-/// Where the system variables that belong to the user's profile are kept.
+/// Where the system variables and settings that belong to the user's profile are kept.
 class ProfileValues {
 public:
     virtual ~ProfileValues() = default;
@@ -16,6 +16,8 @@ public:
     /// The kept value of a variable; nil if the profile has none.
     virtual Value value(std::string_view variable) const = 0;
     virtual void setValue(std::string_view variable, const Value& value) = 0;
+    /// What the profile keeps of the registry under a path, "Key/Key/Value"; nil for nothing.
+    virtual Value registryValue(std::string_view path) const = 0;
 };
 
 }  // namespace workbench

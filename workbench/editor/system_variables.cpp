@@ -1,6 +1,7 @@
 #include "workbench/editor/system_variables.h"
 
 #include "workbench/base/text.h"
+#include "workbench/base/turn.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/editor/command_processor.h"
 #include "workbench/editor/document.h"
@@ -102,6 +103,26 @@ Value SystemVariables::read(std::wstring_view name) const {
 
 bool SystemVariables::write(const VariableDefinition& variable, const Value& value,
                             VariableWriter writer) {
+    Document* const document = m_editor.documents().current();
+    if (variable.implied == nullptr || document == nullptr)
+        return writeAlone(variable, value, writer);
+    const Turn turn;  // a reactor may close the document
+    const drawing::UndoGroup together(document->data().undoLog(), toUtf8(variable.name));
+    if (!writeAlone(variable, value, writer))
+        return false;
+    if (m_editor.documents().current() == document)
+        writeImplied(variable);
+    return true;
+}
+
+void SystemVariables::writeImplied(const VariableDefinition& variable) {
+    const std::optional<ImpliedValue> implied = variable.implied(scope());
+    if (implied && read(implied->variable) != implied->value)
+        write(implied->variable, implied->value, VariableWriter::Host);
+}
+
+bool SystemVariables::writeAlone(const VariableDefinition& variable, const Value& value,
+                                 VariableWriter writer) {
     const std::optional<Value> fitted = fitToType(variable.type, value);
     const bool allowed = fitted && (writer == VariableWriter::Host ||
                                     (!variable.readOnly && isInRange(variable, *fitted)));

@@ -60,6 +60,8 @@ private:
     int commandActivity() const override;
     std::wstring commandNames() const override;
 
+    bool writeAlone(const VariableDefinition& variable, const Value& value, VariableWriter writer);
+    void writeImplied(const VariableDefinition& variable);
     VariableScope scope() const;
     const VariableValues& documentValues() const;
     VariableValues& documentValues();

@@ -10,6 +10,7 @@
 #include "workbench/navigation/navigation_tool.h"
 #include "workbench/palettes/tool_palettes.h"
 #include "workbench/profiles/profile_store.h"
+#include "workbench/profiles/user_registry.h"
 #include "workbench/toolbar/toolbar_controls.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -48,6 +49,7 @@ void Workbench::makeUnits() {
     m_modules = std::make_unique<ModuleLoader>(m_options.libraryDir, m_faults);
     m_toolkit = std::make_unique<Toolkit>(*m_windows, m_journal, m_answers, m_texts);
     m_profiles = std::make_unique<ProfileStore>(m_options.profileDir, m_journal);
+    m_userRegistry = std::make_unique<UserRegistry>(*m_profiles);
     m_barMemory = std::make_unique<BarMemory>(*m_toolkit, *m_profiles);
     m_editor = std::make_unique<Editor>(m_journal, m_answers, *m_profiles, m_modules->registry());
     addHostCommands(m_editor->commands());
@@ -72,6 +74,7 @@ void Workbench::endUnits() {
     m_menu.reset();
     m_editor.reset();
     m_barMemory.reset();
+    m_userRegistry.reset();
     m_profiles.reset();
     m_toolkit.reset();
     m_modules.reset();

@@ -23,6 +23,7 @@ class ProfileStore;
 class Toolkit;
 class ToolbarControls;
 class ToolPalettes;
+class UserRegistry;
 class WindowSystem;
 
 /// The file name of the dashboard's module.
@@ -78,6 +79,7 @@ public:
     ModuleLoader& modules() { return *m_modules; }
     Toolkit& toolkit() { return *m_toolkit; }
     ProfileStore& profiles() { return *m_profiles; }
+    UserRegistry& userRegistry() { return *m_userRegistry; }
     Editor& editor() { return *m_editor; }
     MenuHost& menu() { return *m_menu; }
     ToolPalettes& toolPalettes() { return *m_toolPalettes; }
@@ -103,6 +105,7 @@ private:
     std::unique_ptr<ModuleLoader> m_modules;
     std::unique_ptr<Toolkit> m_toolkit;
     std::unique_ptr<ProfileStore> m_profiles;
+    std::unique_ptr<UserRegistry> m_userRegistry;
     std::unique_ptr<BarMemory> m_barMemory;
     std::unique_ptr<Editor> m_editor;
     std::unique_ptr<MenuHost> m_menu;

@@ -16,6 +16,7 @@ namespace {
 
 constexpr const char* kStorage = "Storage";
 constexpr const char* kVariables = "Variables";
+constexpr const char* kRegistry = "Registry";
 
 /// The names of a path "A/B"; empty for one with a part that cannot be a node.
 std::vector<std::string> partsOf(std::string_view path) {
@@ -28,6 +29,11 @@ std::vector<std::string> partsOf(std::string_view path) {
         start = end + 1;
     }
     return parts;
+}
+
+/// The keys of a value's path.
+RegistryPath keyOf(const RegistryPath& path) {
+    return {path.begin(), path.end() - 1};
 }
 
 }  // namespace
@@ -47,6 +53,18 @@ Value Profile::variable(std::string_view name) const {
 
 void Profile::setVariable(std::string_view name, const Value& value) {
     writeVariable(section(kVariables), name, value);
+}
+
+pugi::xml_node Profile::findRegistryKey(const RegistryPath& key) const {
+    return workbench::findRegistryKey(m_tree->root().child(kRegistry), key);
+}
+
+Value Profile::registryValue(const RegistryPath& path) const {
+    return readRegistryValue(findRegistryKey(keyOf(path)), path.back());
+}
+
+void Profile::setRegistryValue(const RegistryPath& path, const Value& value) {
+    writeRegistryValue(section(kRegistry), keyOf(path), path.back(), value);
 }
 
 void Profile::save() const {

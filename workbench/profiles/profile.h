@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/base/value.h"
+#include "workbench/profiles/registry_element.h"
 #include "workbench/xml/xml_tree.h"
 
 #include <hostapi/zorq/profiles.h>
@@ -12,8 +13,8 @@
 
 namespace workbench {
 
-/// One profile while the host runs: the tree that modules store in, and the kept variables. On disk
-/// it is as old as its last `save`.
+/// One profile while the host runs: the tree that modules store in, the kept variables, and its part
+/// of the registry. On disk it is as old as its last `save`.
 class Profile final : public VxApProfileStorage {
 public:
     /// Reads the profile's file, or starts a fresh profile if there is none or if it is damaged;
@@ -28,6 +29,14 @@ public:
     Value variable(std::string_view name) const;
     /// Keeps a number or a text; anything else, nil for one, takes the variable away.
     void setVariable(std::string_view name, const Value& value);
+
+    /// A key of the profile's part of the registry; an empty one if there is none.
+    pugi::xml_node findRegistryKey(const RegistryPath& key) const;
+    /// A value of it: the last name of the path is the value's, the others are the keys'. Nil if there
+    /// is none.
+    Value registryValue(const RegistryPath& path) const;
+    /// Keeps a value as `writeRegistryValue`.
+    void setRegistryValue(const RegistryPath& path, const Value& value);
 
     /// Writes the file, atomically. Throws `InputError`; the old file is untouched then.
     void save() const;

@@ -75,12 +75,33 @@ void ProfileStore::save() {
     saved.save();
 }
 
+Profile* ProfileStore::find(std::string_view name) {
+    if (equalNoCase(currentName(), name))
+        return m_current;
+    for (const auto& [known, profile] : m_open) {
+        if (equalNoCase(known, name))
+            return profile.get();
+    }
+    const std::optional<std::string> onDisk = findOnDisk(name);
+    try {
+        return onDisk ? &open(*onDisk) : nullptr;
+    } catch (const InputError& error) {
+        m_complaints.emplace_back(error.what());
+        return nullptr;
+    }
+}
+
 Value ProfileStore::value(std::string_view variable) const {
     return m_current->variable(variable);
 }
 
 void ProfileStore::setValue(std::string_view variable, const Value& value) {
     m_current->setVariable(variable, value);
+}
+
+Value ProfileStore::registryValue(std::string_view path) const {
+    const std::optional<RegistryPath> parsed = parseRegistryPath(path);
+    return parsed ? m_current->registryValue(*parsed) : Value();
 }
 
 void ProfileStore::addReactor(VxApProfileManagerReactor* reactor) {
@@ -122,6 +143,17 @@ fs::path ProfileStore::fileOf(std::string_view name) const {
 Profile* ProfileStore::findOpen(std::string_view name) const {
     const auto found = m_open.find(name);
     return found == m_open.end() ? nullptr : found->second.get();
+}
+
+std::optional<std::string> ProfileStore::findOnDisk(std::string_view name) const {
+    std::error_code ignored;
+    for (const fs::directory_entry& entry : fs::directory_iterator(m_folder, ignored)) {
+        std::string profile = entry.path().stem().string();
+        const bool isProfile = profileFileName(profile) == entry.path().filename().string();
+        if (isProfile && equalNoCase(std::string_view(profile), name))
+            return profile;
+    }
+    return {};
 }
 
 Profile& ProfileStore::open(std::string_view name) {

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,6 +47,10 @@ public:
     /// `InputError` if it cannot be written; the old file is untouched then.
     void save();
 
+    /// The profile of a name, without regard to case; its file is read if it wasn't yet. Null if there is
+    /// none, or with a complaint if it can't be read.
+    Profile* find(std::string_view name);
+
     /// Says that something kept in the current profile can't be taken.
     void complain(const std::string& what);
     /// What was said about damaged files, in order.
@@ -55,6 +60,7 @@ public:
     std::string currentProfile() const override { return currentName(); }
     Value value(std::string_view variable) const override;
     void setValue(std::string_view variable, const Value& value) override;
+    Value registryValue(std::string_view path) const override;
 
     // VxApProfileManager:
     void addReactor(VxApProfileManagerReactor* reactor) override;
@@ -64,6 +70,8 @@ public:
 private:
     std::filesystem::path fileOf(std::string_view name) const;
     Profile* findOpen(std::string_view name) const;
+    /// The exact name of a profile's file in the folder; nothing if there is none.
+    std::optional<std::string> findOnDisk(std::string_view name) const;
     Profile& open(std::string_view name);
 
     Journal& m_journal;

@@ -283,11 +283,24 @@ HWND mainPart(Session& session, const Arguments& arguments) {
     return main == nullptr ? listOf(session, arguments) : main;
 }
 
+/// The part that is named first, or the main part.
+HWND partOrMain(Session& session, const Arguments& arguments) {
+    return arguments.has(1) ? partOf(session, arguments, arguments.text(1))
+                            : mainPart(session, arguments);
+}
+
+/// Result: whether the part takes the mouse.
+int hover(Session& session, Arguments& arguments) {
+    const HWND part = partOrMain(session, arguments);
+    const CPoint middle = gestures::middleOf(session.toolkit(), part);
+    const bool taken = gestures::hoverAt(session.toolkit(), part, middle);
+    session.settle();
+    return pushTruth(arguments.lua(), taken);
+}
+
 /// The tooltip of the slider or list, or of a field.
 int tip(Session& session, Arguments& arguments) {
-    const HWND part = arguments.has(1) ? partOf(session, arguments, arguments.text(1))
-                                       : mainPart(session, arguments);
-    const Window* window = windows(session).find(part);
+    const Window* window = windows(session).find(partOrMain(session, arguments));
     const auto* widget = dynamic_cast<const ControlWidget*>(window->widget.get());
     lua_pushstring(arguments.lua(), widget == nullptr ? "" : toUtf8(widget->tip()).c_str());
     return 1;
@@ -304,6 +317,7 @@ const std::vector<Call>& controlMethods() {
         {"enabled", enabled},
         {"enter", enter, CallKind::Acts},
         {"focus", focus, CallKind::Acts},
+        {"hover", hover, CallKind::Acts},
         {"items", items},
         {"key", key, CallKind::Acts},
         {"open", open, CallKind::Acts},

@@ -9,6 +9,8 @@
 
 #include <lua.hpp>
 
+#include <utility>
+
 namespace workbench::script {
 
 namespace {
@@ -109,6 +111,15 @@ int finish(Session& session, Arguments& arguments) {
     return 0;
 }
 
+int select(Session& session, Arguments& arguments) {
+    Document& document = currentDocument(session);
+    auto entities = EntitySelection::entitiesOf(document, arguments.value(1));
+    if (!editor(session).selection().selectBefore(document, std::move(entities)))
+        throw ScriptError("a command is running: what it asks for is answered by wb.answer");
+    session.settle();
+    return 0;
+}
+
 int var(Session& session, Arguments& arguments) {
     const std::wstring name = toWide(arguments.text(1));
     Value value = editor(session).read(name);
@@ -168,12 +179,19 @@ int db(Session& session, Arguments& arguments) {
 
 const std::vector<Call>& documentCalls() {
     static const std::vector<Call> calls{
-        {"activate", activate, CallKind::Acts}, {"begin", begin, CallKind::Acts},
-        {"close", close, CallKind::Acts},       {"db", db},
-        {"finish", finish, CallKind::Acts},     {"new", newDocument, CallKind::Acts},
-        {"open", open, CallKind::Acts},         {"redo", redo, CallKind::Acts},
-        {"set", set, CallKind::Acts},           {"type", type, CallKind::Acts},
-        {"undo", undo, CallKind::Acts},         {"var", var},
+        {"activate", activate, CallKind::Acts},
+        {"begin", begin, CallKind::Acts},
+        {"close", close, CallKind::Acts},
+        {"db", db},
+        {"finish", finish, CallKind::Acts},
+        {"new", newDocument, CallKind::Acts},
+        {"open", open, CallKind::Acts},
+        {"redo", redo, CallKind::Acts},
+        {"select", select, CallKind::Acts},
+        {"set", set, CallKind::Acts},
+        {"type", type, CallKind::Acts},
+        {"undo", undo, CallKind::Acts},
+        {"var", var},
     };
     return calls;
 }

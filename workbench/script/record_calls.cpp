@@ -3,6 +3,8 @@
 #include "workbench/script/lua_values.h"
 #include "workbench/script/script_error.h"
 
+#include <lua.hpp>
+
 namespace workbench::script {
 
 namespace {
@@ -29,14 +31,35 @@ int sent(Session& session, Arguments& arguments) {
     return 1;
 }
 
+Value::Table tableOf(const AuditFinding& finding) {
+    return {{"control", finding.control},
+            {"field", finding.field},
+            {"shown", finding.shown},
+            {"expected", finding.expected}};
+}
+
+/// Gives the table on top of the stack a field that is read by name alone: the table stays as long,
+/// and as empty, as it was.
+void addHiddenField(lua_State* lua, const char* name, const Value& value) {
+    lua_newtable(lua);
+    push(lua, Value::Table{{name, value}});
+    lua_setfield(lua, -2, "__index");
+    lua_setmetatable(lua, -2);
+}
+
 int auditAll(Session& session, Arguments& arguments) {
-    Value::List list;
-    for (const AuditFinding& finding : audit(session.workbench()))
-        list.push_back(Value::Table{{"control", finding.control},
-                                    {"field", finding.field},
-                                    {"shown", finding.shown},
-                                    {"expected", finding.expected}});
-    push(arguments.lua(), Value(std::move(list)));
+    const AuditResult result = auditWithStale(session.workbench());
+    Value::List findings;
+    for (const AuditFinding& finding : result.findings)
+        findings.push_back(tableOf(finding));
+    Value::List stale;
+    for (const StaleFinding& each : result.stale) {
+        Value::Table table = tableOf(each.finding);
+        table.push_back({"reason", each.reason});
+        stale.push_back(std::move(table));
+    }
+    push(arguments.lua(), Value(std::move(findings)));
+    addHiddenField(arguments.lua(), "stale", Value(std::move(stale)));
     return 1;
 }
 

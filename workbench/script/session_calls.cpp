@@ -4,6 +4,7 @@
 #include "workbench/menu/menu_host.h"
 #include "workbench/profiles/profile_store.h"
 #include "workbench/script/calls.h"
+#include "workbench/script/lua_values.h"
 #include "workbench/script/script_error.h"
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
@@ -87,6 +88,33 @@ int saveProfile(Session& session, Arguments& /*arguments*/) {
     return 0;
 }
 
+/// A path of the registry within the current profile.
+RegistryPath registryPath(const std::string& text) {
+    std::optional<RegistryPath> path = parseRegistryPath(text);
+    if (!path)
+        throw ScriptError("\"" + text +
+                          "\" is no path of the registry: names with / or \\ between them");
+    return *std::move(path);
+}
+
+int registry(Session& session, Arguments& arguments) {
+    const std::string text = arguments.text(1);
+    const RegistryPath path = registryPath(text);
+    Profile& profile = session.workbench().profiles().current();
+    if (arguments.count() < 2) {
+        push(arguments.lua(), profile.registryValue(path));
+        return 1;
+    }
+    const Value value = arguments.value(2);
+    if (!value.isNil() && !isRegistryValue(value)) {
+        throw ScriptError("the registry can't hold " + value.describe() +
+                          ": a text, or a whole number from 0 to 4294967295");
+    }
+    session.noteGesture("registry " + text + " " + arguments.words(2));
+    profile.setRegistryValue(path, value);
+    return 0;
+}
+
 int theme(Session& session, Arguments& arguments) {
     const std::string name = arguments.text(1);
     const std::optional<Shade> shade = shadeOf(name);
@@ -130,6 +158,7 @@ const std::vector<Call>& sessionCalls() {
         {"profile", profile, CallKind::Acts},
         {"quit_abort", quitAbort, CallKind::Acts},
         {"quit_begin", quitBegin, CallKind::Acts},
+        {"registry", registry},
         {"save_profile", saveProfile, CallKind::Acts},
         {"theme", theme, CallKind::Acts},
         {"unfail", unfail, CallKind::Acts},

@@ -4,10 +4,23 @@
 #include "workbench/editor/editor.h"
 #include "workbench/editor/statuses.h"
 #include "workbench/host/workbench.h"
+#include "workbench/toolkit/toolkit.h"
 
 #include <hostapi/zorq/documents.h>
 
 namespace workbench {
+
+namespace {
+
+constexpr UINT kWarningIcon = 48;
+
+void tellLocked(const Document& document, const wchar_t* command) {
+    const std::wstring name = command == nullptr ? std::wstring() : command;
+    Workbench::current().toolkit().boxes().show(
+        document.name() + L" is locked: " + name + L" can't be done now.", kWarningIcon, {});
+}
+
+}  // namespace
 
 int DocumentList::documentCount() const {
     HostCall call("VxApDocManager::documentCount");
@@ -48,7 +61,10 @@ Zorq::ErrorStatus DocumentList::lockDocument(VxApDocument* document, int mode,
     Document* locked = find(document);
     if (locked == nullptr)
         return call.returns(kNoDocument);
-    return call.returns(locked->locks().lock(mode, this) ? Zorq::eOk : kInvalidInput);
+    const Zorq::ErrorStatus status = locked->locks().lock(mode, this);
+    if (status == kLockViolation && prompt)
+        tellLocked(*locked, localCommand);
+    return call.returns(status);
 }
 
 Zorq::ErrorStatus DocumentList::unlockDocument(VxApDocument* document) {
@@ -78,39 +94,47 @@ Zorq::ErrorStatus DocumentList::sendToCommandLine(VxApDocument* document, const 
 
 namespace {
 
-int chosenMode(int mode) {
-    return mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
+workbench::DocumentList& documents() {
+    return workbench::Workbench::current().editor().documents();
+}
+
+/// Locks a document for a scope of a module, in the host's own choice of a mode for 0. The document if
+/// the scope has to be ended; null for a mode that locks nothing, and for no document. What is written
+/// meanwhile is one step of undo.
+workbench::Document* lockScope(workbench::Document* document, int mode, const void* scope) {
+    if (document == nullptr)
+        return nullptr;
+    const int taken = mode == 0 ? workbench::DocumentLocks::kAutoWrite : mode;
+    const Zorq::ErrorStatus status = document->locks().lockScope(taken, scope);
+    if (status != Zorq::eOk && status != workbench::kLockViolation)
+        return nullptr;
+    document->data().undoLog().beginGroup(std::string());
+    return document;
 }
 
 }  // namespace
 
 VxApDocManager* vxDocManagerPtr() {
     workbench::HostCall call("vxDocManagerPtr");
-    VxApDocManager* manager =
-        call.failed() ? nullptr : &workbench::Workbench::current().editor().documents();
+    VxApDocManager* manager = call.failed() ? nullptr : &documents();
     return call.returns(manager);
 }
 
 VxAxDocLock::VxAxDocLock(VxDbDatabase* database, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {database, mode});
-    workbench::Document* document =
-        workbench::Workbench::current().editor().documents().find(database);
-    if (!call.failed() && document != nullptr && document->locks().lock(chosenMode(mode), this))
-        m_document = document;
+    if (!call.failed())
+        m_document = lockScope(documents().find(database), mode, this);
 }
 
 VxAxDocLock::VxAxDocLock(VxApDocument* document, int mode) {
     workbench::HostCall call("VxAxDocLock::VxAxDocLock", {document, mode});
-    workbench::Document* locked =
-        workbench::Workbench::current().editor().documents().find(document);
-    if (!call.failed() && locked != nullptr && locked->locks().lock(chosenMode(mode), this))
-        m_document = locked;
+    if (!call.failed())
+        m_document = lockScope(documents().find(document), mode, this);
 }
 
 VxAxDocLock::~VxAxDocLock() {
     workbench::HostCall call("VxAxDocLock::~VxAxDocLock");
-    workbench::Document* document =
-        workbench::Workbench::current().editor().documents().find(m_document);
-    if (document != nullptr)
-        document->locks().unlock(this);
+    workbench::Document* document = documents().find(m_document);
+    if (document != nullptr && document->locks().unlock(this))
+        document->data().undoLog().endGroup();
 }

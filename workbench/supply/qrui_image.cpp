@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 using workbench::HostCall;
@@ -30,6 +31,14 @@ std::vector<std::uint8_t> readPicture(const std::filesystem::path& file) {
     return bytes;
 }
 
+/// The bytes of a library's picture in one size, in pixels; empty if it has none.
+std::vector<std::uint8_t> pictureOf(const workbench::ResourceLibrary& resources,
+                                    const std::string& key, int size) {
+    const auto bytes = resources.findPicture(key, static_cast<std::uint32_t>(size));
+    return bytes ? std::vector<std::uint8_t>(bytes->data, bytes->data + bytes->length)
+                 : std::vector<std::uint8_t>();
+}
+
 }  // namespace
 
 HBITMAP QrUiLoadImageFromResource(HINSTANCE library, const wchar_t* key, int size, int flags) {
@@ -38,12 +47,11 @@ HBITMAP QrUiLoadImageFromResource(HINSTANCE library, const wchar_t* key, int siz
     HBITMAP picture = nullptr;
     if (!call.failed() && library != nullptr && key != nullptr && size > 0) {
         const std::string name = workbench::toUtf8(key);
-        const auto bytes =
-            Workbench::current().modules().libraries().resources(library).findPicture(
-                name, static_cast<std::uint32_t>(size));
-        if (bytes)
+        const auto& resources = Workbench::current().modules().libraries().resources(library);
+        std::vector<std::uint8_t> bytes = pictureOf(resources, name, size);
+        if (!bytes.empty())
             picture = Workbench::current().toolkit().pictures().add(
-                name, {bytes->data, bytes->data + bytes->length});
+                name, std::move(bytes), pictureOf(resources, name, 2 * size));
     }
     call.returns(static_cast<const void*>(picture));
     return picture;

@@ -1,11 +1,11 @@
 #include "workbench/core/host_call.h"
 #include "workbench/supply/qrui_window.h"
-#include "workbench/toolkit/control_widget.h"
+#include "workbench/toolkit/tool_tip_widget.h"
 
 #include <hostapi/qrui18/tool_tip.h>
 
-using workbench::ControlWidget;
 using workbench::HostCall;
+using workbench::ToolTipWidget;
 using workbench::supply::windows;
 
 BOOL CQrToolTipCtrl::Create(CWnd* parent) {
@@ -15,14 +15,14 @@ BOOL CQrToolTipCtrl::Create(CWnd* parent) {
     using namespace workbench::supply;
     // Never on show itself: the toolkit's tooltips show the texts of the windows that they are over.
     auto creation = creationOf("CQrToolTipCtrl", WS_CHILD, {}, parent, 0);
-    const bool made =
-        createChild(*this, std::move(creation), std::make_unique<workbench::Widget>());
+    const bool made = createChild(*this, std::move(creation),
+                                  std::make_unique<ToolTipWidget>(windows(), toolkit().toolTips()));
     return call.returns(made ? 1 : 0);
 }
 
 void CQrToolTipCtrl::AddTool(CWnd* tool, const VxString& text) {
     HostCall call("CQrToolTipCtrl::AddTool", {text});
-    auto* const widget = windows().widgetOf<ControlWidget>(tool);
-    if (!call.failed() && m_hWnd != nullptr && widget != nullptr)
-        widget->setTip(text);
+    auto* const tip = windows().widgetOf<ToolTipWidget>(this);
+    if (!call.failed() && tip != nullptr)
+        tip->addTool(tool, text);
 }

@@ -1,6 +1,7 @@
 #include "workbench/core/host_call.h"
 #include "workbench/host/workbench.h"
 #include "workbench/loader/module_loader.h"
+#include "workbench/profiles/user_registry.h"
 
 #include <hostapi/vxdb18/rx_object.h>
 
@@ -35,6 +36,12 @@ void vxrxRegisterService(const wchar_t* name) {
     if (call.failed() || name == nullptr)
         return;
     loader().registry().registerService(name, loader().runningModule());
+}
+
+VxString vxrxProductKey() {
+    HostCall call("vxrxProductKey");
+    return call.returns(call.failed() ? VxString()
+                                      : VxString(workbench::UserRegistry::kProductKey));
 }
 
 bool vxrxLoadModule(const wchar_t* fileName, bool print, bool asCommand) {

@@ -3,6 +3,7 @@
 #include "workbench/windows/window.h"
 
 #include <string>
+#include <utility>
 
 namespace workbench {
 
@@ -20,10 +21,20 @@ public:
 
     /// The window's own tooltip.
     const std::wstring& tip() const { return m_tip; }
-    void setTip(std::wstring tip) { m_tip = std::move(tip); }
+    void setTip(std::wstring tip) {
+        m_tip = std::move(tip);
+        m_isTipRelayed = false;
+    }
+    /// Gives the window a text that a tooltip of its module shows once it is told of the mouse.
+    void setRelayedTip(std::wstring tip) {
+        m_tip = std::move(tip);
+        m_isTipRelayed = true;
+    }
+    bool isTipRelayed() const { return m_isTipRelayed; }
 
 private:
     std::wstring m_tip;
+    bool m_isTipRelayed = false;
 };
 
 }  // namespace workbench

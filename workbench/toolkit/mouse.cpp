@@ -158,8 +158,13 @@ void Mouse::noteOver(HWND window, CPoint point) {
     if (found == nullptr)
         return;
     const auto* const control = dynamic_cast<const ControlWidget*>(found->widget.get());
-    m_toolkit.toolTips().mouseOver(
-        window, control == nullptr ? std::wstring() : control->tipAt(*found, point));
+    ToolTips& tips = m_toolkit.toolTips();
+    if (control == nullptr)
+        tips.mouseOver(window, {});
+    else if (control->isTipRelayed())
+        tips.mouseOverRelayed(window);
+    else
+        tips.mouseOver(window, control->tipAt(*found, point));
 }
 
 }  // namespace workbench

@@ -12,12 +12,13 @@ std::uintptr_t numberOf(HBITMAP picture) {
 
 }  // namespace
 
-HBITMAP PictureTable::add(std::string source, std::vector<std::uint8_t> png) {
-    return keep(Picture{std::move(source), std::move(png), {}});
+HBITMAP PictureTable::add(std::string source, std::vector<std::uint8_t> png,
+                          std::vector<std::uint8_t> fine) {
+    return keep(Picture{std::move(source), std::move(png), std::move(fine), {}});
 }
 
 HBITMAP PictureTable::addDecoded(std::string source, PngPicture pixels) {
-    return keep(Picture{std::move(source), {}, std::move(pixels)});
+    return keep(Picture{std::move(source), {}, {}, std::move(pixels)});
 }
 
 HBITMAP PictureTable::keep(Picture picture) {
@@ -35,14 +36,23 @@ const std::string& PictureTable::source(HBITMAP picture) const {
     return found == m_pictures.end() ? kNone : found->second.source;
 }
 
-PngPicture PictureTable::pixels(HBITMAP picture) const {
+const PictureTable::Picture& PictureTable::present(HBITMAP picture) const {
     const auto found = m_pictures.find(numberOf(picture));
     if (found == m_pictures.end())
         throw InputError("picture", "it was given back");
-    const Picture& known = found->second;
+    return found->second;
+}
+
+PngPicture PictureTable::pixels(HBITMAP picture) const {
+    const Picture& known = present(picture);
     if (known.pixels)
         return *known.pixels;
     return decodePng(known.png.data(), known.png.size(), known.source);
+}
+
+PngPicture PictureTable::finePixels(HBITMAP picture) const {
+    const Picture& known = present(picture);
+    return decodePng(known.fine.data(), known.fine.size(), known.source);
 }
 
 }  // namespace workbench

@@ -24,6 +24,11 @@ void ToolTips::mouseOver(HWND window, const std::wstring& text) {
     m_rest.start(kRestMs);
 }
 
+void ToolTips::mouseOverRelayed(HWND window) {
+    if (window != m_over)
+        hide();
+}
+
 void ToolTips::show(HWND window, const std::wstring& text) {
     if (window == m_over && text == m_shown)
         return;

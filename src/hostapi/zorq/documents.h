@@ -70,8 +70,11 @@ public:
     virtual VxApDocument* mdiActiveDocument() const = 0;
     virtual void addReactor(VxApDocManagerReactor* reactor) = 0;
     virtual void removeReactor(VxApDocManagerReactor* reactor) = 0;
-    /// Locks a document in a mode (4 is write) for a command of these names; prompts the user on a
-    /// conflict if `prompt`. 0 on success. A module that writes to a drawing outside of a command needs
+    /// Locks a document in a mode (4 is write) for a command of these names. 0 on success; the status
+    /// of a lock violation while another owner's lock is in the way, and a box tells the user so if
+    /// `prompt`. All locks by this call have one owner, and so has each `VxAxDocLock` and each running
+    /// command. The locks of one owner never stand in its own way; those of others do where one of the
+    /// two is exclusive, or where one is protected and the other for writing too. A module that writes to a drawing outside of a command needs
     /// a lock for writing: without one no system variable of the drawing can be set, no object be opened
     /// for writing and no view be stepped back. The view of a viewport is the graphics system's,
     /// and needs none.
@@ -91,8 +94,9 @@ public:
 /// The document manager.
 VxApDocManager* vxDocManagerPtr();
 
-/// Locks a document for the life of this object. Mode 1 is write; 0 leaves the choice to the host, which
-/// locks for writing. Nothing happens for null.
+/// Locks a document, or that of a database, for the life of this object. Mode 1 is write; 0 leaves the
+/// choice to the host, which locks for writing. Nothing happens for null. Where another owner's lock is
+/// in the way nothing is locked, and writing to the drawing is refused meanwhile.
 class VXHOST VxAxDocLock {
 public:
     VxAxDocLock(VxDbDatabase* database, int mode);
@@ -102,5 +106,5 @@ public:
     ~VxAxDocLock();
 
 private:
-    VxApDocument* m_document = nullptr;  // null when nothing was locked; not owned
+    VxApDocument* m_document = nullptr;  // null when there was nothing to lock; not owned
 };

@@ -72,6 +72,17 @@ TEST_F(AuditTest, ALensSliderThatCannotReadItsViewIsFound) {
                                                 "3DNavZoomSliderControl.edit2"}));
 }
 
+TEST_F(AuditTest, AFilterComboThatDoesNotFollowIsFound) {
+    EXPECT_EQ(
+        findingsAfter(R"(wb.db("filters.current", "All Used Layers"))"),
+        (std::vector<AuditFinding>{{"LayerFilterComboControl", "text", "All", "All Used Layers"}}));
+}
+
+TEST_F(AuditTest, ATextHeightThatDoesNotFollowIsFound) {
+    EXPECT_EQ(findingsAfter(R"(wb.db("textstyles.Standard.height", 9.0))"),
+              (std::vector<AuditFinding>{{"TextHeightComboControl", "text", "2.5000", "9.0000"}}));
+}
+
 TEST_F(AuditTest, AToolThatDoesNotFollowIsFound) {
     const auto findings = findingsAfter(R"(
         wb.fail("vxedGetVar")
@@ -99,12 +110,38 @@ TEST_F(AuditTest, ScriptsGetTheFindingsAsTables) {
     )");
 }
 
+TEST_F(AuditTest, WhatIsStaleOnPurposeIsToldWithItsReasonAndIsNoFinding) {
+    runOnDashboard(R"(
+        wb.control("LayerLockTransparencySliderControl"):put("12")
+        local report = wb.audit()
+        assert(#report == 0 and next(report) == nil)
+        assert(#report.stale == 1)
+        local stale = report.stale[1]
+        assert(stale.control == "LayerLockTransparencySliderControl" and stale.field == "edit")
+        assert(stale.shown == "12" and stale.expected == "50%")
+        assert(stale.reason == "what the user types or drags isn't an entry yet")
+    )");
+}
+
+TEST_F(AuditTest, WhereAllIsInStepNothingIsStale) {
+    runOnDashboard("assert(#wb.audit().stale == 0)");
+}
+
+TEST_F(AuditTest, AFindingIsNotStaleAsWell) {
+    runOnDashboard(std::string(kUnreadFade) + R"(
+        local report = wb.audit()
+        assert(#report > 0 and #report.stale == 0)
+    )");
+}
+
 TEST_F(AuditTest, EveryControlOfTheModuleHasARule) {
     for (const ToolbarControlRow& row : kToolbarControls)
         EXPECT_TRUE(hasAuditRule(toUtf8(row.name))) << toUtf8(row.name);
-    for (const char* name : {"LayerLockTransparencySliderControl", "3DNavZoomSliderControl",
-                             "3DNavStepSizeSliderControl", "3DNavStepsPerSecSliderControl",
-                             "3DNavViewComboCtrl", "3DNavPointTriplet1", "3DNavPointTriplet2"})
+    for (const char* name :
+         {"LayerLockTransparencySliderControl", "LayerFilterComboControl", "LayerStateComboControl",
+          "TextHeightComboControl", "3DNavZoomSliderControl", "3DNavStepSizeSliderControl",
+          "3DNavStepsPerSecSliderControl", "3DNavViewComboCtrl", "3DNavPointTriplet1",
+          "3DNavPointTriplet2"})
         EXPECT_TRUE(hasAuditRule(name)) << name;
     EXPECT_FALSE(hasAuditRule("NoSuchControl"));
 }

@@ -17,7 +17,7 @@ constexpr const char* kRandomWork = R"(
     local numbers = {"1", "35", "60", "85", "0.5", "1000", "none", "", "-3"}
     local variables = {{"LAYLOCKFADECTL", -90, 90}, {"PERSPECTIVE", 0, 1}, {"LUPREC", 0, 8},
                        {"AUPREC", 0, 8}, {"LIGHTINGUNITS", 0, 2}, {"CAMERADISPLAY", 0, 1},
-                       {"TILEMODE", 0, 1}}
+                       {"TILEMODE", 0, 1}, {"TEXTSIZE", 1, 9}, {"LAYEREVAL", 0, 2}}
     local open = 1
     local steps = {
         function()
@@ -39,6 +39,17 @@ constexpr const char* kRandomWork = R"(
         function()
             local item = wb.item(any(tools))
             if item then item:click() end
+        end,
+        function()
+            local list = wb.control(any{"LayerStateComboControl", "TextHeightComboControl"})
+            if list and list:visible() then list:pick(math.random(0, #list:items() - 1)) end
+        end,
+        function()
+            local filters = wb.control("LayerFilterComboControl")
+            if filters and filters:visible() then
+                filters:click()
+                filters:node(any{"All", "All/All Used Layers"}):click()
+            end
         end,
         function()
             local row = any(variables)

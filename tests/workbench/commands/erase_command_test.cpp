@@ -32,4 +32,15 @@ TEST_F(EraseCommandTest, NothingGoesBeforeEnterOrAfterACancel) {
     EXPECT_EQ(count(), 3U);
 }
 
+TEST_F(EraseCommandTest, WhatWasSelectedBeforeGoesAtOnce) {
+    const auto ids = m_document.data().ids(drawing::RecordKind::Entity);
+    editor().selection().selectBefore(m_document, {ids[0], ids[2]});
+    EXPECT_TRUE(run(L"_erase\n"));
+    EXPECT_FALSE(processor().isActive());
+    EXPECT_EQ(m_document.data().ids(drawing::RecordKind::Entity),
+              std::vector<drawing::ObjectId>{ids[1]});
+    run(L"_erase\n");
+    EXPECT_TRUE(processor().isActive());
+}
+
 }  // namespace workbench

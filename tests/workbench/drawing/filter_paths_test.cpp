@@ -27,8 +27,9 @@ protected:
 };
 
 TEST_F(FilterPathsTest, NamesAreListedParentsFirst) {
-    EXPECT_EQ(get("filters"), Value(Value::List{"All", "All Used Layers", "Walls", "Green"}));
-    EXPECT_EQ(get("filters.count"), Value(4));
+    EXPECT_EQ(get("filters"), Value(Value::List{"All", "All Used Layers", "Unreconciled New Layers",
+                                                "Viewport Overrides", "Walls", "Green"}));
+    EXPECT_EQ(get("filters.count"), Value(6));
     EXPECT_EQ(get("filters.current"), Value("All"));
     EXPECT_EQ(get("filters.Nobody"), Value());
 }
@@ -49,7 +50,8 @@ TEST_F(FilterPathsTest, RenamingTheCurrentFilterKeepsItCurrent) {
 TEST_F(FilterPathsTest, DeletingABranchMakesTheRootCurrent) {
     set("filters.current", "Green");
     set("filters.Walls", Value());
-    EXPECT_EQ(get("filters"), Value(Value::List{"All", "All Used Layers"}));
+    EXPECT_EQ(get("filters"), Value(Value::List{"All", "All Used Layers", "Unreconciled New Layers",
+                                                "Viewport Overrides"}));
     EXPECT_EQ(get("filters.current"), Value("All"));
     m_drawing->db.undoLog().undo();
     EXPECT_EQ(get("filters.current"), Value("Green"));
@@ -65,7 +67,7 @@ TEST_F(FilterPathsTest, WrongChangesAreRefused) {
     EXPECT_THROW(set("filters", Value()), PathError);
     EXPECT_THROW(get("filters.Walls.colour"), PathError);
     EXPECT_THROW(get("filters.Nobody.name"), PathError);
-    EXPECT_EQ(get("filters.count"), Value(4));
+    EXPECT_EQ(get("filters.count"), Value(6));
 }
 
 }  // namespace

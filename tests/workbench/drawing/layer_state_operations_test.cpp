@@ -86,6 +86,7 @@ TEST_F(LayerStateOperationsTest, NamesAreNeededAndUnique) {
 }
 
 TEST_F(LayerStateOperationsTest, BusyLayerStopsTheRestore) {
+    set("layers.Notes.on", true);
     const Reading<Layer> reader(m_db, m_db.find(RecordKind::Layer, "Notes"));
     EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::WasOpenForRead);
 }

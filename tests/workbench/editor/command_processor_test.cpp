@@ -326,6 +326,21 @@ TEST_F(CommandProcessorTest, ARunningCommandLocksItsDocument) {
     EXPECT_EQ(m_document.locks().mode(), 0);
 }
 
+TEST_F(CommandProcessorTest, ACommandThatWritesDoesNotStartInADocumentThatAnotherHasToItself) {
+    m_document.locks().lock(DocumentLocks::kExclusiveWrite, this);
+    events();
+    m_bench.journal().take();
+    EXPECT_FALSE(run(L"_line\n"));
+    EXPECT_EQ(events(), (Lines{"rest ends", "rest begins"}));
+    EXPECT_EQ(fields("command", "event"), Lines{"locked"});
+    EXPECT_EQ(fields("output", "text"), Lines{"A is locked: LINE can't be done now."});
+    EXPECT_EQ(read(L"CMDACTIVE"), Value(0));
+    EXPECT_EQ(m_document.locks().mode(), DocumentLocks::kExclusiveWrite);
+    m_document.locks().unlock(this);
+    EXPECT_TRUE(run(L"_line\n0,0\n1,0\n\n"));
+    EXPECT_EQ(m_document.data().ids(drawing::RecordKind::Entity).size(), 1U);
+}
+
 TEST_F(CommandProcessorTest, ACommandIsOneStepOfUndo) {
     run(L"_line\n0,0\n1,0\n1,1\n\n");
     EXPECT_EQ(m_document.data().ids(drawing::RecordKind::Entity).size(), 2U);

@@ -82,6 +82,29 @@ TEST_F(ControlMethodsTest, TipsAreThoseOfTheParts) {
     )");
 }
 
+TEST_F(ControlMethodsTest, ATooltipComesUpWhereTheMouseRests) {
+    runOnFade(R"(
+        assert(fade:hover("edit"))
+        wb.wait(499)
+        assert(#wb.journal("tip") == 0)
+        wb.wait(1)
+        assert(wb.journal("tip")[1].text == fade:tip("edit"))
+        fade:hover()
+        wb.wait(500)
+        assert(wb.journal("tip")[1].text == fade:tip())
+    )");
+}
+
+TEST_F(ControlMethodsTest, ATooltipThatTheModuleRelaysComesUpToo) {
+    runOnDashboard(R"(
+        local eye = wb.control("3DNavPointTriplet1")
+        eye:hover("y")
+        wb.wait(500)
+        local tips = wb.journal("tip")
+        assert(#tips == 1 and tips[1].text == eye:tip("y"))
+    )");
+}
+
 TEST_F(ControlMethodsTest, UnknownFieldOrKeyIsNamed) {
     runOnFade(R"(
         local done, reason = pcall(fade.text, fade, "edit2")

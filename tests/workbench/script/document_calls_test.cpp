@@ -101,6 +101,20 @@ TEST_F(DocumentCallsTest, ChangesAreUndoneAndRedone) {
         "wb.redo() assert(wb.db('layers.Roof.frozen') == true)");
 }
 
+TEST_F(DocumentCallsTest, EntitiesAreSelectedForTheNextCommand) {
+    run(R"(
+        wb.type("_line\n0,0\n1,0\n2,0\n\n")
+        local numbers = wb.db("entities")
+        wb.select({numbers[2]})
+        wb.type("erase\n")
+        assert(#wb.db("entities") == 1 and wb.db("entities")[1] == numbers[1])
+    )");
+    EXPECT_EQ(complaintOf("wb.begin('MOVE') wb.select({})"),
+              "wb.select: a command is running: what it asks for is answered by wb.answer");
+    EXPECT_EQ(complaintOf("wb.finish() wb.select({999})"),
+              "wb.select: there is no entity 999 to select");
+}
+
 TEST_F(DocumentCallsTest, ADocumentIsNotClosedFromInsideItsCommand) {
     run(R"(
         wb.env("ENABLEDASHBOARD", "1") wb.load() wb.new("A") wb.new("B")

@@ -52,6 +52,35 @@ TEST_F(SessionCallsTest, FaultComesAfterTheCallsThatAreToGoWell) {
               "wb.fail: the number of calls that go well can't be negative");
 }
 
+TEST_F(SessionCallsTest, TheRegistryKeepsTextsAndNumbersInTheProfile) {
+    run(R"(
+        local path = "Dialogs/VxLayerApps:LayerStatesManager/LayerNotFound"
+        assert(wb.registry(path) == nil)
+        wb.registry(path, 0)
+        assert(wb.registry([[dialogs\vxlayerapps:layerstatesmanager\LAYERNOTFOUND]]) == 0)
+        wb.registry("Dialogs/Greeting", "Grüße")
+        wb.save_profile()
+        wb.profile("Other")
+        assert(wb.registry(path) == nil)
+        wb.profile("Default")
+        assert(wb.registry("Dialogs/Greeting") == "Grüße")
+        wb.registry(path, nil)
+        assert(wb.registry(path) == nil)
+    )");
+}
+
+TEST_F(SessionCallsTest, WhatTheRegistryCannotHoldIsAnError) {
+    EXPECT_EQ(
+        complaintOf("wb.registry('Dialogs//X')"),
+        R"(wb.registry: "Dialogs//X" is no path of the registry: names with / or \ between them)");
+    EXPECT_EQ(complaintOf("wb.registry('X', -1)"),
+              "wb.registry: the registry can't hold -1: a text, or a whole number from 0 to "
+              "4294967295");
+    EXPECT_EQ(complaintOf("wb.registry('X', true)"),
+              "wb.registry: the registry can't hold true: a text, or a whole number from 0 to "
+              "4294967295");
+}
+
 TEST_F(SessionCallsTest, ThemeIsSwitchedAndTheControlsHearOfIt) {
     runOnDashboard(R"(
         wb.journal()

@@ -39,6 +39,22 @@ TEST_F(DatabaseFunctionsTest, ObjectsAreOpenedForReadByManyAndForWriteByOne) {
     EXPECT_EQ(document.openObjects().count(), 0U);
 }
 
+TEST_F(DatabaseFunctionsTest, NothingIsOpenedForWriteInsideALockScopeThatWasRefused) {
+    Document& document = newDocument();
+    const VxDbObjectId id = toHostId(document.data().add(drawing::Sun()).id);
+    const VxAxDocLock exclusive(document.database(), DocumentLocks::kExclusiveWrite);
+    VxDbObject* object = nullptr;
+    {
+        const VxAxDocLock refused(document.database(), DocumentLocks::kAutoWrite);
+        EXPECT_NE(vxdbOpenObject(object, id, VxDbOpenMode::kForWrite), Zorq::eOk);
+        EXPECT_EQ(object, nullptr);
+        EXPECT_EQ(vxdbOpenObject(object, id, VxDbOpenMode::kForRead), Zorq::eOk);
+        object->close();
+    }
+    EXPECT_EQ(vxdbOpenObject(object, id, VxDbOpenMode::kForWrite), Zorq::eOk);
+    object->close();
+}
+
 TEST_F(DatabaseFunctionsTest, WhatCannotBeOpenedIsNull) {
     Document& document = newDocument();
     const drawing::ObjectId sun = document.data().add(drawing::Sun()).id;

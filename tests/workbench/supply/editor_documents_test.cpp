@@ -43,6 +43,57 @@ TEST_F(DocumentFunctionsTest, ALockScopeLocksTheDocumentOfItsDatabase) {
     EXPECT_EQ(document.locks().mode(), 0);
 }
 
+TEST_F(DocumentFunctionsTest, AnotherOwnersLockInTheWayIsALockViolation) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    {
+        const VxAxDocLock exclusive(document.database(), DocumentLocks::kExclusiveWrite);
+        EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false),
+                  kLockViolation);
+        EXPECT_EQ(manager.unlockDocument(&document), kNoLock);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kExclusiveWrite);
+    }
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false), Zorq::eOk);
+    EXPECT_EQ(m_bench.journal().take("box").size(), 0U);
+}
+
+TEST_F(DocumentFunctionsTest, AnExclusiveLockIsRefusedWhileACommandRuns) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    editor().beginCommand(L"wait");
+    EXPECT_EQ(manager.lockDocument(&document, DocumentLocks::kExclusiveWrite, L"G", L"L", false),
+              kLockViolation);
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", false), Zorq::eOk);
+}
+
+TEST_F(DocumentFunctionsTest, TheUserIsToldOfALockViolationOnRequestAndOfNothingElse) {
+    Document& document = newDocument();
+    VxApDocManager& manager = *vxDocManagerPtr();
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"L", true), Zorq::eOk);
+    manager.unlockDocument(&document);
+    const VxAxDocLock exclusive(document.database(), DocumentLocks::kExclusiveWrite);
+    m_bench.journal().take();
+    EXPECT_EQ(manager.lockDocument(&document, kDocLockWrite, L"G", L"Local", true), kLockViolation);
+    EXPECT_EQ(fields("box", "text"), Lines{"A is locked: Local can't be done now."});
+}
+
+TEST_F(DocumentFunctionsTest, ALockScopeOfADocumentLocksForWritingUnlessAModeIsTold) {
+    Document& document = newDocument();
+    {
+        const VxAxDocLock lock(&document);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kAutoWrite);
+        EXPECT_TRUE(document.locks().isForWriting());
+    }
+    {
+        const VxAxDocLock lock(&document, DocumentLocks::kRead);
+        EXPECT_EQ(document.locks().mode(), DocumentLocks::kRead);
+    }
+    const VxAxDocLock nothing(static_cast<VxApDocument*>(nullptr));
+    m_bench.faults().fail("VxAxDocLock::VxAxDocLock", {}, 1);
+    const VxAxDocLock failed(&document);
+    EXPECT_EQ(document.locks().mode(), 0);
+}
+
 TEST_F(DocumentFunctionsTest, SentTextWaitsForTheProcessor) {
     Document& document = newDocument();
     VxApDocManager& manager = *vxDocManagerPtr();

@@ -101,6 +101,20 @@ TEST_F(VariableFunctionsTest, AVariableOfTheDrawingIsWrittenUnderALockOnly) {
     EXPECT_EQ(read(L"LUNITS"), Value(4));
 }
 
+TEST_F(VariableFunctionsTest, NothingIsWrittenInsideALockScopeThatWasRefused) {
+    Document& document = newDocument();
+    const VxAxDocLock exclusive(document.database(), DocumentLocks::kExclusiveWrite);
+    {
+        const VxAxDocLock refused(document.database(), DocumentLocks::kAutoWrite);
+        m_bench.journal().take();
+        EXPECT_EQ(setShort(L"LUNITS", 4), kRtError);
+        EXPECT_EQ(fields("var", "name"), Lines{});
+        EXPECT_EQ(read(L"LUNITS"), Value(2));
+    }
+    EXPECT_EQ(setShort(L"LUNITS", 4), kRtNorm);
+    EXPECT_EQ(read(L"LUNITS"), Value(4));
+}
+
 TEST_F(VariableFunctionsTest, TheLockMustBeThatOfTheCurrentDocument) {
     Document& first = newDocument(L"A");
     newDocument(L"B");

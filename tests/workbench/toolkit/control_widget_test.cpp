@@ -18,5 +18,15 @@ TEST(ControlWidgetTest, TheTipIsTheSameAllOver) {
     EXPECT_EQ(control.tip(), L"Fades");
 }
 
+TEST(ControlWidgetTest, TheLastTipSaysWhoShowsIt) {
+    ControlWidget control;
+    control.setRelayedTip(L"X");
+    EXPECT_EQ(control.tip(), L"X");
+    EXPECT_TRUE(control.isTipRelayed());
+    control.setTip(L"Fades");
+    EXPECT_EQ(control.tip(), L"Fades");
+    EXPECT_FALSE(control.isTipRelayed());
+}
+
 }  // namespace
 }  // namespace workbench

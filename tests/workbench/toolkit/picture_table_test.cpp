@@ -42,6 +42,8 @@ TEST(PictureTableTest, PixelsOfAStaleHandleOrBrokenBytesAreAnError) {
     PictureTable pictures;
     EXPECT_THROW(pictures.pixels(nullptr), InputError);
     EXPECT_THROW(pictures.pixels(pictures.add("a", {1, 2, 3})), InputError);
+    EXPECT_THROW(pictures.finePixels(nullptr), InputError);
+    EXPECT_THROW(pictures.finePixels(pictures.add("a", {1, 2, 3})), InputError) << "it has none";
 }
 
 TEST(PictureTableTest, ADecodedPictureIsGivenOutAsItIs) {

@@ -44,9 +44,12 @@ DesktopState DesktopState::read(const std::filesystem::path& folder, QString& co
     }
     const QJsonObject members = document.object();
     if (members.contains(kShade)) {
-        state.shade = shadeOf(members[kShade].toString().toStdString());
-        if (!state.shade)
+        const std::string name = members[kShade].toString().toStdString();
+        state.shade = shadeOf(name);
+        if (!state.shade) {
+            state.unknownTheme = name;
             complaint = file.fileName() + QStringLiteral(": /theme: light or dark");
+        }
     }
     for (const QJsonValue& id : members[kRolledUp].toArray())
         state.rolledUp.push_back(toHost(id.toString()));
@@ -63,6 +66,8 @@ void DesktopState::write(const std::filesystem::path& folder) const {
         members.insert(kLastFolder, toQt(std::string_view(lastFolder.string())));
     if (shade)
         members.insert(kShade, QLatin1String(nameOf(*shade)));
+    else if (!unknownTheme.empty())
+        members.insert(kShade, toQt(std::string_view(unknownTheme)));
     QSaveFile file(fileIn(folder));
     const bool written = file.open(QIODevice::WriteOnly) &&
                          file.write(QJsonDocument(members).toJson()) > 0 && file.commit();

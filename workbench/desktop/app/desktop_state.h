@@ -12,9 +12,12 @@ namespace workbench::desktop {
 
 /// What the window remembers from one run to the next: a file beside the profiles.
 struct DesktopState {
-    std::optional<Shade> shade;          ///< Nothing: not known.
+    std::optional<Shade> shade;          ///< Nothing: not known, or of a name that isn't.
     std::vector<std::wstring> rolledUp;  ///< IDs of panels.
     std::filesystem::path lastFolder;    ///< Of drawings; empty: none.
+    /// A theme that this version doesn't know, which is written again while there is no `shade`: the
+    /// version that does is to find it. Empty: none.
+    std::string unknownTheme = {};
 
     /// Whether the window was ever closed before: then its file is there.
     static bool exists(const std::filesystem::path& folder);

@@ -96,6 +96,8 @@ void DocumentTabs::refreshView(DrawingView& view) const {
     view.setFading(static_cast<int>(workbench.editor().read(L"LAYLOCKFADECTL").asInteger()));
     view.setDragMode(dragModeOf(workbench.navigation().mode()));
     view.setPointing(view.document()->processor().asksForPoint());
+    if (!view.isPicking())
+        view.setChosen(view.document()->pickSet());
 }
 
 void DocumentTabs::add(Document& document) {
@@ -107,6 +109,10 @@ void DocumentTabs::add(Document& document) {
     view->setOnPointed([this](const drawing::Vec3& point) {
         if (m_onPointed)
             m_onPointed(point);
+    });
+    view->setOnPicked([this, view](const std::vector<drawing::ObjectId>& picked, bool removes) {
+        if (m_onPicked)
+            m_onPicked(*view->document(), picked, removes);
     });
     addTab(view, toQt(document.name()));
 }

@@ -2,10 +2,12 @@
 
 #include "workbench/desktop/look/look.h"
 #include "workbench/drawing/database/geometry.h"
+#include "workbench/drawing/database/object_id.h"
 
 #include <QTabWidget>
 #include <functional>
 #include <utility>
+#include <vector>
 
 namespace workbench {
 class Document;
@@ -35,6 +37,10 @@ public:
     void setOnPointed(std::function<void(const drawing::Vec3&)> told) {
         m_onPointed = std::move(told);
     }
+    /// Told of the entities that are picked in a document, as its view tells them.
+    using Picked =
+        std::function<void(Document&, const std::vector<drawing::ObjectId>& picked, bool removes)>;
+    void setOnPicked(Picked told) { m_onPicked = std::move(told); }
     DrawingView& viewAt(int index) const;
 
 protected:
@@ -51,6 +57,7 @@ private:
     std::function<void(Document&)> m_onClosing;
     std::function<void(QPointF)> m_onPressed;
     std::function<void(const drawing::Vec3&)> m_onPointed;
+    Picked m_onPicked;
     bool m_refreshing = false;  // a tab's change is not the user's
 };
 

@@ -9,8 +9,11 @@
 #include "workbench/desktop/app/desktop_state.h"
 #include "workbench/desktop/app/dock_splitter.h"
 #include "workbench/desktop/app/document_tabs.h"
+#include "workbench/desktop/app/entity_picker.h"
 #include "workbench/desktop/app/file_actions.h"
 #include "workbench/desktop/app/frame_home.h"
+#include "workbench/desktop/app/gesture_watch.h"
+#include "workbench/desktop/app/layer_state_boxes.h"
 #include "workbench/desktop/app/layout_keeper.h"
 #include "workbench/desktop/app/palette_colours.h"
 #include "workbench/desktop/app/reveal.h"
@@ -41,7 +44,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
@@ -96,6 +98,9 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     setCentralWidget(m_home);
     m_mirror = std::make_unique<WindowMirror>(m_stage, *m_home);
     m_questions = std::make_unique<Questions>(m_stage, *this);
+    m_picker = std::make_unique<EntityPicker>(m_stage, *m_tabs,
+                                              [this](const QString& text) { tell(text); });
+    m_layerStates = std::make_unique<LayerStateBoxes>(m_stage, *this);
     m_home->attach(m_stage);
     keepOnScreen();
     buildPanes();
@@ -105,16 +110,15 @@ MainWindow::MainWindow(Workbench& workbench, Shade shade)
     m_menus = std::make_unique<DesktopMenus>(*this, *m_journalDock);
     m_commands = std::make_unique<DesktopCommands>(*this);
     setShade(shade);
+    m_gestures = std::make_unique<GestureWatch>(m_pump, *m_journal);
     m_pump.setOnFailure([this](const QString& text) { tell(text); });
     m_pump.setOnRest([this] { onRest(); });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*before*/, QWidget* now) { leaveDashboard(now); });
-    qApp->installEventFilter(this);
     onRest();
 }
 
 MainWindow::~MainWindow() {
-    qApp->removeEventFilter(this);
     // The end of the base closes the window, which moves the keyboard.
     disconnect(qApp, nullptr, this, nullptr);
     m_pump.setOnRest(nullptr);
@@ -142,7 +146,9 @@ void MainWindow::buildPanes() {
     m_mirror->fill(frame.commandLine().m_hWnd, *m_commandLine);
     m_mirror->setOnKeyboardToDrawing([this] { leaveToCommandLine(); });
     m_stage.typed = [this](const QString& text) { m_commandLine->begin(text); };
-    m_stage.whyDisabled = [this](HWND window) { return whyDisabled(m_workbench, window); };
+    m_stage.whyDisabled = [this](HWND window, const CQrUiToolPanelItem* item) {
+        return whyDisabled(m_workbench, window, item);
+    };
     m_commandLine->setOnEnter(
         [this](const QString& text) { runCommand(text + QLatin1Char('\n')); });
     m_commandLine->setOnCancel([this] { runCommand(QStringLiteral("\x1b")); });
@@ -272,6 +278,7 @@ void MainWindow::setShade(Shade shade) {
 
 void MainWindow::showShade(Shade shade) {
     m_shade = shade;
+    m_unknownTheme.clear();
     m_stage.look = &lookOf(shade);
     QApplication::setPalette(paletteOf(*m_stage.look));
     QToolTip::setPalette(paletteOf(*m_stage.look));
@@ -360,6 +367,7 @@ void MainWindow::recall() {
         tell(complaint);
     if (state.shade)
         setShade(*state.shade);
+    m_unknownTheme = state.unknownTheme;
     m_files->files().setLastFolder(state.lastFolder);
     if (!DesktopState::exists(m_workbench.profiles().folder()))
         m_commandLine->echo(QString::fromLatin1(kFirstHint));
@@ -386,7 +394,9 @@ void MainWindow::remember() {
 }
 
 DesktopState MainWindow::stateNow() {
-    return {m_shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder()};
+    const std::optional<Shade> shade =
+        m_unknownTheme.empty() ? std::optional(m_shade) : std::nullopt;
+    return {shade, collapsedPanels(m_stage.toolkit), m_files->files().lastFolder(), m_unknownTheme};
 }
 
 /// A file that can't be read stays as it is until there is something to write.
@@ -396,18 +406,6 @@ void MainWindow::rememberLook() {
     if (now != m_recalled || !DesktopState::exists(folder))
         now.write(folder);
     m_recalled = now;
-}
-
-/// What the user's hands begin in this window, for the journal.
-bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    const auto* const widget = qobject_cast<QWidget*>(watched);
-    if (widget != nullptr && event->type() == QEvent::MouseButtonPress)
-        m_journal->beginGesture(QStringLiteral("Press on ") + widget->accessibleName());
-    else if (widget != nullptr && event->type() == QEvent::KeyPress)
-        m_journal->beginGesture(
-            QStringLiteral("Key ") +
-            QKeySequence(static_cast<QKeyEvent*>(event)->key()).toString(QKeySequence::NativeText));
-    return QMainWindow::eventFilter(watched, event);
 }
 
 /// The host begins to quit, and stays if its user wants to keep a change.

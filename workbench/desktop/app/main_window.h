@@ -25,10 +25,13 @@ class DesktopCommands;
 class DesktopMenus;
 class DockSplitter;
 class DocumentTabs;
+class EntityPicker;
 class FileActions;
 class FrameHome;
+class GestureWatch;
 class HelpPage;
 class JournalPane;
+class LayerStateBoxes;
 class LayoutKeeper;
 class Questions;
 class SearchBox;
@@ -76,7 +79,6 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void keepOnScreen();
@@ -101,6 +103,7 @@ private:
     Pump m_pump;
     Stage m_stage;
     Shade m_shade;
+    std::string m_unknownTheme;  // was remembered in place of a shade; empty once one is chosen
     FrameHome* m_home;
     DockSplitter* m_splitter;
     DocumentTabs* m_tabs;
@@ -115,11 +118,14 @@ private:
     const Document* m_front = nullptr;       // compared only: the document may have been closed
     std::unique_ptr<WindowMirror> m_mirror;
     std::unique_ptr<Questions> m_questions;
+    std::unique_ptr<EntityPicker> m_picker;
+    std::unique_ptr<LayerStateBoxes> m_layerStates;
     std::unique_ptr<FileActions> m_files;
     std::unique_ptr<DesktopMenus> m_menus;
     std::unique_ptr<DesktopCommands> m_commands;
     std::unique_ptr<CommandEcho> m_echo;
     std::unique_ptr<HelpPage> m_help;
+    std::unique_ptr<GestureWatch> m_gestures;
 };
 
 }  // namespace workbench::desktop

@@ -1,6 +1,7 @@
 #include "workbench/desktop/drawing_view/drawing_view.h"
 
 #include "workbench/desktop/drawing_view/camera.h"
+#include "workbench/desktop/drawing_view/picking.h"
 #include "workbench/desktop/drawing_view/scene_painter.h"
 #include "workbench/desktop/drawing_view/sheet.h"
 #include "workbench/desktop/drawing_view/view_fit.h"
@@ -26,6 +27,7 @@ using drawing::Viewport;
 
 constexpr int kWheelNotch = 120;
 constexpr double kPixelsOfANotch = 20.0;  // of a drag that zooms
+constexpr double kPixelsOfAClick = 4.0;   // that a hand may move in it
 
 /// The viewport that the mouse moves: the current one, unless it is locked or the sheet of a
 /// layout. Null if there is none.
@@ -89,6 +91,7 @@ void DrawingView::objectErased(const drawing::DbObject& /*object*/, bool /*erasi
 void DrawingView::databaseGoodbye(const drawing::Database& /*database*/) {
     m_document = nullptr;
     m_drag.reset();
+    m_pick.reset();
     m_scenes.clear();
     update();
 }
@@ -135,6 +138,10 @@ void DrawingView::paintEvent(QPaintEvent* /*event*/) {
         paintSheet(painter, layout);
     else if (!port.isNull())
         paintModel(painter, port);
+    if (m_isPicking && m_pick) {
+        painter.setPen(QPen(m_look->accent, 1, Qt::DashLine));
+        painter.drawRect(QRectF(m_pick->from, m_pick->now).normalized());
+    }
 }
 
 QRect DrawingView::placeOf(ObjectId port) const {
@@ -152,7 +159,9 @@ void DrawingView::paintModel(QPainter& painter, ObjectId port) {
     painter.save();
     painter.setClipRect(place);
     painter.translate(place.topLeft());
-    paintScene(painter, sceneIn(port), Camera(shownIn(port), place.size()));
+    const Camera camera(shownIn(port), place.size());
+    paintScene(painter, sceneIn(port), camera);
+    paintChosen(painter, sceneIn(port), camera, m_chosen, m_look->accent);
     painter.restore();
 }
 
@@ -191,6 +200,10 @@ void DrawingView::write(ObjectId port, const ViewParameters& view) {
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && !m_isPointing)
+        beginPick(*event);
+    if (m_isPicking && m_pick)
+        return;
     if (m_onPressed)
         m_onPressed(event->position());
     const bool isMiddle = event->button() == Qt::MiddleButton;
@@ -214,6 +227,58 @@ void DrawingView::setPointing(bool pointing) {
         return;
     m_isPointing = pointing;
     setCursor(pointing ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
+void DrawingView::setPicking(bool picking) {
+    m_isPicking = picking;
+    m_pick.reset();
+    setCursor(picking ? Qt::CrossCursor : Qt::ArrowCursor);
+    update();
+}
+
+void DrawingView::setChosen(std::vector<ObjectId> chosen) {
+    if (chosen == m_chosen)
+        return;
+    m_chosen = std::move(chosen);
+    update();
+}
+
+bool DrawingView::Pick::isClick() const {
+    return QLineF(from, now).length() < kPixelsOfAClick;
+}
+
+void DrawingView::beginPick(const QMouseEvent& event) {
+    m_pick =
+        Pick{event.position(), event.position(), event.modifiers().testFlag(Qt::ShiftModifier)};
+}
+
+/// Outside of picking only a click picks: a drag moves the view.
+void DrawingView::endPick() {
+    const Pick pick = *std::exchange(m_pick, std::nullopt);
+    update();
+    const ObjectId port =
+        m_document == nullptr ? ObjectId() : drawing::activeViewport(m_document->data());
+    const auto* const viewport = port.isNull() ? nullptr : m_document->data().look<Viewport>(port);
+    if (viewport != nullptr && !viewport->isPaper() && m_onPicked &&
+        (m_isPicking || pick.isClick()))
+        pickIn(port, pick);
+}
+
+void DrawingView::pickIn(ObjectId port, const Pick& pick) {
+    const QRect picture = placeOf(port);
+    const Camera camera(shownIn(port), picture.size());
+    std::vector<ObjectId> picked;
+    if (!pick.isClick()) {
+        const QRectF window =
+            QRectF(pick.from, pick.now).normalized().translated(-picture.topLeft());
+        picked =
+            entitiesIn(sceneIn(port), camera, window,
+                       pick.from.x() <= pick.now.x() ? PickWindow::Inside : PickWindow::Touching);
+    } else if (const ObjectId id = entityAt(sceneIn(port), camera, pick.now - picture.topLeft());
+               !id.isNull()) {
+        picked.push_back(id);
+    }
+    m_onPicked(picked, pick.removes);
 }
 
 void DrawingView::point(QPointF place) {
@@ -248,6 +313,10 @@ ViewParameters DrawingView::dragged(const Drag& drag, QPointF way, QSizeF pictur
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event) {
+    if (m_pick) {
+        m_pick->now = event->position();
+        update();
+    }
     if (!m_drag)
         return;
     const QPointF way = event->position() - m_drag->from;
@@ -259,11 +328,12 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
-    if (!m_drag || event->button() != m_drag->button)
-        return;
-    const Drag drag = *m_drag;
-    m_drag.reset();
-    write(drag.port, drag.now);
+    if (m_drag && event->button() == m_drag->button) {
+        const Drag drag = *std::exchange(m_drag, std::nullopt);
+        write(drag.port, drag.now);
+    }
+    if (m_pick && event->button() == Qt::LeftButton)
+        endPick();
 }
 
 void DrawingView::wheelEvent(QWheelEvent* event) {

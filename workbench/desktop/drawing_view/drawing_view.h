@@ -12,6 +12,7 @@
 #include <map>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace workbench {
 class Document;
@@ -48,6 +49,16 @@ public:
     void setOnPointed(std::function<void(const drawing::Vec3&)> told) {
         m_onPointed = std::move(told);
     }
+    /// While entities are picked, the left button does that: a click takes the one that shows there, a
+    /// window from left to right those in it, from right to left those that it touches too. At other
+    /// times a mere click picks, too, and nothing else does.
+    void setPicking(bool picking);
+    /// Told what was picked, nothing by a click beside all, and whether shift was held.
+    using Picked = std::function<void(const std::vector<drawing::ObjectId>& picked, bool removes)>;
+    void setOnPicked(Picked told) { m_onPicked = std::move(told); }
+    bool isPicking() const { return m_isPicking; }
+    /// Marks these entities, and no others.
+    void setChosen(std::vector<drawing::ObjectId> chosen);
     /// LAYLOCKFADECTL has changed, or the colours have.
     void setFading(int percent);
     void setLook(const Look& look);
@@ -69,6 +80,14 @@ private:
         drawing::ViewParameters now;
     };
 
+    /// The left button between its press and its release, as far as it may pick.
+    struct Pick {
+        QPointF from;
+        QPointF now;
+        bool removes;
+        bool isClick() const;
+    };
+
     // drawing::DatabaseReactor:
     void objectAppended(const drawing::DbObject& object) override;
     void objectModified(const drawing::DbObject& object) override;
@@ -84,6 +103,9 @@ private:
     const Scene& sceneIn(drawing::ObjectId port);
     QRect placeOf(drawing::ObjectId port) const;
     void point(QPointF place);
+    void beginPick(const QMouseEvent& event);
+    void endPick();
+    void pickIn(drawing::ObjectId port, const Pick& pick);
     bool isInReason(drawing::ObjectId port, const drawing::ViewParameters& view);
     void paintModel(QPainter& painter, drawing::ObjectId port);
     void paintSheet(QPainter& painter, drawing::ObjectId layout);
@@ -99,8 +121,12 @@ private:
     int m_wheelRest = 0;
     DragMode m_mode = DragMode::Orbit;
     bool m_isPointing = false;
+    bool m_isPicking = false;
+    std::optional<Pick> m_pick;
+    std::vector<drawing::ObjectId> m_chosen;
     std::function<void(QPointF)> m_onPressed;
     std::function<void(const drawing::Vec3&)> m_onPointed;
+    Picked m_onPicked;
 };
 
 }  // namespace workbench::desktop

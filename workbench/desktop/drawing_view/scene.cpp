@@ -1,5 +1,6 @@
 #include "workbench/desktop/drawing_view/scene.h"
 
+#include "workbench/drawing/layer_overrides.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/viewport.h"
@@ -40,16 +41,14 @@ public:
         : m_settings(settings) {
         const auto* port = database.look<Viewport>(viewport);
         for (const ObjectId id : database.ids(drawing::RecordKind::Layer)) {
-            const Layer& layer = *database.look<Layer>(id);
-            const bool frozenHere =
-                port != nullptr &&
-                std::any_of(port->frozenLayers.begin(), port->frozenLayers.end(),
-                            [id](const auto& frozen) { return frozen.id == id; });
+            const Layer& own = *database.look<Layer>(id);
+            const Layer layer = port == nullptr ? own : drawing::lookIn(*port, id, own);
+            const bool frozenHere = port != nullptr && drawing::isFrozenInViewport(*port, id);
             m_layers[id] = {layer.on && !layer.frozen && !frozenHere, layer.locked, layer.colour};
         }
     }
 
-    void add(const Entity& entity) {
+    void add(ObjectId id, const Entity& entity) {
         const LayerLook& layer = m_layers[entity.layer.id];
         if (!layer.shown)
             return;
@@ -58,12 +57,12 @@ public:
             if (corners.size() < 3)
                 continue;
             const Vec3 normal = normalOf(corners);
-            m_scene.faces.push_back({std::move(corners), normal, colour});
+            m_scene.faces.push_back({std::move(corners), normal, colour, id});
         }
         if (entity.type != drawing::EntityType::Line)
             return;
         for (std::size_t i = 1; i < entity.points.size(); ++i)
-            m_scene.lines.push_back({entity.points[i - 1], entity.points[i], colour});
+            m_scene.lines.push_back({entity.points[i - 1], entity.points[i], colour, id});
     }
 
     Scene take() { return std::move(m_scene); }
@@ -104,7 +103,7 @@ private:
 Scene sceneOf(const drawing::Database& database, ObjectId viewport, const SceneSettings& settings) {
     SceneMaker maker(database, viewport, settings);
     for (const ObjectId id : database.ids(drawing::RecordKind::Entity))
-        maker.add(*database.look<Entity>(id));
+        maker.add(id, *database.look<Entity>(id));
     return maker.take();
 }
 

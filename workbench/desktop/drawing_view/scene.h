@@ -13,6 +13,7 @@ struct SceneFace {
     std::vector<Vec3> corners;
     Vec3 normal;  ///< Of length 1.
     QColor colour;
+    drawing::ObjectId entity = {};
 };
 
 /// A straight line of the drawing.
@@ -20,6 +21,7 @@ struct SceneLine {
     Vec3 from;
     Vec3 to;
     QColor colour;
+    drawing::ObjectId entity = {};
 };
 
 /// What a viewport shows.

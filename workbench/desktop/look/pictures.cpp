@@ -12,12 +12,24 @@ namespace {
 /// More than a dashboard shows at a time; then those that are gone are let go.
 constexpr qsizetype kMostDecoded = 2000;
 
-QPixmap decode(const PictureTable& table, HBITMAP picture) {
+using PixelsOf = PngPicture (PictureTable::*)(HBITMAP) const;
+
+QPixmap decode(const PictureTable& table, HBITMAP picture, PixelsOf pixelsOf) {
     try {
-        return pixmapOf(table.pixels(picture));
+        return pixmapOf((table.*pixelsOf)(picture));
     } catch (const InputError&) {
         return {};
     }
+}
+
+const QPixmap& decodedOnce(QHash<HBITMAP, QPixmap>& decoded, const PictureTable& table,
+                           HBITMAP picture, PixelsOf pixelsOf) {
+    const auto found = decoded.constFind(picture);
+    if (found != decoded.constEnd())
+        return *found;
+    if (decoded.size() >= kMostDecoded)
+        decoded.clear();
+    return *decoded.insert(picture, decode(table, picture, pixelsOf));
 }
 
 }  // namespace
@@ -30,17 +42,20 @@ QPixmap pixmapOf(const PngPicture& picture) {
 }
 
 const QPixmap& Pictures::of(HBITMAP picture) {
-    const auto found = m_decoded.constFind(picture);
-    if (found != m_decoded.constEnd())
-        return *found;
-    if (m_decoded.size() >= kMostDecoded)
-        m_decoded.clear();
-    return *m_decoded.insert(picture, decode(m_table, picture));
+    return decodedOnce(m_decoded, m_table, picture, &PictureTable::pixels);
+}
+
+const QPixmap& Pictures::fineOf(HBITMAP picture) {
+    return decodedOnce(m_fine, m_table, picture, &PictureTable::finePixels);
 }
 
 QPixmap Pictures::fit(HBITMAP small, HBITMAP large, int size, double pixelRatio) {
-    const bool isFine = size * pixelRatio > of(small).width() && !of(large).isNull();
-    QPixmap fitting = isFine || of(small).isNull() ? of(large) : of(small);
+    QPixmap fitting = of(small);
+    if (size * pixelRatio > fitting.width()) {
+        const QPixmap finer = of(large).isNull() ? fineOf(small) : of(large);
+        if (!finer.isNull())
+            fitting = finer;
+    }
     if (!fitting.isNull())
         fitting.setDevicePixelRatio(static_cast<double>(fitting.width()) / size);
     return fitting;

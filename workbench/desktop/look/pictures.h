@@ -23,13 +23,17 @@ public:
 
     /// A picture of a handle; empty for null, for a stale handle and for bytes that are no picture.
     const QPixmap& of(HBITMAP picture);
-    /// The picture to show `size` logical pixels large: the small one, or on a finer screen the large
-    /// one, if there is one. It bears the ratio of its pixels to logical ones.
+    /// The picture to show `size` logical pixels large: the small one, or where that has too few pixels
+    /// the large one, or without one the small one's fine form. It bears the ratio of its pixels to
+    /// logical ones.
     QPixmap fit(HBITMAP small, HBITMAP large, int size, double pixelRatio);
 
 private:
+    const QPixmap& fineOf(HBITMAP picture);
+
     const PictureTable& m_table;
     QHash<HBITMAP, QPixmap> m_decoded;  // a handle is never given out again
+    QHash<HBITMAP, QPixmap> m_fine;
 };
 
 }  // namespace workbench::desktop

@@ -4,6 +4,7 @@
 #include "workbench/desktop/mirror/accessible_tree.h"
 #include "workbench/desktop/mirror/item_widget.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
+#include "workbench/desktop/mirror/open_menu.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
@@ -23,6 +24,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <algorithm>
 
 namespace workbench::desktop {
@@ -69,6 +71,19 @@ public:
                                                : QAccessibleWidget::actionNames();
     }
     void doAction(const QString& name) override;
+    int childCount() const override {
+        return QAccessibleWidget::childCount() + (openMenu() == nullptr ? 0 : 1);
+    }
+    QAccessibleInterface* child(int index) const override {
+        return index == QAccessibleWidget::childCount()
+                   ? QAccessible::queryAccessibleInterface(openMenu())
+                   : QAccessibleWidget::child(index);
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return openMenu() != nullptr && child->object() == openMenu()
+                   ? QAccessibleWidget::childCount()
+                   : QAccessibleWidget::indexOfChild(child);
+    }
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && slider() != nullptr)
             return static_cast<QAccessibleValueInterface*>(this);
@@ -108,6 +123,8 @@ public:
     }
 
 private:
+    /// The list or the menu that is open on the window, its last child; null for none.
+    QWidget* openMenu() const { return menuOpenOn(mirror()); }
     EditWidget* edit() const { return widgetOf<EditWidget>(mirror()); }
     const LineEditor& line() const { return edit()->editor(*mirror().host()); }
     MirrorWidget& mirror() const { return *static_cast<MirrorWidget*>(widget()); }
@@ -153,11 +170,8 @@ QString AccessibleWindow::value() const {
 }
 
 QAccessibleInterface* AccessibleWindow::focusChild() const {
-    for (ItemWidget* item : mirror().items()) {
-        if (mirror().hasFocus() && item->isMarked())
-            return QAccessible::queryAccessibleInterface(item);
-    }
-    return nullptr;
+    ItemWidget* const item = mirror().itemWithKeyboard();
+    return item == nullptr ? nullptr : QAccessible::queryAccessibleInterface(item);
 }
 
 void AccessibleWindow::doAction(const QString& name) {
@@ -181,7 +195,8 @@ QAccessible::State AccessibleWindow::state() const {
     state.disabled = !windows.takesInput(window->handle);
     state.focusable = window->widget != nullptr && window->widget->takesTab();
     // Of a row of tools the marked tool has it.
-    state.focused = mirror().hasFocus() && focusChild() == nullptr;
+    state.focused = mirror().hasFocus() && QApplication::activePopupWidget() == nullptr &&
+                    focusChild() == nullptr;
     state.editable = widgetOf<EditWidget>(mirror()) != nullptr;
     state.checkable = role() == QAccessible::CheckBox;
     state.checked =
@@ -234,7 +249,7 @@ public:
         state.hasPopup = role() == QAccessible::ButtonMenu;
         state.expandable = state.hasPopup;
         state.focusable = actionNames().size() > 0;
-        state.focused = item().isMarked() && item().parentWidget()->hasFocus();
+        state.focused = isWithKeyboard();
         return state;
     }
     QStringList actionNames() const override {
@@ -256,6 +271,10 @@ public:
 
 private:
     ItemWidget& item() const { return *static_cast<ItemWidget*>(widget()); }
+    bool isWithKeyboard() const {
+        const auto* panel = static_cast<const MirrorWidget*>(item().parentWidget());
+        return panel->itemWithKeyboard() == &item();
+    }
 };
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {

@@ -15,6 +15,7 @@
 #include "workbench/windows/background_painter.h"
 #include "workbench/windows/window_system.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QCursor>
@@ -22,6 +23,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace workbench::desktop {
 
@@ -102,6 +104,24 @@ ItemWidget* MirrorWidget::itemAt(QPoint point) const {
             return item;
     }
     return nullptr;
+}
+
+ItemWidget* MirrorWidget::itemWithKeyboard() const {
+    // An open menu has it meanwhile.
+    if (!hasFocus() || QApplication::activePopupWidget() != nullptr)
+        return nullptr;
+    const auto marked = std::find_if(m_items.begin(), m_items.end(),
+                                     [](const ItemWidget* item) { return item->isMarked(); });
+    return marked == m_items.end() ? nullptr : *marked;
+}
+
+void MirrorWidget::announceItem() {
+    ItemWidget* const item = itemWithKeyboard();
+    if (item == nullptr || item == m_announced)
+        return;
+    m_announced = item;
+    QAccessibleEvent event(item, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 std::optional<QColor> MirrorWidget::background() {
@@ -203,12 +223,27 @@ void MirrorWidget::hoverItem(QPoint point) {
 
 void MirrorWidget::keyPressEvent(QKeyEvent* event) {
     event->accept();
+    if (const ItemWidget* const item = itemWithKeyboard())
+        m_stage.pressedAt = item->mapToGlobal(item->rect().bottomLeft());
     pressKey(m_stage, *event);
 }
 
 void MirrorWidget::keyReleaseEvent(QKeyEvent* event) {
     event->accept();
     holdModifiers(m_stage, event->modifiers());
+}
+
+/// Who gives the keyboard announces the row of tools itself behind this.
+void MirrorWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    m_announced = nullptr;
+    QMetaObject::invokeMethod(
+        this, [this] { announceItem(); }, Qt::QueuedConnection);
+}
+
+void MirrorWidget::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    m_announced = nullptr;
 }
 
 bool MirrorWidget::focusNextPrevChild(bool /*next*/) {

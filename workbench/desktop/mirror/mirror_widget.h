@@ -3,6 +3,7 @@
 #include <hostapi/types.h>
 
 #include <QColor>
+#include <QPointer>
 #include <QWidget>
 #include <optional>
 #include <vector>
@@ -33,6 +34,10 @@ public:
     /// The item of a tool panel at a point; null for none.
     ItemWidget* itemAt(QPoint point) const;
     const std::vector<ItemWidget*>& items() const { return m_items; }
+    /// The item that has the keyboard, by its mark; null for none.
+    ItemWidget* itemWithKeyboard() const;
+    /// Tells assistive programs of that item, unless it is the one that they were told of last.
+    void announceItem();
 
 protected:
     /// Where the widget is to be in its parent.
@@ -48,6 +53,8 @@ protected:
     void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool next) override;
     bool event(QEvent* event) override;
 
@@ -59,6 +66,7 @@ private:
     Stage& m_stage;
     const HWND m_handle;
     std::vector<ItemWidget*> m_items;  // children; by index of the item
+    QPointer<ItemWidget> m_announced;  // null: none since the keyboard came
     int m_wheelRest = 0;               // of turns that are less than a notch
     bool m_backgroundAsked = false;
     std::optional<QColor> m_background;

@@ -1,6 +1,7 @@
 #include "workbench/desktop/mirror/questions.h"
 
 #include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/mirror_widget.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/toolkit/slider_widget.h"
 #include "workbench/toolkit/toolkit.h"
@@ -8,9 +9,11 @@
 
 #include <hostapi/qrui18/tool_panel_item.h>
 
+#include <QApplication>
 #include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 #include <QToolTip>
 #include <algorithm>
 #include <iterator>
@@ -43,12 +46,15 @@ void fillMenu(QMenu& menu, const std::vector<MenuLine>& lines) {
 std::optional<UINT> chooseFromMenu(const Stage& stage, const std::vector<MenuLine>& lines) {
     if (stage.pump.isHeld())
         return {};
-    QMenu menu;
-    fillMenu(menu, lines);
-    const QAction* const chosen = menu.exec(stage.pressedAt);
-    if (chosen == nullptr)
-        return {};
-    return chosen->data().toUInt();
+    // A part of the window that it opens on, or nobody who reads the window would come to it; and it
+    // may go together with that part.
+    auto* const opener = dynamic_cast<MirrorWidget*>(QApplication::widgetAt(stage.pressedAt));
+    const QPointer<QMenu> menu = new QMenu(opener);
+    fillMenu(*menu, lines);
+    const QAction* const chosen = menu->exec(stage.pressedAt);
+    const auto command = chosen == nullptr ? std::nullopt : std::optional(chosen->data().toUInt());
+    delete menu;
+    return command;
 }
 
 constexpr UINT kBoxKinds = 0xf;  // the bits of a box's type that tell its buttons
@@ -91,21 +97,26 @@ int askBox(const Stage& stage, QWidget& owner, const std::wstring& text, UINT ty
     }
 }
 
-bool isDisabledAt(const Stage& stage, HWND window) {
-    if (!stage.windows.takesInput(window))
-        return true;
+/// The item of a tool panel that the mouse is over; null for none.
+const CQrUiToolPanelItem* itemUnderMouse(const Stage& stage, HWND window) {
     const Window* const found = stage.windows.find(window);
-    const auto* panel = found == nullptr ? nullptr : dynamic_cast<CQrUiToolPanel*>(found->object);
-    if (panel == nullptr)
-        return false;
-    for (int i = 0; i < panel->GetToolPanelItemCount(); ++i) {
+    auto* panel = found == nullptr ? nullptr : dynamic_cast<CQrUiToolPanel*>(found->object);
+    for (int i = 0; panel != nullptr && i < panel->GetToolPanelItemCount(); ++i) {
         const CQrUiToolPanelItem& item = *panel->GetToolPanelItem(i);
         CRect rect;
         item.GetRect(rect, kItemClientRect);
         if (rect.PtInRect(stage.toolkit.mouse().point()))
-            return (item.GetState() & kItemDisabled) != 0;
+            return &item;
     }
-    return false;
+    return nullptr;
+}
+
+/// Empty for a part that can be used.
+QString reasonFor(const Stage& stage, HWND window) {
+    const CQrUiToolPanelItem* const item = itemUnderMouse(stage, window);
+    const bool isDisabled = !stage.windows.takesInput(window) ||
+                            (item != nullptr && (item->GetState() & kItemDisabled) != 0);
+    return isDisabled && stage.whyDisabled ? stage.whyDisabled(window, item) : QString();
 }
 
 /// The variable that a slider sets, as its user would type it; empty for one that sets none, such as
@@ -139,8 +150,7 @@ void showTip(const Stage& stage, HWND window, const std::wstring& text) {
     QString shown = toQt(text);
     if (const QString variable = variableOf(stage.windows, window); !variable.isEmpty())
         shown += QStringLiteral("\nVariable: ") + variable;
-    const QString reason = stage.whyDisabled ? stage.whyDisabled(window) : QString();
-    if (!reason.isEmpty() && isDisabledAt(stage, window))
+    if (const QString reason = reasonFor(stage, window); !reason.isEmpty())
         shown += QLatin1Char('\n') + reason;
     QToolTip::showText(QCursor::pos(), shown);
 }

@@ -173,8 +173,11 @@ MirrorWidget* WindowMirror::make(HWND window) {
 /// host moves it again.
 void WindowMirror::followKeyboard() {
     const HWND now = m_stage.windows.focus();
-    if (now == std::exchange(m_keyboard, now))
+    if (now == std::exchange(m_keyboard, now)) {
+        if (MirrorWidget* const mirror = widgetOf(now))
+            mirror->announceItem();
         return;
+    }
     MirrorWidget* const mirror = widgetOf(now);
     if (mirror == nullptr || (paletteSetAbove(m_stage.windows, now) == nullptr &&
                               m_stage.windows.popupAbove(now) == nullptr)) {

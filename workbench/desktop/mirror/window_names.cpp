@@ -9,6 +9,9 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/windows/window_system.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace workbench::desktop {
 
 namespace {
@@ -51,17 +54,20 @@ QString headOf(const QString& tip) {
     return line.section(QLatin1Char(':'), 0, 0).section(QLatin1String(" ("), 0, 0).trimmed();
 }
 
-/// Lists that the host or a module names for programs only.
-constexpr ClassRow kLists[] = {
+/// Controls that the host or a module names for programs only.
+constexpr ClassRow kControls[] = {
     {"3DNavViewComboCtrl", "Views"},
     {"DimStyleControl", "Dimension style"},
     {"LayerFilterComboControl", "Layer filter"},
     {"LayerFilterComboControl.dropdown", "Layer filters"},
     {"LayerFilterComboControl.tree", "Layer filters"},
     {"MldStyleControl", "Multileader style"},
+    {"OPTColorControl", "Colour"},
+    {"RedoSkinnyButtonControl", "Redo"},
     {"RefblknameControl", "Reference block"},
     {"TblStyleControl", "Table style"},
     {"TxtStyleControl", "Text style"},
+    {"UndoSkinnyButtonControl", "Undo"},
 };
 
 /// A name for programs in words: "LayerControl" is "Layer", "LineWeightControl" "Line weight".
@@ -78,27 +84,41 @@ QString inWords(QString name) {
     return words;
 }
 
-QString nameOfList(const std::string& control) {
-    for (const ClassRow& row : kLists) {
+QString knownName(const std::string& control) {
+    for (const ClassRow& row : kControls) {
         if (control == row.className)
             return QString::fromLatin1(row.name);
     }
     return inWords(toQt(std::string_view(control)));
 }
 
-/// The custom control that a window is, or stands in: what it is called as a whole.
+bool isCombo(const Window& window) {
+    return dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr;
+}
+
+/// The tooltip of a window's first part that has one.
+QString firstTip(const WindowSystem& windows, const std::vector<HWND>& parts) {
+    for (const HWND part : parts) {
+        const auto* widget = dynamic_cast<const ControlWidget*>(windows.find(part)->widget.get());
+        if (widget != nullptr && !widget->tip().empty())
+            return toQt(widget->tip());
+    }
+    return {};
+}
+
+/// What the custom control that a window is, or stands in, is called there.
 QString nameOfControl(const Toolkit& toolkit, const Window& window) {
     const WindowSystem& windows = toolkit.windows();
     for (const Window* above = &window; above != nullptr; above = windows.find(above->parent)) {
         if (above->className != "CQrUiToolPanel")
             continue;
-        const Window* const parent = windows.find(above->parent);
-        if (parent == nullptr || parent->className != "CQrUiToolPanel")
+        if (!isCustomControl(windows, above->handle))
             return {};
+        if (above == &window)
+            return nameOfWhole(toolkit, window);
         const QString item = nameOfItem(toolkit, *above);
         // The head of a list is another tool, such as a step back.
-        const bool isList = dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr;
-        return item.isEmpty() || isList ? nameOfList(above->name) : headOf(item);
+        return item.isEmpty() || isCombo(window) ? knownName(above->name) : headOf(item);
     }
     return {};
 }
@@ -106,8 +126,7 @@ QString nameOfControl(const Toolkit& toolkit, const Window& window) {
 /// Whether a window is a control, or a part of a dropdown, that only programs know by name.
 bool isNamedForPrograms(const WindowSystem& windows, const Window& window) {
     return !window.name.empty() &&
-           (windows.popupAbove(window.handle) != nullptr ||
-            dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr);
+           (windows.popupAbove(window.handle) != nullptr || isCombo(window));
 }
 
 QString nameOfClass(const Window& window) {
@@ -124,6 +143,18 @@ bool isValue(const Window& window) {
 
 }  // namespace
 
+QString nameOfWhole(const Toolkit& toolkit, const Window& control) {
+    const WindowSystem& windows = toolkit.windows();
+    const std::vector<HWND> parts = windows.descendants(control.handle);
+    const bool hasList = std::any_of(
+        parts.begin(), parts.end(), [&windows](HWND part) { return isCombo(*windows.find(part)); });
+    if (hasList)
+        return knownName(control.name);
+    const QString item = nameOfItem(toolkit, control);
+    const QString tip = item.isEmpty() ? firstTip(windows, parts) : item;
+    return tip.isEmpty() ? knownName(control.name) : headOf(tip);
+}
+
 WindowNames namesOf(Toolkit& toolkit, const Window& window) {
     const auto* control = dynamic_cast<const ControlWidget*>(window.widget.get());
     const QString tip = control == nullptr ? QString() : toQt(control->tip());
@@ -138,7 +169,7 @@ WindowNames namesOf(Toolkit& toolkit, const Window& window) {
     else if (!tip.isEmpty())
         names.name = headOf(tip);
     else if (isNamedForPrograms(toolkit.windows(), window))
-        names.name = nameOfList(window.name);
+        names.name = knownName(window.name);
     else
         names.name = nameOfClass(window);
     if (names.name.isEmpty() && window.object == &toolkit.frame().frame())

@@ -15,5 +15,7 @@ struct WindowNames {
     QString description;  ///< The tooltip, where it says more than the name.
 };
 WindowNames namesOf(Toolkit& toolkit, const Window& window);
+/// What a custom control is called as a whole: as its picture or its tooltip says, or what it lists.
+QString nameOfWhole(const Toolkit& toolkit, const Window& control);
 
 }  // namespace workbench::desktop

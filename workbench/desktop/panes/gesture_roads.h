@@ -5,11 +5,12 @@
 #include <QTreeWidget>
 #include <cstdint>
 #include <deque>
+#include <limits>
 
 namespace workbench::desktop {
 
-/// The road of each gesture as one group that can be folded: what happened from the press on, behind
-/// the release its echoes too, until the next gesture. The newest stands below, unfolded.
+/// The road of each gesture as one group that can be folded: what happened from the press to the
+/// release, and its echoes. The newest stands below, unfolded.
 class GestureRoads final : public QTreeWidget {
 public:
     static constexpr int kMostGestures = 50;  ///< The oldest go when there are more.
@@ -17,22 +18,28 @@ public:
 
     GestureRoads();
 
-    /// A gesture begins: records with this number and above are its own, until the next one begins.
+    /// A gesture begins: records with this number and above are its own, until it ends or the next one
+    /// begins.
     void begin(const QString& title, std::uint64_t firstNumber);
-    /// Takes a record that has come, in the order of their numbers. Those before the first gesture are
-    /// left out.
+    /// The newest gesture ends with the record of this number, unless it has ended before.
+    void end(std::uint64_t lastNumber);
+    /// Takes a record that has come, in the order of their numbers. Those between gestures are left
+    /// out.
     void add(const JournalRecord& record);
     void clearRoads();
 
 private:
-    struct Start {
+    struct Gesture {
         QString title;
-        std::uint64_t firstNumber;
+        std::uint64_t firstNumber = 0;
+        std::uint64_t lastNumber = std::numeric_limits<std::uint64_t>::max();  // until it ends
+        QTreeWidgetItem* road = nullptr;  // the tree's; null: no record has come of it
     };
 
     QTreeWidgetItem* roadFor(std::uint64_t number);
+    QTreeWidgetItem* makeRoad(const QString& title);
 
-    std::deque<Start> m_starts;  // of gestures that have no group yet, oldest first
+    std::deque<Gesture> m_gestures;  // that records may yet come of, oldest first
 };
 
 }  // namespace workbench::desktop

@@ -175,6 +175,10 @@ void JournalPane::beginGesture(const QString& title) {
     m_roads->begin(title, m_lastNumber + 1);
 }
 
+void JournalPane::endGesture() {
+    m_roads->end(m_lastNumber);
+}
+
 void JournalPane::setRoadsShown(bool shown) {
     m_table->setVisible(!shown);
     m_roads->setVisible(shown);

@@ -44,6 +44,8 @@ public:
     void setIdleShown(bool shown) { m_idleShown = shown; }
     /// A gesture of the user's begins: from now on records are those of its road.
     void beginGesture(const QString& title);
+    /// What happens from now on is no longer on its road. Nothing if none is under way.
+    void endGesture();
     /// Shows the road of each gesture as a group, in place of the table.
     void setRoadsShown(bool shown);
     GestureRoads& roads() { return *m_roads; }

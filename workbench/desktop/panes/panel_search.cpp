@@ -1,6 +1,7 @@
 #include "workbench/desktop/panes/panel_search.h"
 
 #include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/window_names.h"
 #include "workbench/toolkit/control_widget.h"
 #include "workbench/toolkit/lookup.h"
 #include "workbench/toolkit/tool_panel_item_record.h"
@@ -85,14 +86,21 @@ QStringList tipsWithin(const WindowSystem& windows, HWND root) {
     return tips;
 }
 
-/// What a tooltip names, without the value or the advice that follows.
-QString headOf(const QString& tip) {
-    return tip.section(QLatin1Char(':'), 0, 0).section(QLatin1String(" ("), 0, 0);
+/// Without the signs that mark access keys in some menu data.
+QString withoutMarks(const QString& text) {
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const bool isSign = text[i] == QLatin1Char('&') && i + 1 < text.size();
+        const bool isMark =
+            isSign && (text[i + 1].isLetterOrNumber() || text[i + 1] == QLatin1Char('&'));
+        plain += text[isMark ? ++i : i];
+    }
+    return plain;
 }
 
 QStringList describeTool(const Toolkit& toolkit, const CQrUiToolPanelItem& item, SearchHit& hit) {
     hit.item = knownId(item);
-    const QString name = toQt(shownName(toolkit, item));
+    const QString name = withoutMarks(toQt(shownName(toolkit, item)));
     const QString id = toQt(hit.item);
     hit.label = name.isEmpty() ? id : name;
     return {name, id, toQt(item.GetID())};
@@ -107,9 +115,8 @@ QStringList describeItem(const Toolkit& toolkit, const CQrUiToolPanelItem& item,
         return describeTool(toolkit, item, hit);
     hit.control = control->name;
     QStringList places = itemNames(toolkit, *control) + tipsWithin(windows, control->handle);
-    const QString name = toQt(std::string_view(control->name));
-    hit.label = places.isEmpty() ? name : headOf(places.front());
-    places.append(name);
+    hit.label = withoutMarks(nameOfWhole(toolkit, *control));
+    places.append({hit.label, toQt(std::string_view(control->name))});
     return places;
 }
 
@@ -132,7 +139,7 @@ std::vector<SearchHit> searchPanels(const Toolkit& toolkit, const QString& text)
             continue;
         SearchHit hit;
         hit.panel = panel->GetID();
-        hit.panelTitle = toQt(panel->GetWindowText());
+        hit.panelTitle = withoutMarks(toQt(panel->GetWindowText()));
         QStringList places = describeItem(toolkit, *item, hit);
         places.append(hit.panelTitle);
         // A line end between them, so that no word is found across two.

@@ -12,7 +12,7 @@ namespace workbench::desktop {
 
 /// A tool or a control of the dashboard that a search has found.
 struct SearchHit {
-    QString label;        ///< As the user knows it.
+    QString label;        ///< As the user sees it; the ID only of a tool without a name.
     QString panelTitle;   ///< Of the panel that it stands on.
     std::wstring panel;   ///< The panel's ID.
     std::wstring item;    ///< ID of the tool; empty for a control.

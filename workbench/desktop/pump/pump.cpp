@@ -82,6 +82,8 @@ void Pump::idle() {
     runHost();
     armTimer();
     --m_depth;
+    if (m_onIdle)
+        m_onIdle();
     if (m_onRest)
         m_onRest();
 }

@@ -32,11 +32,15 @@ public:
     bool isHeld() const { return m_held; }
     /// Whether what happens now is only an idle tick's.
     bool isIdling() const { return m_idling; }
+    /// Whether something that was done has not yet ended with its idle tick.
+    bool isBusy() const { return m_depth > 0 || m_idle.isActive(); }
 
     /// Told of each failure, in words.
     void setOnFailure(std::function<void(const QString&)> told) { m_onFailure = std::move(told); }
     /// Told whenever the host has come to rest after something was done.
     void setOnRest(std::function<void()> told) { m_onRest = std::move(told); }
+    /// Told, ahead of that, when the idle tick behind it has been, too.
+    void setOnIdle(std::function<void()> told) { m_onIdle = std::move(told); }
 
 private:
     void guarded(const std::function<void()>& what);
@@ -48,6 +52,7 @@ private:
     Workbench& m_workbench;
     std::function<void(const QString&)> m_onFailure;
     std::function<void()> m_onRest;
+    std::function<void()> m_onIdle;
     QElapsedTimer m_elapsed;
     std::int64_t m_base = 0;  // the workbench's clock when m_elapsed was started
     QTimer m_due;

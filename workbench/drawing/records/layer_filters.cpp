@@ -2,6 +2,8 @@
 
 #include "workbench/base/text.h"
 #include "workbench/drawing/database/database.h"
+#include "workbench/drawing/layer_overrides.h"
+#include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer_filter_expression.h"
 
@@ -13,7 +15,8 @@ namespace workbench::drawing {
 
 namespace {
 
-constexpr std::array<const char*, 4> kKindNames{"all", "used", "property", "group"};
+constexpr std::array<const char*, 6> kKindNames{"all",       "used",     "unreconciled",
+                                                "overrides", "property", "group"};
 
 bool isUsed(ObjectId layer, const Database& database) {
     const std::vector<ObjectId> entities = database.ids(RecordKind::Entity);
@@ -53,12 +56,7 @@ void setMember(LayerFilter& filter, const Value::Member& member, const Database&
 }
 
 void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
-    for (const std::string& name : names) {
-        if (equalNoCase(name, filter.name)) {
-            throw ValueError("two layer filters are named \"" + filter.name + "\"");
-        }
-    }
-    names.push_back(filter.name);
+    names.push_back(toUtf8(toUpper(toWide(filter.name))));
     for (const LayerFilter& child : filter.children) {
         collectNames(child, names);
     }
@@ -66,15 +64,51 @@ void collectNames(const LayerFilter& filter, std::vector<std::string>& names) {
 
 constexpr const char* kAllLayers = "All";
 
+/// A filter below the root that a drawing keeps itself.
+struct GeneratedFilter {
+    FilterKind kind;
+    const char* name;
+};
+
+constexpr GeneratedFilter kGenerated[] = {
+    {FilterKind::Used, "All Used Layers"},
+    {FilterKind::Unreconciled, "Unreconciled New Layers"},
+    {FilterKind::Overrides, "Viewport Overrides"},
+};
+
+bool hasKind(const LayerFilter& filter, FilterKind kind) {
+    return filter.kind == kind ||
+           std::any_of(filter.children.begin(), filter.children.end(),
+                       [kind](const LayerFilter& child) { return hasKind(child, kind); });
+}
+
+bool isUnreconciled(ObjectId id, const Database& database) {
+    const auto* layer = database.look<Layer>(id);
+    return layer != nullptr && !layer->reconciled;
+}
+
+bool looksOtherInViewport(ObjectId layer, const Database& database) {
+    const auto* viewport = database.look<Viewport>(activeViewport(database));
+    return viewport != nullptr && hasOverride(*viewport, layer);
+}
+
 }  // namespace
 
 LayerFilters::LayerFilters() : current(kAllLayers) {
     root.name = kAllLayers;
     root.kind = FilterKind::All;
-    LayerFilter used;
-    used.name = "All Used Layers";
-    used.kind = FilterKind::Used;
-    root.children.push_back(used);
+    addGenerated();
+}
+
+void LayerFilters::addGenerated() {
+    for (const GeneratedFilter& generated : kGenerated) {
+        if (hasKind(root, generated.kind) || findFilter(root, generated.name) != nullptr)
+            continue;
+        LayerFilter added;
+        added.name = generated.name;
+        added.kind = generated.kind;
+        root.children.push_back(added);
+    }
 }
 
 const std::vector<Property<LayerFilters>>& LayerFilters::properties() {
@@ -119,12 +153,26 @@ LayerFilter* findFilterParent(LayerFilter& start, std::string_view name) {
     return const_cast<LayerFilter*>(findFilterParent(static_cast<const LayerFilter&>(start), name));
 }
 
+FilterNames nameProblemOf(const LayerFilter& root) {
+    std::vector<std::string> names;
+    collectNames(root, names);
+    std::sort(names.begin(), names.end());
+    if (names.front().empty())
+        return FilterNames::Empty;
+    return std::adjacent_find(names.begin(), names.end()) == names.end() ? FilterNames::Good
+                                                                         : FilterNames::Twice;
+}
+
 bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database) {
     switch (filter.kind) {
     case FilterKind::All:
         return true;
     case FilterKind::Used:
         return isUsed(layer, database);
+    case FilterKind::Unreconciled:
+        return isUnreconciled(layer, database);
+    case FilterKind::Overrides:
+        return looksOtherInViewport(layer, database);
     case FilterKind::Property:
         return expressionShows(filter.expression, layer, database);
     case FilterKind::Group:
@@ -142,7 +190,8 @@ void fromValue(const Value& value, FilterKind& member, const Database& /*databas
     const std::string& text = value.asString();
     const auto found = std::find(kKindNames.begin(), kKindNames.end(), text);
     if (found == kKindNames.end()) {
-        throw ValueError("expected all, used, property or group, got " + value.describe());
+        throw ValueError("expected all, used, unreconciled, overrides, property or group, got " +
+                         value.describe());
     }
     member = static_cast<FilterKind>(found - kKindNames.begin());
 }
@@ -166,11 +215,14 @@ void fromValue(const Value& value, LayerFilter& member, const Database& database
     for (const Value::Member& entry : value.asTable()) {
         setMember(member, entry, database);
     }
-    if (member.name.empty()) {
+    switch (nameProblemOf(member)) {
+    case FilterNames::Empty:
         throw ValueError("a layer filter needs a \"name\"");
+    case FilterNames::Twice:
+        throw ValueError("two layer filters bear the same name");
+    case FilterNames::Good:
+        break;
     }
-    std::vector<std::string> names;
-    collectNames(member, names);
 }
 
 }  // namespace workbench::drawing

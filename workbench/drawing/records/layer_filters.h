@@ -12,10 +12,12 @@ class Database;
 
 /// What a layer filter goes by.
 enum class FilterKind {
-    All,       ///< every layer; the root of the tree, kept by the drawing itself
-    Used,      ///< the layers that have something on them; kept by the drawing itself
-    Property,  ///< the layers that an expression describes
-    Group,     ///< a list of layers
+    All,           ///< every layer; the root of the tree, kept by the drawing itself
+    Used,          ///< the layers that have something on them; kept by the drawing itself
+    Unreconciled,  ///< the layers that were not accepted yet; kept by the drawing itself
+    Overrides,     ///< those that look other in the active viewport; kept by the drawing itself
+    Property,      ///< the layers that an expression describes
+    Group,         ///< a list of layers
 };
 
 /// A layer filter with the filters nested in it.
@@ -27,7 +29,7 @@ struct LayerFilter {
     std::vector<LayerFilter> children;
 
     /// Kept up to date by the drawing: it can be neither renamed nor deleted.
-    bool isGenerated() const { return kind == FilterKind::All || kind == FilterKind::Used; }
+    bool isGenerated() const { return kind != FilterKind::Property && kind != FilterKind::Group; }
 
     friend bool operator==(const LayerFilter&, const LayerFilter&) = default;
 };
@@ -37,8 +39,10 @@ struct LayerFilters {
     static constexpr RecordKind kKind = RecordKind::LayerFilters;
     static const std::vector<Property<LayerFilters>>& properties();
 
-    /// The tree of a new drawing: all layers, and below it the used ones.
+    /// The tree of a new drawing: all layers, and below it the others that a drawing keeps itself.
     LayerFilters();
+    /// Adds those filters that a drawing keeps itself and the tree lacks, unless their names are taken.
+    void addGenerated();
 
     LayerFilter root;
     std::string current;  // name of the filter in force
@@ -56,11 +60,15 @@ LayerFilter* findFilter(LayerFilter& start, std::string_view name);
 const LayerFilter* findFilterParent(const LayerFilter& start, std::string_view name);
 LayerFilter* findFilterParent(LayerFilter& start, std::string_view name);
 
-/// True if the filter shows the layer. A property filter whose expression can't be read shows
+/// What is to be said of the names in a tree: each is needed, and unique without regard to case.
+enum class FilterNames { Good, Empty, Twice };
+FilterNames nameProblemOf(const LayerFilter& root);
+
+/// True if the filter shows the layer: where it is nested makes no difference. A property filter whose expression can't be read shows
 /// none.
 bool filterShows(const LayerFilter& filter, ObjectId layer, const Database& database);
 
-/// "all", "used", "property", "group".
+/// "all", "used", "unreconciled", "overrides", "property", "group".
 Value toValue(FilterKind member, const Database& database);
 void fromValue(const Value& value, FilterKind& member, const Database& database);
 

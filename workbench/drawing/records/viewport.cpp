@@ -28,6 +28,7 @@ const std::vector<Property<Viewport>>& Viewport::properties() {
             property<Port, &Port::tone, &ToneOperator::contrast>("toneContrast").within(0.0, 100.0),
             property<Port, &Port::tone, &ToneOperator::midTones>("toneMidTones").within(0.0, 20.0),
             property<Port, &Port::frozenLayers>("frozenLayers"),
+            property<Port, &Port::layerOverrides>("layerOverrides"),
         };
         all.insert(all.end(), more.begin(), more.end());
         return all;

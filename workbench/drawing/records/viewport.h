@@ -1,6 +1,7 @@
 #pragma once
 
 #include "workbench/drawing/database/property.h"
+#include "workbench/drawing/records/layer_override.h"
 #include "workbench/drawing/records/view_parameters.h"
 
 #include <vector>
@@ -39,6 +40,7 @@ struct Viewport {
     double contrast = 0.0;    // likewise
     ToneOperator tone;
     std::vector<Ref<RecordKind::Layer>> frozenLayers;  // in this viewport only
+    std::vector<LayerOverride> layerOverrides;         // one a layer at most
 
     bool isTile() const { return layout.id.isNull(); }
     bool isPaper() const { return !isTile() && number == kPaperNumber; }

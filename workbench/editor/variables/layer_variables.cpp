@@ -1,3 +1,4 @@
+#include "workbench/drawing/layer_overrides.h"
 #include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/layer.h"
 #include "workbench/editor/variables/drawing_access.h"
@@ -36,6 +37,12 @@ bool writeLayer(const VariableScope& scope, const Value& value) {
                                 [id](Current& current) { current.layer = id; });
 }
 
+Value readOverrides(const VariableScope& scope) {
+    if (scope.database == nullptr)
+        return {};
+    return drawing::activeViewportHasOverrides(*scope.database) ? 1 : 0;
+}
+
 }  // namespace
 
 void addLayerVariables(VariableTable& table) {
@@ -51,7 +58,12 @@ void addLayerVariables(VariableTable& table) {
              .set = writeLayer},
             // Percent; negative while locked layers are not faded.
             {.name = L"LAYLOCKFADECTL", .home = Profile, .initial = 50, .range = {{-90, 90}}},
+            // How new layers are looked over: 0 not at all, 1 those of referenced drawings, 2 all.
             {.name = L"LAYEREVAL", .initial = 0, .range = {{0, 2}}},
+            // 0: the drawing is not drawn anew by itself after a change of layers.
+            {.name = L"REGENMODE", .initial = 1, .range = {{0, 1}}},
+            // Whether layers look other in the active viewport.
+            {.name = L"VPLAYEROVERRIDES", .home = Computed, .readOnly = true, .get = readOverrides},
         });
 }
 

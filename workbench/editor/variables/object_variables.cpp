@@ -13,6 +13,8 @@ void addObjectVariables(VariableTable& table) {
                                   {.name = L"CDIMSTYLE", .type = String, .initial = "Standard"},
                                   {.name = L"CTABLESTYLE", .type = String, .initial = "Standard"},
                                   {.name = L"CLEADERSTYLE", .type = String, .initial = "Standard"},
+                                  // Whether names may be long.
+                                  {.name = L"EXTNAMES", .initial = 1, .range = {{0, 1}}},
                               });
 }
 

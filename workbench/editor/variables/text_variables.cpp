@@ -13,14 +13,14 @@ drawing::ObjectId currentRecord(const drawing::Database& database) {
     return database.first(RecordKind::Current);
 }
 
+drawing::ObjectId currentStyle(const drawing::Database& database) {
+    const auto* current = database.look<Current>(currentRecord(database));
+    return current == nullptr ? drawing::ObjectId() : current->textStyle.id;
+}
+
 Value readTextStyle(const VariableScope& scope) {
     return readRecord<drawing::TextStyle>(
-        scope,
-        [](const drawing::Database& database) {
-            const auto* current = database.look<Current>(currentRecord(database));
-            return current == nullptr ? drawing::ObjectId() : current->textStyle.id;
-        },
-        [](const drawing::TextStyle& style) { return style.name; });
+        scope, currentStyle, [](const drawing::TextStyle& style) { return style.name; });
 }
 
 bool writeTextStyle(const VariableScope& scope, const Value& value) {
@@ -30,6 +30,15 @@ bool writeTextStyle(const VariableScope& scope, const Value& value) {
     return !style.isNull() && writeRecord<Current>(scope, currentRecord, [style](Current& current) {
         current.textStyle = style;
     });
+}
+
+/// With a style that has a height of its own, TEXTSIZE is that height.
+std::optional<ImpliedValue> heightOfStyle(const VariableScope& scope) {
+    const Value height = readRecord<drawing::TextStyle>(
+        scope, currentStyle, [](const drawing::TextStyle& style) { return style.height; });
+    if (height.isNil() || height.asReal() <= 0.0)
+        return {};
+    return ImpliedValue{L"TEXTSIZE", height};
 }
 
 }  // namespace
@@ -44,7 +53,8 @@ void addTextVariables(VariableTable& table) {
                       .type = String,
                       .home = Record,
                       .get = readTextStyle,
-                      .set = writeTextStyle},
+                      .set = writeTextStyle,
+                      .implied = heightOfStyle},
                  });
 }
 

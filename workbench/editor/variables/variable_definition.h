@@ -37,10 +37,17 @@ struct VariableRange {
     double most;
 };
 
+/// Another variable's value that a write of one brings with it.
+struct ImpliedValue {
+    const wchar_t* variable;
+    Value value;
+};
+
 /// One system variable, a row of its family's table.
 struct VariableDefinition {
     using Get = Value (*)(const VariableScope&);
     using Set = bool (*)(const VariableScope&, const Value&);
+    using Implied = std::optional<ImpliedValue> (*)(const VariableScope&);
 
     const wchar_t* name;  ///< the spelling that events carry
     VariableType type = VariableType::Short;
@@ -53,6 +60,9 @@ struct VariableDefinition {
     /// For the last three homes: writes the value; false if that is not possible now. Null: it
     /// can't be written by anyone.
     Set set = nullptr;
+    /// What has to follow once the variable was written, as part of the same step of undo; nothing for
+    /// nothing. Null: never anything.
+    Implied implied = nullptr;
 };
 
 using VariableTable = std::vector<VariableDefinition>;

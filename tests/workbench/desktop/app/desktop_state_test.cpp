@@ -53,6 +53,22 @@ TEST_F(DesktopStateTest, WhatCannotBeTakenIsToldAndTheRestKept) {
     EXPECT_TRUE(m_complaint.endsWith(QLatin1String("not an object")));
 }
 
+TEST_F(DesktopStateTest, AThemeOfAnotherVersionIsWrittenAgainUntilOneIsChosen) {
+    write("{ \"theme\": \"blue\", \"rolledUpPanels\": [] }");
+    DesktopState state = read();
+    EXPECT_FALSE(state.shade);
+    EXPECT_EQ(state.unknownTheme, "blue");
+    state.rolledUp = {L"Light"};
+    state.write(m_folder);
+    EXPECT_EQ(read(), state);
+    EXPECT_EQ(m_complaint.count(QLatin1String("/theme")), 1);
+    state.shade = Shade::Dark;
+    state.write(m_folder);
+    EXPECT_EQ(read().shade, Shade::Dark);
+    EXPECT_EQ(read().unknownTheme, "");
+    EXPECT_TRUE(m_complaint.isEmpty());
+}
+
 TEST_F(DesktopStateTest, AFolderThatCannotBeWrittenIsTold) {
     EXPECT_THROW(DesktopState{}.write("/no/such/folder"), InputError);
 }

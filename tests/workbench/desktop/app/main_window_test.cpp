@@ -499,33 +499,32 @@ TEST_F(MainWindowTest, AStateThatCannotBeReadIsOnlyOverwrittenOnceSomethingChang
     m_window.setShade(Shade::Light);
 }
 
-TEST_F(MainWindowTest, TheRoadOfOneGestureIsOneGroupOfTheJournal) {
-    m_window.journalPane().parentWidget()->show();
-    m_window.journalPane().setRoadsShown(true);
-    QApplication::processEvents();
-    MirrorWidget* const field = edit();
-    click(*field);
-    pressKey(*field, Qt::Key_A, QStringLiteral("\x01"), Qt::ControlModifier);
-    typeText(*field, QStringLiteral("35"));
-    pressKey(*field, Qt::Key_Return);
-    rest();
-    const GestureRoads& roads = m_window.journalPane().roads();
-    ASSERT_GT(roads.topLevelItemCount(), 1);
-    const QTreeWidgetItem& last = *roads.topLevelItem(roads.topLevelItemCount() - 1);
-    EXPECT_TRUE(last.text(0).startsWith(QLatin1String("Key ")));
-    QStringList steps;
-    for (int step = 0; step < last.childCount(); ++step)
-        steps.append(last.child(step)->text(0));
-    EXPECT_EQ(steps.filter(QStringLiteral("LAYLOCKFADECTL: 50 -> 35")).size(), 1);
-    EXPECT_FALSE(steps.filter(QStringLiteral("1727")).isEmpty()) << "the echo to all controls";
-}
-
 TEST_F(MainWindowTest, AThemeThatWasChosenIsRememberedAtOnce) {
     QMenu& view = menu("&View");
     line(*line(view, QStringLiteral("&Theme")).menu(), QStringLiteral("dark")).trigger();
     QString complaint;
     EXPECT_EQ(DesktopState::read(m_workbench.profiles().folder(), complaint).shade, Shade::Dark);
     m_window.setShade(Shade::Light);
+}
+
+TEST_F(MainWindowTest, AThemeOfAnotherVersionIsKeptUntilTheUserChoosesOne) {
+    const std::filesystem::path folder = m_workbench.profiles().folder();
+    DesktopState saved;
+    saved.unknownTheme = "blue";
+    saved.write(folder);
+    m_window.recall();
+    EXPECT_EQ(m_window.shade(), Shade::Light);
+    EXPECT_TRUE(m_window.statusBar()->currentMessage().endsWith(
+        QLatin1String("desktop.json: /theme: light or dark")));
+    collapsePanels(m_workbench.toolkit(), {L"Layers"});
+    m_window.rememberLook();
+    QString complaint;
+    const DesktopState kept = DesktopState::read(folder, complaint);
+    EXPECT_EQ(kept.unknownTheme, "blue");
+    EXPECT_EQ(kept.rolledUp, std::vector<std::wstring>{L"Layers"});
+    m_window.setShade(Shade::Light);
+    m_window.rememberLook();
+    EXPECT_EQ(DesktopState::read(folder, complaint).shade, Shade::Light);
 }
 
 TEST_F(MainWindowTest, TheJournalPaneTakesWhatHappened) {

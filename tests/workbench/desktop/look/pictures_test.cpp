@@ -13,13 +13,14 @@ namespace {
 class PicturesTest : public testing::Test {
 protected:
     /// A square of one colour.
-    HBITMAP add(int size, const QColor& colour) {
+    HBITMAP add(int size, const QColor& colour) { return m_table.add("KEY", square(size, colour)); }
+    static std::vector<std::uint8_t> square(int size, const QColor& colour) {
         QImage image(size, size, QImage::Format_RGBA8888);
         image.fill(colour);
         QByteArray bytes;
         QBuffer buffer(&bytes);
         image.save(&buffer, "PNG");
-        return m_table.add("KEY", std::vector<std::uint8_t>(bytes.begin(), bytes.end()));
+        return {bytes.begin(), bytes.end()};
     }
 
     PictureTable m_table;
@@ -46,6 +47,17 @@ TEST_F(PicturesTest, OnAFinerScreenTheLargePictureIsShownAtTheSamePlace) {
     EXPECT_EQ(fine.width(), 32);
     EXPECT_EQ(fine.devicePixelRatio(), 2.0);
     EXPECT_EQ(m_pictures.fit(small, nullptr, 16, 2.0).deviceIndependentSize(), QSizeF(16, 16));
+}
+
+TEST_F(PicturesTest, WithoutALargePictureTheFineFormIsShown) {
+    const HBITMAP both = m_table.add("KEY", square(16, Qt::red), square(32, Qt::green));
+    EXPECT_EQ(m_pictures.fit(both, nullptr, 16, 1.0).width(), 16);
+    const QPixmap fine = m_pictures.fit(both, nullptr, 16, 2.0);
+    EXPECT_EQ(fine.width(), 32);
+    EXPECT_EQ(fine.deviceIndependentSize(), QSizeF(16, 16));
+    EXPECT_EQ(fine.toImage().pixelColor(3, 3), QColor(Qt::green));
+    const QPixmap large = m_pictures.fit(both, add(32, Qt::blue), 16, 2.0);
+    EXPECT_EQ(large.toImage().pixelColor(3, 3), QColor(Qt::blue));
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "workbench/desktop/mirror/questions.h"
 
 #include "tests/workbench/desktop/mirror/mirror_fixture.h"
+#include "workbench/desktop/look/text.h"
 
 #include <QAbstractButton>
 #include <QCursor>
@@ -121,12 +122,15 @@ TEST_F(QuestionsTest, NoTooltipComesOnceTheMouseHasLeft) {
 }
 
 TEST_F(QuestionsTest, TooltipsComeWhenTheMouseRestsAndTellWhyAToolIsDisabled) {
-    m_stage.whyDisabled = [](HWND) { return QStringLiteral("No drawing is open."); };
+    m_stage.whyDisabled = [](HWND, const CQrUiToolPanelItem* tool) {
+        return QStringLiteral("No drawing is open for ") + toQt(tool->GetID());
+    };
     ItemWidget* play = item(L"ID_Animation_Play");
     hover(*play->parentWidget(), play->geometry().center());
     windows().advance(600);
     EXPECT_TRUE(QToolTip::text().startsWith(QLatin1String("Play the animation")));
-    EXPECT_TRUE(QToolTip::text().endsWith(QLatin1String("No drawing is open.")));
+    EXPECT_TRUE(QToolTip::text().endsWith(QLatin1String("\nNo drawing is open for ") +
+                                          toQt(play->item()->GetID())));
     ItemWidget* line = item(L"ID_Parallel_Projection");
     hover(*line->parentWidget(), line->geometry().center());
     windows().advance(600);

@@ -47,6 +47,27 @@ TEST_F(GestureRoadsTest, AGestureThatNothingCameOfHasNoRoad) {
     EXPECT_EQ(m_roads.topLevelItemCount(), 0);
 }
 
+TEST_F(GestureRoadsTest, WhatHappensBehindTheEndOfAGestureIsOnNoRoad) {
+    m_roads.begin(QStringLiteral("Press"), 1);
+    m_roads.end(2);
+    m_roads.end(4);
+    m_roads.begin(QStringLiteral("Key"), 5);
+    for (std::uint64_t number = 1; number <= 5; ++number)
+        happen(number);
+    m_roads.end(5);
+    happen(6);
+    ASSERT_EQ(m_roads.topLevelItemCount(), 2);
+    EXPECT_EQ(steps(0), 2);
+    EXPECT_EQ(steps(1), 1);
+}
+
+TEST_F(GestureRoadsTest, AGestureThatEndsWithoutARecordHasNoRoad) {
+    m_roads.begin(QStringLiteral("Press"), 1);
+    m_roads.end(0);
+    happen(1);
+    EXPECT_EQ(m_roads.topLevelItemCount(), 0);
+}
+
 TEST_F(GestureRoadsTest, TheOldestRoadsGo) {
     for (std::uint64_t number = 1; number <= GestureRoads::kMostGestures + 5; ++number) {
         m_roads.begin(QString::number(number), number);

@@ -1,7 +1,9 @@
 #include "workbench/desktop/panes/panel_search.h"
 
 #include "tests/support/bench.h"
+#include "workbench/base/text.h"
 #include "workbench/toolkit/lookup.h"
+#include "workbench/windows/window_system.h"
 
 #include <hostapi/qrui18.h>
 
@@ -61,8 +63,36 @@ TEST_F(PanelSearchTest, AControlIsFoundByItsNameAndByItsTooltip) {
     EXPECT_THAT(labels("fading"), ElementsAre("Locked layer fading"));
 }
 
-TEST_F(PanelSearchTest, AControlWithoutTooltipBearsItsName) {
-    EXPECT_THAT(labels("UCSControl"), ElementsAre("UCSControl"));
+TEST_F(PanelSearchTest, AControlWithoutTooltipSaysWhatItLists) {
+    EXPECT_THAT(labels("UCSControl"), ElementsAre("UCS"));
+    EXPECT_THAT(labels("LineWeightControl"), ElementsAre("Line weight"));
+    EXPECT_THAT(labels("OPTColorControl"), ElementsAre("Colour"));
+    EXPECT_THAT(labels("3DNavViewComboCtrl"), ElementsAre("Views")) << "its head is a step back";
+}
+
+TEST_F(PanelSearchTest, NoLabelIsANameForProgramsOnly) {
+    std::size_t controls = 0;
+    for (const char* letter : {"a", "e", "i", "o", "u"}) {
+        for (const SearchHit& hit : find(letter)) {
+            EXPECT_FALSE(hit.label.isEmpty()) << hit.control << toUtf8(hit.item);
+            EXPECT_FALSE(hit.panelTitle.isEmpty()) << hit.label.toStdString();
+            EXPECT_NE(hit.label.toStdString(), hit.control);
+            EXPECT_NE(hit.label.toStdWString(), hit.item);
+            for (const char* part : {"Control", "Ctrl", "ID_", "TPL_", "^C", "&", "\n"})
+                EXPECT_FALSE(hit.label.contains(QLatin1String(part))) << hit.label.toStdString();
+            controls += hit.control.empty() ? 0 : 1;
+        }
+    }
+    EXPECT_GT(controls, 20U);
+}
+
+TEST_F(PanelSearchTest, MarksOfAccessKeysAreNotShown) {
+    item(L"ID_GeoLocation")->SetName(L"&Geographic loc&ation");
+    bench().windows().find(panel(L"Sun")->m_hWnd)->text = L"S&un && sky & more";
+    const std::vector<SearchHit> hits = find("geographic location");
+    ASSERT_EQ(hits.size(), 1U);
+    EXPECT_EQ(hits[0].label, QStringLiteral("Geographic location"));
+    EXPECT_EQ(hits[0].panelTitle, QStringLiteral("Sun & sky & more"));
 }
 
 TEST_F(PanelSearchTest, WordsMayStandInNameAndPanelTitle) {
