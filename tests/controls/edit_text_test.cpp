@@ -54,8 +54,8 @@ TEST_F(EditTextTest, SelectionIsOfTheWholeTextAndScrolledIntoView) {
 
 TEST_F(EditTextTest, FieldGivenBackHasItsTextSelectedAndThenTheFocus) {
     giveBackToCorrect(m_field, L"10.00");
-    EXPECT_EQ(told(),
-              (Steps{"CWnd::SetWindowText", "177: 0 to -1", "183: 0 to 0", "CWnd::SetFocus"}));
+    EXPECT_EQ(told(), (Steps{"CWnd::SetWindowText", "177: 0 to -1", "183: 0 to 0", "CWnd::SetFocus",
+                             "7: 0 to 0"}));
     EXPECT_EQ(m_field.GetWindowText(), L"10.00");
     EXPECT_EQ(bench().windows().focus(), m_field.m_hWnd);
 }

@@ -14,6 +14,7 @@
 
 #include <hostapi/qrui18/combo.h>
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -112,9 +113,12 @@ protected:
         settle();
     }
 
-    std::wstring rootName() { return workbench::toWide(db("filters.root").asString()); }
+    std::wstring rootName() { return workbench::toWide(db("filters.root.name").asString()); }
     bool isStored(const std::string& filter) {
-        return !db("filters[\"" + filter + "\"].name").isNil();
+        const workbench::Value names = db("filters");
+        return std::any_of(
+            names.asList().begin(), names.asList().end(),
+            [&filter](const workbench::Value& name) { return name.asString() == filter; });
     }
 
 private:

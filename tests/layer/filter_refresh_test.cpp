@@ -32,7 +32,7 @@ TEST_F(FilterComboTest, RefreshTakesItsStepsInThisOrder) {
                          "CQrUiComboCtrl::ResetContent()", "CImageList::SetImageCount(3)",
                          "CImageList::ExtractIcon(0)",     "CImageList::SetImageCount(4)",
                          "CImageList::ExtractIcon(0)",     "CImageList::ExtractIcon(2)",
-                         "BitmapFromIconGdiPlus()",        "CQrUiComboCtrl::SetCurSel(0)"};
+                         "BitmapFromIconGdiPlus(object)",  "CQrUiComboCtrl::SetCurSel(0)"};
     Calls expected{"VxLyLayerFilterManager::getFilters()", "CImageList::SetImageCount(0)",
                    "vxedSetUseCurrentFilterFlag(1)", "vxedGetVar(\"VPLAYEROVERRIDES\")"};
     expected.insert(expected.end(), oneCombo.begin(), oneCombo.end());

@@ -231,10 +231,11 @@ TEST_F(FilterComboTest, PickedEntitiesBringTheirLayersToTheGroup) {
                                        {"layer", "Walls"},
                                        {"points", Value::List{Value::List{0.0, 0.0, 0.0},
                                                               Value::List{1.0, 0.0, 0.0}}}});
-    answer("select", Value::List{1});
+    const Value line = db("entities").asList().front();
+    answer("select", Value::List{line});
     choose(L"Top", "Select Layers/Add to Group");
     EXPECT_EQ(db("filters.Top.layers"), Value(Value::List{"Roof", "Walls"}));
-    answer("select", Value::List{1});
+    answer("select", Value::List{line});
     choose(L"Top", "Select Layers/Replace Group");
     EXPECT_EQ(db("filters.Top.layers"), Value(Value::List{"Walls"}));
 }

@@ -5,6 +5,8 @@
 #include "workbench/base/text.h"
 #include "workbench/editor/editor.h"
 
+#include <algorithm>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -22,7 +24,12 @@ protected:
             setDb(std::string("layers.") + layer, workbench::Value::Table{});
         addProperty("House", R"(NAME=="Walls,Doors")");
         addGroup("Top", {"Roof"});
+        m_manager = std::make_unique<CVxDaLayerFilterMgr>();
         refresh();
+    }
+    void TearDown() override {
+        m_manager = nullptr;
+        ControlBench::TearDown();
     }
 
     void addProperty(const std::string& name, const std::string& expression,
@@ -37,16 +44,21 @@ protected:
     }
     /// Reads the drawing's filters anew and forgets what happened so far.
     void refresh() {
-        m_manager.refreshFilters();
+        m_manager->refreshFilters();
         takeJournal();
     }
-    CVxDaLayerFilterMgr& manager() { return m_manager; }
-    VxLyLayerFilter* filter(const std::wstring& name) { return m_manager.findFilter(name); }
+    CVxDaLayerFilterMgr& manager() { return *m_manager; }
+    VxLyLayerFilter* filter(const std::wstring& name) { return m_manager->findFilter(name); }
     /// The drawing's own filter of a name, as a path of the drawing.
     workbench::Value stored(const std::string& name, const std::string& member) {
         return db("filters[\"" + name + "\"]." + member);
     }
-    bool isStored(const std::string& name) { return !stored(name, "name").isNil(); }
+    bool isStored(const std::string& name) {
+        const workbench::Value names = db("filters");
+        return std::any_of(
+            names.asList().begin(), names.asList().end(),
+            [&name](const workbench::Value& known) { return known.asString() == name; });
+    }
     Texts layersOf(const std::string& group) {
         Texts names;
         for (const workbench::Value& layer : stored(group, "layers").asList())
@@ -78,5 +90,5 @@ private:
         setDb("filters[\"" + name + "\"]", members);
     }
 
-    CVxDaLayerFilterMgr m_manager;
+    std::unique_ptr<CVxDaLayerFilterMgr> m_manager;
 };

@@ -17,8 +17,8 @@ TEST_F(FilterComboTest, RegenerationHasTheKeyboardInTheMainWindowAndGivesItBack)
                                       "vxedRegenLayers"});
     ASSERT_EQ(made.size(), 7U);
     EXPECT_EQ(made[0], "CWaitCursor::CWaitCursor()");
-    EXPECT_EQ(made[1], "CWnd::EnableWindow(\"MainFrame\", 1)");
-    EXPECT_EQ(made[2], "CWnd::SetFocus(\"MainFrame\")");
+    EXPECT_EQ(made[1], "CWnd::EnableWindow(\"CFrameWnd\", 1)");
+    EXPECT_EQ(made[2], "CWnd::SetFocus(\"CFrameWnd\")");
     EXPECT_EQ(made[3], "vxedRegenPending()");
     EXPECT_EQ(made[4].substr(0, 15), "vxedRegenLayers");
     EXPECT_EQ(made[5], "CWaitCursor::~CWaitCursor()");

@@ -19,7 +19,14 @@ protected:
         }
         takeJournal();
     }
-    void pick(workbench::Value::List ids) { answer("select", std::move(ids)); }
+    /// The user picks the lines of these places, from 1 on.
+    void pick(const std::vector<std::size_t>& places) {
+        const workbench::Value entities = db("entities");
+        workbench::Value::List picked;
+        for (const std::size_t place : places)
+            picked.push_back(entities.asList().at(place - 1));
+        answer("select", picked);
+    }
     Calls steps() {
         Calls names;
         for (const std::string& call : takeCallLines(

@@ -21,6 +21,10 @@ protected:
     void setReconciled(const char* layer, bool reconciled) {
         setDb(std::string("layers[\"") + layer + "\"].reconciled", reconciled);
     }
+    /// Has a layer come from a referenced drawing, which its name begins with.
+    void makeDependent(const std::string& layer) {
+        setDb("layers." + layer + ".name", "Site|" + layer);
+    }
     void reconcileAll() {
         for (const char* layer : {"0", "Walls", "Doors", "Roof"})
             setReconciled(layer, true);
@@ -56,9 +60,9 @@ TEST_F(ProxyFiltersTest, EvaluationOfDependentLayersShowsOnlyThose) {
     setReconciled("Walls", false);
     setEvaluation(1);
     EXPECT_FALSE(isShown(kNewLayers));
-    setDb("layers.Walls.dependent", true);
+    makeDependent("Walls");
     EXPECT_TRUE(isShown(kNewLayers));
-    setReconciled("Walls", true);
+    setReconciled("Site|Walls", true);
     setReconciled("Doors", false);
     EXPECT_FALSE(isShown(kNewLayers)) << "the dependent layer is an accepted one";
 }
@@ -86,7 +90,7 @@ TEST_F(ProxyFiltersTest, WalkThatCannotBeMadeKeepsTheFilter) {
 TEST_F(ProxyFiltersTest, LayersThatCannotBeReadAreNoDependentOnes) {
     reconcileAll();
     setReconciled("Walls", false);
-    setDb("layers.Walls.dependent", true);
+    makeDependent("Walls");
     setEvaluation(1);
     fail("VxDbSymbolTableIterator::getRecordId", {}, 1);
     EXPECT_FALSE(isShown(kNewLayers));

@@ -4,10 +4,13 @@
 #include "workbench/commands/answers.h"
 #include "workbench/commands/complaints.h"
 #include "workbench/commands/host_commands.h"
+#include "workbench/drawing/dependent_name.h"
 #include "workbench/drawing/lookup.h"
 #include "workbench/drawing/records/layer.h"
+#include "workbench/drawing/records/layer_filters.h"
 #include "workbench/editor/document.h"
 #include "workbench/editor/editor.h"
+#include "workbench/editor/layer_state_list.h"
 
 #include <algorithm>
 #include <iterator>
@@ -19,16 +22,24 @@ namespace {
 
 using drawing::Database;
 using drawing::Layer;
+using drawing::LayerFilters;
 using drawing::ObjectId;
 using drawing::RecordKind;
 using drawing::Writing;
 
+constexpr int kLooksOverAllLayers = 2;  // of LAYEREVAL
+
 /// Adds the layers of a list of names that are not there yet.
-void addLayers(Database& database, std::wstring_view names) {
+void addLayers(const CommandScope& scope, std::wstring_view names) {
     for (const std::wstring& name : splitList(names)) {
         Layer layer;
         layer.name = toUtf8(name);
-        database.add(layer);
+        if (drawing::isDependentName(layer.name)) {
+            askAgain(scope, inQuotes(name) + L" can only come with a referenced drawing.");
+            continue;
+        }
+        layer.reconciled = scope.editor.read(L"LAYEREVAL") != Value(kLooksOverAllLayers);
+        scope.document.data().add(layer);
     }
 }
 
@@ -51,7 +62,7 @@ void changeLayers(const CommandScope& scope, std::wstring_view patterns, Change 
     }
 }
 
-/// An option of -LAYER that changes the layers named in the answer.
+/// An option that goes by the names in the answer.
 struct LayerOption {
     const wchar_t* name;    // its capitals must be entered
     const wchar_t* prompt;  // for the names
@@ -67,14 +78,12 @@ constexpr LayerOption kOptions[] = {
     {L"?", L"Layer name(s) to list <*>:", [](const CommandScope&, std::wstring_view) {}},
     {L"Make", L"Name for new layer:",
      [](const CommandScope& scope, std::wstring_view name) {
-         addLayers(scope.document.data(), name);
+         addLayers(scope, name);
          setCurrent(scope, name);
      }},
     {L"Set", L"Layer name to make current:", setCurrent},
     {L"New", L"Name list for new layer(s):",
-     [](const CommandScope& scope, std::wstring_view names) {
-         addLayers(scope.document.data(), names);
-     }},
+     [](const CommandScope& scope, std::wstring_view names) { addLayers(scope, names); }},
     {L"ON", L"Name list of layer(s) to turn on:",
      [](const CommandScope& scope, std::wstring_view names) {
          changeLayers(scope, names, [](Layer& layer, bool) { layer.on = true; });
@@ -101,9 +110,113 @@ constexpr LayerOption kOptions[] = {
      [](const CommandScope& scope, std::wstring_view names) {
          changeLayers(scope, names, [](Layer& layer, bool) { layer.locked = false; });
      }},
+    {L"REconcile", L"Name list of layer(s) to accept:",
+     [](const CommandScope& scope, std::wstring_view names) {
+         changeLayers(scope, names, [](Layer& layer, bool) { layer.reconciled = true; });
+     }},
 };
 
-/// Asks for options until Enter, and after each for the layers.
+void setCurrentFilter(const CommandScope& scope, std::wstring_view name) {
+    Database& database = scope.document.data();
+    const ObjectId id = database.first(RecordKind::LayerFilters);
+    const auto* filters = database.look<LayerFilters>(id);
+    const auto* filter =
+        filters == nullptr ? nullptr : drawing::findFilter(filters->root, toUtf8(name));
+    if (filter == nullptr) {
+        askAgain(scope, L"There is no layer filter " + inQuotes(name) + L".");
+        return;
+    }
+    const std::string current = filter->name;
+    if (current == filters->current)
+        return;
+    Writing<LayerFilters> writing(database, id);
+    if (writing)
+        writing->current = current;
+}
+
+constexpr LayerOption kFilterOptions[] = {
+    {L"Set", L"Name of the filter to make current:", setCurrentFilter},
+};
+
+LayerStateList statesOf(const CommandScope& scope) {
+    return {scope.document, LayerStateList::NewLayers::Keep};
+}
+
+void complain(const CommandScope& scope, const std::wstring& problem) {
+    if (!problem.empty())
+        askAgain(scope, problem);
+}
+
+std::vector<std::string> layerNames(const Database& database) {
+    std::vector<std::string> names;
+    for (const ObjectId id : database.ids(RecordKind::Layer))
+        names.push_back(database.peek(id)->name());
+    return names;
+}
+
+void restoreState(const CommandScope& scope, std::wstring_view name) {
+    const std::wstring problem = statesOf(scope).restore(std::wstring(name));
+    complain(scope, problem);
+    if (problem.empty())
+        scope.document.regeneration().afterLayers(scope.editor, scope.document,
+                                                  layerNames(scope.document.data()));
+}
+
+void listStates(const CommandScope& scope, std::wstring_view patterns) {
+    for (const std::wstring& name : statesOf(scope).names()) {
+        if (patterns.empty() || fitsPattern(name, patterns))
+            scope.editor.print(scope.document, name);
+    }
+}
+
+constexpr LayerOption kStateOptions[] = {
+    {L"?", L"Name(s) of the layer states to list <*>:", listStates},
+    {L"Save", L"Name of the new layer state:",
+     [](const CommandScope& scope, std::wstring_view name) {
+         complain(scope, statesOf(scope).save(std::wstring(name), {}));
+     }},
+    {L"Restore", L"Name of the layer state to restore:", restoreState},
+    {L"Delete", L"Name of the layer state to delete:",
+     [](const CommandScope& scope, std::wstring_view name) {
+         complain(scope, statesOf(scope).erase(std::wstring(name)));
+     }},
+};
+
+/// A list of options, one of which is asked for.
+struct OptionList {
+    const wchar_t* name;  // by which an outer list is left for it; its capitals must be entered
+    const wchar_t* prompt;
+    const LayerOption* options;
+    std::size_t count;
+    bool asksUntilEnter;  // also after an option was carried out
+
+    const LayerOption* find(std::wstring_view answer) const {
+        const LayerOption* end = options + count;
+        const LayerOption* option = std::find_if(options, end, [answer](const LayerOption& known) {
+            return choosesOption(answer, known.name);
+        });
+        return option == end ? nullptr : option;
+    }
+};
+
+constexpr OptionList kOuterList = {
+    L"", L"Enter an option [?/Make/Set/New/ON/OFF/Freeze/Thaw/LOck/Unlock/STate/FIlter/REconcile]:",
+    kOptions, std::size(kOptions), true};
+
+constexpr OptionList kInnerLists[] = {
+    {L"STate", L"Enter an option [?/Save/Restore/Delete]:", kStateOptions, std::size(kStateOptions),
+     true},
+    {L"FIlter", L"Enter an option [Set]:", kFilterOptions, std::size(kFilterOptions), false},
+};
+
+const OptionList* findInnerList(std::wstring_view answer) {
+    const auto* list = std::find_if(
+        std::begin(kInnerLists), std::end(kInnerLists),
+        [answer](const OptionList& known) { return choosesOption(answer, known.name); });
+    return list == std::end(kInnerLists) ? nullptr : list;
+}
+
+/// Asks for options until Enter, and after each for the layers. Two options have lists of their own.
 class LayerCommand final : public Command {
 public:
     CommandState start(const CommandScope& /*scope*/) override { return CommandState::Waiting; }
@@ -111,35 +224,46 @@ public:
     CommandState feed(const CommandScope& scope, std::wstring_view answer) override {
         if (m_option != nullptr) {
             std::exchange(m_option, nullptr)->apply(scope, answer);
+            if (!m_list->asksUntilEnter)
+                m_list = &kOuterList;
             return CommandState::Waiting;
         }
         if (answer.empty())
-            return CommandState::Ended;
-        const auto* option = std::find_if(
-            std::begin(kOptions), std::end(kOptions),
-            [answer](const LayerOption& known) { return choosesOption(answer, known.name); });
-        if (option == std::end(kOptions))
-            return askAgain(scope, inQuotes(answer) + L" is no option.");
-        m_option = option;
-        return CommandState::Waiting;
+            return leaveList();
+        return choose(scope, answer);
     }
 
     std::wstring prompt() const override {
-        return m_option != nullptr
-                   ? m_option->prompt
-                   : L"Enter an option [?/Make/Set/New/ON/OFF/Freeze/Thaw/LOck/Unlock]:";
+        return m_option != nullptr ? m_option->prompt : m_list->prompt;
     }
 
     bool takesBlanks() const override { return m_option != nullptr; }
 
 private:
+    CommandState leaveList() {
+        return std::exchange(m_list, &kOuterList) == &kOuterList ? CommandState::Ended
+                                                                 : CommandState::Waiting;
+    }
+
+    CommandState choose(const CommandScope& scope, std::wstring_view answer) {
+        const OptionList* inner = m_list == &kOuterList ? findInnerList(answer) : nullptr;
+        if (inner != nullptr) {
+            m_list = inner;
+            return CommandState::Waiting;
+        }
+        m_option = m_list->find(answer);
+        return m_option != nullptr ? CommandState::Waiting
+                                   : askAgain(scope, inQuotes(answer) + L" is no option.");
+    }
+
+    const OptionList* m_list = &kOuterList;
     const LayerOption* m_option = nullptr;  // asks for its layers; null: the next one is asked for
 };
 
 }  // namespace
 
 void addLayerCommands(CommandRegistry& registry) {
-    addHostCommand<LayerCommand>(registry, L"-LAYER", CommandTraits::Plain);
+    addHostCommand<LayerCommand>(registry, L"-LAYER", CommandTraits::Transparent);
 }
 
 }  // namespace workbench

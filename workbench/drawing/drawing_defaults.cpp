@@ -137,7 +137,9 @@ void settleVisualStyles(Database& database) {
 }
 
 void settleFilters(Database& database) {
-    Writing<LayerFilters>(database, database.first(RecordKind::LayerFilters))->addGenerated();
+    Writing<LayerFilters> filters(database, database.first(RecordKind::LayerFilters));
+    if (filters)
+        filters->addGenerated();
 }
 
 void settleCurrent(Database& database) {

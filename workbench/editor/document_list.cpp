@@ -86,12 +86,18 @@ void DocumentList::activate(Document& document) {
     if (m_active == &document || !isOpen(document) || isClosing(document))
         return;
     const Turn turn;
-    m_reactors.notify(
-        [&document](VxApDocManagerReactor& to) { to.documentToBeActivated(&document); });
+    announce(document);
     if (!isOpen(document) || isClosing(document))
         return;
     m_active = &document;
     makeCurrent(&document);
+}
+
+void DocumentList::announce(Document& document) {
+    m_announced = &document;
+    m_reactors.notify(
+        [&document](VxApDocManagerReactor& to) { to.documentToBeActivated(&document); });
+    m_announced = nullptr;
 }
 
 void DocumentList::makeCurrent(Document* document) {
@@ -132,6 +138,8 @@ std::unique_ptr<Document> DocumentList::take(Document& document) {
     const auto place = std::find_if(
         m_documents.begin(), m_documents.end(),
         [&document](const std::unique_ptr<Document>& open) { return open.get() == &document; });
+    if (m_announced == &document)
+        m_announced = nullptr;
     std::unique_ptr<Document> taken = std::move(*place);
     m_documents.erase(place);
     return taken;

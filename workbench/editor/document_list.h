@@ -52,6 +52,9 @@ public:
     Document* find(const VxDbDatabase* database) const;
 
     Document* current() const { return m_current; }
+    /// The document whose drawing modules are told to work on: the current one, or while its activation
+    /// is announced the one to come.
+    Document* working() const { return m_announced == nullptr ? m_current : m_announced; }
     Document* active() const { return m_active; }
     /// The open documents in the order of their making.
     std::vector<Document*> all() const;
@@ -82,6 +85,8 @@ private:
     bool isClosing(const Document& document) const;
     std::unique_ptr<Document> take(Document& document);
     void tellDestroyed(const std::wstring& name);
+    /// Tells that a document is to be activated.
+    void announce(Document& document);
     /// Makes a document current without activating it, with the event.
     void makeCurrent(Document* document);
 
@@ -90,6 +95,7 @@ private:
     drawing::ReactorList<VxApDocManagerReactor> m_reactors;
     Document* m_current = nullptr;    // null: none is open
     Document* m_active = nullptr;     // null: none is open
+    Document* m_announced = nullptr;  // to be activated; null while none is announced
     std::vector<Document*> m_scopes;  // of `CurrentDocument`, the innermost last; null: it went
     std::vector<const Document*> m_closing;  // still open, but on their way out
     int m_going = 0;                         // documents whose end is being told

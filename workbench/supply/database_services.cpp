@@ -24,7 +24,7 @@ public:
 
     VxDbDatabase* workingDatabase() const override {
         HostCall call("VxDbHostApplicationServices::workingDatabase");
-        const workbench::Document* document = Workbench::current().editor().documents().current();
+        const workbench::Document* document = Workbench::current().editor().documents().working();
         VxDbDatabase* database =
             call.failed() || document == nullptr ? nullptr : &document->hostDatabase();
         return call.returns(database);

@@ -11,7 +11,8 @@ public:
     virtual ~VxDbHostApplicationServices() = default;
     /// The program's short name, such as "ZORQ".
     virtual VxString program() const = 0;
-    /// The database that work is done on, null for none.
+    /// The database that work is done on, null for none. While a document's activation is announced it is
+    /// that document's already.
     virtual VxDbDatabase* workingDatabase() const = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "tests/workbench/editor/editor_fixture.h"
 #include "workbench/adapters/host_values.h"
 #include "workbench/drawing/lookup.h"
+#include "workbench/drawing/records/layer.h"
 #include "workbench/drawing/records/viewport.h"
 
 namespace workbench {
@@ -67,6 +68,16 @@ TEST_F(DatabaseAdapterTest, FaultsGiveTheUsualFailures) {
     VxDbViewTable* table = nullptr;
     EXPECT_EQ(database().getSymbolTable(table, VxDbOpenMode::kForRead), 21);
     EXPECT_EQ(table, nullptr);
+}
+
+TEST_F(DatabaseAdapterTest, TheCurrentLayerIsTheEditors) {
+    drawing::Layer layer;
+    layer.name = "Walls";
+    const drawing::ObjectId walls = m_document.data().add(layer).id;
+    write(L"CLAYER", "Walls");
+    EXPECT_EQ(database().clayer(), toHostId(walls));
+    m_bench.faults().fail("VxDbDatabase::clayer");
+    EXPECT_TRUE(database().clayer().isNull());
 }
 
 }  // namespace workbench

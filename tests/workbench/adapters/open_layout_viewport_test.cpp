@@ -33,4 +33,45 @@ TEST_F(OpenLayoutViewportTest, TellsWhetherItIsLocked) {
     inLayout->close();
 }
 
+TEST_F(OpenLayoutViewportTest, FreezesAndThawsLayersInItAlone) {
+    m_document.locks().lock(DocumentLocks::kWrite, this);
+    const drawing::ObjectId layer = data().find(drawing::RecordKind::Layer, "0");
+    drawing::Viewport port;
+    port.number = 7;
+    port.layout = firstLayout();
+    const drawing::ObjectId id = data().add(port).id;
+    auto* viewport = openAs<VxDbViewport>(id);
+    EXPECT_NE(viewport->freezeLayersInViewport({toHostId(layer)}), Zorq::eOk);
+    EXPECT_EQ(viewport->upgradeOpen(), Zorq::eOk);
+    EXPECT_EQ(viewport->freezeLayersInViewport({toHostId(layer), toHostId(layer)}), Zorq::eOk);
+    viewport->close();
+    const auto& frozen = data().look<drawing::Viewport>(id)->frozenLayers;
+    EXPECT_EQ(frozen, decltype(port.frozenLayers){layer});
+    editor().undo();
+    EXPECT_TRUE(frozen.empty());
+    editor().redo();
+    viewport = openAs<VxDbViewport>(id);
+    viewport->upgradeOpen();
+    EXPECT_EQ(viewport->thawLayersInViewport({toHostId(layer)}), Zorq::eOk);
+    viewport->close();
+    EXPECT_TRUE(frozen.empty());
+}
+
+TEST_F(OpenLayoutViewportTest, StopsAtTheFirstIdThatIsNoLayer) {
+    m_document.locks().lock(DocumentLocks::kWrite, this);
+    const drawing::ObjectId layer = data().find(drawing::RecordKind::Layer, "0");
+    drawing::Viewport port;
+    port.number = 7;
+    port.layout = firstLayout();
+    auto* viewport = openAs<VxDbViewport>(data().add(port).id);
+    viewport->upgradeOpen();
+    EXPECT_EQ(viewport->freezeLayersInViewport({toHostId(layer), toHostId(port.layout)}),
+              toHostStatus(drawing::Status::WrongKind));
+    EXPECT_EQ(viewport->thawLayersInViewport({{}, toHostId(layer)}),
+              toHostStatus(drawing::Status::NullObjectId));
+    const drawing::ObjectId id = fromHostId(viewport->objectId());
+    viewport->close();
+    EXPECT_EQ(data().look<drawing::Viewport>(id)->frozenLayers.size(), 1U);
+}
+
 }  // namespace workbench

@@ -91,5 +91,26 @@ TEST_F(LayerStateOperationsTest, BusyLayerStopsTheRestore) {
     EXPECT_EQ(restoreLayerState(m_db, m_state, {}, UnknownLayers::Keep), Status::WasOpenForRead);
 }
 
+TEST_F(LayerStateOperationsTest, AViewportCanLookAsSavedWithoutTheLayersBeingSo) {
+    set("current.tileMode", false);
+    const ObjectId viewport = findViewport(m_db, activeLayout(m_db), 2);
+    set("layers.Walls.colour", 5);
+    set("layers.Walls.locked", true);
+    EXPECT_EQ(
+        restoreLayerState(m_db, m_state, viewport, UnknownLayers::Keep, RestoredLook::OfViewport),
+        Status::Ok);
+    EXPECT_EQ(get("layers.Walls.colour"), Value(5));
+    EXPECT_EQ(get("layers.Walls.locked"), Value(false));
+    EXPECT_TRUE(matchesLayerState(m_db, m_state, viewport));
+    EXPECT_FALSE(matchesLayerState(m_db, m_state, {}));
+    const std::size_t steps = m_db.undoLog().undoCount();
+    restoreLayerState(m_db, m_state, viewport, UnknownLayers::Keep);
+    EXPECT_EQ(m_db.undoLog().undoCount(), steps);
+    set("layers.Walls.on", false);
+    restoreLayerState(m_db, m_state, viewport, UnknownLayers::Keep);
+    EXPECT_EQ(get("layers.Walls.colour"), Value(3));
+    EXPECT_EQ(get("viewports.2.layerOverrides"), Value(Value::List{}));
+}
+
 }  // namespace
 }  // namespace workbench::drawing

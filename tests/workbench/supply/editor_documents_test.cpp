@@ -151,4 +151,17 @@ TEST_F(DocumentFunctionsTest, EachRoadEndsItsOwnLock) {
     EXPECT_EQ(document.locks().mode(), 0);
 }
 
+TEST_F(DocumentFunctionsTest, WhatIsWrittenInALockScopeIsOneStepOfUndo) {
+    Document& document = newDocument();
+    const std::size_t steps = document.data().undoLog().undoCount();
+    {
+        const VxAxDocLock lock(&document);
+        run(L"_-layer\nnew\nWalls\n\n");
+        run(L"_-layer\nnew\nRoof\n\n");
+    }
+    EXPECT_EQ(document.data().undoLog().undoCount(), steps + 1);
+    editor().undo();
+    EXPECT_EQ(document.data().ids(drawing::RecordKind::Layer).size(), 1U);
+}
+
 }  // namespace workbench

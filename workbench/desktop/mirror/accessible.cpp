@@ -66,11 +66,6 @@ public:
     }
     QAccessible::State state() const override;
     QAccessibleInterface* focusChild() const override;
-    QStringList actionNames() const override {
-        return role() == QAccessible::CheckBox ? QStringList{pressAction()}
-                                               : QAccessibleWidget::actionNames();
-    }
-    void doAction(const QString& name) override;
     int childCount() const override {
         return QAccessibleWidget::childCount() + (openMenu() == nullptr ? 0 : 1);
     }
@@ -84,6 +79,11 @@ public:
                    ? QAccessibleWidget::childCount()
                    : QAccessibleWidget::indexOfChild(child);
     }
+    QStringList actionNames() const override {
+        return role() == QAccessible::CheckBox ? QStringList{pressAction()}
+                                               : QAccessibleWidget::actionNames();
+    }
+    void doAction(const QString& name) override;
     void* interface_cast(QAccessible::InterfaceType type) override {
         if (type == QAccessible::ValueInterface && slider() != nullptr)
             return static_cast<QAccessibleValueInterface*>(this);

@@ -24,9 +24,9 @@ namespace workbench::desktop {
 
 namespace {
 
-constexpr const char* kKinds[] = {"call",    "message",    "command", "var",    "item",
-                                  "control", "balloon",    "box",     "tip",    "gesture",
-                                  "dialog",  "navigation", "output",  "profile"};
+constexpr const char* kKinds[] = {"call",    "message",    "command", "var",     "item",
+                                  "control", "balloon",    "box",     "tip",     "gesture",
+                                  "dialog",  "navigation", "output",  "profile", "regen"};
 constexpr int kTimeWidth = 80;  // pixels
 constexpr int kKindWidth = 80;
 constexpr int kRowHeight = 18;

@@ -1,8 +1,10 @@
 #include "workbench/drawing/records/layer_filters.h"
 
 #include "workbench/drawing/database/database.h"
+#include "workbench/drawing/records/current.h"
 #include "workbench/drawing/records/entity.h"
 #include "workbench/drawing/records/layer.h"
+#include "workbench/drawing/records/viewport.h"
 
 #include <gtest/gtest.h>
 
@@ -81,6 +83,35 @@ TEST_F(LayerFiltersTest, NameThatStandsTwiceIsRefused) {
     EXPECT_THROW(fromValue(Value::Table{{"kind", "group"}}, filter, m_db), ValueError);
     EXPECT_THROW(fromValue(Value::Table{{"name", "x"}, {"kind", "list"}}, filter, m_db),
                  ValueError);
+}
+
+TEST_F(LayerFiltersTest, NewAndOtherLookingLayersHaveFiltersOfTheirOwn) {
+    const LayerFilters filters;
+    const LayerFilter* fresh = findFilter(filters.root, "Unreconciled New Layers");
+    const LayerFilter* other = findFilter(filters.root, "Viewport Overrides");
+    ASSERT_NE(fresh, nullptr);
+    ASSERT_NE(other, nullptr);
+    EXPECT_FALSE(filterShows(*fresh, m_used, m_db));
+    EXPECT_FALSE(filterShows(*other, m_used, m_db));
+    Writing<Layer>(m_db, m_used)->reconciled = false;
+    EXPECT_TRUE(filterShows(*fresh, m_used, m_db));
+    EXPECT_FALSE(filterShows(*fresh, m_empty, m_db));
+    Viewport viewport;
+    viewport.layerOverrides = {LayerOverride{m_empty, Colour::byIndex(1), {}, {}, {}}};
+    m_db.add(viewport);
+    m_db.add(Current());
+    EXPECT_TRUE(filterShows(*other, m_empty, m_db));
+    EXPECT_FALSE(filterShows(*other, m_used, m_db));
+}
+
+TEST_F(LayerFiltersTest, OnlyTheMissingFiltersOfTheDrawingAreAdded) {
+    LayerFilters filters;
+    filters.root.children.erase(filters.root.children.begin());
+    filters.root.children.back().name = "By viewport";
+    filters.addGenerated();
+    ASSERT_EQ(filters.root.children.size(), 3U);
+    EXPECT_EQ(filters.root.children[1].name, "By viewport");
+    EXPECT_EQ(filters.root.children[2].name, "All Used Layers");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "tests/workbench/editor/editor_fixture.h"
+#include "workbench/drawing/path_access.h"
 #include "workbench/drawing/records/layer.h"
 
 namespace workbench {
@@ -38,6 +39,18 @@ TEST_F(EditorTest, TheFadeOfLockedLayersIsSignedPercent) {
     EXPECT_EQ(read(L"LAYLOCKFADECTL"), Value(-50));
     EXPECT_TRUE(write(L"LAYEREVAL", 2));
     EXPECT_FALSE(write(L"LAYEREVAL", 3));
+}
+
+TEST_F(EditorTest, LayersThatLookOtherInTheActiveViewportAreTold) {
+    EXPECT_EQ(read(L"VPLAYEROVERRIDES"), Value());
+    Document& document = newDocument();
+    EXPECT_EQ(read(L"VPLAYEROVERRIDES"), Value(0));
+    drawing::setByPath(document.data(), "viewports.current.layerOverrides",
+                       Value::List{Value::Table{{"layer", "0"}, {"colour", 1}}});
+    EXPECT_EQ(read(L"VPLAYEROVERRIDES"), Value(1));
+    EXPECT_FALSE(write(L"VPLAYEROVERRIDES", 0));
+    editor().set(L"TILEMODE", 0);
+    EXPECT_EQ(read(L"VPLAYEROVERRIDES"), Value(0));
 }
 
 }  // namespace workbench
