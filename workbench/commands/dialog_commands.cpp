@@ -23,7 +23,6 @@ constexpr DialogRow kDialogs[] = {
     {L"GEOLOCATION", "Geographic Location"},
     {L"HELP", "Help", CommandTraits::Transparent},
     {L"LAYER", "Layer Properties Manager"},
-    {L"LAYERSTATE", "Layer States Manager"},
     {L"RENDER", "Render"},
     {L"VISUALSTYLES", "Visual Styles Manager"},
 };

@@ -6,6 +6,7 @@
 #include "workbench/commands/draw_commands.h"
 #include "workbench/commands/erase_command.h"
 #include "workbench/commands/layer_command.h"
+#include "workbench/commands/layer_state_command.h"
 #include "workbench/commands/space_commands.h"
 #include "workbench/commands/text_style_commands.h"
 #include "workbench/commands/undo_commands.h"
@@ -25,6 +26,7 @@ void addHostCommands(CommandRegistry& registry) {
     addEraseCommands(registry);
     addDialogCommands(registry);
     addTextStyleCommands(registry);
+    addLayerStateCommand(registry);
     addViewCommands(registry);
 }
 

@@ -139,7 +139,7 @@ constexpr LayerOption kFilterOptions[] = {
 };
 
 LayerStateList statesOf(const CommandScope& scope) {
-    return {scope.document, LayerStateList::NewLayers::Keep};
+    return {scope.document, {drawing::UnknownLayers::Keep, drawing::RestoredLook::OfLayers}};
 }
 
 void complain(const CommandScope& scope, const std::wstring& problem) {

@@ -44,6 +44,24 @@ TEST_F(LayerStateListTest, LayersThatTheStateDoesNotKnowGoOffOnlyIfAskedFor) {
     EXPECT_EQ(get("layers.New.on"), Value(false));
 }
 
+TEST_F(LayerStateListTest, AViewportOfALayoutGetsItsOwnLookOnlyIfAskedFor) {
+    set("current.tileMode", false);
+    set("viewports.3", Value::Table{});
+    set("layouts.Layout1.currentViewport", 3);
+    set("layers.Walls.colour", "#ff0000");
+    states().save(L"Red", L"");
+    set("layers.Walls.colour", "#00ff00");
+    const auto restore = [this](drawing::RestoredLook look) {
+        return LayerStateList(m_document, {.look = look}).restore(L"Red");
+    };
+    EXPECT_EQ(restore(drawing::RestoredLook::OfViewport), L"");
+    EXPECT_EQ(get("layers.Walls.colour"), Value("#00ff00"));
+    set("viewports.3", Value());
+    set("viewports.3", Value::Table{});
+    EXPECT_EQ(restore(drawing::RestoredLook::OfLayers), L"");
+    EXPECT_EQ(get("layers.Walls.colour"), Value("#ff0000"));
+}
+
 TEST_F(LayerStateListTest, ARenamedStateStaysTheOneRestoredLast) {
     states().save(L"Plan", L"");
     states().restore(L"Plan");
