@@ -62,4 +62,52 @@ TEST(WindowFunctionsLocaleTest, AnotherWorkbenchMayHaveAnotherLanguage) {
     EXPECT_GT(compare("sv_SE"), 0);
 }
 
+TEST_F(WindowFunctionsTest, LeavingIsToldSoonWhereTheMouseIsNot) {
+    TestWindow window;
+    ASSERT_TRUE(make(window));
+    TRACKMOUSEEVENT request{TME_LEAVE, window.m_hWnd};
+    EXPECT_TRUE(TrackMouseEvent(&request));
+    EXPECT_EQ(window.count(WM_MOUSELEAVE), 0);
+    windows().queue().runPosted();
+    windows().queue().runPosted();
+    EXPECT_EQ(window.count(WM_MOUSELEAVE), 1);
+    EXPECT_FALSE(TrackMouseEvent(nullptr));
+    request.hwndTrack = nullptr;
+    EXPECT_FALSE(TrackMouseEvent(&request));
+}
+
+TEST_F(WindowFunctionsTest, TheJournalTellsHowLongWorkWasUnderWay) {
+    journal().take();
+    {
+        const CWaitCursor busy;
+        GetSystemMetrics(0);
+    }
+    std::vector<std::string> calls;
+    for (const JournalRecord& record : journal().take("call"))
+        calls.push_back(record.field("name").asString());
+    EXPECT_EQ(calls, (std::vector<std::string>{"CWaitCursor::CWaitCursor", "GetSystemMetrics",
+                                               "CWaitCursor::~CWaitCursor"}));
+}
+
+TEST_F(WindowFunctionsTest, TheFontsObjectIsTheOneThatWasSet) {
+    TestWindow window;
+    ASSERT_TRUE(make(window));
+    EXPECT_EQ(window.GetFont(), nullptr);
+    CFont font;
+    font.CreateFontIndirect({L"Sans"});
+    window.SetFont(&font);
+    EXPECT_EQ(window.GetFont(), &font);
+    window.SetFont(nullptr);
+    EXPECT_EQ(window.GetFont(), nullptr);
+}
+
+TEST_F(WindowFunctionsTest, TheActiveWindowIsTheTopWindowWithTheKeyboardOrTheMainWindow) {
+    TestWindow top;
+    TestWindow inner;
+    ASSERT_TRUE(make(top) && make(inner, &top));
+    EXPECT_EQ(CWnd::GetActiveWindow(), AfxGetMainWnd());
+    inner.SetFocus();
+    EXPECT_EQ(CWnd::GetActiveWindow(), &top);
+}
+
 }  // namespace workbench

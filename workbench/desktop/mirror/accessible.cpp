@@ -4,6 +4,7 @@
 #include "workbench/desktop/mirror/accessible_tree.h"
 #include "workbench/desktop/mirror/item_widget.h"
 #include "workbench/desktop/mirror/mirror_widget.h"
+#include "workbench/desktop/mirror/open_menu.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/gestures/mouse_gestures.h"
 #include "workbench/gestures/slider_gestures.h"
@@ -24,7 +25,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
-#include <QMenu>
 #include <algorithm>
 
 namespace workbench::desktop {
@@ -124,20 +124,13 @@ public:
 
 private:
     /// The list or the menu that is open on the window, its last child; null for none.
-    QWidget* openMenu() const;
+    QWidget* openMenu() const { return menuOpenOn(mirror()); }
     EditWidget* edit() const { return widgetOf<EditWidget>(mirror()); }
     const LineEditor& line() const { return edit()->editor(*mirror().host()); }
     MirrorWidget& mirror() const { return *static_cast<MirrorWidget*>(widget()); }
     SliderWidget* slider() const { return widgetOf<SliderWidget>(mirror()); }
     QString value() const;
 };
-
-QWidget* AccessibleWindow::openMenu() const {
-    QWidget* menu = QApplication::activePopupWidget();
-    while (menu != nullptr && qobject_cast<QMenu*>(menu->parentWidget()) != nullptr)
-        menu = menu->parentWidget();
-    return menu != nullptr && menu->parentWidget() == &mirror() ? menu : nullptr;
-}
 
 int AccessibleWindow::cursorPosition() const {
     return static_cast<int>(line().caret());

@@ -2,6 +2,7 @@
 
 #include "workbench/desktop/look/shapes.h"
 #include "workbench/desktop/look/text.h"
+#include "workbench/desktop/mirror/open_menu.h"
 #include "workbench/desktop/mirror/stage.h"
 #include "workbench/gestures/tree_gestures.h"
 #include "workbench/toolkit/toolkit.h"
@@ -120,20 +121,24 @@ QAccessibleInterface* AccessibleTree::interfaceOf(HTREEITEM item) const {
 
 int AccessibleTree::childCount() const {
     const TreeWidget* const shown = tree();
-    return shown == nullptr
-               ? 0
-               : static_cast<int>(shown->items().rows().size()) + QAccessibleWidget::childCount();
+    if (shown == nullptr)
+        return 0;
+    const int menus = menuOpenOn(mirror()) == nullptr ? 0 : 1;
+    return static_cast<int>(shown->items().rows().size()) + QAccessibleWidget::childCount() + menus;
 }
 
-/// The items first, then what stands in the tree's window: the editor of a label.
+/// The items first, then the editor of a label, then an open menu.
 QAccessibleInterface* AccessibleTree::child(int index) const {
     const TreeWidget* const shown = tree();
     if (shown == nullptr || index < 0)
         return nullptr;
     const std::vector<HTREEITEM> rows = shown->items().rows();
-    const auto count = static_cast<int>(rows.size());
-    return index < count ? interfaceOf(rows[static_cast<std::size_t>(index)])
-                         : QAccessibleWidget::child(index - count);
+    const int inside = index - static_cast<int>(rows.size());
+    if (inside < 0)
+        return interfaceOf(rows[static_cast<std::size_t>(index)]);
+    return inside == QAccessibleWidget::childCount()
+               ? QAccessible::queryAccessibleInterface(menuOpenOn(mirror()))
+               : QAccessibleWidget::child(inside);
 }
 
 int AccessibleTree::indexOfChild(const QAccessibleInterface* child) const {

@@ -126,8 +126,7 @@ QString nameOfControl(const Toolkit& toolkit, const Window& window) {
 /// Whether a window is a control, or a part of a dropdown, that only programs know by name.
 bool isNamedForPrograms(const WindowSystem& windows, const Window& window) {
     return !window.name.empty() &&
-           (windows.popupAbove(window.handle) != nullptr ||
-            dynamic_cast<const ComboWidget*>(window.widget.get()) != nullptr);
+           (windows.popupAbove(window.handle) != nullptr || isCombo(window));
 }
 
 QString nameOfClass(const Window& window) {

@@ -14,6 +14,7 @@ protected:
         CFrameWnd& frame = m_stage.toolkit.frame().frame();
         m_combo.Create(WS_CHILD | WS_VISIBLE, {400, 100, 560, 400}, &frame, 7);
         windows().setName(m_combo.m_hWnd, "FilterControl");
+        QApplication::setActiveWindow(&m_top);
         rest();
     }
 

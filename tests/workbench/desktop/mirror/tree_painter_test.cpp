@@ -42,6 +42,8 @@ TEST_F(TreePainterTest, BothThemesHaveTheirColours) {
 }
 
 TEST_F(TreePainterTest, OnlyAnItemWithOthersInItHasAButton) {
+    // In the light theme lines have the colour of edges.
+    m_stage.look = &lookOf(Shade::Dark);
     const CRect button = treeWidget().partsOf(m_combo.dropdown->walls).button;
     EXPECT_TRUE(has(button, m_stage.look->edge));
     CRect beside = labelRect(m_combo.dropdown->doors);
