@@ -41,7 +41,7 @@ TEST_F(FilterImagesTest, BuiltInStripIsMadeOnceOnFirstNeed) {
                      "CImageList::Add(object, 16711935)"}));
     images().filterImageIndex(nullptr, 1);
     EXPECT_EQ(takeCallLines({"CImageList::Create", "CBitmap::LoadBitmap"}), Calls{});
-    EXPECT_EQ(images().builtInImages().GetImageCount(), 4);
+    EXPECT_EQ(images().builtInImages().GetImageCount(), 5);
 }
 
 TEST_F(FilterImagesTest, ForeignListIsWrappedForTheCopyAndHandedBack) {
@@ -73,7 +73,7 @@ TEST_F(FilterImagesTest, ClearEmptiesTheMergedListAlone) {
     images().filterImageIndex(nullptr, 0);
     images().clear();
     EXPECT_EQ(images().merged().GetImageCount(), 0);
-    EXPECT_EQ(images().builtInImages().GetImageCount(), 4);
+    EXPECT_EQ(images().builtInImages().GetImageCount(), 5);
     EXPECT_EQ(images().filterImageIndex(nullptr, 0), 0);
 }
 

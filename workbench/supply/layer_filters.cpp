@@ -20,25 +20,21 @@ using workbench::drawing::Status;
 using Data = VxLyLayerFilterData;
 
 /// Where a picture stands in the strip that every show of filters has.
-constexpr int kImageOfRoot = 0;
-constexpr int kImageOfProperties = 1;
-constexpr int kImageOfGroup = 2;
-constexpr int kImageOfGenerated = 3;
-
 int imageOf(FilterKind kind) {
     switch (kind) {
     case FilterKind::All:
-        return kImageOfRoot;
-    case FilterKind::Property:
-        return kImageOfProperties;
-    case FilterKind::Group:
-        return kImageOfGroup;
     case FilterKind::Used:
-    case FilterKind::Unreconciled:
-    case FilterKind::Overrides:
         break;
+    case FilterKind::Property:
+        return 1;
+    case FilterKind::Group:
+        return 2;
+    case FilterKind::Overrides:
+        return 3;
+    case FilterKind::Unreconciled:
+        return 4;
     }
-    return kImageOfGenerated;
+    return 0;
 }
 
 /// The status of a call that ended so, or the one that it was told to fail with.

@@ -64,8 +64,8 @@ TEST_F(LayerFilterFunctionsTest, EachKindHasItsPictureAndItsRights) {
         {*m_root, 0, true, true, false},
         {filter(L"W"), 1, false, true, false},
         {filter(L"Top"), 2, false, true, true},
-        {filter(L"All Used Layers"), 3, true, false, false},
-        {filter(L"Unreconciled New Layers"), 3, true, false, false},
+        {filter(L"All Used Layers"), 0, true, false, false},
+        {filter(L"Unreconciled New Layers"), 4, true, false, false},
         {filter(L"Viewport Overrides"), 3, true, false, false},
     };
     for (const Row& row : rows) {
