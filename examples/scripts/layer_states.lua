@@ -2,7 +2,7 @@
 
 wb.env("ENABLEDASHBOARD", "1")
 wb.load()
-wb.open("examples/house.json")
+local house = wb.open("examples/house.json")
 wb.type("DASHBOARDOLD\n")
 
 local states = wb.control("LayerStateComboControl")
@@ -60,9 +60,10 @@ wb.type("-LAYER\n\n")
 assert(states:selected() ~= nil)
 
 -- Without a document the list is disabled; the next one brings it back.
-wb.close("house")
+wb.close(house)
 assert(not states:enabled())
 wb.new("B")
 assert(states:enabled())
 assert(#states:items() == 4)
+wb.idle()
 assert(#wb.audit() == 0)

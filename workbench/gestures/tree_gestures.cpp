@@ -83,7 +83,9 @@ bool clickNode(Toolkit& toolkit, HWND tree, HTREEITEM node) {
     return clickAt(toolkit, tree, labelOf(toolkit, tree, node));
 }
 
-void renameNode(Toolkit& toolkit, HWND tree, HTREEITEM node, std::wstring_view text) {
+namespace {
+
+void beginRename(Toolkit& toolkit, HWND tree, HTREEITEM node) {
     showNode(toolkit, tree, node);
     if (toolkit.windows().focus() != tree)
         throw GestureError("the tree hasn't got the keyboard");
@@ -92,6 +94,13 @@ void renameNode(Toolkit& toolkit, HWND tree, HTREEITEM node, std::wstring_view t
     pressKey(toolkit, "f2");
     if (widget.edited() != node)
         throw GestureError("the label can't be edited");
+}
+
+}  // namespace
+
+void renameNode(Toolkit& toolkit, HWND tree, HTREEITEM node, std::wstring_view text) {
+    if (treeOf(toolkit, tree).edited() != node)
+        beginRename(toolkit, tree, node);
     replaceText(toolkit, text);
     pressKey(toolkit, "enter");
 }

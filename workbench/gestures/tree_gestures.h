@@ -26,7 +26,8 @@ HTREEITEM findNode(const TreeItems& items, std::wstring_view path, HTREEITEM bel
 void showNode(Toolkit& toolkit, HWND tree, HTREEITEM node);
 /// Clicks an item's label.
 bool clickNode(Toolkit& toolkit, HWND tree, HTREEITEM node);
-/// Goes to an item by the arrow keys, edits its label with F2, and ends that with Enter. Raises
+/// Goes to an item by the arrow keys, edits its label with F2 unless it is edited already, and ends that
+/// with Enter. Raises
 /// `GestureError` if the tree hasn't got the keyboard or its labels can't be edited.
 void renameNode(Toolkit& toolkit, HWND tree, HTREEITEM node, std::wstring_view text);
 /// The middle of an item's label, which is on show then: where a user clicks.
