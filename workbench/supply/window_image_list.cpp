@@ -68,12 +68,13 @@ BOOL CImageList::SetImageCount(UINT count) {
 }
 
 COLORREF CImageList::SetBkColor(COLORREF colour) {
+    HostCall call("CImageList::SetBkColor", {colour});
     ImageList* const list = listOf(*this);
-    if (list == nullptr)
-        return CLR_INVALID;
+    if (call.failed() || list == nullptr)
+        return call.returns(CLR_INVALID);
     const COLORREF before = list->background();
     list->setBackground(colour);
-    return before;
+    return call.returns(before);
 }
 
 int CImageList::Add(const CBitmap* bitmap, COLORREF mask) {

@@ -2,6 +2,7 @@
 
 #include "workbench/base/text.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <utility>
 
@@ -17,6 +18,20 @@ std::optional<UINT> chooseByPath(const std::vector<MenuLine>& lines, const std::
     if (line->disabled || line->command == 0)
         return {};
     return line->command;
+}
+
+bool holdsCommand(const std::vector<MenuLine>& lines, UINT command) {
+    return std::any_of(lines.begin(), lines.end(), [command](const MenuLine& line) {
+        return line.command == command || holdsCommand(line.children, command);
+    });
+}
+
+/// Whether a command stands in a popup that can't be opened.
+bool isBehindDisabled(const std::vector<MenuLine>& lines, UINT command) {
+    return std::any_of(lines.begin(), lines.end(), [command](const MenuLine& line) {
+        return line.disabled ? holdsCommand(line.children, command)
+                             : isBehindDisabled(line.children, command);
+    });
 }
 
 }  // namespace
@@ -38,6 +53,11 @@ const MenuLine* findMenuLine(const std::vector<MenuLine>& lines, std::wstring_vi
 }
 
 std::optional<UINT> PopupMenus::track(const std::vector<MenuLine>& lines) {
+    const std::optional<UINT> chosen = ask(lines);
+    return chosen && isBehindDisabled(lines, *chosen) ? std::nullopt : chosen;
+}
+
+std::optional<UINT> PopupMenus::ask(const std::vector<MenuLine>& lines) {
     if (m_next)
         return std::exchange(m_next, nullptr)(lines);
     if (const std::optional<Value> queued = m_answers.take("menu"); queued)

@@ -24,7 +24,8 @@ public:
 
     explicit PopupMenus(Answers& answers) : m_answers(answers) {}
 
-    /// Has the user choose a line. Nothing if he closes the menu, or if the line is disabled.
+    /// Has the user choose a line. Nothing if he closes the menu, or if the line or a popup that it
+    /// stands in is disabled.
     std::optional<UINT> track(const std::vector<MenuLine>& lines);
 
     /// Answers the next menu, before all others.
@@ -35,6 +36,8 @@ public:
     void setPresenter(Chooser presenter) { m_presenter = std::move(presenter); }
 
 private:
+    std::optional<UINT> ask(const std::vector<MenuLine>& lines);
+
     Answers& m_answers;
     Chooser m_next;
     Chooser m_presenter;

@@ -11,14 +11,6 @@ namespace {
 /// Greyed or disabled, as the window system numbers them.
 constexpr UINT kDisabledFlags = 0x0003;
 
-/// Nothing of a popup that can't be opened can be chosen.
-void disableAll(std::vector<MenuLine>& lines) {
-    for (MenuLine& line : lines) {
-        line.disabled = !line.separator;
-        disableAll(line.children);
-    }
-}
-
 }  // namespace
 
 HMENU MenuTable::create() {
@@ -109,8 +101,6 @@ std::vector<MenuLine> MenuTable::read(HMENU menu) const {
         line.command = line.separator ? 0 : item.command;
         line.text = item.text;
         line.children = read(item.popup);
-        if (line.disabled)
-            disableAll(line.children);
         lines.push_back(std::move(line));
     }
     return lines;

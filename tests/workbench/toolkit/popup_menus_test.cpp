@@ -74,5 +74,23 @@ TEST_F(PopupMenusTest, WhoeverShowsMenusComesLast) {
     EXPECT_EQ(m_menus.track(m_lines), 1U);
 }
 
+TEST_F(PopupMenusTest, WhatStandsInAGreyPopupCannotBeChosen) {
+    MenuLine inner;
+    inner.text = L"Inner";
+    inner.command = 9;
+    MenuLine middle;
+    middle.text = L"Middle";
+    middle.children = {inner};
+    MenuLine popup;
+    popup.text = L"Popup";
+    popup.children = {middle};
+    m_lines = {popup};
+    EXPECT_EQ(choose("Popup/Middle/Inner"), 9U);
+    m_lines[0].disabled = true;
+    EXPECT_EQ(choose("Popup/Middle/Inner"), std::nullopt);
+    m_menus.answerNext([](const std::vector<MenuLine>&) { return std::optional(9U); });
+    EXPECT_EQ(m_menus.track(m_lines), std::nullopt);
+}
+
 }  // namespace
 }  // namespace workbench

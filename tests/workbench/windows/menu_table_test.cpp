@@ -126,16 +126,4 @@ TEST_F(MenuTableTest, ALineIsEnabledByItsCommandWhereverItIsOrByItsPosition) {
     EXPECT_TRUE(lines[1].disabled);
 }
 
-TEST_F(MenuTableTest, WhatStandsInAGrayPopupCannotBeChosen) {
-    CMenu menu;
-    CMenu popup;
-    ASSERT_TRUE(menu.CreatePopupMenu() && popup.CreatePopupMenu());
-    popup.AppendMenu(MF_STRING, 7, L"Inner");
-    menu.AppendMenu(MF_POPUP, handle(popup), L"Popup");
-    menu.EnableMenuItem(0, MF_BYPOSITION | MF_GRAYED);
-    const std::vector<MenuLine> lines = menus().read(menu.m_hMenu);
-    EXPECT_TRUE(lines[0].disabled);
-    EXPECT_TRUE(lines[0].children[0].disabled);
-}
-
 }  // namespace workbench
