@@ -187,9 +187,9 @@ TEST_F(DashboardResourcesTest, NoTwoIconsLookTheSame) {
     }
 }
 
-TEST_F(DashboardResourcesTest, FilterStripHasFourImagesOnTheMaskColour) {
+TEST_F(DashboardResourcesTest, FilterStripHasFiveImagesOnTheMaskColour) {
     const PngPicture strip = decode(library, "#1290", 16);
-    EXPECT_EQ(strip.width, 4U * 16U);
+    EXPECT_EQ(strip.width, 5U * 16U);
     EXPECT_EQ(strip.height, 16U);
 
     std::set<std::vector<std::uint8_t>> colours;
