@@ -91,10 +91,10 @@ assert(wb.db("layers.Windows.on"))
 
 -- Isolating freezes all others but the current layer.
 node(upper):menu("Isolate Layers/All Viewports")
-assert(wb.db("layers.Walls.frozen") and not wb.db("layers.Windows.frozen"))
+assert(wb.db("layers.Roof.frozen") and not wb.db("layers.Windows.frozen"))
 assert(not wb.db("layers." .. wb.var("CLAYER") .. ".frozen"))
 wb.undo()
-assert(not wb.db("layers.Walls.frozen"))
+assert(not wb.db("layers.Roof.frozen"))
 
 -- The current layer isn't turned off without asking, and never frozen.
 wb.set("CLAYER", "Walls")

@@ -22,6 +22,9 @@ private:
     const VxLyLayerFilter& m_filter;
 };
 
+// The operations have no virtual destructor, because they live in their walk and nowhere else.
+// NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
+
 /// Locks or unlocks the layers of a filter.
 class CVxDaLayerFilterMgr::VxDaFilterLockPropOp final : public VxDaFilterPropOp {
 public:
@@ -117,3 +120,5 @@ public:
 private:
     VxLyLayerGroup& m_group;
 };
+
+// NOLINTEND(cppcoreguidelines-virtual-class-destructor)

@@ -136,6 +136,8 @@ LRESULT CVxDaFilterTreeCtrl::onOwnNotice(WPARAM /*unused*/, LPARAM notice) {
     if (head->code == TVN_ENDLABELEDIT) {
         const auto* edited = reinterpret_cast<const NMTVDISPINFO*>(notice);
         onLabelEdited(edited->item, edited->text);
+        // The label's own field may have lost the keyboard to somebody else.
+        m_dropdown.hideIfLeft();
     }
     // The tree never takes a label: what a filter is called comes from the filter.
     return 0;

@@ -11,6 +11,8 @@
 #include "workbench/toolkit/toolkit.h"
 #include "workbench/toolkit/tree_widget.h"
 
+#include <algorithm>
+
 namespace hostile {
 
 namespace {
@@ -28,7 +30,9 @@ void addFilter() {
         throw GestureError("there is no drawing");
     using workbench::Value;
     const std::string path = std::string("filters.") + kFilter;
-    workbench::drawing::setByPath(document->data(), path, Value());
+    const Value names = workbench::drawing::getByPath(document->data(), "filters");
+    if (std::count(names.asList().begin(), names.asList().end(), Value(kFilter)) != 0)
+        workbench::drawing::setByPath(document->data(), path, Value());
     workbench::drawing::setByPath(
         document->data(), path, Value::Table{{"kind", "property"}, {"expression", R"(NAME=="*")"}});
 }

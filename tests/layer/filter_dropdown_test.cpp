@@ -72,6 +72,14 @@ TEST_F(FilterDropdownTest, LabelEditorKeepsItOpen) {
     EXPECT_TRUE(isOpen());
 }
 
+TEST_F(FilterDropdownTest, HidesWhenTheKeyboardLeavesALabelThatIsEdited) {
+    choose(L"House", "Rename");
+    workbench::gestures::blur(bench().toolkit());
+    settle();
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(isStored("House"));
+}
+
 TEST_F(FilterDropdownTest, HidesWhenTheKeyboardLeavesIt) {
     for (const bool fromCheck : {false, true}) {
         if (!isOpen())

@@ -121,7 +121,7 @@ TEST_F(SessionCallsTest, NoWindowKeepsADeadFontWhenTheThemeChanges) {
         return dead;
     };
     EXPECT_EQ(deadFonts(), std::vector<std::string>{});
-    EXPECT_EQ(dressed, 8U) << "the list of views, six coordinates and the link";
+    EXPECT_EQ(dressed, 10U) << "the lists of views and filters, six coordinates and the link";
     run("wb.theme('dark')");
     EXPECT_EQ(deadFonts(), std::vector<std::string>{});
     run("wb.theme('light')");
