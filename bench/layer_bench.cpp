@@ -6,6 +6,7 @@
 #include "layer/layer_filter_mgr.h"
 #include "workbench/drawing/database/database.h"
 #include "workbench/drawing/path_access.h"
+#include "workbench/drawing/records/layer.h"
 #include "workbench/editor/editor.h"
 
 #include <benchmark/benchmark.h>
@@ -26,8 +27,11 @@ const std::string kNoMenu = bench::menuOf(1, 0);
 /// A document with a number of layers beside its first one.
 void addLayers(bench::Session& session, int count) {
     workbench::drawing::Database& data = session.workbench().editor().documents().current()->data();
-    for (int i = 1; i < count; ++i)
-        workbench::drawing::setByPath(data, "layers.L" + std::to_string(i), Value::Table{});
+    workbench::drawing::Layer layer;
+    for (int i = 1; i < count; ++i) {
+        layer.name = "L" + std::to_string(i);
+        data.add(layer);
+    }
 }
 
 /// Looks at each layer and changes none.
