@@ -26,8 +26,7 @@ public:
     }
     void FillSolidRect(const CRect& /*rect*/, COLORREF /*colour*/) override {}
     BOOL GradientFill(const TRIVERTEX* /*vertices*/, UINT /*vertexCount*/,
-                      const GRADIENT_RECT* /*rects*/, UINT /*rectCount*/,
-                      UINT /*mode*/) override {
+                      const GRADIENT_RECT* /*rects*/, UINT /*rectCount*/, UINT /*mode*/) override {
         return 0;
     }
     BOOL TransparentBlt(int /*x*/, int /*y*/, int /*width*/, int /*height*/,
