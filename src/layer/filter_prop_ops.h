@@ -22,9 +22,6 @@ private:
     const VxLyLayerFilter& m_filter;
 };
 
-// The operations have no virtual destructor, because they live in their walk and nowhere else.
-// NOLINTBEGIN(cppcoreguidelines-virtual-class-destructor)
-
 /// Locks or unlocks the layers of a filter.
 class CVxDaLayerFilterMgr::VxDaFilterLockPropOp final : public VxDaFilterPropOp {
 public:
@@ -120,5 +117,3 @@ public:
 private:
     VxLyLayerGroup& m_group;
 };
-
-// NOLINTEND(cppcoreguidelines-virtual-class-destructor)

@@ -104,7 +104,7 @@ int CVxDaLayerFilterMgr::setCurrentFilter(const VxString& name) {
 
 VxString CVxDaLayerFilterMgr::uniqueFilterName(const VxString& base) const {
     for (int number = 1;; ++number) {
-        const VxString name = base + std::to_wstring(number);
+        VxString name = base + std::to_wstring(number);
         if (findFilter(name) == nullptr)
             return name;
     }
@@ -116,7 +116,7 @@ VxString CVxDaLayerFilterMgr::addGroupFilter(const VxString& parentName) {
     VxLyLayerFilter* parent = findFilter(parentName);
     if (parent == nullptr || !parent->allowNested())
         return {};
-    const VxString name = uniqueFilterName(CVxDaLyCtrlMgdResMgr::GetLocalResString(kGroupNameKey));
+    VxString name = uniqueFilterName(CVxDaLyCtrlMgdResMgr::GetLocalResString(kGroupNameKey));
     std::unique_ptr<VxLyLayerGroup> group(new VxLyLayerGroup);
     if (group == nullptr)
         return {};

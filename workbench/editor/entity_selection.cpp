@@ -63,7 +63,7 @@ std::optional<Entities> EntitySelection::ask(Document& document) {
     return chosen ? std::optional(livingOnce(document, *chosen)) : std::nullopt;
 }
 
-bool EntitySelection::selectBefore(Document& document, Entities entities) {
+bool EntitySelection::selectBefore(Document& document, const Entities& entities) {
     if (document.processor().isActive())
         return false;
     document.pickSet() = livingOnce(document, entities);

@@ -31,7 +31,7 @@ public:
 
     /// The selection that is made while no command runs; replaces the one before. It is there until a
     /// command takes it or one that can't use it starts. False, with nothing changed, in a command.
-    bool selectBefore(Document& document, Entities entities);
+    bool selectBefore(Document& document, const Entities& entities);
     /// The present selection made before a command, as far as it may be used now; it is gone afterwards.
     Entities takeBefore(Document& document);
 

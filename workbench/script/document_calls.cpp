@@ -114,7 +114,7 @@ int finish(Session& session, Arguments& arguments) {
 int select(Session& session, Arguments& arguments) {
     Document& document = currentDocument(session);
     auto entities = EntitySelection::entitiesOf(document, arguments.value(1));
-    if (!editor(session).selection().selectBefore(document, std::move(entities)))
+    if (!editor(session).selection().selectBefore(document, entities))
         throw ScriptError("a command is running: what it asks for is answered by wb.answer");
     session.settle();
     return 0;

@@ -105,7 +105,7 @@ void EntityPicker::take(Document& document, const Entities& picked, bool removes
 void EntityPicker::select(Document& document, const Entities& picked, bool removes) {
     m_stage.pump.act([&] {
         Entities now = picked.empty() ? Entities() : changed(document.pickSet(), picked, removes);
-        m_stage.workbench.editor().selection().selectBefore(document, std::move(now));
+        m_stage.workbench.editor().selection().selectBefore(document, now);
     });
 }
 
