@@ -1,6 +1,7 @@
 #include "module/control_manager.h"
 
 #include "controls/cmd_util.h"
+#include "core/host_objects.h"
 #include "core/module_call.h"
 #include "light/lighting_tools.h"
 #include "module/control_table.h"
@@ -131,9 +132,7 @@ void CVxDaControlMgr::runWhenQuiescent(std::unique_ptr<QuiescentAction> action) 
     }
     if (!m_inService)
         return;
-    const VxApDocManager* documents = vxDocManagerPtr();
-    VxApDocument* document = documents == nullptr ? nullptr : documents->curDocument();
-    if (document != nullptr)
+    if (VxApDocument* document = currentDocument())
         documentReactor(document).append(std::move(action));
 }
 
